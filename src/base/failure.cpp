@@ -1,0 +1,111 @@
+#include "base/failure.h"
+
+#include <cmath>
+#include <limits>
+
+namespace loftwing {
+
+namespace {
+
+const char *UsualDescription(FailureNumber number) {
+    switch (number) {
+    case kInvalidProcedureCall:
+        return "Invalid procedure call or argument";
+    case kOverflow:
+        return "Overflow";
+    case kOutOfMemory:
+        return "Out of memory";
+    case kSubscriptOutOfRange:
+        return "Subscript out of range";
+    case kDivisionByZero:
+        return "Division by zero";
+    case kTypeMismatch:
+        return "Type mismatch";
+    case kFileNotFound:
+        return "File not found";
+    case kDeviceError:
+        return "Device input/output error";
+    case kDiskFull:
+        return "Disk full";
+    case kInputPastEnd:
+        return "Input past end of file";
+    case kPermissionDenied:
+        return "Permission denied";
+    case kPathFileAccess:
+        return "Path/file access error";
+    case kPathNotFound:
+        return "Path not found";
+    case kCancel:
+        return "Cancel was selected";
+    }
+    return "Unknown failure";
+}
+
+template <class Whole>
+Whole ToWhole(double value) {
+    const double rounded = RoundHalfEven(value);
+    // Written so that a value that is not a number fails too.
+    if (!(rounded >= static_cast<double>(std::numeric_limits<Whole>::min()) &&
+          rounded <= static_cast<double>(std::numeric_limits<Whole>::max()))) {
+        throw MakeFailure(kOverflow);
+    }
+    return static_cast<Whole>(rounded);
+}
+
+} // namespace
+
+Failure MakeFailure(FailureNumber number, const std::string &detail) {
+    std::string description = UsualDescription(number);
+    if (!detail.empty()) {
+        description += ": " + detail;
+    }
+    return Failure{number, description};
+}
+
+double Finite(double value) {
+    if (!std::isfinite(value)) {
+        throw MakeFailure(kOverflow);
+    }
+    return value;
+}
+
+double Quotient(double dividend, double divisor) {
+    if (divisor == 0.0) {
+        throw MakeFailure(kDivisionByZero);
+    }
+    return Finite(dividend / divisor);
+}
+
+float ToSingle(double value) {
+    const float single = static_cast<float>(value);
+    if (!std::isfinite(single)) {
+        throw MakeFailure(kOverflow);
+    }
+    return single;
+}
+
+double RoundHalfEven(double value) {
+    // The default rounding mode rounds halves to even; the program never sets another.
+    return std::nearbyint(value);
+}
+
+std::int16_t ToInt16(double value) {
+    return ToWhole<std::int16_t>(value);
+}
+
+std::uint8_t ToByte(double value) {
+    return ToWhole<std::uint8_t>(value);
+}
+
+int ToInt(double value) {
+    return ToWhole<int>(value);
+}
+
+void Increment(std::int16_t &count) {
+    if (count == std::numeric_limits<std::int16_t>::max()) {
+        throw MakeFailure(kOverflow);
+    }
+    ++count;
+}
+
+} // namespace loftwing

@@ -1,0 +1,39 @@
+/// Numbers to text and back. Nothing here depends on the locale.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace loftwing {
+
+/// The leading-number conversion: the longest decimal number (sign, digits, one point, exponent) at
+/// the start of `text`; 0 if there is none. Blanks are skipped wherever they stand, since the
+/// program's own pictures set one between thousands. Failure 6 for a number beyond 64 bits.
+double LeadingNumber(std::string_view text);
+
+/// Whether a 0 stands before the point of a number below 1: 0.375 or .375.
+enum class ZeroBeforePoint { yes, no };
+
+/// The number-to-text step: 15 significant digits (a 32-bit value: 7), no trailing zeros; fixed
+/// notation as long as the digits and the zeros behind the point fit into 15 (7) places and the
+/// value is below 1E+15 (1E+07), otherwise like 3.01821227375942E-03. Failure 6 for a value that is
+/// not finite.
+std::string NumberText(double value, ZeroBeforePoint zero = ZeroBeforePoint::yes);
+std::string NumberText(float value, ZeroBeforePoint zero = ZeroBeforePoint::yes);
+
+/// Pictures of Format.
+inline constexpr std::string_view kPictureThreeDecimals = "# ###.###";
+inline constexpr std::string_view kPictureTwoFixed = "# ###.00";
+
+/// `value` under a picture: '#' optional digit, '0' forced digit, '.' point, any other character a
+/// literal that is always written; the minus in front of all. Rounds halves away from zero on the
+/// 15-digit (a 32-bit value: 7-digit) text. 12.3 under "# ###.00" is " 12.30".
+std::string Format(double value, std::string_view picture);
+std::string Format(float value, std::string_view picture);
+
+/// `text` without the blanks at its start, its end, or both. Only blanks count, not tabs.
+std::string_view TrimLeft(std::string_view text);
+std::string_view TrimRight(std::string_view text);
+std::string_view Trim(std::string_view text);
+
+} // namespace loftwing

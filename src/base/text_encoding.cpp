@@ -1,0 +1,131 @@
+#include "base/text_encoding.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace loftwing {
+
+namespace {
+
+bool IsContinuation(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
+/// Length of the valid UTF-8 sequence at `at`, 0 when there is none.
+std::size_t SequenceLength(std::string_view bytes, std::size_t at) {
+    const auto lead = static_cast<unsigned char>(bytes[at]);
+    if (lead < 0x80U) {
+        return 1;
+    }
+    const std::size_t length = lead >= 0xF0U ? 4 : lead >= 0xE0U ? 3 : 2;
+    if (lead < 0xC2U || lead > 0xF4U || at + length > bytes.size()) {
+        return 0;
+    }
+    for (std::size_t i = 1; i < length; ++i) {
+        if (!IsContinuation(bytes[at + i])) {
+            return 0;
+        }
+    }
+    const auto second = static_cast<unsigned char>(bytes[at + 1]);
+    const bool overlong = (lead == 0xE0U && second < 0xA0U) || (lead == 0xF0U && second < 0x90U);
+    const bool surrogate = lead == 0xEDU && second >= 0xA0U;
+    const bool beyond = lead == 0xF4U && second >= 0x90U;
+    return overlong || surrogate || beyond ? 0 : length;
+}
+
+/// Code points of the Windows-1252 bytes 0x80 to 0x9F; unused ones stand for themselves.
+constexpr std::array<std::uint16_t, 32> kWindows1252 = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+void AppendCodePoint(std::string &text, unsigned code) {
+    if (code < 0x80U) {
+        text += static_cast<char>(code);
+    } else if (code < 0x800U) {
+        text += static_cast<char>(0xC0U | (code >> 6U));
+        text += static_cast<char>(0x80U | (code & 0x3FU));
+    } else {
+        text += static_cast<char>(0xE0U | (code >> 12U));
+        text += static_cast<char>(0x80U | ((code >> 6U) & 0x3FU));
+        text += static_cast<char>(0x80U | (code & 0x3FU));
+    }
+}
+
+std::string FromWindows1252(std::string_view bytes) {
+    std::string text;
+    text.reserve(bytes.size() + bytes.size() / 8);
+    for (const char byte : bytes) {
+        const auto code = static_cast<unsigned char>(byte);
+        AppendCodePoint(text, code >= 0x80U && code < 0xA0U ? kWindows1252[code - 0x80U] : code);
+    }
+    return text;
+}
+
+/// Byte position of character number `count`, the size when there are fewer.
+std::size_t PositionOf(std::string_view text, std::size_t count) {
+    std::size_t at = 0;
+    while (at < text.size()) {
+        if (!IsContinuation(text[at])) {
+            if (count == 0) {
+                return at;
+            }
+            --count;
+        }
+        ++at;
+    }
+    return text.size();
+}
+
+} // namespace
+
+bool IsUtf8(std::string_view bytes) {
+    std::size_t at = 0;
+    while (at < bytes.size()) {
+        const std::size_t length = SequenceLength(bytes, at);
+        if (length == 0) {
+            return false;
+        }
+        at += length;
+    }
+    return true;
+}
+
+std::string ToUtf8(std::string_view bytes) {
+    constexpr std::string_view kMark = "\xEF\xBB\xBF";
+    if (bytes.starts_with(kMark)) {
+        bytes.remove_prefix(kMark.size());
+    }
+    return IsUtf8(bytes) ? std::string(bytes) : FromWindows1252(bytes);
+}
+
+std::vector<std::string> SplitLines(std::string_view text) {
+    std::vector<std::string> lines;
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        std::string_view line = text.substr(0, end);
+        if (line.ends_with('\r')) {
+            line.remove_suffix(1);
+        }
+        lines.emplace_back(line);
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return lines;
+}
+
+std::string FirstCharacters(const std::string &text, std::size_t count) {
+    return text.substr(0, PositionOf(text, count));
+}
+
+std::string LastCharacters(const std::string &text, std::size_t count) {
+    const std::size_t all = CharacterCount(text);
+    return count >= all ? text : text.substr(PositionOf(text, all - count));
+}
+
+std::size_t CharacterCount(std::string_view text) {
+    return static_cast<std::size_t>(
+        std::count_if(text.begin(), text.end(), [](char byte) { return !IsContinuation(byte); }));
+}
+
+} // namespace loftwing

@@ -1,0 +1,115 @@
+#include "base/whole_file.h"
+
+#include "base/failure.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+
+namespace loftwing {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct CloseFile {
+    void operator()(std::FILE *file) const { std::fclose(file); }
+};
+using FileHandle = std::unique_ptr<std::FILE, CloseFile>;
+
+Failure OpenFailure(const std::string &path, int error) {
+    if (error == EACCES || error == EPERM) {
+        return MakeFailure(kPermissionDenied, path);
+    }
+    if (error != ENOENT && error != ENOTDIR) {
+        return MakeFailure(kPathFileAccess, path);
+    }
+    std::error_code ignored;
+    const fs::path folder = fs::path(path).parent_path();
+    const bool folder_there = folder.empty() || fs::is_directory(folder, ignored);
+    return MakeFailure(folder_there ? kFileNotFound : kPathNotFound, path);
+}
+
+/// A name beside `path` that is nobody's: the process keeps it apart from other copies of the
+/// program.
+fs::path NameBeside(const fs::path &path) {
+    static unsigned counter = 0;
+    fs::path name = path;
+    name += ".part" + std::to_string(++counter) + '-' +
+            std::to_string(std::hash<std::string>{}(fs::absolute(path).string()) % 99991U);
+    return name;
+}
+
+bool WriteAll(const fs::path &path, std::string_view bytes) {
+    const FileHandle file(std::fopen(path.c_str(), "wb"));
+    if (!file) {
+        return false;
+    }
+    const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
+    return std::fflush(file.get()) == 0 && written;
+}
+
+} // namespace
+
+std::string ReadWholeFile(const std::string &path) {
+    errno = 0;
+    std::error_code error;
+    const fs::file_status status = fs::status(path, error);
+    if (!fs::exists(status)) {
+        throw OpenFailure(path, error ? error.value() : ENOENT);
+    }
+    // A pipe or a device could go on for ever; a folder holds no text.
+    if (!fs::is_regular_file(status)) {
+        throw MakeFailure(kPathFileAccess, path);
+    }
+    const FileHandle file(std::fopen(path.c_str(), "rb"));
+    if (!file) {
+        throw OpenFailure(path, errno);
+    }
+    std::string bytes;
+    char block[65536];
+    while (const std::size_t count = std::fread(block, 1, sizeof block, file.get())) {
+        bytes.append(block, count);
+        if (bytes.size() > kLargestFile) {
+            throw MakeFailure(kOutOfMemory, path);
+        }
+    }
+    if (std::ferror(file.get()) != 0) {
+        throw MakeFailure(kDeviceError, path);
+    }
+    return bytes;
+}
+
+std::string ReadWholeFileIfThere(const std::string &path) {
+    std::error_code error;
+    return fs::exists(path, error) ? ReadWholeFile(path) : std::string();
+}
+
+bool ReplaceFile(const std::string &path, std::string_view bytes) {
+    std::error_code error;
+    // A link keeps pointing where it points: the file behind it is the one that is replaced.
+    fs::path target = fs::weakly_canonical(path, error);
+    if (error) {
+        target = path;
+    }
+    const fs::path beside = NameBeside(target);
+    if (!WriteAll(beside, bytes)) {
+        fs::remove(beside, error);
+        return false;
+    }
+    const fs::file_status old = fs::status(target, error);
+    if (fs::exists(old)) {
+        fs::permissions(beside, old.permissions(), error);
+    }
+    fs::rename(beside, target, error);
+    if (error) {
+        std::error_code ignored;
+        fs::remove(beside, ignored);
+        return false;
+    }
+    return true;
+}
+
+} // namespace loftwing

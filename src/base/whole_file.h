@@ -1,0 +1,24 @@
+/// Files read and written whole.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace loftwing {
+
+/// Largest file that the program takes for a text; anything longer is no text of its trade.
+inline constexpr std::size_t kLargestFile = 64U * 1024U * 1024U;
+
+/// The bytes of a file. Failure 53 or 76 when file or folder isn't there, 75 when it is no plain
+/// file, 70 when it may not be read, 7 above kLargestFile, 57 when reading breaks off.
+std::string ReadWholeFile(const std::string &path);
+
+/// The bytes of a file, none when it isn't there. Other failures as ReadWholeFile.
+std::string ReadWholeFileIfThere(const std::string &path);
+
+/// Writes `bytes` beside `path` and renames that over it when it is whole, so that a crash, a full
+/// disk or a refused write leaves what was there. Folders on the way are not made. False, and
+/// nothing left behind, when any step is refused.
+bool ReplaceFile(const std::string &path, std::string_view bytes);
+
+} // namespace loftwing

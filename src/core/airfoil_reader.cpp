@@ -1,0 +1,193 @@
+#include "core/airfoil_reader.h"
+
+#include "base/number_text.h"
+#include "base/text_encoding.h"
+#include "base/whole_file.h"
+
+#include <algorithm>
+#include <optional>
+#include <string_view>
+
+namespace loftwing {
+
+namespace {
+
+/// Words of a refusal: for the picker's label and for the box.
+struct Refus {
+    std::string etiquette;
+    std::string boite;
+    BoxIcon icone = BoxIcon::information;
+};
+
+/// The whole file with a line feed behind each line.
+std::string TamponDeLignes(const std::string &path) {
+    std::string tampon;
+    for (const std::string &line : SplitLines(ToUtf8(ReadWholeFile(path)))) {
+        tampon += line;
+        tampon += '\n';
+    }
+    return tampon;
+}
+
+/// Tabs become blanks, from the first one on as long as it isn't the file's very first character.
+void RemplaceTabulations(std::string &tampon) {
+    if (tampon.starts_with('\t')) {
+        return;
+    }
+    std::replace(tampon.begin(), tampon.end(), '\t', ' ');
+}
+
+bool HasLetter(std::string_view text) {
+    return std::any_of(text.begin(), text.end(),
+                       [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); });
+}
+
+/// The y of a data line: the number behind its first blank; what follows that number is ignored.
+double Ordonnee(std::string_view line, std::size_t blank) {
+    std::string_view text = TrimLeft(line.substr(blank));
+    text = text.substr(0, text.find(' '));
+    return LeadingNumber(text);
+}
+
+class Lecteur {
+  public:
+    Lecteur(RibModel &rib, const Messages &messages) : rib_(rib), messages_(messages) {}
+
+    /// Nothing when the airfoil was read.
+    std::optional<Refus> Lit();
+
+  private:
+    RibModel &rib_;
+    const Messages &messages_;
+    std::string tampon_;
+    std::size_t debut_ = 0; // what lies before is read
+
+    std::string_view Reste() const { return std::string_view(tampon_).substr(debut_); }
+    std::string Cloture() const {
+        return messages_.Text({"TextButton", "3"}) + "/" + messages_.Text({"frmopen", "1"});
+    }
+    void LitEntete();
+    std::optional<Refus> LitPoints();
+    std::optional<Refus> LitPoint(std::string_view line, bool &last);
+
+    Refus SansEntete() const;
+    Refus PremierX() const;
+    Refus PointsEgaux(double x, double before) const;
+    Refus DernierX() const;
+};
+
+Refus Lecteur::SansEntete() const {
+    const std::string text = messages_.Text({"frmopen", "11"}) + "\n" + Cloture();
+    return {text, text};
+}
+
+Refus Lecteur::PremierX() const {
+    return {messages_.Text({"frmopen", "12"}) + "\n" + Cloture(),
+            messages_.Text({"frmopen", "13"}) + "\n" + messages_.Text({"frmopen", "14"}) + "\n" +
+                Cloture()};
+}
+
+Refus Lecteur::PointsEgaux(double x, double before) const {
+    const std::string text = messages_.Text({"frmopen", "16"}) + "= " + NumberText(x) +
+                             messages_.Text({"frmopen", "17"}) + "= " + NumberText(before) + "\n" +
+                             Cloture();
+    return {text, text, BoxIcon::none};
+}
+
+Refus Lecteur::DernierX() const {
+    const std::string text = messages_.Text({"frmopen", "18"});
+    return {text + "\n" + Cloture(),
+            messages_.Text({"frmopen", "19"}) + "\n" + text + "\n" + Cloture()};
+}
+
+void Lecteur::LitEntete() {
+    const std::size_t end = std::min(tampon_.find('\n'), tampon_.size());
+    const std::string_view line = std::string_view(tampon_).substr(0, end);
+    rib_.EnteteProfil = Trim(line);
+    if (HasLetter(line)) {
+        debut_ = std::min(end + 1, tampon_.size());
+    }
+}
+
+std::optional<Refus> Lecteur::LitPoint(std::string_view line, bool &last) {
+    const long k = rib_.ProfilX.Count();
+    const std::size_t blank = line.find(' ');
+    rib_.ProfilX(k) =
+        blank == std::string_view::npos ? 0.0 : LeadingNumber(line.substr(0, blank + 1));
+    if (k == 1 && rib_.ProfilX(1) != 1.0) {
+        return PremierX();
+    }
+    if (blank == std::string_view::npos) {
+        throw MakeFailure(kInvalidProcedureCall);
+    }
+    rib_.ProfilY(k) = Ordonnee(line, blank);
+    last = k > 1 && rib_.ProfilX(k) >= 1.0;
+    if (!last && k > 1 && rib_.ProfilX(k) == rib_.ProfilX(k - 1) &&
+        rib_.ProfilY(k) == rib_.ProfilY(k - 1)) {
+        return PointsEgaux(rib_.ProfilX(k), rib_.ProfilX(k - 1));
+    }
+    return std::nullopt;
+}
+
+std::optional<Refus> Lecteur::LitPoints() {
+    std::int16_t k = 1;
+    rib_.ProfilX.Append(0.0);
+    rib_.ProfilY.Append(0.0);
+    while (!Reste().empty() && Reste() != "\n") {
+        const std::size_t end = Reste().find('\n');
+        bool last = false;
+        if (auto refus = LitPoint(Trim(Reste().substr(0, end)), last)) {
+            return refus;
+        }
+        if (last) {
+            break;
+        }
+        debut_ += end + 1;
+        Increment(k);
+        rib_.ProfilX.Append(0.0);
+        rib_.ProfilY.Append(0.0);
+    }
+    if (rib_.ProfilX(k) != 1.0) {
+        return DernierX();
+    }
+    rib_.NbPoints = k;
+    return std::nullopt;
+}
+
+std::optional<Refus> Lecteur::Lit() {
+    rib_.NbPoints = 0;
+    rib_.ProfilX.Clear();
+    rib_.ProfilY.Clear();
+    tampon_ = TamponDeLignes(rib_.CheminProfil);
+    RemplaceTabulations(tampon_);
+    rib_.texte.TexteUtilisateur = false;
+    LitEntete();
+    if (rib_.EnteteProfil.empty()) {
+        return SansEntete();
+    }
+    return LitPoints();
+}
+
+} // namespace
+
+ResultatLecture FichierLecture(RibModel &rib, const Messages &messages, const std::string &titre) {
+    rib.LectureEnCours = true;
+    try {
+        const std::optional<Refus> refus = Lecteur(rib, messages).Lit();
+        if (!refus) {
+            return {Lecture::lu, {}};
+        }
+        messages.Tell(refus->boite, titre, refus->icone);
+        rib.NbPoints = 0;
+        rib.LectureEnCours = false;
+        rib.SansApercu = false;
+        return {Lecture::refuse, refus->etiquette};
+    } catch (const Failure &failure) {
+        rib.NbPoints = 0;
+        rib.LectureEnCours = false;
+        messages.Report(failure, " Open/FichierLecture");
+        return {Lecture::echec, {}};
+    }
+}
+
+} // namespace loftwing

@@ -1,0 +1,32 @@
+/// Reading airfoil coordinate files.
+#pragma once
+
+#include "core/messages.h"
+#include "core/rib_model.h"
+
+#include <string>
+
+namespace loftwing {
+
+/// How a reading ended.
+enum class Lecture {
+    lu,     ///< the model holds the airfoil
+    refuse, ///< a box told why; NbPoints is 0
+    echec   ///< a run-time failure, reported; the caller clears the rib
+};
+
+/// What a reading leaves for the window that shows it.
+struct ResultatLecture {
+    Lecture issue = Lecture::lu;
+    std::string etiquette; ///< words of a refusal for the picker's label
+};
+
+/// Reads the file CheminProfil (Selig order: x from 1 over the upper surface and back to 1) into
+/// ProfilX, ProfilY, NbPoints and EnteteProfil. LectureEnCours stays true on success; a refusal
+/// shows a box with title `titre` and clears NbPoints, LectureEnCours and SansApercu.
+ResultatLecture FichierLecture(RibModel &rib, const Messages &messages, const std::string &titre);
+
+/// Fewer points than this make no rib; whoever lets the user choose a file refuses them.
+inline constexpr int kPointsMini = 5;
+
+} // namespace loftwing

@@ -1,0 +1,61 @@
+/// What the settings file holds beside the rib's own defaults.
+#pragma once
+
+#include "core/units.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace loftwing {
+
+/// The elements of a drawing that have a colour and a line style of their own.
+enum class Element { profil, coffrage, axe, longeron, ba, bf, trou, rep, bloc, profil1, profil2 };
+inline constexpr std::size_t kElements = 11;
+
+/// Colour number (0 to 14), line style (0 to 4) and width (1 to 3) of one element.
+struct Trait {
+    std::int16_t couleur = 0;
+    std::int16_t style = 0;
+    std::int16_t epaisseur = 1;
+
+    bool operator==(const Trait &) const = default;
+};
+
+/// The page on which a rib is printed, always in landscape. Lengths in mm and as typed.
+struct MiseEnPage {
+    float MargeHaut = 10; ///< before the leading edge, along the long side
+    std::string MargeHautAfich = "10";
+    float MargeBas = 15; ///< behind the trailing edge
+    std::string MargeBasAfich = "15";
+    float recouvrement = 20; ///< overlap of two sheets
+    std::string recouvrementAfich = "20";
+    float Ydprint = 50; ///< reference line from the top of the sheet
+    std::string YdprintAfich = "50";
+    std::uint8_t NumIndex = 0; ///< entry of the paper table
+
+    // Derived, not stored: 0 until a page has been set up.
+    float PasPage = 0;        ///< length of rib from one sheet to the next
+    std::uint8_t NbPages = 0; ///< number of sheets
+};
+
+/// The folders that the program remembers.
+struct Repertoires {
+    std::string RepProfil;      ///< airfoils
+    std::string RepProfilevol;  ///< rib sets
+    std::string LastOpenProfil; ///< last folder of the airfoil picker
+};
+
+struct AppSettings {
+    std::string Unite{kUniteMm}; ///< " mm" or " in"
+    std::array<Trait, kElements> traits;
+    MiseEnPage page;
+    Repertoires repertoires;
+
+    Trait &TraitDe(Element element) { return traits[static_cast<std::size_t>(element)]; }
+    const Trait &TraitDe(Element element) const {
+        return traits[static_cast<std::size_t>(element)];
+    }
+};
+
+} // namespace loftwing

@@ -1,0 +1,47 @@
+/// From the points of a file to the dense contour and the two tables of 401 heights on which all
+/// later geometry works.
+#pragma once
+
+#include "core/messages.h"
+#include "core/rib_model.h"
+
+namespace loftwing {
+
+/// Six-point polynomial interpolation (Aitken's scheme) of `ys` over `xs` at `v`, from the points
+/// centre - 2 to centre + 3. Failure 9 when the window leaves the list, 11 for equal abscissas.
+double InterpoleAitken(const PointList &xs, const PointList &ys, long centre, double v);
+
+/// Densifies ProfilX, ProfilY to ten samples a segment: ContourX, ContourY, NbContour. Around the
+/// middle of the file, where the nose must lie, it samples along y. A failure leaves the contour
+/// with the samples made so far.
+void Alocate(RibModel &rib);
+
+/// The smallest x of the contour's first part, and NbExtrados, which counts the new minima on the
+/// way. Failure 9 for a contour shorter than the stretch it looks through.
+void MiniX(RibModel &rib);
+
+/// Top of the upper and bottom of the lower surface, from the points of the file.
+void CalculExtradosMaxi(RibModel &rib);
+void CalculIntradosMini(RibModel &rib);
+
+/// Copies the lower surface from the contour's end backwards.
+void SepareIntrados(RibModel &rib);
+
+/// Fills TabExtrados and TabIntrados by linear interpolation; never fails.
+void TableStations(RibModel &rib);
+
+/// Greatest thickness and camber with their running counts.
+void CalculEpMaxi(RibModel &rib);
+void CalculCambrure(RibModel &rib);
+
+/// How the preparation of a contour ended.
+enum class Preparation {
+    complete,
+    incomplete, ///< reported; the tables stand on the contour as far as it came
+    impossible  ///< reported; the caller clears the rib
+};
+
+/// Everything from Alocate to CalculCambrure, each failure reported under its routine's label.
+Preparation PrepareContour(RibModel &rib, const Messages &messages);
+
+} // namespace loftwing

@@ -1,0 +1,39 @@
+#include "core/messages.h"
+
+#include "base/version.h"
+
+namespace loftwing {
+
+namespace {
+
+std::string FailureText(const std::string &opening, const std::string &middle,
+                        const Failure &failure) {
+    return opening + " # " + std::to_string(failure.number) + " " + middle + " " + kTitre + "\n" +
+           failure.description;
+}
+
+} // namespace
+
+void Messages::Inform(const std::string &text, const std::string &title) const {
+    Tell(text, title, BoxIcon::information);
+}
+
+void Messages::Tell(const std::string &text, const std::string &title, BoxIcon icon) const {
+    platform.Show(MessageBox{text, title, icon, BoxButtons::ok, BoxAnswer::ok});
+}
+
+bool Messages::Confirm(const std::string &text, const std::string &title) const {
+    return platform.Show(MessageBox{text, title, BoxIcon::question, BoxButtons::yes_no,
+                                    BoxAnswer::no}) == BoxAnswer::yes;
+}
+
+void Messages::Report(const Failure &failure, const std::string &label) const {
+    Inform(FailureText(Text({"Erreur", "1"}), Text({"Erreur", "2"}), failure), label);
+}
+
+void Messages::ReportPlot(const Failure &failure, const std::string &label) const {
+    Inform(FailureText(Text({"Erreur", "3"}), Text({"Erreur", "2"}), failure),
+           Text({"Erreur", "1"}) + label);
+}
+
+} // namespace loftwing

@@ -1,0 +1,33 @@
+/// Boxes in the user's language: where a rule meets the user.
+#pragma once
+
+#include "base/failure.h"
+#include "lang/LngIni.h"
+#include "platform/platform.h"
+
+#include <string>
+
+namespace loftwing {
+
+/// The two things that a message takes: somebody who shows it and somebody who words it.
+struct Messages {
+    Platform &platform;
+    const LngIni &language;
+
+    std::string Text(LngKey key) const { return language.LngText(key); }
+
+    /// An information box with one button.
+    void Inform(const std::string &text, const std::string &title) const;
+    /// A box with one button and another icon.
+    void Tell(const std::string &text, const std::string &title, BoxIcon icon) const;
+    /// A question with Yes and No, No as default; true for Yes.
+    bool Confirm(const std::string &text, const std::string &title) const;
+
+    /// The standard box of a run-time failure. `label` is the label of the routine that failed,
+    /// with its leading blank, such as " Calcul/Alocate".
+    void Report(const Failure &failure, const std::string &label) const;
+    /// The same in the words of the plot and print routines.
+    void ReportPlot(const Failure &failure, const std::string &label) const;
+};
+
+} // namespace loftwing

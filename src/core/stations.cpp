@@ -1,0 +1,42 @@
+#include "core/stations.h"
+
+#include "base/number_text.h"
+
+#include <cmath>
+
+namespace loftwing {
+
+double Pi() {
+    static const double pi = 4.0 * std::atan(1.0);
+    return pi;
+}
+
+double EnRadians(double degrees) {
+    return degrees * Pi() / 180.0;
+}
+
+float StationDepuisBF(double distance, float corde) {
+    return ToSingle(std::abs(Quotient(kLastStation * distance, static_cast<double>(corde))));
+}
+
+float StationDepuisBA(double distance, float corde) {
+    return ToSingle(std::abs(Quotient(kLastStation * distance, static_cast<double>(corde)) -
+                             static_cast<double>(kLastStation)));
+}
+
+double Hauteur(const TableStation &table, double station) {
+    return At(table, ToInt(station));
+}
+
+double ValeurPourcent(const std::string &text, float corde, const Saisie &saisie) {
+    if (text.ends_with('%')) {
+        return LeadingNumber(text.substr(0, text.size() - 1)) * static_cast<double>(corde) / 100.0;
+    }
+    return NombreMm(text, saisie);
+}
+
+double ValeurPourcentBF(const std::string &text, float corde, const Saisie &saisie) {
+    return static_cast<double>(corde) - ValeurPourcent(text, corde, saisie);
+}
+
+} // namespace loftwing

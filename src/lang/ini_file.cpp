@@ -1,0 +1,162 @@
+#include "lang/ini_file.h"
+
+#include "base/text_encoding.h"
+#include "base/whole_file.h"
+
+#include <algorithm>
+
+namespace loftwing {
+
+namespace {
+
+constexpr std::size_t kLongestValue = 199;
+constexpr std::size_t kNowhere = std::string::npos;
+
+char Lower(char character) {
+    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
+                                                : character;
+}
+
+bool SameName(std::string_view one, std::string_view other) {
+    return std::equal(one.begin(), one.end(), other.begin(), other.end(),
+                      [](char a, char b) { return Lower(a) == Lower(b); });
+}
+
+std::string_view WithoutBlanks(std::string_view text) {
+    constexpr std::string_view kBlanks = " \t\r";
+    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+    return text.substr(0, text.find_last_not_of(kBlanks) + 1);
+}
+
+bool IsSection(std::string_view line) {
+    return WithoutBlanks(line).starts_with('[');
+}
+
+std::string_view SectionName(std::string_view line) {
+    line = WithoutBlanks(line);
+    line.remove_prefix(1);
+    return WithoutBlanks(line.substr(0, line.find(']')));
+}
+
+/// The key of a line as it stands; empty for a line that is no entry.
+std::string_view KeyOf(std::string_view line) {
+    const std::size_t equals = line.find('=');
+    if (equals == kNowhere || WithoutBlanks(line).starts_with(';')) {
+        return {};
+    }
+    return line.substr(0, equals);
+}
+
+std::string_view ValueOf(std::string_view line) {
+    std::string_view value = WithoutBlanks(line.substr(line.find('=') + 1));
+    if (value.size() >= 2 && (value.front() == '"' || value.front() == '\'') &&
+        value.front() == value.back()) {
+        value = value.substr(1, value.size() - 2);
+    }
+    return value;
+}
+
+} // namespace
+
+IniFile IniFile::Read(const std::string &path) {
+    return Parse(ReadWholeFileIfThere(path));
+}
+
+IniFile IniFile::Parse(std::string_view bytes) {
+    IniFile file;
+    file.lines_ = SplitLines(ToUtf8(bytes));
+    return file;
+}
+
+std::size_t IniFile::FindSection(std::string_view section) const {
+    for (std::size_t i = 0; i < lines_.size(); ++i) {
+        if (IsSection(lines_[i]) && SameName(SectionName(lines_[i]), section)) {
+            return i;
+        }
+    }
+    return kNowhere;
+}
+
+std::size_t IniFile::FindKey(std::string_view section, std::string_view key) const {
+    const std::size_t start = FindSection(section);
+    std::size_t trimmed = kNowhere;
+    for (std::size_t i = start + 1; start != kNowhere && i < lines_.size(); ++i) {
+        if (IsSection(lines_[i])) {
+            break;
+        }
+        const std::string_view candidate = KeyOf(lines_[i]);
+        if (!candidate.empty() && SameName(candidate, key)) {
+            return i;
+        }
+        if (trimmed == kNowhere && !candidate.empty() &&
+            SameName(WithoutBlanks(candidate), WithoutBlanks(key))) {
+            trimmed = i;
+        }
+    }
+    return trimmed;
+}
+
+std::string IniFile::Value(std::string_view section, std::string_view key) const {
+    const std::size_t at = FindKey(section, key);
+    return at == kNowhere ? std::string()
+                          : FirstCharacters(std::string(ValueOf(lines_[at])), kLongestValue);
+}
+
+void IniFile::SetValue(std::string_view section, std::string_view key, std::string_view value) {
+    std::string line = std::string(key) + '=' + std::string(value);
+    // A line break would make another line of the rest, and that line could be anything.
+    line.erase(std::min(line.find_first_of("\r\n"), line.size()));
+    const std::size_t at = FindKey(section, key);
+    if (at != kNowhere) {
+        lines_[at] = line;
+        return;
+    }
+    std::size_t place = FindSection(section);
+    if (place == kNowhere) {
+        lines_.push_back('[' + std::string(section) + ']');
+        lines_.push_back(line);
+        return;
+    }
+    ++place;
+    while (place < lines_.size() && !IsSection(lines_[place])) {
+        ++place;
+    }
+    while (WithoutBlanks(lines_[place - 1]).empty()) {
+        --place;
+    }
+    lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(place), line);
+}
+
+std::vector<std::pair<std::string, std::string>> IniFile::Keys() const {
+    std::vector<std::pair<std::string, std::string>> keys;
+    std::string section;
+    for (const std::string &line : lines_) {
+        if (IsSection(line)) {
+            section = SectionName(line);
+        } else if (!KeyOf(line).empty()) {
+            keys.emplace_back(section, KeyOf(line));
+        }
+    }
+    return keys;
+}
+
+std::string IniFile::Text() const {
+    std::string text;
+    for (const std::string &line : lines_) {
+        text += line + "\r\n";
+    }
+    return text;
+}
+
+std::string GetINIFile(std::string_view section, std::string_view key, const std::string &path) {
+    return IniFile::Read(path).Value(section, key);
+}
+
+bool WriteINIFile(std::string_view section, std::string_view key, std::string_view value,
+                  const std::string &path) {
+    IniFile file = IniFile::Read(path);
+    file.SetValue(section, key, value);
+    return ReplaceFile(path, file.Text());
+}
+
+} // namespace loftwing

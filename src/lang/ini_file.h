@@ -1,0 +1,45 @@
+/// Files of sections, keys and values: the settings file and the language files.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace loftwing {
+
+/// An ini-style file in memory. Section and key names ignore case. A key is looked up as it stands,
+/// trailing blank included, and only then trimmed, so that two keys may differ by that blank alone.
+class IniFile {
+  public:
+    /// Reads the file; a missing one is an empty one. Failure 57 when it is there but can't be
+    /// read.
+    static IniFile Read(const std::string &path);
+    static IniFile Parse(std::string_view bytes);
+
+    /// The value without the blanks around it and without one pair of quotes around that, at most
+    /// 199 characters; empty where there is none.
+    std::string Value(std::string_view section, std::string_view key) const;
+    /// Replaces the value, or adds key and section. All other lines stay as they are.
+    void SetValue(std::string_view section, std::string_view key, std::string_view value);
+
+    /// Every (section, key as it stands) in file order.
+    std::vector<std::pair<std::string, std::string>> Keys() const;
+    /// The whole file, lines ended by CR LF.
+    std::string Text() const;
+
+  private:
+    std::vector<std::string> lines_;
+
+    std::size_t FindSection(std::string_view section) const;
+    std::size_t FindKey(std::string_view section, std::string_view key) const;
+};
+
+/// One value of an ini-style file; see IniFile::Value.
+std::string GetINIFile(std::string_view section, std::string_view key, const std::string &path);
+
+/// Writes one value, creating file and section as needed. The file is replaced as a whole, so that
+/// a crash leaves the old one. False when that isn't possible.
+bool WriteINIFile(std::string_view section, std::string_view key, std::string_view value,
+                  const std::string &path);
+
+} // namespace loftwing
