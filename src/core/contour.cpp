@@ -83,7 +83,7 @@ class HauteurStation {
         while (k_ <= n_ && x_(k_) > t) {
             ++k_;
         }
-        return InterpoleStation(t, k_ > n_ ? BehindTheRun(t) : Bracket());
+        return InterpoleStation(t, k_ > n_ ? BehindTheRun() : Bracket());
     }
 
   private:
@@ -97,7 +97,7 @@ class HauteurStation {
         return k_ == 1 ? Encadrement{} : Encadrement{x_(k_ - 1), y_(k_ - 1), x_(k_), y_(k_)};
     }
     /// The upper surface goes on with the contour's next point; a list that ends here gives 0.
-    Encadrement BehindTheRun(double t) const {
+    Encadrement BehindTheRun() const {
         if (n_ < 1) {
             return {};
         }
