@@ -83,8 +83,4 @@ void RemetVue(RibModel &rib) {
     rib.ModeCompare = false;
 }
 
-float LongueurImprimee(const RibModel &rib) {
-    return rib.TypeGabarit == kGabaritMousse ? rib.bloc.LongBloc : rib.corde;
-}
-
 } // namespace loftwing

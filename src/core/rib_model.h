@@ -123,11 +123,7 @@ void ReprendProfil(RibModel &rib);
 /// three letters, so the name is the file's less four characters.
 void NommeProfil(RibModel &rib, const std::string &path);
 
-/// What a new airfoil resets in the view: scroll offsets, special views and the template's working
-/// values that live with the plot (cleared by its own routine).
+/// What a new airfoil resets in the view: scroll offsets and special views.
 void RemetVue(RibModel &rib);
-
-/// The length that counts on paper: chord and ramps with a foam template, otherwise the chord, mm.
-float LongueurImprimee(const RibModel &rib);
 
 } // namespace loftwing

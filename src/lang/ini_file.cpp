@@ -148,6 +148,10 @@ std::string IniFile::Text() const {
     return text;
 }
 
+bool IniFile::Save(const std::string &path) const {
+    return ReplaceFile(path, Text());
+}
+
 std::string GetINIFile(std::string_view section, std::string_view key, const std::string &path) {
     return IniFile::Read(path).Value(section, key);
 }
@@ -156,7 +160,7 @@ bool WriteINIFile(std::string_view section, std::string_view key, std::string_vi
                   const std::string &path) {
     IniFile file = IniFile::Read(path);
     file.SetValue(section, key, value);
-    return ReplaceFile(path, file.Text());
+    return file.Save(path);
 }
 
 } // namespace loftwing

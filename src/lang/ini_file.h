@@ -26,6 +26,8 @@ class IniFile {
     std::vector<std::pair<std::string, std::string>> Keys() const;
     /// The whole file, lines ended by CR LF.
     std::string Text() const;
+    /// Writes it over `path` as a whole. False when that isn't possible.
+    bool Save(const std::string &path) const;
 
   private:
     std::vector<std::string> lines_;

@@ -1,0 +1,65 @@
+// Leading and trailing edge of the rib plot.
+
+#include "core/stations.h"
+#include "output/plot_steps.h"
+
+#include <cmath>
+
+namespace loftwing {
+
+namespace {
+
+constexpr double kTexteBordAuDessus = 283.5;   // 5 mm at any zoom
+constexpr double kTexteBordFuiteAvant = 850.5; // 15 mm at any zoom
+
+/// A cut across the rib at device position x, from surface to surface at `station`.
+void TraceCoupe(const Trace &trace, double x, double station, Element element) {
+    trace.EnStyleDe(element);
+    trace.device.Line(x, trace.Y(trace.U(station)), x, trace.Y(trace.L(station)),
+                      trace.Couleur(element));
+    trace.FinDeStyle();
+}
+
+/// The height of the rib at `station` behind its word, above the rib at device position x.
+void EcritHauteur(const Trace &trace, double x, double station, LngKey word) {
+    const double corde = static_cast<double>(trace.rib.corde);
+    const double height = corde * trace.U(station) - corde * trace.L(station);
+    trace.Ecrit(x,
+                static_cast<double>(trace.plot.OrigineY) -
+                    static_cast<double>(trace.plot.CordeEchelle) * trace.rib.ExtradosMaxi -
+                    kTexteBordAuDessus,
+                trace.messages.Text(word) + " = " + LongueurCalculee(height, trace.settings.Unite));
+}
+
+} // namespace
+
+void TraceBordAttaque(const Trace &trace) {
+    const RibModel &rib = trace.rib;
+    PlotState &plot = trace.plot;
+    plot.StationBA = kLastStation;
+    if (rib.TypeBA != 1) {
+        return;
+    }
+    plot.StationBA = StationDepuisBA(static_cast<double>(rib.EpBA), rib.corde);
+    const double station = static_cast<double>(plot.StationBA);
+    TraceCoupe(trace, trace.X(station), station, Element::ba);
+    if (rib.EpBA != 0.0F && rib.AffHautBA) {
+        EcritHauteur(trace, static_cast<double>(plot.OrigineX), station, {"MainTolbar", "15"});
+    }
+}
+
+void TraceBordFuite(const Trace &trace) {
+    const RibModel &rib = trace.rib;
+    PlotState &plot = trace.plot;
+    const double part = Quotient(static_cast<double>(rib.EpBF), static_cast<double>(rib.corde));
+    plot.StationBF = ToSingle(std::abs(part * kLastStation));
+    const double station = static_cast<double>(plot.StationBF);
+    const double corde = static_cast<double>(plot.CordeEchelle);
+    const double origine = static_cast<double>(plot.OrigineX);
+    TraceCoupe(trace, (1.0 - part) * corde + origine, station, Element::bf);
+    if (rib.EpBF != 0.0F && rib.AffHautBF) {
+        EcritHauteur(trace, origine + corde - kTexteBordFuiteAvant, station, {"MainTolbar", "21"});
+    }
+}
+
+} // namespace loftwing

@@ -1,0 +1,111 @@
+// Scale, origin, texts and reference line of the rib plot.
+
+#include "base/number_text.h"
+#include "core/stations.h"
+#include "output/plot_steps.h"
+
+#include <cmath>
+
+namespace loftwing {
+
+namespace {
+
+constexpr double kTexteEpaisseurAuDessus = 453.6; // 8 mm at any zoom
+
+/// "12.30 mm" or "1.1/2 in".
+std::string AvecUnite(double mm, const std::string &Unite) {
+    return LongueurCalculee(mm, Unite) + Unite;
+}
+
+std::string TexteEpaisseur(const Trace &trace) {
+    const std::string &Unite = trace.settings.Unite;
+    const double corde = static_cast<double>(trace.rib.corde);
+    const double place = trace.plot.PosEpDev;
+    const std::string thickness = AvecUnite(corde * trace.rib.EpMaxi, Unite);
+    const std::string percent = NumberText(Quotient(place * 100.0, corde)) + " %";
+    if (Unite == kUniteIn) {
+        return "Chord thickness :" + thickness + " at " + AvecUnite(place, Unite) + " (" + percent +
+               ") from L.E. ";
+    }
+    const Messages &messages = trace.messages;
+    return messages.Text({"FrmMainMessage", "15"}) + " : " + thickness + " " +
+           messages.Text({"FrmMainMessage", "16"}) + " " + AvecUnite(place, Unite) + " (" +
+           percent + ") " + messages.Text({"FrmMainMessage", "17"});
+}
+
+} // namespace
+
+void PrepareTrace(const Trace &trace) {
+    PlotState &plot = trace.plot;
+    const RibModel &rib = trace.rib;
+    plot.Echelle = ToSingle(static_cast<double>(rib.Zoom) * kUnitsPerMm);
+    plot.EpRel =
+        ToSingle(Quotient(static_cast<double>(rib.EpCoffrage), static_cast<double>(rib.corde)));
+    plot.IdxFinCoffr = 0;
+    plot.EchelleY = rib.AffHaut ? -plot.Echelle : plot.Echelle;
+    plot.CordeEchelleY = rib.AffHaut ? -plot.CordeEchelle : plot.CordeEchelle;
+    trace.device.Font.name = "Arial";
+    trace.device.Font.size =
+        static_cast<double>(rib.Zoom) * static_cast<double>(rib.texte.TailleFont);
+    trace.device.ForeColor = PaletteColour(0);
+    trace.device.DrawWidth = 1;
+}
+
+void TraceDemiBF(const Trace &trace) {
+    const double y1 = trace.rib.ContourY(1);
+    const double yn = trace.rib.ContourY(trace.rib.NbContour);
+    if (y1 > 0 && yn < 0) {
+        trace.plot.DemiBF = (y1 - std::abs(yn)) / 2.0;
+    } else if ((y1 > 0 && yn > 0) || (y1 < 0 && yn < 0)) {
+        trace.plot.DemiBF = (y1 + yn) / 2.0;
+    }
+}
+
+void PlaceOrigine(const Trace &trace) {
+    PlotState &plot = trace.plot;
+    // Without a foam template the rib stands at the plain origin.
+    plot.BlocEp = 0;
+    plot.BlocBA = 0;
+    plot.CoupeRel = 0;
+    plot.OrigineX = ToSingle(plot.BlocBA * static_cast<double>(plot.Echelle) +
+                             static_cast<double>(plot.OrigineX));
+}
+
+void TraceTexteEpaisseur(const Trace &trace) {
+    const RibModel &rib = trace.rib;
+    PlotState &plot = trace.plot;
+    const double corde = static_cast<double>(rib.corde);
+    plot.PosEpDev = (kLastStation - rib.PosEpMaxi) / kLastStation * corde;
+    if (!rib.AffEpr) {
+        return;
+    }
+    trace.Ecrit(
+        corde / 3.0 * static_cast<double>(plot.Echelle) + static_cast<double>(plot.OrigineX),
+        static_cast<double>(plot.OrigineY) -
+            static_cast<double>(plot.CordeEchelle) * rib.ExtradosMaxi - kTexteEpaisseurAuDessus,
+        TexteEpaisseur(trace));
+}
+
+void TraceContour(const Trace &trace) {
+    const RibModel &rib = trace.rib;
+    const double corde = static_cast<double>(trace.plot.CordeEchelle);
+    const double origine = static_cast<double>(trace.plot.OrigineX);
+    trace.EnStyleDe(Element::profil);
+    const Colour colour = trace.Couleur(Element::profil);
+    for (long i = 2; i <= rib.NbContour; ++i) {
+        trace.device.Line(corde * rib.ContourX(i - 1) + origine, trace.Y(rib.ContourY(i - 1)),
+                          corde * rib.ContourX(i) + origine, trace.Y(rib.ContourY(i)), colour);
+    }
+    trace.FinDeStyle();
+}
+
+void TraceLigneReference(const Trace &trace) {
+    const PlotState &plot = trace.plot;
+    const double x = static_cast<double>(plot.OrigineX);
+    const double y = static_cast<double>(plot.OrigineY);
+    PrendStyleSeul(trace.device, trace.settings, Element::axe);
+    trace.device.Line(x - 1, y, x + static_cast<double>(plot.CordeEchelle) + 1, y,
+                      trace.Couleur(Element::axe));
+}
+
+} // namespace loftwing

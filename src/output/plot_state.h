@@ -1,0 +1,49 @@
+/// What a plot works with and leaves behind.
+#pragma once
+
+#include "core/rib_model.h"
+
+namespace loftwing {
+
+/// Offsets of the inner sheeting line at each station: angle in degrees, shift along and across the
+/// chord in fractions of it.
+struct DecalageCoffrage {
+    TableStation Angle{};
+    TableStation DecalX{};
+    TableStation DecalY{};
+};
+
+/// Scale, origin and derived values of the last plot. They live as long as the program: a plot that
+/// computes only some of them reads the others as an earlier one left them, and so does the DXF
+/// writer.
+struct PlotState {
+    // Set by whoever calls a plot routine, in device units.
+    float CordeEchelle = 0; ///< chord
+    float OrigineX = 0;     ///< leading edge on the reference line; the plot moves it itself
+    float OrigineY = 0;
+
+    // Computed by the plot.
+    float Echelle = 0;       ///< device units per mm
+    float EchelleY = 0;      ///< the same with the sign of the y direction
+    float CordeEchelleY = 0; ///< CordeEchelle with that sign
+    float EpRel = 0;         ///< sheeting in fractions of the chord
+    float CoupeRel = 0;      ///< cutting allowance of the foam template, fraction of the chord
+    float CoupeDev = 0;      ///< what of it goes beyond the sheeting, device units
+    double DemiBF = 0;       ///< height of the middle of the trailing edge, fraction of the chord
+    float StationBA = 0;     ///< stations of the stock lines
+    float StationBF = 0;
+    double BlocBA = 0; ///< working copies for the foam template
+    double BlocEp = 0;
+    double BlocHaut = 0;
+    double BlocLong = 0;
+    double BlocYBF = 0;
+    double VrillageRad = 0;
+    float DecalCoffr = 0;         ///< shift of a spar notch, fraction of the chord
+    std::int16_t IdxFinCoffr = 0; ///< stations at which the two sheeting lines have crossed
+    double PosEpDev = 0;          ///< greatest thickness from the leading edge, mm
+
+    DecalageCoffrage extra; ///< upper surface
+    DecalageCoffrage intra; ///< lower surface
+};
+
+} // namespace loftwing

@@ -1,0 +1,54 @@
+/// The print run: one rib over as many sheets as it takes.
+#pragma once
+
+#include "output/page_setup.h"
+#include "output/printer.h"
+#include "output/trace.h"
+
+#include <functional>
+#include <string>
+
+namespace loftwing {
+
+/// What a print run works on. The plot routine is that of the current view.
+struct Impression {
+    RibModel &rib;
+    AppSettings &settings;
+    PlotState &plot;
+    const Messages &messages;
+    /// Draws the current view on the printer at the scale and origin set; false after a failure
+    /// that it has reported.
+    std::function<bool(PlotDevice &)> plot_routine;
+};
+
+/// How a print run ended.
+enum class FinImpression {
+    imprime,
+    annule,     ///< by the user; nothing was printed
+    echec,      ///< a printer's failure, reported
+    trace_echec ///< the plot failed and reported it; the caller clears the rib
+};
+
+/// The question before a print run.
+std::string QuestionImpression(const RibModel &rib, const Messages &messages);
+
+/// Decides about the sheets before the printer is opened: one that fits sets the overlap to 0;
+/// tiling without overlap or page count lets the user set up the page (`set_up_page`, which sets
+/// rib.Annule when it is cancelled), and the count is then computed anew from the length in force.
+/// False when nothing is to be printed.
+bool PrepareFeuilles(const Impression &run, const std::function<void()> &set_up_page);
+
+/// What the platform is asked for the run's paper.
+PrintQuestion DemandeImprimante(const Impression &run);
+
+/// One sheet on the printer's own paper; what lies beyond it is lost.
+FinImpression imprime1page(const Impression &run, Printer &printer);
+/// NbPages sheets of the chosen paper, with alignment crosses where there are several.
+FinImpression imprimeXpage(const Impression &run, Printer &printer);
+/// The one or the other, by the paper chosen.
+FinImpression Imprime(const Impression &run, Printer &printer);
+
+/// The crosses that let the user lay one sheet on the next. Nothing for a single sheet.
+void tracerepere(const Impression &run, PlotDevice &device);
+
+} // namespace loftwing

@@ -1,0 +1,101 @@
+#include "output/screen_plot.h"
+
+#include "base/number_text.h"
+#include "base/text_encoding.h"
+#include "base/version.h"
+#include "output/rib_plot.h"
+
+#include <algorithm>
+
+namespace loftwing {
+
+namespace {
+
+constexpr double kMargeGauche = 283.5; // 5 mm
+constexpr double kMargeHaute = 850.5;  // 15 mm
+
+double Wide(float value) {
+    return static_cast<double>(value);
+}
+
+void PlaceSurEcran(const RibModel &rib, PlotState &plot) {
+    const double corde = Wide(rib.corde);
+    const double zoom = Wide(rib.Zoom);
+    plot.CordeEchelle = ToSingle(corde * kUnitsPerMm * zoom);
+    plot.OrigineX = ToSingle(kMargeGauche + rib.DecalX * corde * zoom / 2.0);
+    plot.OrigineY = ToSingle(-rib.DecalY * corde * zoom / 2.0 +
+                             corde * rib.ExtradosMaxi * kUnitsPerMm * zoom + kMargeHaute);
+}
+
+/// Whether both stocks fit into the chord; says so if they don't.
+bool StocksTiennent(const RibModel &rib, const Messages &messages) {
+    if (Wide(rib.EpBF) + Wide(rib.EpBA) <= Wide(rib.corde)) {
+        return true;
+    }
+    messages.Tell(messages.Text({"FrmMainMessage", "13"}), messages.Text({"FrmMainMessage", "14"}),
+                  BoxIcon::warning);
+    return false;
+}
+
+} // namespace
+
+float FacteurZoom(const std::string &row) {
+    const std::string number = FirstCharacters(LastCharacters(row, 5), 3);
+    return ToSingle(LeadingNumber(number) / 100.0);
+}
+
+bool RibVisible(const RibModel &rib) {
+    return rib.ProfilCharge && !rib.ModeCompare && !rib.ModeEpCourb && !rib.ModeCouple;
+}
+
+Affichage afficheRib(const Trace &trace) {
+    if (!RibVisible(trace.rib)) {
+        return Affichage::rien;
+    }
+    if (!StocksTiennent(trace.rib, trace.messages)) {
+        return Affichage::refuse;
+    }
+    try {
+        PlaceSurEcran(trace.rib, trace.plot);
+    } catch (const Failure &failure) {
+        trace.messages.ReportPlot(failure, " Main/PrintSubroutine");
+        return Affichage::echec;
+    }
+    return PrintSubroutine(trace, 1.0) ? Affichage::dessine : Affichage::echec;
+}
+
+std::string TexteEtat(const RibModel &rib, const AppSettings &settings, const Messages &messages) {
+    std::string text = messages.Text({"MainTolbar", "11"}) + " : " + rib.NomProfil + "  " +
+                       messages.Text({"MainTolbar", "13"}) + " : " + rib.cordeAfich +
+                       settings.Unite;
+    if (!rib.EnteteProfil.starts_with('1')) {
+        text += " <> Information : " + rib.EnteteProfil;
+    }
+    return text;
+}
+
+std::string TitreFenetre(const RibModel &rib, const Messages &messages) {
+    return std::string(kTitre) + " " + messages.Text({"MainTolbar", "11"}) + " : " + rib.NomProfil;
+}
+
+void CordeDuTitre(RibModel &rib, const Saisie &saisie) {
+    const std::size_t colon = rib.EnteteProfil.find(':');
+    if (colon == std::string::npos) {
+        return;
+    }
+    std::string text = rib.EnteteProfil.substr(colon + 1);
+    if (saisie.Unite == kUniteIn) {
+        // Titles of files made in inches end in the unit, whose two letters are cut off.
+        const std::size_t length = CharacterCount(text);
+        text = FirstCharacters(text, length - std::min<std::size_t>(length, 2));
+    }
+    const float corde = ToSingle(NombreMm(text, saisie));
+    if (corde == 0.0F) {
+        return;
+    }
+    rib.corde = corde;
+    rib.cordeAfich = saisie.Unite == kUniteIn ? DepuisMm(corde, saisie.Unite)
+                                              : " " + NumberText(corde, ZeroBeforePoint::no);
+}
+
+} // namespace loftwing

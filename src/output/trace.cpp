@@ -1,0 +1,30 @@
+#include "output/trace.h"
+
+#include "core/stations.h"
+
+namespace loftwing {
+
+double Trace::X(double station) const {
+    return (kLastStation - station) / kLastStation * static_cast<double>(plot.CordeEchelle) +
+           static_cast<double>(plot.OrigineX);
+}
+
+double Trace::Y(double height) const {
+    return static_cast<double>(plot.OrigineY) - static_cast<double>(plot.CordeEchelleY) * height;
+}
+
+double Trace::U(double station) const {
+    return Hauteur(rib.TabExtrados, station);
+}
+
+double Trace::L(double station) const {
+    return Hauteur(rib.TabIntrados, station);
+}
+
+void Trace::Ecrit(double x, double y, const std::string &text) const {
+    device.CurrentX = x;
+    device.CurrentY = y;
+    device.Print(text);
+}
+
+} // namespace loftwing

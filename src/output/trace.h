@@ -1,0 +1,39 @@
+/// What the steps of the rib plot share.
+#pragma once
+
+#include "core/app_settings.h"
+#include "core/messages.h"
+#include "core/rib_model.h"
+#include "output/plot_device.h"
+#include "output/plot_state.h"
+#include "output/styles.h"
+
+#include <string>
+
+namespace loftwing {
+
+/// One run of the plot routine: where it draws, what it reads and what it leaves.
+struct Trace {
+    PlotDevice &device;
+    RibModel &rib;
+    const AppSettings &settings;
+    PlotState &plot;
+    const Messages &messages;
+
+    /// Device position of a station, which may lie between two, and of a height in fractions of the
+    /// chord, with the y direction of the view.
+    double X(double station) const;
+    double Y(double height) const;
+    /// Surface heights at a station rounded to the nearest. Failure 9 outside the tables.
+    double U(double station) const;
+    double L(double station) const;
+
+    Saisie SaisieEnCours() const { return {settings.Unite, messages}; }
+    Colour Couleur(Element element) const { return CouleurDe(settings, element); }
+    void EnStyleDe(Element element) const { PrendStyle(device, settings, element); }
+    void FinDeStyle() const { RendStyle(device); }
+    /// Prints a text with its top left corner at a place.
+    void Ecrit(double x, double y, const std::string &text) const;
+};
+
+} // namespace loftwing

@@ -1,0 +1,275 @@
+#include "persist/settings.h"
+
+#include "base/number_text.h"
+#include "core/units.h"
+#include "output/page_setup.h"
+#include "output/styles.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <functional>
+#include <vector>
+
+namespace loftwing {
+
+namespace {
+
+/// One line of the settings file and the field behind it. Reader and writer walk the same table.
+struct Ligne {
+    const char *section;
+    const char *key;
+    std::function<std::string()> ecrit;
+    std::function<void(const std::string &)> lit;
+};
+using Table = std::vector<Ligne>;
+
+Ligne Texte(const char *section, const char *key, std::string &field) {
+    return {section, key, [&field] { return field; },
+            [&field](const std::string &value) { field = value; }};
+}
+
+Ligne Entier(const char *section, const char *key, std::int16_t &field) {
+    return {section, key, [&field] { return std::to_string(field); },
+            [&field](const std::string &value) { field = ToInt16(LeadingNumber(value)); }};
+}
+
+/// A length: the file holds its text as typed, the number is derived from it.
+Ligne Longueur(const Reglages &reglages, const char *section, const char *key, std::string &afich,
+               float &number) {
+    return {section, key, [&afich] { return afich; },
+            [reglages, &afich, &number](const std::string &value) {
+                StockeLongueur(value, {reglages.settings.Unite, reglages.messages}, afich, number);
+            }};
+}
+
+Table TableCouleurs(const Reglages &reglages) {
+    Table table;
+    for (const DrawingElement &row : DrawingElements()) {
+        table.push_back(
+            Entier("Couleurs", row.colour_key, reglages.settings.TraitDe(row.element).couleur));
+    }
+    return table;
+}
+
+Table TableStyles(const Reglages &reglages) {
+    Table table;
+    for (const DrawingElement &row : DrawingElements()) {
+        table.push_back(
+            Entier("StyleLignes", row.style_key, reglages.settings.TraitDe(row.element).style));
+    }
+    return table;
+}
+
+Table TableEpaisseurs(const Reglages &reglages) {
+    Table table;
+    for (const DrawingElement &row : DrawingElements()) {
+        if (row.width_key != nullptr) {
+            table.push_back(Entier("Eprlines", row.width_key,
+                                   reglages.settings.TraitDe(row.element).epaisseur));
+        }
+    }
+    float &size = reglages.rib.texte.TailleFont;
+    table.push_back({"InsText", "TailleFont", [&size] { return NumberText(size); },
+                     [&size](const std::string &value) { size = ToSingle(LeadingNumber(value)); }});
+    return table;
+}
+
+/// The unit stands with its leading blank; reading loses that blank and puts it back.
+Ligne Unite(std::string &unit) {
+    return {"Defaut", "unit", [&unit] { return unit; },
+            [&unit](const std::string &value) { unit = " " + std::string(Trim(value)); }};
+}
+
+Table TableDefauts(const Reglages &reglages) {
+    RibModel &rib = reglages.rib;
+    Bloc &bloc = rib.bloc;
+    return {Unite(reglages.settings.Unite),
+            Longueur(reglages, "Defaut", "cordeAfich", rib.cordeAfich, rib.corde),
+            Longueur(reglages, "Defaut", "EpCoffrageAfich", rib.EpCoffrageAfich, rib.EpCoffrage),
+            Longueur(reglages, "Defaut", "EpBAAfich", rib.EpBAAfich, rib.EpBA),
+            Longueur(reglages, "Defaut", "HTblocAfich", bloc.HTblocAfich, bloc.HTbloc),
+            Longueur(reglages, "Defaut", "BAblocAfich", bloc.BAblocAfich, bloc.BAbloc),
+            Longueur(reglages, "Defaut", "BFblocAfich", bloc.BFblocAfich, bloc.BFbloc)};
+}
+
+Table TableRepertoires(const Reglages &reglages) {
+    Repertoires &folders = reglages.settings.repertoires;
+    return {Texte("Repertoires", "RepProfil", folders.RepProfil),
+            Texte("Repertoires", "RepProfilevol", folders.RepProfilevol),
+            Texte("Repertoires", "LastOpenProfil", folders.LastOpenProfil)};
+}
+
+Table TableMarges(const Reglages &reglages) {
+    MiseEnPage &page = reglages.settings.page;
+    const char *section = "Marges";
+    return {Longueur(reglages, section, "MargeHaut", page.MargeHautAfich, page.MargeHaut),
+            Longueur(reglages, section, "MargeBas", page.MargeBasAfich, page.MargeBas),
+            Longueur(reglages, section, "recouvrement", page.recouvrementAfich, page.recouvrement),
+            {section, "NumIndex", [&page] { return std::to_string(page.NumIndex); },
+             [&page](const std::string &value) { page.NumIndex = ToByte(LeadingNumber(value)); }},
+            Longueur(reglages, section, "Ydprint", page.YdprintAfich, page.Ydprint)};
+}
+
+void Ecrit(const Reglages &reglages, const std::vector<Table> &tables) {
+    IniFile file = IniFile::Read(reglages.fichier);
+    for (const Table &table : tables) {
+        for (const Ligne &line : table) {
+            file.SetValue(line.section, line.key, line.ecrit());
+        }
+    }
+    file.Save(reglages.fichier);
+}
+
+void Lit(const Reglages &reglages, const Table &table) {
+    const IniFile file = IniFile::Read(reglages.fichier);
+    for (const Ligne &line : table) {
+        line.lit(file.Value(line.section, line.key));
+    }
+}
+
+bool SameFolder(const std::string &one, const std::string &other) {
+    std::error_code error;
+    return std::filesystem::equivalent(one, other, error) && !error;
+}
+
+void Alerte(const Reglages &reglages, const std::string &folder) {
+    const Messages &messages = reglages.messages;
+    messages.Tell(" " + messages.Text({"FrmMainMessage", "2"}) + folder +
+                      messages.Text({"FrmMainMessage", "3"}),
+                  "Alert", BoxIcon::stop);
+}
+
+void ControleDossiers(const Reglages &reglages, const std::string &programme) {
+    const Repertoires &folders = reglages.settings.repertoires;
+    std::error_code error;
+    for (const std::string &folder : {folders.RepProfil, folders.RepProfilevol}) {
+        if (!std::filesystem::exists(folder, error)) {
+            Alerte(reglages, folder);
+            return;
+        }
+    }
+    for (const std::string &folder : {folders.RepProfil, folders.RepProfilevol}) {
+        if (SameFolder(folder, programme)) {
+            Alerte(reglages, "\\airfoils  \\...  ");
+            return;
+        }
+    }
+}
+
+std::string CleRecente(int number) {
+    return "RecentFile" + std::to_string(number);
+}
+
+} // namespace
+
+void ValeursDefaut(const Reglages &reglages, const std::string &programme) {
+    ValeursDefautRib(reglages.rib);
+    ValeursDefautTraits(reglages.settings);
+    ValeursDefautPage(reglages.settings.page);
+    reglages.settings.repertoires = {programme, programme, programme};
+}
+
+void EcritCouleurs(const Reglages &reglages) {
+    Ecrit(reglages, {TableCouleurs(reglages)});
+}
+void EcritStyles(const Reglages &reglages) {
+    Ecrit(reglages, {TableStyles(reglages)});
+}
+void EcritEpaisseurs(const Reglages &reglages) {
+    Ecrit(reglages, {TableEpaisseurs(reglages)});
+}
+void EcritDefauts(const Reglages &reglages) {
+    Ecrit(reglages, {TableDefauts(reglages)});
+}
+void EcritRepertoires(const Reglages &reglages) {
+    Ecrit(reglages, {TableRepertoires(reglages)});
+}
+void EcritMarges(const Reglages &reglages) {
+    Ecrit(reglages, {TableMarges(reglages)});
+}
+
+void EcritTout(const Reglages &reglages) {
+    Ecrit(reglages, {TableCouleurs(reglages), TableStyles(reglages), TableEpaisseurs(reglages),
+                     TableDefauts(reglages), TableRepertoires(reglages), TableMarges(reglages)});
+}
+
+void LitCouleurs(const Reglages &reglages) {
+    Lit(reglages, TableCouleurs(reglages));
+}
+void LitStyles(const Reglages &reglages) {
+    Lit(reglages, TableStyles(reglages));
+}
+void LitEpaisseurs(const Reglages &reglages) {
+    Lit(reglages, TableEpaisseurs(reglages));
+}
+void LitDefauts(const Reglages &reglages) {
+    Lit(reglages, TableDefauts(reglages));
+}
+void LitRepertoires(const Reglages &reglages) {
+    Lit(reglages, TableRepertoires(reglages));
+}
+void LitMarges(const Reglages &reglages) {
+    Lit(reglages, TableMarges(reglages));
+}
+
+void LitTout(const Reglages &reglages) {
+    LitCouleurs(reglages);
+    LitStyles(reglages);
+    LitEpaisseurs(reglages);
+    LitDefauts(reglages);
+    LitRepertoires(reglages);
+    LitMarges(reglages);
+}
+
+void ReadInstallFolders(const Reglages &reglages, const std::string &programme) {
+    const auto stored = [&](const char *key) {
+        const std::string folder = reglages.messages.platform.StoredValue("Install", key);
+        return folder.empty() ? programme : folder;
+    };
+    Repertoires &folders = reglages.settings.repertoires;
+    folders.RepProfil = stored("RepAirfoil");
+    folders.RepProfilevol = stored("RepEvol");
+    folders.LastOpenProfil = folders.RepProfil;
+    WriteINIFile("Repertoires", "RepProfil", folders.RepProfil, reglages.fichier);
+    WriteINIFile("Repertoires", "RepProfilevol", folders.RepProfilevol, reglages.fichier);
+}
+
+void ControlRep(const Reglages &reglages, const std::string &programme) {
+    try {
+        ControleDossiers(reglages, programme);
+    } catch (const Failure &failure) {
+        reglages.messages.Report(failure, "ControlRep");
+    }
+}
+
+FichiersRecents LitFichiersRecents(const std::string &fichier) {
+    const IniFile file = IniFile::Read(fichier);
+    FichiersRecents recent;
+    for (int i = 1; i <= kFichiersRecents; ++i) {
+        At(recent, i - 1) = file.Value("LastFiles", CleRecente(i));
+    }
+    return recent;
+}
+
+void NoteFichierRecent(const std::string &path, const std::string &fichier) {
+    FichiersRecents recent = LitFichiersRecents(fichier);
+    if (recent.front() == path) {
+        return;
+    }
+    // The entries above the path's old place move down by one; without an old place all do, and
+    // the last one drops out.
+    const auto found = std::find(recent.begin(), recent.end(), path);
+    const auto end = found == recent.end() ? recent.end() : found + 1;
+    std::move_backward(recent.begin(), end - 1, end);
+    recent.front() = path;
+    IniFile file = IniFile::Read(fichier);
+    for (int i = 1; i <= kFichiersRecents; ++i) {
+        const std::string &entry = At(recent, i - 1);
+        if (!entry.empty()) {
+            file.SetValue("LastFiles", CleRecente(i), entry);
+        }
+    }
+    file.Save(fichier);
+}
+
+} // namespace loftwing

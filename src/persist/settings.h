@@ -1,0 +1,59 @@
+/// The settings file: what outlives a run beside the ribs themselves.
+#pragma once
+
+#include "core/app_settings.h"
+#include "core/messages.h"
+#include "core/rib_model.h"
+
+#include <array>
+#include <string>
+
+namespace loftwing {
+
+/// Everything that reading and writing settings touches. Numbers behind display texts are derived
+/// in the unit in force at reading.
+struct Reglages {
+    AppSettings &settings;
+    RibModel &rib;
+    const Messages &messages;
+    const std::string &fichier; ///< path of the settings file
+};
+
+/// Sets every default that a new program has, folders to `programme`. No file is touched.
+void ValeursDefaut(const Reglages &reglages, const std::string &programme);
+
+/// Writers, one per family of sections, so that each dialog saves its own part. What the writing
+/// came to is not reported: a program that can't keep its settings still draws ribs.
+void EcritCouleurs(const Reglages &reglages);
+void EcritStyles(const Reglages &reglages);
+void EcritEpaisseurs(const Reglages &reglages); ///< widths and the text size
+void EcritDefauts(const Reglages &reglages);
+void EcritRepertoires(const Reglages &reglages);
+void EcritMarges(const Reglages &reglages);
+void EcritTout(const Reglages &reglages);
+
+/// Readers. A key that isn't there reads as the empty text, and so as 0. Failure 6 for a number
+/// that doesn't fit its field, 11 for a fraction with denominator 0.
+void LitCouleurs(const Reglages &reglages);
+void LitStyles(const Reglages &reglages);
+void LitEpaisseurs(const Reglages &reglages);
+void LitDefauts(const Reglages &reglages);
+void LitRepertoires(const Reglages &reglages);
+void LitMarges(const Reglages &reglages);
+void LitTout(const Reglages &reglages);
+
+/// Takes RepProfil and RepProfilevol from the user's own store, `programme` where that has none,
+/// and writes them to the settings file.
+void ReadInstallFolders(const Reglages &reglages, const std::string &programme);
+
+/// Warns of airfoil folders that are missing or that are the program's own folder.
+void ControlRep(const Reglages &reglages, const std::string &programme);
+
+/// The recently opened airfoils, most recent first.
+inline constexpr int kFichiersRecents = 4;
+using FichiersRecents = std::array<std::string, kFichiersRecents>;
+FichiersRecents LitFichiersRecents(const std::string &fichier);
+/// Puts `path` at the top of the list.
+void NoteFichierRecent(const std::string &path, const std::string &fichier);
+
+} // namespace loftwing

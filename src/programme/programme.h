@@ -1,0 +1,45 @@
+/// Everything that the one process owns.
+#pragma once
+
+#include "core/app_settings.h"
+#include "core/messages.h"
+#include "core/rib_model.h"
+#include "lang/LngIni.h"
+#include "output/plot_state.h"
+#include "output/trace.h"
+#include "persist/settings.h"
+#include "platform/platform.h"
+
+#include <string>
+
+namespace loftwing {
+
+/// Where the program's files are.
+struct Paths {
+    std::string programme; ///< the program's resources
+    std::string langues;   ///< language files
+    std::string fichier;   ///< settings file
+    std::string aide;      ///< help
+};
+
+/// Made once in main and passed by reference to windows and to the command line's verbs. A routine
+/// below them takes the narrowest part of it that it needs.
+struct Programme {
+    Programme(Paths where, Platform &world) : paths(std::move(where)), platform(world) {}
+
+    RibModel rib;
+    AppSettings settings;
+    PlotState plot;
+    LngIni language;
+    Paths paths;
+    Platform &platform;
+    Messages messages{platform, language};
+    bool PremierDemarrage = false; ///< no settings file was there
+
+    std::string Text(LngKey key) const { return language.LngText(key); }
+    Saisie SaisieEnCours() const { return {settings.Unite, messages}; }
+    Reglages ReglagesEnCours() { return {settings, rib, messages, paths.fichier}; }
+    Trace TraceSur(PlotDevice &device) { return {device, rib, settings, plot, messages}; }
+};
+
+} // namespace loftwing
