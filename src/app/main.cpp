@@ -1,1 +1,13 @@
-int main() { return 0; }
+#include "app/command_line.h"
+#include "app/window_program.h"
+
+#include <string>
+#include <vector>
+
+int main(int argc, char **argv) {
+    const std::vector<std::string> words(argv + 1, argv + argc);
+    if (loftwing::IsCommandLine(words)) {
+        return loftwing::RunCommandLine(words);
+    }
+    return loftwing::RunWindow(argc, argv);
+}

@@ -63,9 +63,6 @@ class Lecteur {
     std::size_t debut_ = 0; // what lies before is read
 
     std::string_view Reste() const { return std::string_view(tampon_).substr(debut_); }
-    std::string Cloture() const {
-        return messages_.Text({"TextButton", "3"}) + "/" + messages_.Text({"frmopen", "1"});
-    }
     void LitEntete();
     std::optional<Refus> LitPoints();
     std::optional<Refus> LitPoint(std::string_view line, bool &last);
@@ -77,27 +74,27 @@ class Lecteur {
 };
 
 Refus Lecteur::SansEntete() const {
-    const std::string text = messages_.Text({"frmopen", "11"}) + "\n" + Cloture();
+    const std::string text = messages_.Text({"frmopen", "11"}) + "\n" + Cloture(messages_);
     return {text, text};
 }
 
 Refus Lecteur::PremierX() const {
-    return {messages_.Text({"frmopen", "12"}) + "\n" + Cloture(),
+    return {messages_.Text({"frmopen", "12"}) + "\n" + Cloture(messages_),
             messages_.Text({"frmopen", "13"}) + "\n" + messages_.Text({"frmopen", "14"}) + "\n" +
-                Cloture()};
+                Cloture(messages_)};
 }
 
 Refus Lecteur::PointsEgaux(double x, double before) const {
     const std::string text = messages_.Text({"frmopen", "16"}) + "= " + NumberText(x) +
                              messages_.Text({"frmopen", "17"}) + "= " + NumberText(before) + "\n" +
-                             Cloture();
+                             Cloture(messages_);
     return {text, text, BoxIcon::none};
 }
 
 Refus Lecteur::DernierX() const {
     const std::string text = messages_.Text({"frmopen", "18"});
-    return {text + "\n" + Cloture(),
-            messages_.Text({"frmopen", "19"}) + "\n" + text + "\n" + Cloture()};
+    return {text + "\n" + Cloture(messages_),
+            messages_.Text({"frmopen", "19"}) + "\n" + text + "\n" + Cloture(messages_)};
 }
 
 void Lecteur::LitEntete() {
@@ -169,6 +166,14 @@ std::optional<Refus> Lecteur::Lit() {
 }
 
 } // namespace
+
+std::string Cloture(const Messages &messages) {
+    return messages.Text({"TextButton", "3"}) + "/" + messages.Text({"frmopen", "1"});
+}
+
+std::string RefusTropCourt(const Messages &messages) {
+    return messages.Text({"frmopen", "23"}) + "\n" + Cloture(messages);
+}
 
 ResultatLecture FichierLecture(RibModel &rib, const Messages &messages, const std::string &titre) {
     rib.LectureEnCours = true;

@@ -28,5 +28,8 @@ ResultatLecture FichierLecture(RibModel &rib, const Messages &messages, const st
 
 /// Fewer points than this make no rib; whoever lets the user choose a file refuses them.
 inline constexpr int kPointsMini = 5;
+/// Words of that refusal, and the words that close every refusal.
+std::string RefusTropCourt(const Messages &messages);
+std::string Cloture(const Messages &messages);
 
 } // namespace loftwing

@@ -37,6 +37,7 @@ struct RibModel {
     std::string NomFichierRib; ///< name proposed for the rib components file
     bool ProfilCharge = false;
     bool Modifie = false;
+    bool FichierRibOuvert = false; ///< the rib came from a rib components file
 
     // The airfoil as read.
     PointList ProfilX;

@@ -27,7 +27,13 @@ void PlaceSurEcran(const RibModel &rib, PlotState &plot) {
                              corde * rib.ExtradosMaxi * kUnitsPerMm * zoom + kMargeHaute);
 }
 
-/// Whether both stocks fit into the chord; says so if they don't.
+} // namespace
+
+float FacteurZoom(const std::string &row) {
+    const std::string number = FirstCharacters(LastCharacters(row, 5), 3);
+    return ToSingle(LeadingNumber(number) / 100.0);
+}
+
 bool StocksTiennent(const RibModel &rib, const Messages &messages) {
     if (Wide(rib.EpBF) + Wide(rib.EpBA) <= Wide(rib.corde)) {
         return true;
@@ -35,13 +41,6 @@ bool StocksTiennent(const RibModel &rib, const Messages &messages) {
     messages.Tell(messages.Text({"FrmMainMessage", "13"}), messages.Text({"FrmMainMessage", "14"}),
                   BoxIcon::warning);
     return false;
-}
-
-} // namespace
-
-float FacteurZoom(const std::string &row) {
-    const std::string number = FirstCharacters(LastCharacters(row, 5), 3);
-    return ToSingle(LeadingNumber(number) / 100.0);
 }
 
 bool RibVisible(const RibModel &rib) {

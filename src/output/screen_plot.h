@@ -29,6 +29,9 @@ enum class Affichage {
 /// Whether `affiche` draws at all: an airfoil is loaded and no special view is up.
 bool RibVisible(const RibModel &rib);
 
+/// Whether both stocks fit into the chord; a box says so if they don't.
+bool StocksTiennent(const RibModel &rib, const Messages &messages);
+
 /// Sets scale and origin for the screen and draws the rib on trace.device, which the caller has
 /// cleared.
 Affichage afficheRib(const Trace &trace);

@@ -221,6 +221,14 @@ void LitTout(const Reglages &reglages) {
     LitMarges(reglages);
 }
 
+void DeriveLongueurs(const Reglages &reglages) {
+    for (const Table &table : {TableDefauts(reglages), TableMarges(reglages)}) {
+        for (const Ligne &line : table) {
+            line.lit(line.ecrit());
+        }
+    }
+}
+
 void ReadInstallFolders(const Reglages &reglages, const std::string &programme) {
     const auto stored = [&](const char *key) {
         const std::string folder = reglages.messages.platform.StoredValue("Install", key);

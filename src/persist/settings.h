@@ -42,6 +42,9 @@ void LitRepertoires(const Reglages &reglages);
 void LitMarges(const Reglages &reglages);
 void LitTout(const Reglages &reglages);
 
+/// Derives all lengths anew from their texts, after the unit has changed under them.
+void DeriveLongueurs(const Reglages &reglages);
+
 /// Takes RepProfil and RepProfilevol from the user's own store, `programme` where that has none,
 /// and writes them to the settings file.
 void ReadInstallFolders(const Reglages &reglages, const std::string &programme);

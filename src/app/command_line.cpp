@@ -1,0 +1,99 @@
+#include "app/command_line.h"
+
+#include "app/draw_command.h"
+#include "app/info_command.h"
+#include "base/failure.h"
+#include "base/version.h"
+
+#include <algorithm>
+#include <array>
+#include <iostream>
+
+namespace loftwing {
+
+namespace {
+
+struct Verb {
+    const char *name;
+    const char *usage;
+    const char *summary;
+    std::vector<OptionRule> (*options)();
+    int (*run)(const Arguments &arguments);
+};
+
+constexpr std::array<Verb, 2> kVerbs = {{
+    {"draw", "draw FILE... -o OUT", "a rib drawing (or several: --to EXT -o DIR/)", DrawOptions,
+     RunDraw},
+    {"info", "info FILE... [--json]", "what the program knows of an airfoil", InfoOptions, RunInfo},
+}};
+
+std::string Padded(std::string text, std::size_t width) {
+    text.resize(std::max(text.size() + 1, width), ' ');
+    return text;
+}
+
+constexpr std::size_t kUsageColumn = 40;
+constexpr std::size_t kOptionColumn = 32;
+
+void PrintHelp() {
+    std::cout << "loftwing " << kVersion << ": full-size rib drawings from airfoil files\n\n"
+              << Padded("loftwing [--settings FILE] [FILE]", kUsageColumn)
+              << "the window; FILE is opened in it\n";
+    for (const Verb &verb : kVerbs) {
+        std::cout << Padded(std::string("loftwing ") + verb.usage, kUsageColumn) << verb.summary
+                  << '\n';
+    }
+    std::cout << "loftwing --help | --version | COMMAND --help\n";
+}
+
+void PrintHelp(const Verb &verb) {
+    std::cout << "loftwing " << verb.usage << "\n    " << verb.summary << "\n\n";
+    for (const OptionRule &rule : verb.options()) {
+        const std::string value = rule.value == nullptr ? "" : std::string(" ") + rule.value;
+        std::cout << "  " << Padded(rule.name + value, kOptionColumn) << rule.help << '\n';
+    }
+}
+
+const Verb *FindVerb(const std::vector<std::string> &words) {
+    const auto verb = std::find_if(kVerbs.begin(), kVerbs.end(), [&](const Verb &each) {
+        return !words.empty() && words.front() == each.name;
+    });
+    return verb == kVerbs.end() ? nullptr : &*verb;
+}
+
+int Run(const Verb &verb, const std::vector<std::string> &words) {
+    if (std::find(words.begin(), words.end(), "--help") != words.end()) {
+        PrintHelp(verb);
+        return kDone;
+    }
+    return verb.run(Arguments({words.begin() + 1, words.end()}, verb.options()));
+}
+
+} // namespace
+
+bool IsCommandLine(const std::vector<std::string> &words) {
+    return FindVerb(words) != nullptr ||
+           (!words.empty() && (words.front() == "--help" || words.front() == "--version"));
+}
+
+int RunCommandLine(const std::vector<std::string> &words) {
+    try {
+        if (const Verb *verb = FindVerb(words)) {
+            return Run(*verb, words);
+        }
+        if (words.front() == "--version") {
+            std::cout << "loftwing " << kVersion << '\n';
+        } else {
+            PrintHelp();
+        }
+        return kDone;
+    } catch (const UsageError &error) {
+        std::cerr << "loftwing: " << error.what() << " (see loftwing --help)\n";
+        return kWrongUsage;
+    } catch (const Failure &failure) {
+        std::cerr << "loftwing: " << failure.description << '\n';
+        return kRefused;
+    }
+}
+
+} // namespace loftwing

@@ -1,0 +1,94 @@
+#include "app/console_session.h"
+
+#include "app/resource_paths.h"
+#include "core/airfoil_reader.h"
+#include "output/page_setup.h"
+#include "output/screen_plot.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <iostream>
+
+namespace loftwing {
+
+namespace {
+
+/// The set of values that a choice of inches brings.
+void ValeursPouces(Programme &programme) {
+    RibModel &rib = programme.rib;
+    const Saisie saisie = programme.SaisieEnCours();
+    StockeLongueur("8", saisie, rib.cordeAfich, rib.corde);
+    StockeLongueur("1/16", saisie, rib.EpCoffrageAfich, rib.EpCoffrage);
+    loftwing::ValeursPouces(programme.settings.page);
+}
+
+} // namespace
+
+std::vector<OptionRule> CommonOptions() {
+    return {{"--unit", "mm|in", "unit of all lengths (default mm)"},
+            {"--language", "NAME", "language of texts and messages (default English)"},
+            {"--settings", "FILE", "colours, styles, widths, margins and defaults from FILE"},
+            {"--yes", nullptr, "answer Yes to every question"},
+            {"--help", nullptr, "show this help"}};
+}
+
+ConsoleSession::ConsoleSession(const Arguments &arguments)
+    : platform_(std::cerr, arguments.Has("--yes")),
+      programme_(ConsolePaths(arguments.Value("--settings")), platform_) {
+    ChargeLangue(arguments);
+    ChargeValeurs(arguments);
+}
+
+void ConsoleSession::ChargeLangue(const Arguments &arguments) {
+    const std::string name = arguments.Value("--language", "English");
+    const std::vector<std::string> names = LngIni::Languages(programme_.paths.langues);
+    if (std::find(names.begin(), names.end(), name) == names.end()) {
+        throw UsageError("no language " + name);
+    }
+    programme_.language.Charge(programme_.paths.langues, name);
+}
+
+void ConsoleSession::ChargeValeurs(const Arguments &arguments) {
+    const std::string unit = " " + arguments.Value("--unit", "mm");
+    if (unit != kUniteMm && unit != kUniteIn) {
+        throw UsageError("--unit takes mm or in");
+    }
+    ValeursDefaut(programme_.ReglagesEnCours(), programme_.paths.programme);
+    programme_.settings.Unite = unit;
+    if (!arguments.Has("--settings")) {
+        if (unit == kUniteIn) {
+            ValeursPouces(programme_);
+        }
+        return;
+    }
+    if (!std::filesystem::exists(programme_.paths.fichier)) {
+        throw MakeFailure(kFileNotFound, programme_.paths.fichier);
+    }
+    LitTout(programme_.ReglagesEnCours());
+    const std::string &in_file = programme_.settings.Unite;
+    if (arguments.Has("--unit") || (in_file != kUniteMm && in_file != kUniteIn)) {
+        programme_.settings.Unite = unit;
+        DeriveLongueurs(programme_.ReglagesEnCours());
+    }
+    ReplaceYdprint(programme_.settings.page, programme_.settings.Unite);
+}
+
+bool ConsoleSession::Ouvre(const std::string &path) {
+    RibModel &rib = programme_.rib;
+    const Messages &messages = programme_.messages;
+    NommeProfil(rib, path);
+    const std::string title = messages.Text({"frmopen", "1"});
+    if (FichierLecture(rib, messages, title).issue != Lecture::lu) {
+        return false;
+    }
+    if (rib.NbPoints < kPointsMini) {
+        messages.Inform(RefusTropCourt(messages), title);
+        return false;
+    }
+    rib.ProfilCharge = true;
+    ReprendProfil(rib);
+    CordeDuTitre(rib, programme_.SaisieEnCours());
+    return true;
+}
+
+} // namespace loftwing

@@ -1,0 +1,39 @@
+/// What the command line's verbs share: options, start-up and opening a file.
+#pragma once
+
+#include "app/arguments.h"
+#include "programme/console_platform.h"
+#include "programme/programme.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace loftwing {
+
+/// The options that every verb knows.
+std::vector<OptionRule> CommonOptions();
+
+/// One program for one drawing: every file of a command starts from a fresh state.
+class ConsoleSession {
+  public:
+    /// Language, settings and unit as the options say. Throws UsageError for a language or a unit
+    /// that there isn't, Failure for a settings file that can't be read.
+    explicit ConsoleSession(const Arguments &arguments);
+
+    Programme &Owner() { return programme_; }
+    ConsolePlatform &Platform() { return platform_; }
+
+    /// Opens an airfoil as the window's picker does: read, not below 5 points, heel and title's
+    /// chord. False when it was refused; a line on standard error told why.
+    bool Ouvre(const std::string &path);
+
+  private:
+    ConsolePlatform platform_;
+    Programme programme_;
+
+    void ChargeLangue(const Arguments &arguments);
+    void ChargeValeurs(const Arguments &arguments);
+};
+
+} // namespace loftwing

@@ -1,0 +1,115 @@
+#include "app/rib_options.h"
+
+#include "features/rib_entry.h"
+#include "output/page_setup.h"
+
+#include <algorithm>
+
+namespace loftwing {
+
+namespace {
+
+/// One option that is typed in the value dialog of the window.
+struct EntryOption {
+    const char *option;
+    const char *mode; // ModeSaisie of the dialog
+};
+constexpr EntryOption kEntryOptions[] = {{"--chord", "corde"},
+                                         {"--sheeting", "epcof"},
+                                         {"--le", "ba"},
+                                         {"--te", "bf"},
+                                         {"--stations", "rep"}};
+
+/// The value of an option, whose characters a numeric field must admit.
+std::string Typed(const Arguments &arguments, const char *option, std::string_view keys) {
+    const std::string value = arguments.Value(option);
+    if (value.empty() || value.find_first_not_of(keys) != std::string::npos) {
+        throw UsageError(std::string(option) + " doesn't take \"" + value + "\"");
+    }
+    return value;
+}
+
+std::string_view LengthKeys(const Programme &programme) {
+    return TouchesSelonUnite(programme.settings.Unite, kTouchesPositif, kTouchesFraction);
+}
+
+void SetPageLength(const Arguments &arguments, Programme &programme, const char *option,
+                   std::string &text, float &number) {
+    if (arguments.Has(option)) {
+        StockeLongueur(Typed(arguments, option, LengthKeys(programme)), programme.SaisieEnCours(),
+                       text, number);
+    }
+}
+
+std::uint8_t PaperNamed(const std::string &name) {
+    std::string names;
+    for (std::size_t i = 0; i < kPapierImprimante; ++i) {
+        if (name == Papiers()[i].nom_court) {
+            return static_cast<std::uint8_t>(i);
+        }
+        names += std::string(i == 0 ? "" : ", ") + Papiers()[i].nom_court;
+    }
+    throw UsageError("no paper " + name + "; there are " + names);
+}
+
+} // namespace
+
+std::vector<OptionRule> RibOptions() {
+    return {{"--chord", "LENGTH", "chord"},
+            {"--sheeting", "LENGTH", "sheeting thickness"},
+            {"--le", "LENGTH", "leading edge stock"},
+            {"--te", "LENGTH", "trailing edge stock"},
+            {"--stations", "N", "number of station lines between the edges"},
+            {"--invert", nullptr, "draw the rib upside down"},
+            {"--no-contour", nullptr, "leave out the airfoil's contour"},
+            {"--no-reference-line", nullptr, "leave out the reference line"},
+            {"--chord-thickness", nullptr, "write the greatest thickness"},
+            {"--le-thickness", nullptr, "write the height at the leading edge stock"},
+            {"--te-thickness", nullptr, "write the height at the trailing edge stock"}};
+}
+
+std::vector<OptionRule> PageOptions() {
+    return {{"--paper", "NAME",
+             "paper of a PDF: A4, Letter, Fanfold, Legal, Executive, B4, "
+             "\"US B\", A3"},
+            {"--margin-before", "LENGTH", "margin before the leading edge"},
+            {"--margin-after", "LENGTH", "margin behind the trailing edge"},
+            {"--overlap", "LENGTH", "overlap of two sheets"},
+            {"--reference-line-at", "LENGTH", "reference line from the top of the sheet"}};
+}
+
+bool ApplyRibOptions(const Arguments &arguments, ConsoleSession &session) {
+    Programme &programme = session.Owner();
+    session.Platform().Forget();
+    for (const EntryOption &entry : kEntryOptions) {
+        if (!arguments.Has(entry.option)) {
+            continue;
+        }
+        const bool count = std::string_view(entry.mode) == "rep";
+        const std::string typed =
+            Typed(arguments, entry.option, count ? kTouchesEntier : LengthKeys(programme));
+        SaisitValeur(entry.mode, typed, programme.rib, programme.SaisieEnCours(), entry.option);
+    }
+    RibModel &rib = programme.rib;
+    rib.AffHaut = arguments.Has("--invert");
+    rib.AffTrac = !arguments.Has("--no-contour");
+    rib.AffLignRef = !arguments.Has("--no-reference-line");
+    rib.AffEpr = arguments.Has("--chord-thickness");
+    rib.AffHautBA = arguments.Has("--le-thickness");
+    rib.AffHautBF = arguments.Has("--te-thickness");
+    // Whatever a value dialog has to say is a refusal to somebody who can't answer it.
+    return session.Platform().LastText().empty();
+}
+
+void ApplyPageOptions(const Arguments &arguments, Programme &programme) {
+    MiseEnPage &page = programme.settings.page;
+    SetPageLength(arguments, programme, "--margin-before", page.MargeHautAfich, page.MargeHaut);
+    SetPageLength(arguments, programme, "--margin-after", page.MargeBasAfich, page.MargeBas);
+    SetPageLength(arguments, programme, "--overlap", page.recouvrementAfich, page.recouvrement);
+    SetPageLength(arguments, programme, "--reference-line-at", page.YdprintAfich, page.Ydprint);
+    if (arguments.Has("--paper")) {
+        page.NumIndex = PaperNamed(arguments.Value("--paper"));
+    }
+}
+
+} // namespace loftwing

@@ -1,0 +1,191 @@
+#include "mainwindow/commands.h"
+
+#include "mainwindow/frmmain.h"
+
+namespace loftwing {
+
+namespace {
+
+constexpr unsigned kFile = kWithRib | kDiesOnClear;
+constexpr unsigned kPaper = kFile | kAliveInView;
+constexpr unsigned kRib = kWithRib | kNotInView | kAliveAfterClear;
+
+Command Menu(const char *name, LngKey text, unsigned groups = kAlways) {
+    return {name, nullptr, text, nullptr, groups, false, true, false, nullptr};
+}
+
+Command SubMenu(const char *name, const char *menu, LngKey text, unsigned groups) {
+    return {name, menu, text, nullptr, groups, false, true, false, nullptr};
+}
+
+Command Entry(const char *name, const char *menu, LngKey text, unsigned groups,
+              void (frmmain::*handler)(), const char *keys = nullptr) {
+    return {name, menu, text, keys, groups, false, false, false, handler};
+}
+
+Command Check(const char *name, const char *menu, LngKey text, unsigned groups,
+              void (frmmain::*handler)()) {
+    return {name, menu, text, nullptr, groups, true, false, false, handler};
+}
+
+Command Below(Command command) {
+    command.separator = true;
+    return command;
+}
+
+std::vector<Command> FileMenu() {
+    const char *menu = "mnu_file";
+    return {
+        Menu(menu, {"MenuFile", "1"}),
+        Entry("mnu_fileopen", menu, {"MenuFile", "2"}, kAlways, nullptr, "Ctrl+Shift+O"),
+        Entry("mnu_fileprofilopen", menu, {"MenuFile", "3"}, kAlways,
+              &frmmain::mnu_fileprofilopen_Click, "Ctrl+O"),
+        Entry("mnu_filesaveas", menu, {"MenuFile", "4"}, kFile, nullptr, "Ctrl+Shift+S"),
+        Below(Entry("mnu_filedxf", menu, {"MenuFile", "5"}, kFile, nullptr)),
+        Entry("mnu_filepdf", menu, {"MenuFile", "11"}, kFile, &frmmain::mnu_filepdf_Click),
+        Entry("mnu_filesvg", menu, {"MenuFile", "12"}, kFile, &frmmain::mnu_filesvg_Click),
+        Below(Entry("mnu_filepage", menu, {"MenuFile", "6"}, kPaper, &frmmain::mnu_filepage_Click)),
+        Entry("mnu_fileprinterconfig", menu, {"MenuFile", "7"}, kPaper,
+              &frmmain::mnu_fileprinterconfig_Click),
+        Entry("mnu_fileprintpreview", menu, {"MenuFile", "8"}, kAlways, nullptr),
+        Entry("mnu_fileprint", menu, {"MenuFile", "9"}, kPaper, &frmmain::mnu_fileprint_Click,
+              "Ctrl+P"),
+        Below(Entry("mnu_fileexit", menu, {"MenuFile", "10"}, kAlways, &frmmain::mnu_fileexit_Click,
+                    "Ctrl+Q")),
+    };
+}
+
+std::vector<Command> ViewMenu() {
+    const char *menu = "mnu_aff";
+    return {
+        Menu(menu, {"MenuAffich", "1"}),
+        Check("mnu_affinver", menu, {"MenuAffich", "2"}, kRib, &frmmain::mnu_affinver_Click),
+        Entry("mnu_affdefaut", menu, {"MenuAffich", "3"}, kRib, nullptr),
+        Entry("mnu_affcouleur", menu, {"MenuAffich", "4"}, kAlways, &frmmain::mnu_affcouleur_Click),
+        Below(
+            Check("mnu_affhautba", menu, {"MenuAffich", "5"}, kRib, &frmmain::mnu_affhautba_Click)),
+        Check("mnu_affhautbf", menu, {"MenuAffich", "6"}, kRib, &frmmain::mnu_affhautbf_Click),
+        Check("mnu_affepr", menu, {"MenuAffich", "7"}, kRib, &frmmain::mnu_affepr_Click),
+        Entry("mnu_affInstxt", menu, {"MenuAffich", "8"}, kFile, nullptr),
+        Check("mnu_affTrac", menu, {"MenuAffich", "9"}, kRib, &frmmain::mnu_affTrac_Click),
+        Check("mnu_afflignRef", menu, {"MenuAffich", "12"}, kRib, &frmmain::mnu_afflignRef_Click),
+        Below(Entry("mnu_affclear", menu, {"MenuAffich", "10"}, kAlways,
+                    &frmmain::mnu_affclear_Click)),
+        Below(
+            Entry("mnu_affLang", menu, {"MenuAffich", "11"}, kAlways, &frmmain::mnu_affLang_Click)),
+    };
+}
+
+std::vector<Command> RibMenu() {
+    const char *menu = "mnuprofil";
+    const char *edge = "mnu_profilba";
+    return {
+        Menu(menu, {"MenuProfil", "1"}),
+        Entry("mnu_profilcorde", menu, {"MenuProfil", "2"}, kAlways,
+              &frmmain::mnu_profilcorde_Click),
+        Entry("mnu_profilepcoffrage", menu, {"MenuProfil", "3"}, kRib,
+              &frmmain::mnu_profilepcoffrage_Click),
+        SubMenu(edge, menu, {"MenuProfil", "4"}, kRib),
+        Entry("mnu_profilbaD", edge, {"MenuProfil", "5"}, kAlways, &frmmain::mnu_profilbaD_Click),
+        Entry("mnu_profilbaC", edge, {"MenuProfil", "6"}, kAlways, nullptr),
+        Entry("mnu_profillongeron", menu, {"MenuProfil", "7"}, kRib, nullptr),
+        Entry("mnu_profiltrou", menu, {"MenuProfil", "8"}, kRib, nullptr),
+        Entry("mnu_profilbf", menu, {"MenuProfil", "9"}, kRib, &frmmain::mnu_profilbf_Click),
+        Entry("mnu_profilTalon", menu, {"MenuProfil", "10"}, kFile, nullptr),
+    };
+}
+
+std::vector<Command> LayoutMenu() {
+    const char *menu = "mnu_param";
+    return {
+        Menu(menu, {"MenuLayout", "1"}, kWithRib | kDiesOnClear | kNotInView),
+        Entry("mnu_paramrep", menu, {"MenuLayout", "2"}, kAlways, &frmmain::mnu_paramrep_Click),
+        Entry("mnu_parambloc", menu, {"MenuLayout", "3"}, kAlways, nullptr),
+        Entry("mnu_paramvril", menu, {"MenuLayout", "4"}, kAlways, nullptr),
+    };
+}
+
+std::vector<Command> ToolsMenu() {
+    const char *menu = "mnu_outil";
+    return {
+        Menu(menu, {"MenuOutils", "1"}),
+        Entry("mnu_OutilCompare", menu, {"MenuOutils", "2"}, kAlways, nullptr),
+        Entry("mnu_outilnervinter", menu, {"MenuOutils", "3"}, kAlways, nullptr),
+        Entry("mnu_outilevolut", menu, {"MenuOutils", "4"}, kAlways, nullptr),
+        Entry("mnu_outilevolut2", menu, {"MenuOutils", "4a"}, kAlways, nullptr),
+        Entry("mnu_outilEpCourb", menu, {"MenuOutils", "5"}, kAlways, nullptr),
+        Entry("mnu_outilAngle", menu, {"MenuOutils", "6"}, kAlways, nullptr),
+        Entry("mnu_outilInclinaison", menu, {"MenuOutils", "7"}, kAlways, nullptr),
+        Entry("mnu_OutlilDiedre", menu, {"MenuOutils", "10"}, kAlways, nullptr),
+        Entry("mnu_Outilcoord", menu, {"MenuOutils", "11"}, kWithRib, nullptr),
+        Entry("mnu_Outilcoupl", menu, {"MenuOutils", "12"}, kAlways, nullptr),
+        Below(Entry("mnu_calc", menu, {"MenuOutils", "13"}, kAlways, &frmmain::mnu_calc_Click)),
+    };
+}
+
+std::vector<Command> HelpMenu() {
+    const char *menu = "mnu_help";
+    return {
+        Menu(menu, {"MenuHelp", "1"}),
+        Entry("mnu_helpsearch", menu, {"MenuHelp", "2"}, kAlways, &frmmain::mnu_helpsearch_Click,
+              "F1"),
+        // Its caption is a fixed word and the word for version; see AppliqueLangue.
+        Entry("mnu_helpVersion", menu, {"FrmAbout", "3"}, kAlways, nullptr),
+        Entry("mnu_helpConfig", menu, {"MenuHelp", "4"}, kAlways, nullptr),
+        Below(Entry("mnu_helpAbout", menu, {"MenuHelp", "3"}, kAlways,
+                    &frmmain::mnu_helpAbout_Click)),
+    };
+}
+
+std::vector<Command> AllMenus() {
+    std::vector<Command> all;
+    for (const auto &menu :
+         {FileMenu(), ViewMenu(), RibMenu(), LayoutMenu(), ToolsMenu(), HelpMenu()}) {
+        all.insert(all.end(), menu.begin(), menu.end());
+    }
+    return all;
+}
+
+} // namespace
+
+const std::vector<Command> &MenuCommands() {
+    static const std::vector<Command> commands = AllMenus();
+    return commands;
+}
+
+const std::vector<PushButton> &PushButtons() {
+    static const std::vector<PushButton> buttons = {
+        {"cmdprofil",
+         {"MainTolbar", "11"},
+         {"MainTolbar", "12"},
+         kAlways,
+         &frmmain::mnu_fileprofilopen_Click},
+        {"cmdcorde",
+         {"MainTolbar", "13"},
+         {"MainTolbar", "14"},
+         kAlways,
+         &frmmain::mnu_profilcorde_Click},
+        {"cmdba", {"MainTolbar", "15"}, {"MainTolbar", "16"}, kRib, &frmmain::cmdba_Click},
+        {"cmdlongeron", {"MainTolbar", "17"}, {"MainTolbar", "18"}, kRib, nullptr},
+        {"cmdtrou", {"MainTolbar", "19"}, {"MainTolbar", "20"}, kRib, nullptr},
+        {"cmdbf", {"MainTolbar", "21"}, {"MainTolbar", "22"}, kRib, &frmmain::mnu_profilbf_Click},
+    };
+    return buttons;
+}
+
+const std::vector<ToolButton> &ToolButtons() {
+    static const std::vector<ToolButton> buttons = {
+        {1, {"MainTolbar", "1"}, kAlways, nullptr},
+        {2, {"MainTolbar", "2"}, kAlways, nullptr},
+        {3, {"MainTolbar", "3"}, kFile, nullptr},
+        {4, {"MainTolbar", "4"}, kAlways, nullptr},
+        // Stays alive when the rib is cleared: only its menu entry dies then.
+        {5, {"MainTolbar", "5"}, kWithRib | kAliveInView, &frmmain::mnu_filepage_Click},
+        {6, {"MainTolbar", "6"}, kAlways, nullptr},
+        {7, {"MainTolbar", "7"}, kFile, &frmmain::mnu_fileprint_Click},
+        {8, {"MainTolbar", "8"}, kAlways, nullptr},
+    };
+    return buttons;
+}
+
+} // namespace loftwing

@@ -1,0 +1,64 @@
+/// The commands of the main window as a table. Menu bar, tool bar, pop-up, enabling rules and
+/// language all walk it.
+#pragma once
+
+#include "lang/LngIni.h"
+
+#include <string_view>
+#include <vector>
+
+namespace loftwing {
+
+class frmmain;
+
+/// Enabling groups that a command belongs to, as bits.
+enum CommandGroup : unsigned {
+    kAlways = 0,
+    /// Live once a rib is loaded; not before.
+    kWithRib = 1U << 0U,
+    /// Dies again when the rib is cleared.
+    kDiesOnClear = 1U << 1U,
+    /// Makes no sense in the compare and simple-plot views.
+    kNotInView = 1U << 2U,
+    /// Live in those views even if it wasn't before.
+    kAliveInView = 1U << 3U,
+    /// Part of a rib's own menus and buttons: live after a clear.
+    kAliveAfterClear = 1U << 4U
+};
+
+/// One command. Controls that are no menu entry (tool buttons, push buttons) have no menu.
+struct Command {
+    const char *name; ///< of the control
+    const char *menu; ///< name of the menu it stands in; null for none or the menu bar
+    LngKey text;      ///< caption
+    const char *keys; ///< shortcut, may be null
+    unsigned groups;  ///< CommandGroup bits
+    bool checkable;
+    bool submenu;               ///< a menu of its own rather than an entry
+    bool separator;             ///< a line before it
+    void (frmmain::*handler)(); ///< null: no action
+};
+
+/// All menus and menu entries, in the order in which they stand.
+const std::vector<Command> &MenuCommands();
+
+/// The six push buttons over the tool bar.
+struct PushButton {
+    const char *name;
+    LngKey text;
+    LngKey tip;
+    unsigned groups;
+    void (frmmain::*handler)();
+};
+const std::vector<PushButton> &PushButtons();
+
+/// The buttons of the tool bar by index from 1. Separators and placeholders have no command.
+struct ToolButton {
+    int index;
+    LngKey tip;
+    unsigned groups;
+    void (frmmain::*handler)();
+};
+const std::vector<ToolButton> &ToolButtons();
+
+} // namespace loftwing

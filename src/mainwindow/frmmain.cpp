@@ -1,0 +1,279 @@
+#include "mainwindow/frmmain.h"
+
+#include "base/version.h"
+#include "core/airfoil_reader.h"
+#include "features/rib_entry.h"
+#include "mainwindow/frmInput.h"
+#include "mainwindow/tool_icons.h"
+#include "output/screen_plot.h"
+#include "platform/qt_form.h"
+#include "programme/export.h"
+#include "programme/load.h"
+
+#include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QUrl>
+
+namespace loftwing {
+
+frmmain::frmmain(Programme &programme) : programme_(programme) {
+    setObjectName("frmmain");
+    setAcceptDrops(true);
+    BuildMenus();
+    BuildToolbar();
+    BuildPicture();
+    BuildStatusBar();
+    LitPlace();
+    Form_Load();
+}
+
+void frmmain::Form_Load() {
+    programme_.platform.SetPointer(Pointer::normal);
+    ChargeReglages(programme_);
+    Panel(1, std::string(" V. ") + kVersion);
+    Panel(2, "");
+    Panel(3, "unit :" + programme_.settings.Unite);
+    setWindowTitle(QString::fromUtf8(kTitre));
+    SetChecked("mnu_affTrac", true);
+    SetChecked("mnu_afflignRef", true);
+    AppliqueLangue();
+    AfficheFichiersRecents();
+    // The window's own data: what a rib brings to life is dead until there is one.
+    EnableGroup(kWithRib, false);
+    DesactiveCommandes();
+}
+
+void frmmain::Execute(const char *name, void (frmmain::*handler)()) {
+    if (handler == nullptr) {
+        return;
+    }
+    try {
+        (this->*handler)();
+    } catch (const Failure &failure) {
+        programme_.platform.SetPointer(Pointer::normal);
+        programme_.messages.Report(failure, std::string(" Main/") + name);
+    }
+}
+
+void frmmain::Panel(int number, const std::string &text) {
+    QLabel *panel = At(panels_, number - 1);
+    panel->setText(Q(text));
+    panel->setToolTip(number == 2 ? Q(text).toHtmlEscaped() : QString());
+}
+
+bool frmmain::Checked(const char *name) const {
+    return actions_.at(name)->isChecked();
+}
+
+void frmmain::SetChecked(const char *name, bool checked) {
+    actions_.at(name)->setChecked(checked);
+}
+
+void frmmain::EnableGroup(unsigned group, bool enabled) {
+    for (const Command &command : MenuCommands()) {
+        if ((command.groups & group) != 0) {
+            actions_.at(command.name)->setEnabled(enabled);
+        }
+    }
+    for (const PushButton &button : PushButtons()) {
+        if ((button.groups & group) != 0) {
+            buttons_.at(button.name)->setEnabled(enabled);
+        }
+    }
+    for (const ToolButton &button : ToolButtons()) {
+        if ((button.groups & group) != 0) {
+            tools_.at(button.index)->setEnabled(enabled);
+        }
+    }
+}
+
+void frmmain::ActiveCommandes() {
+    FermeDialogues();
+    EnableGroup(kWithRib, true);
+}
+
+void frmmain::DesactiveCommandes() {
+    EnableGroup(kDiesOnClear, false);
+}
+
+void frmmain::ActiveCommandesVue() {
+    EnableGroup(kNotInView, false);
+    EnableGroup(kAliveInView, true);
+}
+
+void frmmain::FermeDialogues() {
+    // No dialog that stays open beside the main window exists yet.
+}
+
+void frmmain::ViewReset() {
+    RemetVue(programme_.rib);
+    programme_.plot.BlocBA = 0;
+    programme_.plot.BlocEp = 0;
+    RemetDefilement();
+}
+
+bool frmmain::ConfirmePerte(LngKey text, LngKey title) {
+    if (!programme_.rib.Modifie || programme_.rib.ModeCompare) {
+        return true;
+    }
+    return programme_.messages.Confirm(programme_.Text(text), programme_.Text(title));
+}
+
+void frmmain::affclear() {
+    programme_.platform.SetPointer(Pointer::busy);
+    try {
+        ClearRib();
+    } catch (const Failure &failure) {
+        programme_.messages.Report(failure, " Main/AffichClear");
+    }
+    programme_.platform.SetPointer(Pointer::normal);
+}
+
+void frmmain::ClearRib() {
+    FermeDialogues();
+    VideRib(programme_);
+    ViewReset();
+    DesactiveCommandes();
+    EnableGroup(kAliveAfterClear, true);
+    for (const char *name : {"mnu_affinver", "mnu_affhautba", "mnu_affhautbf", "mnu_affepr"}) {
+        SetChecked(name, false);
+    }
+    for (const char *name : {"mnu_affTrac", "mnu_afflignRef"}) {
+        SetChecked(name, true);
+    }
+    ControlRep(programme_.ReglagesEnCours(), programme_.paths.programme);
+    Panel(2, "");
+    setWindowTitle(QString::fromUtf8(kTitre));
+    Pic->Montre(nullptr);
+    Combo1->setCurrentIndex(kZoomRow100);
+    programme_.rib.Zoom = FacteurZoom(kZoomRows[kZoomRow100]);
+    RegleDefilement();
+    LitDefauts(programme_.ReglagesEnCours());
+}
+
+void frmmain::RepriseProfil() {
+    setWindowTitle(Q(TitreFenetre(programme_.rib, programme_.messages)));
+    programme_.platform.SetPointer(Pointer::busy);
+    EntreProfil(programme_);
+    AfficheFichiersRecents();
+    CordeDuTitre(programme_.rib, programme_.SaisieEnCours());
+    RecalculProfil();
+    programme_.platform.SetPointer(Pointer::normal);
+}
+
+void frmmain::RecalculProfil() {
+    if (PrepareContour(programme_.rib, programme_.messages) == Preparation::impossible) {
+        affclear();
+        return;
+    }
+    ViewReset();
+    ActiveCommandes();
+    affiche();
+}
+
+void frmmain::OuvreFichier(const std::string &path) {
+    RibModel &rib = programme_.rib;
+    const std::string old_path = rib.CheminProfil;
+    const std::string old_title = rib.EnteteProfil;
+    rib.ModeCouple = false;
+    rib.SansApercu = true;
+    rib.CheminProfil = path;
+    const ResultatLecture read =
+        FichierLecture(rib, programme_.messages, programme_.Text({"frmopen", "1"}));
+    rib.SansApercu = false;
+    if (read.issue == Lecture::echec) {
+        affclear();
+        return;
+    }
+    if (read.issue == Lecture::refuse) {
+        // The rib on the screen is still the one that was there.
+        rib.CheminProfil = old_path;
+        rib.EnteteProfil = old_title;
+        return;
+    }
+    NommeProfil(rib, path);
+    rib.ProfilCharge = true;
+    RepriseProfil();
+}
+
+void frmmain::AfficheFichiersRecents() {
+    const FichiersRecents recent = LitFichiersRecents(programme_.paths.fichier);
+    bool any = false;
+    for (std::size_t i = 0; i < recent.size(); ++i) {
+        const QString path = Q(recent[i]);
+        QString shown = path;
+        shown.replace('&', "&&");
+        mnuFileMRU_[i]->setText(QStringLiteral("&%1 %2").arg(i + 1).arg(shown));
+        mnuFileMRU_[i]->setData(path);
+        mnuFileMRU_[i]->setVisible(!path.isEmpty());
+        any = any || !path.isEmpty();
+    }
+    mnuFileMRUTrait_->setVisible(any);
+}
+
+bool frmmain::Saisit(const std::string &ModeSaisie) {
+    frmInput dialog(programme_, ModeSaisie, this);
+    ShowModal(dialog);
+    return !programme_.rib.Annule;
+}
+
+void frmmain::AppliqueLangue() {
+    const auto caption = [this](LngKey key) { return Q(programme_.Text(key)); };
+    for (const Command &command : MenuCommands()) {
+        actions_.at(command.name)->setText(caption(command.text));
+    }
+    actions_.at("mnu_helpVersion")->setText("Check " + caption({"FrmAbout", "3"}));
+    for (const PushButton &button : PushButtons()) {
+        buttons_.at(button.name)->setText(caption(button.text));
+        buttons_.at(button.name)->setToolTip(caption(button.tip));
+    }
+    for (const ToolButton &button : ToolButtons()) {
+        tools_.at(button.index)->setToolTip(caption(button.tip));
+        tools_.at(button.index)->setText(caption(button.tip));
+        tools_.at(button.index)->setIcon(ToolIcon(button.index, palette()));
+    }
+    Combo1->setToolTip(tools_.at(8)->toolTip());
+    Combo1->setAccessibleName(tools_.at(8)->toolTip());
+}
+
+bool frmmain::QuestionFin() {
+    const Messages &messages = programme_.messages;
+    std::string text = messages.Text({"TextButton", "17"}) + " " + kTitre + " ? ";
+    if (programme_.rib.Modifie && !programme_.rib.ModeCompare) {
+        text = messages.Text({"FrmMainMessage", "4"});
+    }
+    return messages.Confirm(text, kTitre);
+}
+
+void frmmain::closeEvent(QCloseEvent *event) {
+    if (!QuestionFin()) {
+        event->ignore();
+        return;
+    }
+    EcritPlace();
+    programme_.platform.CloseHelp();
+    FermeDialogues();
+    event->accept();
+}
+
+void frmmain::dragEnterEvent(QDragEnterEvent *event) {
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (urls.size() == 1 && urls.front().isLocalFile()) {
+        event->acceptProposedAction();
+    }
+}
+
+void frmmain::dropEvent(QDropEvent *event) {
+    const QList<QUrl> urls = event->mimeData()->urls();
+    if (urls.size() != 1 || !urls.front().isLocalFile()) {
+        return;
+    }
+    event->acceptProposedAction();
+    const std::string path = S(urls.front().toLocalFile());
+    // After the drop is over: a box must not hold up the program that the file comes from.
+    QTimer::singleShot(0, this, [this, path] { OuvreFichier(path); });
+}
+
+} // namespace loftwing

@@ -1,0 +1,145 @@
+/// The main window.
+#pragma once
+
+#include "core/contour.h"
+#include "mainwindow/commands.h"
+#include "mainwindow/pic_view.h"
+#include "output/print_run.h"
+#include "programme/main_view.h"
+#include "programme/programme.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QMainWindow>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTimer>
+#include <QToolBar>
+
+#include <array>
+#include <map>
+#include <string>
+
+namespace loftwing {
+
+struct ExportForm;
+
+/// Menu bar, tool bar with six buttons and the zoom list, the picture with its scroll bars and the
+/// status bar. What a command does in depth is in the unit that it calls.
+class frmmain : public QMainWindow, public MainView {
+    Q_OBJECT
+
+  public:
+    explicit frmmain(Programme &programme);
+
+    /// Opens an airfoil that was not chosen in the picker: from the command line, a drop, or the
+    /// recent files.
+    void OuvreFichier(const std::string &path);
+
+    void affiche() override;
+    void RetraceVues() override;
+    void affclear() override;
+    void FermeDialogues() override;
+    void AppliqueLangue() override;
+
+    // Commands, named after their controls.
+    void mnu_fileprofilopen_Click();
+    void mnu_filepdf_Click();
+    void mnu_filesvg_Click();
+    void mnu_filepage_Click();
+    void mnu_fileprinterconfig_Click();
+    void mnu_fileprint_Click();
+    void mnu_fileexit_Click();
+    void mnuFileMRU_Click(const std::string &path);
+    void mnu_affinver_Click();
+    void mnu_affcouleur_Click();
+    void mnu_affhautba_Click();
+    void mnu_affhautbf_Click();
+    void mnu_affepr_Click();
+    void mnu_affTrac_Click();
+    void mnu_afflignRef_Click();
+    void mnu_affclear_Click();
+    void mnu_affLang_Click();
+    void mnu_profilcorde_Click();
+    void mnu_profilepcoffrage_Click();
+    void mnu_profilbaD_Click();
+    void mnu_profilbf_Click();
+    void mnu_paramrep_Click();
+    void mnu_calc_Click();
+    void mnu_helpsearch_Click();
+    void mnu_helpAbout_Click();
+    void cmdba_Click();
+
+  protected:
+    void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+  private:
+    Programme &programme_;
+    std::map<std::string, QAction *> actions_; ///< menus and entries by control name
+    std::map<std::string, QMenu *> menus_;
+    std::array<QAction *, kFichiersRecents> mnuFileMRU_{};
+    QAction *mnuFileMRUTrait_ = nullptr;
+    QToolBar *Toolbar1 = nullptr;
+    std::map<int, QAction *> tools_; ///< buttons of Toolbar1 by index
+    std::map<std::string, QPushButton *> buttons_;
+    QComboBox *Combo1 = nullptr;
+    PicView *Pic = nullptr;
+    QScrollBar *Hsbpic = nullptr;
+    QScrollBar *Vsbpic = nullptr;
+    std::array<QLabel *, 3> panels_{}; ///< StatusBar 1 to 3
+    QTimer resized_;
+    bool drawing_ = false; ///< a redraw is under way, perhaps waiting in a box
+    QPoint drag_rest_;     ///< pixels dragged that made no whole unit yet
+
+    // frmmain_build.cpp
+    void BuildMenus();
+    void AddCommand(const Command &command);
+    void BuildRecentFiles(QMenu *menu, QAction *before);
+    void BuildToolbar();
+    void BuildPicture();
+    void BuildStatusBar();
+    void ConnectPicture();
+
+    // frmmain.cpp
+    void Form_Load();
+    void Execute(const char *name, void (frmmain::*handler)());
+    void Panel(int number, const std::string &text);
+    bool Checked(const char *name) const;
+    void SetChecked(const char *name, bool checked);
+    /// Enables or disables every control of a group.
+    void EnableGroup(unsigned group, bool enabled);
+    void ActiveCommandes();
+    void DesactiveCommandes();
+    void ActiveCommandesVue();
+    void ViewReset();
+    /// Whether to go on where changes could be lost.
+    bool ConfirmePerte(LngKey text, LngKey title);
+    void ClearRib();
+    void RepriseProfil();
+    void RecalculProfil();
+    void AfficheFichiersRecents();
+    /// Asks for one value; true unless it was cancelled.
+    bool Saisit(const std::string &ModeSaisie);
+    Impression ImpressionEnCours();
+    void Exporte(const ExportForm &form);
+    bool QuestionFin();
+
+    // frmmain_view.cpp
+    void Redessine();
+    double UniteDefilement() const;
+    void RegleDefilement();
+    void RemetDefilement();
+    void ZoomSur(int row);
+    void Combo1_Click(int row);
+    void Hsbpic_Change(int value);
+    void Vsbpic_Change(int value);
+    void Pic_Wheel(double across, double down);
+    void Pic_Drag(const QPoint &pixels);
+    void Form_Resize();
+    void LitPlace();
+    void EcritPlace();
+};
+
+} // namespace loftwing

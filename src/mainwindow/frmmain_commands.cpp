@@ -1,0 +1,221 @@
+// The commands of the main window.
+
+#include "base/version.h"
+#include "base/whole_file.h"
+#include "core/airfoil_reader.h"
+#include "features/rib_entry.h"
+#include "lang/frmlang.h"
+#include "mainwindow/frmAbout.h"
+#include "mainwindow/frmmain.h"
+#include "mainwindow/frmopen.h"
+#include "output/frmPrint.h"
+#include "output/frmcoul.h"
+#include "output/screen_plot.h"
+#include "platform/qt_form.h"
+#include "programme/export.h"
+#include "programme/qt_export_forms.h"
+
+#include <filesystem>
+
+namespace loftwing {
+
+void frmmain::mnu_fileprofilopen_Click() {
+    RibModel &rib = programme_.rib;
+    rib.MemProfil = false;
+    rib.ModeCouple = false;
+    rib.Annule = false;
+    frmopen picker(programme_, *this, this);
+    picker.setWindowTitle(Q(programme_.Text({"frmopen", "1"})));
+    ShowModal(picker);
+    if (!rib.Annule) {
+        RepriseProfil();
+    }
+}
+
+void frmmain::mnuFileMRU_Click(const std::string &path) {
+    try {
+        std::error_code error;
+        if (std::filesystem::exists(path, error)) {
+            OuvreFichier(path);
+        }
+    } catch (const Failure &failure) {
+        programme_.messages.Report(failure, " Main/FileMru");
+    }
+}
+
+void frmmain::Exporte(const ExportForm &form) {
+    const Exported exported = form.Export(programme_, [this] { mnu_filepage_Click(); });
+    if (exported.failed) {
+        affclear();
+    }
+    if (!exported.bytes) {
+        return;
+    }
+    FileQuestion question;
+    question.title = form.filter_text;
+    question.name = programme_.rib.NomProfil + "." + form.extension;
+    question.filter_text = form.filter_text;
+    question.default_extension = form.extension;
+    const std::string path = programme_.platform.ChooseSaveFile(question);
+    if (!path.empty() && !ReplaceFile(path, *exported.bytes)) {
+        throw MakeFailure(kPathFileAccess, path);
+    }
+}
+
+void frmmain::mnu_filepdf_Click() {
+    Exporte(*FindExportForm("pdf"));
+}
+
+void frmmain::mnu_filesvg_Click() {
+    Exporte(*FindExportForm("svg"));
+}
+
+void frmmain::mnu_filepage_Click() {
+    frmPrint dialog(programme_, this);
+    ShowModal(dialog);
+}
+
+void frmmain::mnu_fileprinterconfig_Click() {
+    programme_.platform.ShowPrinterSettings();
+}
+
+Impression frmmain::ImpressionEnCours() {
+    return ImpressionDuRib(programme_, programme_.plot);
+}
+
+void frmmain::mnu_fileprint_Click() {
+    const Messages &messages = programme_.messages;
+    if (!messages.Confirm(QuestionImpression(programme_.rib, messages), kTitre)) {
+        return;
+    }
+    const float zoom = programme_.rib.Zoom;
+    const Impression run = ImpressionEnCours();
+    if (!PrepareFeuilles(run, [this] { mnu_filepage_Click(); })) {
+        return;
+    }
+    const auto printer = programme_.platform.OpenPrinter(DemandeImprimante(run));
+    if (!printer) {
+        return;
+    }
+    const FinImpression end = Imprime(run, *printer);
+    programme_.rib.Zoom = zoom;
+    if (end == FinImpression::trace_echec) {
+        affclear();
+    }
+}
+
+void frmmain::mnu_fileexit_Click() {
+    close();
+}
+
+void frmmain::mnu_affinver_Click() {
+    programme_.rib.AffHaut = Checked("mnu_affinver");
+    affiche();
+}
+
+void frmmain::mnu_affcouleur_Click() {
+    frmcoul dialog(programme_, this);
+    ShowModal(dialog);
+    RetraceVues();
+    affiche();
+}
+
+void frmmain::mnu_affhautba_Click() {
+    programme_.rib.AffHautBA = Checked("mnu_affhautba");
+    affiche();
+}
+
+void frmmain::mnu_affhautbf_Click() {
+    programme_.rib.AffHautBF = Checked("mnu_affhautbf");
+    affiche();
+}
+
+void frmmain::mnu_affepr_Click() {
+    programme_.rib.AffEpr = Checked("mnu_affepr");
+    affiche();
+}
+
+void frmmain::mnu_affTrac_Click() {
+    programme_.rib.AffTrac = Checked("mnu_affTrac");
+    affiche();
+}
+
+void frmmain::mnu_afflignRef_Click() {
+    programme_.rib.AffLignRef = Checked("mnu_afflignRef");
+    affiche();
+}
+
+void frmmain::mnu_affclear_Click() {
+    const RibModel &rib = programme_.rib;
+    const bool ask = rib.ProfilCharge && !rib.ModeCouple && !rib.FichierRibOuvert;
+    if (!ask || ConfirmePerte({"FrmMainMessage", "5"}, {"FrmMainMessage", "6"})) {
+        affclear();
+    }
+}
+
+void frmmain::mnu_affLang_Click() {
+    lang dialog(programme_, *this, this);
+    ShowModal(dialog);
+}
+
+void frmmain::mnu_profilcorde_Click() {
+    if (Saisit("corde")) {
+        RetraceVues();
+        MajGabarit(programme_.rib, programme_.settings.Unite, programme_.messages);
+        affiche();
+    }
+}
+
+void frmmain::mnu_profilepcoffrage_Click() {
+    if (Saisit("epcof")) {
+        affiche();
+    }
+}
+
+void frmmain::mnu_profilbaD_Click() {
+    if (Saisit("ba")) {
+        affiche();
+    }
+}
+
+void frmmain::mnu_profilbf_Click() {
+    if (Saisit("bf")) {
+        affiche();
+    }
+}
+
+void frmmain::mnu_paramrep_Click() {
+    if (Saisit("rep")) {
+        affiche();
+    }
+}
+
+void frmmain::cmdba_Click() {
+    // The V-notch square has no window yet.
+    if (programme_.rib.TypeBA == 1) {
+        mnu_profilbaD_Click();
+    }
+}
+
+void frmmain::mnu_calc_Click() {
+    if (programme_.platform.StartProgram("calc")) {
+        return;
+    }
+    std::string text = programme_.Text({"Erreur", "6"});
+    if (text.empty()) {
+        text = "The windows Calculator does not exist";
+    }
+    programme_.messages.Tell(text, std::string(kTitre) + " No-Calc", BoxIcon::warning);
+}
+
+void frmmain::mnu_helpsearch_Click() {
+    constexpr int kHelpTopics = 10;
+    programme_.platform.ShowHelp(kHelpTopics);
+}
+
+void frmmain::mnu_helpAbout_Click() {
+    frmAbout dialog(programme_, this);
+    ShowModal(dialog);
+}
+
+} // namespace loftwing

@@ -1,0 +1,87 @@
+#include "mainwindow/pic_view.h"
+
+#include "platform/qt_plot_device.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+namespace loftwing {
+
+namespace {
+
+constexpr int kWheelNotch = 120; // eighths of a degree
+
+} // namespace
+
+PicView::PicView(QWidget *parent) : QWidget(parent) {
+    setObjectName("Pic");
+    setMinimumSize(120, 80);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void PicView::Montre(std::unique_ptr<Recording> drawing) {
+    drawing_ = std::move(drawing);
+    update();
+}
+
+void PicView::paintEvent(QPaintEvent *) {
+    QPainter painter(this);
+    painter.fillRect(rect(), Qt::white);
+    if (drawing_) {
+        ReplayOnScreen(*drawing_, painter);
+    }
+}
+
+void PicView::resizeEvent(QResizeEvent *event) {
+    QWidget::resizeEvent(event);
+    Q_EMIT Redimensionne();
+}
+
+void PicView::wheelEvent(QWheelEvent *event) {
+    const QPoint turn = event->angleDelta();
+    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
+        const bool across = event->modifiers().testFlag(Qt::ShiftModifier) && turn.x() == 0;
+        const double x = static_cast<double>(across ? turn.y() : turn.x()) / kWheelNotch;
+        const double y = across ? 0.0 : static_cast<double>(turn.y()) / kWheelNotch;
+        Q_EMIT Roule(x, y);
+        event->accept();
+        return;
+    }
+    zoom_turn_ += turn.y();
+    const int steps = zoom_turn_ / kWheelNotch;
+    zoom_turn_ -= steps * kWheelNotch;
+    if (steps != 0) {
+        Q_EMIT ZoomDemande(steps);
+    }
+    event->accept();
+}
+
+void PicView::mousePressEvent(QMouseEvent *event) {
+    if (event->button() == Qt::RightButton) {
+        Q_EMIT MenuDemande(event->globalPosition().toPoint());
+    } else if (event->button() == Qt::MiddleButton) {
+        dragging_ = true;
+        dragged_from_ = event->position().toPoint();
+        setCursor(Qt::ClosedHandCursor);
+    }
+}
+
+void PicView::mouseMoveEvent(QMouseEvent *event) {
+    if (!dragging_) {
+        return;
+    }
+    const QPoint here = event->position().toPoint();
+    Q_EMIT Tire(here - dragged_from_);
+    dragged_from_ = here;
+}
+
+void PicView::mouseReleaseEvent(QMouseEvent *event) {
+    if (event->button() == Qt::MiddleButton && dragging_) {
+        dragging_ = false;
+        unsetCursor();
+    }
+}
+
+} // namespace loftwing

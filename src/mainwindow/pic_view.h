@@ -1,0 +1,50 @@
+/// The picture of the main window.
+#pragma once
+
+#include "output/recording.h"
+
+#include <QPoint>
+#include <QWidget>
+
+#include <memory>
+
+namespace loftwing {
+
+/// Shows a recorded drawing on white paper, whatever the desktop's theme. An exposed part is drawn
+/// again from the recording, never computed.
+class PicView : public QWidget {
+    Q_OBJECT
+
+  public:
+    explicit PicView(QWidget *parent);
+
+    /// Takes a new drawing, null for an empty picture.
+    void Montre(std::unique_ptr<Recording> drawing);
+    const Recording *Dessin() const { return drawing_.get(); }
+
+  Q_SIGNALS:
+    void MenuDemande(const QPoint &global);
+    /// Ctrl with the wheel: +1 a step larger, -1 a step smaller.
+    void ZoomDemande(int steps);
+    /// The wheel alone: notches, positive to the left or up.
+    void Roule(double across, double down);
+    /// The middle button drags the drawing by that many logical pixels.
+    void Tire(const QPoint &pixels);
+    void Redimensionne();
+
+  protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+  private:
+    std::unique_ptr<Recording> drawing_;
+    QPoint dragged_from_;
+    bool dragging_ = false;
+    int zoom_turn_ = 0; ///< wheel turn in eighths of a degree that made no whole step yet
+};
+
+} // namespace loftwing

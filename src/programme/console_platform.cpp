@@ -1,0 +1,49 @@
+#include "programme/console_platform.h"
+
+#include "output/printer.h"
+
+#include <algorithm>
+
+namespace loftwing {
+
+namespace {
+
+std::string OnOneLine(std::string text) {
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    return text;
+}
+
+} // namespace
+
+BoxAnswer ConsolePlatform::Show(const MessageBox &box) {
+    last_text_ = OnOneLine(box.text);
+    lines_ << OnOneLine(box.title) << ": " << last_text_ << '\n';
+    return box.buttons == BoxButtons::yes_no && says_yes_ ? BoxAnswer::yes : box.fallback;
+}
+
+std::optional<std::string> ConsolePlatform::Ask(const std::string &, const std::string &,
+                                                const std::string &) {
+    return std::nullopt;
+}
+
+std::string ConsolePlatform::ChooseOpenFile(const FileQuestion &) {
+    return {};
+}
+
+std::string ConsolePlatform::ChooseSaveFile(const FileQuestion &) {
+    return {};
+}
+
+std::string ConsolePlatform::ChooseFolder(const std::string &, const std::string &) {
+    return {};
+}
+
+std::string ConsolePlatform::StoredValue(const std::string &, const std::string &) {
+    return {};
+}
+
+std::unique_ptr<Printer> ConsolePlatform::OpenPrinter(const PrintQuestion &) {
+    return nullptr;
+}
+
+} // namespace loftwing

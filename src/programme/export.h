@@ -1,0 +1,26 @@
+/// The drawing as it goes into files.
+#pragma once
+
+#include "output/print_run.h"
+#include "output/recording.h"
+#include "programme/programme.h"
+
+#include <memory>
+#include <string>
+
+namespace loftwing {
+
+/// Records the rib as the screen shows it at 100 %, unscrolled. Drawn from a fresh plot state, so
+/// that a file depends on the rib alone and not on what was drawn before it. Nothing when the rib
+/// doesn't fit or the plot fails; a box told why, and after a failure `failed` is set: the window
+/// then clears the rib.
+std::unique_ptr<Recording> DessineRib(Programme &programme, bool &failed,
+                                      Recording::Measure measure = MeasuredAdvance);
+
+/// A print run of the rib. It works on the plot state given, and the view is that of paper.
+Impression ImpressionDuRib(Programme &programme, PlotState &plot);
+
+/// The rib as SVG; empty as DessineRib.
+std::string ExporteSvg(Programme &programme, bool &failed);
+
+} // namespace loftwing

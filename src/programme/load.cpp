@@ -1,0 +1,75 @@
+#include "programme/load.h"
+
+#include "base/number_text.h"
+#include "output/page_setup.h"
+
+namespace loftwing {
+
+namespace {
+
+void LitOuEcrit(Programme &programme) {
+    const Reglages reglages = programme.ReglagesEnCours();
+    const std::string &folder = programme.paths.programme;
+    ValeursDefaut(reglages, folder);
+    programme.PremierDemarrage =
+        GetINIFile("Repertoires", "Install", programme.paths.fichier).empty();
+    if (programme.PremierDemarrage) {
+        ReadInstallFolders(reglages, folder);
+        EcritTout(reglages);
+    } else {
+        LitTout(reglages);
+    }
+}
+
+} // namespace
+
+void ChargeReglages(Programme &programme) {
+    programme.rib.AffTrac = true;
+    programme.rib.AffLignRef = true;
+    programme.rib.Modifie = false;
+    programme.settings.Unite = kUniteMm;
+    try {
+        LitOuEcrit(programme);
+    } catch (const Failure &failure) {
+        programme.messages.Report(failure, " Main/Form_Load");
+        programme.settings.Unite = kUniteMm;
+        ValeursDefaut(programme.ReglagesEnCours(), programme.paths.programme);
+    }
+    ControlRep(programme.ReglagesEnCours(), programme.paths.programme);
+    ReplaceYdprint(programme.settings.page, programme.settings.Unite);
+}
+
+void FinPremierDemarrage(Programme &programme) {
+    WriteINIFile("Repertoires", "Install", "1", programme.paths.fichier);
+    programme.PremierDemarrage = false;
+}
+
+void EntreProfil(Programme &programme) {
+    ReprendProfil(programme.rib);
+    NoteFichierRecent(programme.rib.CheminProfil, programme.paths.fichier);
+}
+
+void VideRib(Programme &programme) {
+    RibModel &rib = programme.rib;
+    RazRib(rib, ToSingle(NombreMm(rib.EpBAAfich, programme.SaisieEnCours())));
+    WriteINIFile("InsText", "TailleFont", NumberText(rib.texte.TailleFont),
+                 programme.paths.fichier);
+    rib.EpMaxi = 0;
+    rib.CambrureMaxi = 0;
+    rib.AffHaut = false;
+    rib.AffTrac = true;
+    rib.AffLignRef = true;
+    rib.AffEpr = false;
+    rib.AffHautBA = false;
+    rib.AffHautBF = false;
+    rib.NomProfil.clear();
+    rib.EnteteProfil.clear();
+    rib.ProfilCharge = false;
+    rib.Modifie = false;
+    rib.Annule = false;
+    rib.SansApercu = false;
+    rib.ModeCouple = false;
+    rib.FichierRibOuvert = false;
+}
+
+} // namespace loftwing
