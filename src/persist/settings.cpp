@@ -160,6 +160,16 @@ std::string CleRecente(int number) {
     return "RecentFile" + std::to_string(number);
 }
 
+/// Writes entries 1 to `count` one place lower.
+void DescendRecents(IniFile &file, const FichiersRecents &recent, int count, bool with_empty) {
+    for (int i = 1; i <= count; ++i) {
+        const std::string &entry = At(recent, i - 1);
+        if (with_empty || !entry.empty()) {
+            file.SetValue("LastFiles", CleRecente(i + 1), entry);
+        }
+    }
+}
+
 } // namespace
 
 void ValeursDefaut(const Reglages &reglages, const std::string &programme) {
@@ -252,23 +262,24 @@ FichiersRecents LitFichiersRecents(const std::string &fichier) {
 }
 
 void NoteFichierRecent(const std::string &path, const std::string &fichier) {
-    FichiersRecents recent = LitFichiersRecents(fichier);
+    const FichiersRecents recent = LitFichiersRecents(fichier);
     if (recent.front() == path) {
         return;
     }
-    // The entries above the path's old place move down by one; without an old place all do, and
-    // the last one drops out.
-    const auto found = std::find(recent.begin(), recent.end(), path);
-    const auto end = found == recent.end() ? recent.end() : found + 1;
-    std::move_backward(recent.begin(), end - 1, end);
-    recent.front() = path;
     IniFile file = IniFile::Read(fichier);
-    for (int i = 1; i <= kFichiersRecents; ++i) {
-        const std::string &entry = At(recent, i - 1);
-        if (!entry.empty()) {
-            file.SetValue("LastFiles", CleRecente(i), entry);
+    // Where the path is found, what stands above it moves down by one, empty entries included.
+    bool found = false;
+    for (int i = 2; i <= kFichiersRecents; ++i) {
+        if (At(recent, i - 1) == path) {
+            DescendRecents(file, recent, i - 1, true);
+            found = true;
         }
     }
+    if (!found) {
+        // All move down and the last one drops out; an empty entry overwrites nothing.
+        DescendRecents(file, recent, kFichiersRecents - 1, false);
+    }
+    file.SetValue("LastFiles", CleRecente(1), path);
     file.Save(fichier);
 }
 
