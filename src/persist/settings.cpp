@@ -5,7 +5,6 @@
 #include "output/page_setup.h"
 #include "output/styles.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <functional>
 #include <vector>
@@ -38,7 +37,9 @@ Ligne Longueur(const Reglages &reglages, const char *section, const char *key, s
                float &number) {
     return {section, key, [&afich] { return afich; },
             [reglages, &afich, &number](const std::string &value) {
-                StockeLongueur(value, {reglages.settings.Unite, reglages.messages}, afich, number);
+                // First the number: a text that is none leaves the pair as it was.
+                number = ToSingle(NombreMm(value, {reglages.settings.Unite, reglages.messages}));
+                afich = value;
             }};
 }
 
@@ -111,20 +112,51 @@ Table TableMarges(const Reglages &reglages) {
 }
 
 void Ecrit(const Reglages &reglages, const std::vector<Table> &tables) {
-    IniFile file = IniFile::Read(reglages.fichier);
-    for (const Table &table : tables) {
-        for (const Ligne &line : table) {
-            file.SetValue(line.section, line.key, line.ecrit());
+    try {
+        IniFile file = IniFile::Read(reglages.fichier);
+        for (const Table &table : tables) {
+            for (const Ligne &line : table) {
+                file.SetValue(line.section, line.key, line.ecrit());
+            }
         }
+        file.Save(reglages.fichier);
+    } catch (const Failure &failure) {
+        reglages.messages.Report(failure, " WriteINIFile");
     }
-    file.Save(reglages.fichier);
 }
 
-void Lit(const Reglages &reglages, const Table &table) {
-    const IniFile file = IniFile::Read(reglages.fichier);
-    for (const Ligne &line : table) {
-        line.lit(file.Value(line.section, line.key));
+std::vector<Table> ToutesLesTables(const Reglages &reglages) {
+    return {TableCouleurs(reglages), TableStyles(reglages),      TableEpaisseurs(reglages),
+            TableDefauts(reglages),  TableRepertoires(reglages), TableMarges(reglages)};
+}
+
+/// One bad value costs that value alone: a settings file is edited by hand, and the program must
+/// start all the same.
+bool LitLigne(const Reglages &reglages, const Ligne &line, const std::string &value) {
+    try {
+        line.lit(value);
+        return true;
+    } catch (const Failure &failure) {
+        reglages.messages.Report(failure, " GetINIFile");
+        return false;
     }
+}
+
+bool Lit(const Reglages &reglages, const std::vector<Table> &tables) {
+    IniFile file;
+    try {
+        file = IniFile::Read(reglages.fichier);
+    } catch (const Failure &failure) {
+        reglages.messages.Report(failure, " GetINIFile");
+        return false;
+    }
+    bool whole = true;
+    for (const Table &table : tables) {
+        for (const Ligne &line : table) {
+            whole = LitLigne(reglages, line, file.Value(line.section, line.key)) && whole;
+        }
+    }
+    return whole;
 }
 
 bool SameFolder(const std::string &one, const std::string &other) {
@@ -199,36 +231,30 @@ void EcritMarges(const Reglages &reglages) {
 }
 
 void EcritTout(const Reglages &reglages) {
-    Ecrit(reglages, {TableCouleurs(reglages), TableStyles(reglages), TableEpaisseurs(reglages),
-                     TableDefauts(reglages), TableRepertoires(reglages), TableMarges(reglages)});
+    Ecrit(reglages, ToutesLesTables(reglages));
 }
 
-void LitCouleurs(const Reglages &reglages) {
-    Lit(reglages, TableCouleurs(reglages));
+bool LitCouleurs(const Reglages &reglages) {
+    return Lit(reglages, {TableCouleurs(reglages)});
 }
-void LitStyles(const Reglages &reglages) {
-    Lit(reglages, TableStyles(reglages));
+bool LitStyles(const Reglages &reglages) {
+    return Lit(reglages, {TableStyles(reglages)});
 }
-void LitEpaisseurs(const Reglages &reglages) {
-    Lit(reglages, TableEpaisseurs(reglages));
+bool LitEpaisseurs(const Reglages &reglages) {
+    return Lit(reglages, {TableEpaisseurs(reglages)});
 }
-void LitDefauts(const Reglages &reglages) {
-    Lit(reglages, TableDefauts(reglages));
+bool LitDefauts(const Reglages &reglages) {
+    return Lit(reglages, {TableDefauts(reglages)});
 }
-void LitRepertoires(const Reglages &reglages) {
-    Lit(reglages, TableRepertoires(reglages));
+bool LitRepertoires(const Reglages &reglages) {
+    return Lit(reglages, {TableRepertoires(reglages)});
 }
-void LitMarges(const Reglages &reglages) {
-    Lit(reglages, TableMarges(reglages));
+bool LitMarges(const Reglages &reglages) {
+    return Lit(reglages, {TableMarges(reglages)});
 }
 
-void LitTout(const Reglages &reglages) {
-    LitCouleurs(reglages);
-    LitStyles(reglages);
-    LitEpaisseurs(reglages);
-    LitDefauts(reglages);
-    LitRepertoires(reglages);
-    LitMarges(reglages);
+bool LitTout(const Reglages &reglages) {
+    return Lit(reglages, ToutesLesTables(reglages));
 }
 
 void ReadInstallFolders(const Reglages &reglages, const std::string &programme) {
