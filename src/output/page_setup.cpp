@@ -1,5 +1,7 @@
 #include "output/page_setup.h"
 
+#include <cmath>
+
 namespace loftwing {
 
 namespace {
@@ -17,7 +19,7 @@ Feuilles Recoupe(MiseEnPage &page, float step, float length) {
     if (step <= 0.0F) {
         return Feuilles::sans_pas;
     }
-    const double whole = static_cast<double>(static_cast<long>(Quotient(Wide(length), Wide(step))));
+    const double whole = std::trunc(Quotient(Wide(length), Wide(step)));
     page.NbPages = ToByte(whole + 1.0);
     page.PasPage = step;
     return Feuilles::plusieurs;

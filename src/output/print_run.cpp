@@ -54,8 +54,9 @@ void DecaleOrigine(const Impression &run, int i) {
 /// Runs `job`; whatever goes wrong drops what was to be printed.
 template <class Job>
 FinImpression Conduit(const Impression &run, Printer &printer, Job job) {
-    const Sablier sablier(run.messages.platform);
     try {
+        // Gone before the box of a failure: that one waits for the user.
+        const Sablier sablier(run.messages.platform);
         if (!job()) {
             printer.Abort();
             return FinImpression::trace_echec;
@@ -82,7 +83,9 @@ std::string QuestionImpression(const RibModel &rib, const Messages &messages) {
     return messages.Text({"TextButton", "14"}) + " " + rib.NomProfil;
 }
 
-bool PrepareFeuilles(const Impression &run, const std::function<void()> &set_up_page) {
+namespace {
+
+bool DecideFeuilles(const Impression &run, const std::function<void()> &set_up_page) {
     MiseEnPage &page = run.settings.page;
     if (page.NumIndex == kPapierImprimante) {
         return true;
@@ -110,6 +113,17 @@ bool PrepareFeuilles(const Impression &run, const std::function<void()> &set_up_
         return false;
     }
     return true;
+}
+
+} // namespace
+
+bool PrepareFeuilles(const Impression &run, const std::function<void()> &set_up_page) {
+    try {
+        return DecideFeuilles(run, set_up_page);
+    } catch (const Failure &failure) {
+        run.messages.ReportPlot(failure, "");
+        return false;
+    }
 }
 
 PrintQuestion DemandeImprimante(const Impression &run) {

@@ -6,6 +6,7 @@
 #include "output/rib_plot.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace loftwing {
 
@@ -18,13 +19,21 @@ double Wide(float value) {
     return static_cast<double>(value);
 }
 
+/// Scale first: it changes even when the stocks then don't fit.
+void MetAEchelle(const RibModel &rib, PlotState &plot) {
+    plot.CordeEchelle = ToSingle(Wide(rib.corde) * kUnitsPerMm * Wide(rib.Zoom));
+}
+
 void PlaceSurEcran(const RibModel &rib, PlotState &plot) {
     const double corde = Wide(rib.corde);
     const double zoom = Wide(rib.Zoom);
-    plot.CordeEchelle = ToSingle(corde * kUnitsPerMm * zoom);
     plot.OrigineX = ToSingle(kMargeGauche + rib.DecalX * corde * zoom / 2.0);
     plot.OrigineY = ToSingle(-rib.DecalY * corde * zoom / 2.0 +
                              corde * rib.ExtradosMaxi * kUnitsPerMm * zoom + kMargeHaute);
+    if (rib.TypeGabarit == kGabaritMousse) {
+        const double half = std::abs(Wide(rib.bloc.HTbloc)) / 2.0;
+        plot.OrigineY = ToSingle(Wide(plot.OrigineY) + half * kUnitsPerMm * zoom);
+    }
 }
 
 } // namespace
@@ -51,10 +60,11 @@ Affichage afficheRib(const Trace &trace) {
     if (!RibVisible(trace.rib)) {
         return Affichage::rien;
     }
-    if (!StocksTiennent(trace.rib, trace.messages)) {
-        return Affichage::refuse;
-    }
     try {
+        MetAEchelle(trace.rib, trace.plot);
+        if (!StocksTiennent(trace.rib, trace.messages)) {
+            return Affichage::refuse;
+        }
         PlaceSurEcran(trace.rib, trace.plot);
     } catch (const Failure &failure) {
         trace.messages.ReportPlot(failure, " Main/PrintSubroutine");

@@ -1,6 +1,7 @@
 #include "output/svg_writer.h"
 
 #include "base/failure.h"
+#include "base/text_encoding.h"
 
 #include <algorithm>
 #include <array>
@@ -63,10 +64,11 @@ std::string Stroke(const Pen &pen) {
     return text;
 }
 
-/// Text as XML takes it. Control characters have no place in it.
+/// Text as XML takes it. Control characters have no place in it, and file names may hold bytes that
+/// are no UTF-8.
 std::string Escaped(const std::string &text) {
     std::string escaped;
-    for (const char character : text) {
+    for (const char character : ToUtf8(text)) {
         switch (character) {
         case '&':
             escaped += "&amp;";
@@ -136,7 +138,9 @@ std::string WriteSvg(const Recording &drawing, const std::string &title) {
     const Extent extent = drawing.Bounds();
     const double width = std::max(0.0, Mm(extent.right)) + kMargin;
     const double height = std::max(0.0, Mm(extent.bottom)) + kMargin;
-    if (width > kLargest || height > kLargest) {
+    const double farthest =
+        std::max({width, height, std::abs(Mm(extent.left)), std::abs(Mm(extent.top))});
+    if (farthest > kLargest) {
         throw MakeFailure(kOverflow);
     }
     SvgWriter writer;

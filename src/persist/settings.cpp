@@ -5,7 +5,6 @@
 #include "output/page_setup.h"
 #include "output/styles.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <functional>
 #include <vector>
@@ -38,7 +37,9 @@ Ligne Longueur(const Reglages &reglages, const char *section, const char *key, s
                float &number) {
     return {section, key, [&afich] { return afich; },
             [reglages, &afich, &number](const std::string &value) {
-                StockeLongueur(value, {reglages.settings.Unite, reglages.messages}, afich, number);
+                // First the number: a text that is none leaves the pair as it was.
+                number = ToSingle(NombreMm(value, {reglages.settings.Unite, reglages.messages}));
+                afich = value;
             }};
 }
 
@@ -111,20 +112,51 @@ Table TableMarges(const Reglages &reglages) {
 }
 
 void Ecrit(const Reglages &reglages, const std::vector<Table> &tables) {
-    IniFile file = IniFile::Read(reglages.fichier);
-    for (const Table &table : tables) {
-        for (const Ligne &line : table) {
-            file.SetValue(line.section, line.key, line.ecrit());
+    try {
+        IniFile file = IniFile::Read(reglages.fichier);
+        for (const Table &table : tables) {
+            for (const Ligne &line : table) {
+                file.SetValue(line.section, line.key, line.ecrit());
+            }
         }
+        file.Save(reglages.fichier);
+    } catch (const Failure &failure) {
+        reglages.messages.Report(failure, " WriteINIFile");
     }
-    file.Save(reglages.fichier);
 }
 
-void Lit(const Reglages &reglages, const Table &table) {
-    const IniFile file = IniFile::Read(reglages.fichier);
-    for (const Ligne &line : table) {
-        line.lit(file.Value(line.section, line.key));
+std::vector<Table> ToutesLesTables(const Reglages &reglages) {
+    return {TableCouleurs(reglages), TableStyles(reglages),      TableEpaisseurs(reglages),
+            TableDefauts(reglages),  TableRepertoires(reglages), TableMarges(reglages)};
+}
+
+/// One bad value costs that value alone: a settings file is edited by hand, and the program must
+/// start all the same.
+bool LitLigne(const Reglages &reglages, const Ligne &line, const std::string &value) {
+    try {
+        line.lit(value);
+        return true;
+    } catch (const Failure &failure) {
+        reglages.messages.Report(failure, " GetINIFile");
+        return false;
     }
+}
+
+bool Lit(const Reglages &reglages, const std::vector<Table> &tables) {
+    IniFile file;
+    try {
+        file = IniFile::Read(reglages.fichier);
+    } catch (const Failure &failure) {
+        reglages.messages.Report(failure, " GetINIFile");
+        return false;
+    }
+    bool whole = true;
+    for (const Table &table : tables) {
+        for (const Ligne &line : table) {
+            whole = LitLigne(reglages, line, file.Value(line.section, line.key)) && whole;
+        }
+    }
+    return whole;
 }
 
 bool SameFolder(const std::string &one, const std::string &other) {
@@ -160,6 +192,16 @@ std::string CleRecente(int number) {
     return "RecentFile" + std::to_string(number);
 }
 
+/// Writes entries 1 to `count` one place lower.
+void DescendRecents(IniFile &file, const FichiersRecents &recent, int count, bool with_empty) {
+    for (int i = 1; i <= count; ++i) {
+        const std::string &entry = At(recent, i - 1);
+        if (with_empty || !entry.empty()) {
+            file.SetValue("LastFiles", CleRecente(i + 1), entry);
+        }
+    }
+}
+
 } // namespace
 
 void ValeursDefaut(const Reglages &reglages, const std::string &programme) {
@@ -189,36 +231,30 @@ void EcritMarges(const Reglages &reglages) {
 }
 
 void EcritTout(const Reglages &reglages) {
-    Ecrit(reglages, {TableCouleurs(reglages), TableStyles(reglages), TableEpaisseurs(reglages),
-                     TableDefauts(reglages), TableRepertoires(reglages), TableMarges(reglages)});
+    Ecrit(reglages, ToutesLesTables(reglages));
 }
 
-void LitCouleurs(const Reglages &reglages) {
-    Lit(reglages, TableCouleurs(reglages));
+bool LitCouleurs(const Reglages &reglages) {
+    return Lit(reglages, {TableCouleurs(reglages)});
 }
-void LitStyles(const Reglages &reglages) {
-    Lit(reglages, TableStyles(reglages));
+bool LitStyles(const Reglages &reglages) {
+    return Lit(reglages, {TableStyles(reglages)});
 }
-void LitEpaisseurs(const Reglages &reglages) {
-    Lit(reglages, TableEpaisseurs(reglages));
+bool LitEpaisseurs(const Reglages &reglages) {
+    return Lit(reglages, {TableEpaisseurs(reglages)});
 }
-void LitDefauts(const Reglages &reglages) {
-    Lit(reglages, TableDefauts(reglages));
+bool LitDefauts(const Reglages &reglages) {
+    return Lit(reglages, {TableDefauts(reglages)});
 }
-void LitRepertoires(const Reglages &reglages) {
-    Lit(reglages, TableRepertoires(reglages));
+bool LitRepertoires(const Reglages &reglages) {
+    return Lit(reglages, {TableRepertoires(reglages)});
 }
-void LitMarges(const Reglages &reglages) {
-    Lit(reglages, TableMarges(reglages));
+bool LitMarges(const Reglages &reglages) {
+    return Lit(reglages, {TableMarges(reglages)});
 }
 
-void LitTout(const Reglages &reglages) {
-    LitCouleurs(reglages);
-    LitStyles(reglages);
-    LitEpaisseurs(reglages);
-    LitDefauts(reglages);
-    LitRepertoires(reglages);
-    LitMarges(reglages);
+bool LitTout(const Reglages &reglages) {
+    return Lit(reglages, ToutesLesTables(reglages));
 }
 
 void DeriveLongueurs(const Reglages &reglages) {
@@ -260,23 +296,24 @@ FichiersRecents LitFichiersRecents(const std::string &fichier) {
 }
 
 void NoteFichierRecent(const std::string &path, const std::string &fichier) {
-    FichiersRecents recent = LitFichiersRecents(fichier);
+    const FichiersRecents recent = LitFichiersRecents(fichier);
     if (recent.front() == path) {
         return;
     }
-    // The entries above the path's old place move down by one; without an old place all do, and
-    // the last one drops out.
-    const auto found = std::find(recent.begin(), recent.end(), path);
-    const auto end = found == recent.end() ? recent.end() : found + 1;
-    std::move_backward(recent.begin(), end - 1, end);
-    recent.front() = path;
     IniFile file = IniFile::Read(fichier);
-    for (int i = 1; i <= kFichiersRecents; ++i) {
-        const std::string &entry = At(recent, i - 1);
-        if (!entry.empty()) {
-            file.SetValue("LastFiles", CleRecente(i), entry);
+    // Where the path is found, what stands above it moves down by one, empty entries included.
+    bool found = false;
+    for (int i = 2; i <= kFichiersRecents; ++i) {
+        if (At(recent, i - 1) == path) {
+            DescendRecents(file, recent, i - 1, true);
+            found = true;
         }
     }
+    if (!found) {
+        // All move down and the last one drops out; an empty entry overwrites nothing.
+        DescendRecents(file, recent, kFichiersRecents - 1, false);
+    }
+    file.SetValue("LastFiles", CleRecente(1), path);
     file.Save(fichier);
 }
 

@@ -32,27 +32,29 @@ void EcritRepertoires(const Reglages &reglages);
 void EcritMarges(const Reglages &reglages);
 void EcritTout(const Reglages &reglages);
 
-/// Readers. A key that isn't there reads as the empty text, and so as 0. Failure 6 for a number
-/// that doesn't fit its field, 11 for a fraction with denominator 0.
-void LitCouleurs(const Reglages &reglages);
-void LitStyles(const Reglages &reglages);
-void LitEpaisseurs(const Reglages &reglages);
-void LitDefauts(const Reglages &reglages);
-void LitRepertoires(const Reglages &reglages);
-void LitMarges(const Reglages &reglages);
-void LitTout(const Reglages &reglages);
+/// Readers. A key that isn't there reads as the empty text, and so as 0. A file that can't be read
+/// and a value that doesn't fit its field are reported in a box; the fields concerned stay as they
+/// are, and the reader gives false.
+bool LitCouleurs(const Reglages &reglages);
+bool LitStyles(const Reglages &reglages);
+bool LitEpaisseurs(const Reglages &reglages);
+bool LitDefauts(const Reglages &reglages);
+bool LitRepertoires(const Reglages &reglages);
+bool LitMarges(const Reglages &reglages);
+bool LitTout(const Reglages &reglages);
 
 /// Derives all lengths anew from their texts, after the unit has changed under them.
 void DeriveLongueurs(const Reglages &reglages);
 
 /// Takes RepProfil and RepProfilevol from the user's own store, `programme` where that has none,
-/// and writes them to the settings file.
+/// and writes them to the settings file. The airfoil picker then starts in RepProfil.
 void ReadInstallFolders(const Reglages &reglages, const std::string &programme);
 
 /// Warns of airfoil folders that are missing or that are the program's own folder.
 void ControlRep(const Reglages &reglages, const std::string &programme);
 
-/// The recently opened airfoils, most recent first.
+/// The recently opened airfoils, most recent first. Both routines raise what IniFile::Read raises
+/// for a file that is there but can't be read.
 inline constexpr int kFichiersRecents = 4;
 using FichiersRecents = std::array<std::string, kFichiersRecents>;
 FichiersRecents LitFichiersRecents(const std::string &fichier);
