@@ -5,8 +5,8 @@
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <memory>
+#include <random>
 
 namespace loftwing {
 
@@ -32,23 +32,42 @@ Failure OpenFailure(const std::string &path, int error) {
     return MakeFailure(folder_there ? kFileNotFound : kPathNotFound, path);
 }
 
-/// A name beside `path` that is nobody's: the process keeps it apart from other copies of the
-/// program.
+/// A name beside `path` that no other copy of the program is likely to take at the same moment.
 fs::path NameBeside(const fs::path &path) {
-    static unsigned counter = 0;
-    fs::path name = path;
-    name += ".part" + std::to_string(++counter) + '-' +
-            std::to_string(std::hash<std::string>{}(fs::absolute(path).string()) % 99991U);
-    return name;
+    static std::mt19937 dice{std::random_device{}()};
+    return path.parent_path() / ("loftwing-" + std::to_string(dice()) + ".part");
+}
+
+/// Whether the file at `target` may give way to a new one: it isn't there, or it is a plain file
+/// that may be written. Renaming over a device would destroy it, and a file that its owner has
+/// protected is not ours to replace, although the folder would allow both.
+bool MayBeReplaced(const fs::path &target) {
+    std::error_code error;
+    const fs::file_status status = fs::status(target, error);
+    if (status.type() == fs::file_type::not_found) {
+        return true;
+    }
+    if (!fs::is_regular_file(status)) {
+        return false;
+    }
+    const FileHandle file(std::fopen(target.c_str(), "r+b"));
+    return file != nullptr;
 }
 
 bool WriteAll(const fs::path &path, std::string_view bytes) {
-    const FileHandle file(std::fopen(path.c_str(), "wb"));
+    // Exclusively: a file that already bears the name is somebody else's.
+    FileHandle file(std::fopen(path.c_str(), "wbx"));
     if (!file) {
         return false;
     }
     const bool written = std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
-    return std::fflush(file.get()) == 0 && written;
+    const bool closed = std::fclose(file.release()) == 0;
+    if (written && closed) {
+        return true;
+    }
+    std::error_code ignored;
+    fs::remove(path, ignored);
+    return false;
 }
 
 } // namespace
@@ -83,8 +102,14 @@ std::string ReadWholeFile(const std::string &path) {
 }
 
 std::string ReadWholeFileIfThere(const std::string &path) {
-    std::error_code error;
-    return fs::exists(path, error) ? ReadWholeFile(path) : std::string();
+    try {
+        return ReadWholeFile(path);
+    } catch (const Failure &failure) {
+        if (failure.number != kFileNotFound && failure.number != kPathNotFound) {
+            throw;
+        }
+        return {};
+    }
 }
 
 bool ReplaceFile(const std::string &path, std::string_view bytes) {
@@ -95,8 +120,7 @@ bool ReplaceFile(const std::string &path, std::string_view bytes) {
         target = path;
     }
     const fs::path beside = NameBeside(target);
-    if (!WriteAll(beside, bytes)) {
-        fs::remove(beside, error);
+    if (!MayBeReplaced(target) || !WriteAll(beside, bytes)) {
         return false;
     }
     const fs::file_status old = fs::status(target, error);

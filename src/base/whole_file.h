@@ -18,7 +18,7 @@ std::string ReadWholeFileIfThere(const std::string &path);
 
 /// Writes `bytes` beside `path` and renames that over it when it is whole, so that a crash, a full
 /// disk or a refused write leaves what was there. Folders on the way are not made. False, and
-/// nothing left behind, when any step is refused.
+/// nothing left behind, when any step is refused, `path` is no plain file or is write-protected.
 bool ReplaceFile(const std::string &path, std::string_view bytes);
 
 } // namespace loftwing
