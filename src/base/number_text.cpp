@@ -55,13 +55,28 @@ std::size_t NumberLength(const std::string &text) {
     return end;
 }
 
-/// Whether a number that 64 bits can't hold is too large rather than too small.
-bool IsTooLarge(const std::string &number) {
-    const std::size_t mark = number.find_first_of("eE");
-    if (mark != std::string::npos) {
-        return number[mark + 1] != '-';
+/// The exponent behind the mark at `mark`, which may have any number of digits.
+long long ExponentOf(const std::string &number, std::size_t mark) {
+    constexpr long long kBeyondAll = 1'000'000'000'000; // no text is as long as that
+    const bool negative = number[mark + 1] == '-';
+    const std::size_t first = mark + (negative || number[mark + 1] == '+' ? 2 : 1);
+    long long power = 0;
+    const auto result =
+        std::from_chars(number.data() + first, number.data() + number.size(), power);
+    if (result.ec == std::errc::result_out_of_range || power > kBeyondAll) {
+        power = kBeyondAll;
     }
-    return number.find_first_of("123456789") < number.find('.');
+    return negative ? -power : power;
+}
+
+/// Whether a number that 64 bits can't hold is too large rather than too small: where its first
+/// digit that is not 0 stands, counted from the point, and its exponent tell.
+bool IsTooLarge(const std::string &number) {
+    const std::size_t mark = std::min(number.find_first_of("eE"), number.size());
+    const auto point = static_cast<long long>(std::min(number.find('.'), mark));
+    const auto first = static_cast<long long>(number.find_first_of("123456789"));
+    const long long power = mark < number.size() ? ExponentOf(number, mark) : 0;
+    return point - first + power > 0;
 }
 
 double ParseNumber(const std::string &number) {
@@ -178,8 +193,11 @@ void RoundDigits(const Decimal &decimal, std::size_t places, std::string &whole,
 /// The part of a picture before its point, filled from the right.
 std::string FillWhole(std::string_view picture, const std::string &whole) {
     std::string reversed;
-    std::size_t left =
-        static_cast<std::size_t>(std::count_if(picture.begin(), picture.end(), IsPlace));
+    auto left = std::count_if(picture.begin(), picture.end(), IsPlace);
+    if (left == 0) {
+        // Without a place for them the digits stand right before the point.
+        return std::string(picture) + whole;
+    }
     auto digit = whole.rbegin();
     for (auto place = picture.rbegin(); place != picture.rend(); ++place) {
         if (!IsPlace(*place)) {
@@ -200,18 +218,20 @@ std::string FillWhole(std::string_view picture, const std::string &whole) {
 }
 
 /// The part of a picture behind its point, filled from the left.
-std::string FillFraction(std::string_view picture, std::string fraction) {
-    fraction.erase(fraction.find_last_not_of('0') + 1);
+std::string FillFraction(std::string_view picture, const std::string &fraction) {
+    const std::size_t significant = fraction.find_last_not_of('0') + 1;
+    const std::size_t forced = picture.find_last_of('0') + 1; // a place before it is forced too
     std::string text;
     std::size_t next = 0;
-    for (const char character : picture) {
-        if (!IsPlace(character)) {
-            text += character;
-        } else if (next < fraction.size()) {
-            text += fraction[next++];
-        } else if (character == '0') {
-            text += '0';
+    for (std::size_t i = 0; i < picture.size(); ++i) {
+        if (!IsPlace(picture[i])) {
+            text += picture[i];
+            continue;
         }
+        if (next < significant || i < forced) {
+            text += fraction[next];
+        }
+        ++next;
     }
     return text;
 }
