@@ -19,13 +19,21 @@ struct Refus {
     BoxIcon icone = BoxIcon::information;
 };
 
-/// The whole file with a line feed behind each line.
+/// The whole file with a line feed behind each line. Made in place: a list of lines would take
+/// gigabytes for a large file of line ends.
 std::string TamponDeLignes(const std::string &path) {
-    std::string tampon;
-    for (const std::string &line : SplitLines(ToUtf8(ReadWholeFile(path)))) {
-        tampon += line;
+    std::string tampon = ToUtf8(ReadWholeFile(path));
+    if (!tampon.empty() && !tampon.ends_with('\n')) {
         tampon += '\n';
     }
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < tampon.size(); ++i) {
+        const bool before_end = tampon[i] == '\r' && tampon[i + 1] == '\n';
+        if (!before_end) {
+            tampon[kept++] = tampon[i];
+        }
+    }
+    tampon.resize(kept);
     return tampon;
 }
 
@@ -42,11 +50,12 @@ bool HasLetter(std::string_view text) {
                        [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); });
 }
 
-/// The y of a data line: the number behind its first blank; what follows that number is ignored.
+/// The y of a data line: the number behind its first blank. It ends at the next blank behind a
+/// digit, so that a further column is not taken for more of its digits; a sign may stand apart.
 double Ordonnee(std::string_view line, std::size_t blank) {
-    std::string_view text = TrimLeft(line.substr(blank));
-    text = text.substr(0, text.find(' '));
-    return LeadingNumber(text);
+    const std::string_view text = line.substr(blank);
+    const std::size_t digit = std::min(text.find_first_of("0123456789"), text.size());
+    return LeadingNumber(text.substr(0, text.find(' ', digit)));
 }
 
 class Lecteur {
