@@ -17,18 +17,19 @@ void AppendSample(RibModel &rib, double x, double y) {
     rib.ContourY.Append(y);
 }
 
-/// Calls `sample` for each of the ten steps from `from` to `to`. The loop value is 32 bits wide;
-/// rounding decides whether the tenth step falls inside.
+/// Calls `sample` for each of the ten steps from `from` to `to`; it tells whether it made a point.
+/// The loop value is 32 bits wide; rounding decides whether the tenth step falls inside. A step too
+/// small to change the loop value repeats its sample until the count runs over; where it makes no
+/// point nothing would ever end it, so that is the same failure at once.
 template <class Sample>
 void EachStep(double from, double to, Sample sample) {
     const float step = ToSingle((to - from) / kSamplesPerSegment);
     const float end = ToSingle(to);
     float v = ToSingle(from);
     while (step >= 0.0F ? v <= end : v >= end) {
-        sample(static_cast<double>(v));
+        const bool made = sample(static_cast<double>(v));
         const float next = ToSingle(static_cast<double>(v) + static_cast<double>(step));
-        if (next == v) {
-            // Such a step never ends, so the samples could only run over the count's limit.
+        if (next == v && !made) {
             throw MakeFailure(kOverflow);
         }
         v = next;
@@ -38,9 +39,11 @@ void EachStep(double from, double to, Sample sample) {
 /// Samples segment i along x. A sample on the segment's own first point is dropped.
 void SegmentAlongX(RibModel &rib, long i, long centre) {
     EachStep(rib.ProfilX(i), rib.ProfilX(i + 1), [&](double v) {
-        if (rib.ProfilX(i) != v) {
-            AppendSample(rib, v, InterpoleAitken(rib.ProfilX, rib.ProfilY, centre, v));
+        if (rib.ProfilX(i) == v) {
+            return false;
         }
+        AppendSample(rib, v, InterpoleAitken(rib.ProfilX, rib.ProfilY, centre, v));
+        return true;
     });
 }
 
@@ -48,6 +51,7 @@ void SegmentAlongX(RibModel &rib, long i, long centre) {
 void SegmentAlongY(RibModel &rib, long i) {
     EachStep(rib.ProfilY(i), rib.ProfilY(i + 1), [&](double v) {
         AppendSample(rib, InterpoleAitken(rib.ProfilY, rib.ProfilX, i, v), v);
+        return true;
     });
 }
 
@@ -67,8 +71,13 @@ double InterpoleStation(double t, const Encadrement &e) {
     if (std::abs(t - e.xh) < kSamePlace) {
         return e.yh;
     }
+    // An entry that can't be computed (no width, or a height beyond all numbers) is 0.
     const double run = std::abs(e.xh - e.xl);
-    return run == 0.0 ? 0.0 : e.yl + (e.yh - e.yl) / run * std::abs(t - e.xl);
+    if (run == 0.0) {
+        return 0.0;
+    }
+    const double height = e.yl + (e.yh - e.yl) / run * std::abs(t - e.xl);
+    return std::isfinite(height) ? height : 0.0;
 }
 
 /// Heights at falling abscissas over a run of points whose place in the run only moves on.
