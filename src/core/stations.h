@@ -24,6 +24,7 @@ float StationDepuisBA(double distance, float corde);
 double Hauteur(const TableStation &table, double station);
 
 /// The mm of a display text that is a length or, with "%" as last character, a part of the chord.
+/// Failures as VersMm.
 double ValeurPourcent(const std::string &text, float corde, const Saisie &saisie);
 /// The chord less ValeurPourcent.
 double ValeurPourcentBF(const std::string &text, float corde, const Saisie &saisie);

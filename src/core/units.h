@@ -25,7 +25,7 @@ struct Saisie {
 std::string VersMm(const std::string &text, const Saisie &saisie);
 
 /// A text in mm to what is shown in `Unite`: in inches a fraction when the value is a multiple of
-/// 1/64, else up to three decimals.
+/// 1/64, else up to three decimals. Failure 6 for a number beyond 64 bits.
 std::string DepuisMm(const std::string &text, const std::string &Unite);
 std::string DepuisMm(double mm, const std::string &Unite);
 std::string DepuisMm(float mm, const std::string &Unite);
@@ -34,6 +34,8 @@ std::string DepuisMm(float mm, const std::string &Unite);
 double NombreMm(const std::string &text, const Saisie &saisie);
 
 /// Sets the pair that every length is: `afich` becomes the text as typed, `number` its value in mm.
+/// Failures as VersMm, and 6 for a value beyond 32 bits; the text has then been stored already, so
+/// that the user finds in the field what was typed.
 void StockeLongueur(const std::string &typed, const Saisie &saisie, std::string &afich,
                     float &number);
 
