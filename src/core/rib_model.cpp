@@ -35,6 +35,12 @@ void ValeursDefautRib(RibModel &rib) {
     rib.TypeBA = 1;
     rib.bloc = Bloc{};
     rib.texte.TailleFont = 9;
+    rib.Zoom = 1;
+    rib.AffTrac = true;
+    rib.AffLignRef = true;
+    rib.AffHaut = false;
+    rib.ModeCouple = false;
+    RemetVue(rib);
 }
 
 void RazRib(RibModel &rib, float epba_mm) {

@@ -108,8 +108,8 @@ struct RibModel {
     bool MemProfil = false;
 };
 
-/// The rib's values of a newly made program: dimensions of 200 mm chord and 1.5 mm sheeting. The
-/// airfoil stays.
+/// The rib's values of a newly made program: dimensions of 200 mm chord and 1.5 mm sheeting, and
+/// the plain view. The airfoil stays.
 void ValeursDefautRib(RibModel &rib);
 
 /// Clears the feature records without touching the airfoil. The leading edge stock is made anew
