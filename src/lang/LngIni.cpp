@@ -23,7 +23,8 @@ std::vector<std::string> LngIni::Languages(const std::string &folder) {
     std::error_code error;
     for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
          entry.increment(error)) {
-        if (entry->path().extension() == ".lng") {
+        std::error_code ignored;
+        if (entry->path().extension() == ".lng" && entry->is_regular_file(ignored)) {
             names.push_back(entry->path().stem().string());
         }
     }

@@ -1,5 +1,6 @@
 #include "lang/ini_file.h"
 
+#include "base/failure.h"
 #include "base/text_encoding.h"
 #include "base/whole_file.h"
 
@@ -158,9 +159,13 @@ std::string GetINIFile(std::string_view section, std::string_view key, const std
 
 bool WriteINIFile(std::string_view section, std::string_view key, std::string_view value,
                   const std::string &path) {
-    IniFile file = IniFile::Read(path);
-    file.SetValue(section, key, value);
-    return file.Save(path);
+    try {
+        IniFile file = IniFile::Read(path);
+        file.SetValue(section, key, value);
+        return file.Save(path);
+    } catch (const Failure &) {
+        return false; // what can't be read must not be written over
+    }
 }
 
 } // namespace loftwing

@@ -11,8 +11,8 @@ namespace loftwing {
 /// trailing blank included, and only then trimmed, so that two keys may differ by that blank alone.
 class IniFile {
   public:
-    /// Reads the file; a missing one is an empty one. Failure 57 when it is there but can't be
-    /// read.
+    /// Reads the file; a missing one is an empty one. Failure as ReadWholeFile when it is there but
+    /// can't be read.
     static IniFile Read(const std::string &path);
     static IniFile Parse(std::string_view bytes);
 
@@ -36,11 +36,11 @@ class IniFile {
     std::size_t FindKey(std::string_view section, std::string_view key) const;
 };
 
-/// One value of an ini-style file; see IniFile::Value.
+/// One value of an ini-style file; see IniFile::Read and IniFile::Value.
 std::string GetINIFile(std::string_view section, std::string_view key, const std::string &path);
 
 /// Writes one value, creating file and section as needed. The file is replaced as a whole, so that
-/// a crash leaves the old one. False when that isn't possible.
+/// a crash leaves the old one. False, and the file untouched, when it can't be read or replaced.
 bool WriteINIFile(std::string_view section, std::string_view key, std::string_view value,
                   const std::string &path);
 
