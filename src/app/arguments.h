@@ -13,6 +13,9 @@ struct UsageError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+/// A refusal that has been reported: nothing more is said, and the status is 1.
+struct Refused {};
+
 /// One option that a verb knows.
 struct OptionRule {
     const char *name;  ///< "--chord"

@@ -90,6 +90,8 @@ int RunCommandLine(const std::vector<std::string> &words) {
     } catch (const UsageError &error) {
         std::cerr << "loftwing: " << error.what() << " (see loftwing --help)\n";
         return kWrongUsage;
+    } catch (const Refused &) {
+        return kRefused;
     } catch (const Failure &failure) {
         std::cerr << "loftwing: " << failure.description << '\n';
         return kRefused;

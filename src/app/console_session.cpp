@@ -64,7 +64,9 @@ void ConsoleSession::ChargeValeurs(const Arguments &arguments) {
     if (!std::filesystem::exists(programme_.paths.fichier)) {
         throw MakeFailure(kFileNotFound, programme_.paths.fichier);
     }
-    LitTout(programme_.ReglagesEnCours());
+    if (!LitTout(programme_.ReglagesEnCours())) {
+        throw Refused{};
+    }
     const std::string &in_file = programme_.settings.Unite;
     if (arguments.Has("--unit") || (in_file != kUniteMm && in_file != kUniteIn)) {
         programme_.settings.Unite = unit;

@@ -18,7 +18,8 @@ std::vector<OptionRule> CommonOptions();
 class ConsoleSession {
   public:
     /// Language, settings and unit as the options say. Throws UsageError for a language or a unit
-    /// that there isn't, Failure for a settings file that can't be read.
+    /// that there isn't, Failure for a settings file that isn't there, Refused for one that can't
+    /// be read.
     explicit ConsoleSession(const Arguments &arguments);
 
     Programme &Owner() { return programme_; }

@@ -69,7 +69,7 @@ std::optional<std::string> Draw(const Arguments &arguments, const ExportForm &fo
     ConsoleSession session(arguments);
     Programme &programme = session.Owner();
     ApplyPageOptions(arguments, programme);
-    if (!session.Ouvre(file) || !ApplyRibOptions(arguments, session)) {
+    if (!session.Ouvre(file) || !ApplyRibOptions(arguments, programme)) {
         return std::nullopt;
     }
     const Preparation prepared = PrepareContour(programme.rib, programme.messages);

@@ -78,9 +78,7 @@ std::vector<OptionRule> PageOptions() {
             {"--reference-line-at", "LENGTH", "reference line from the top of the sheet"}};
 }
 
-bool ApplyRibOptions(const Arguments &arguments, ConsoleSession &session) {
-    Programme &programme = session.Owner();
-    session.Platform().Forget();
+bool ApplyRibOptions(const Arguments &arguments, Programme &programme) {
     for (const EntryOption &entry : kEntryOptions) {
         if (!arguments.Has(entry.option)) {
             continue;
@@ -88,7 +86,11 @@ bool ApplyRibOptions(const Arguments &arguments, ConsoleSession &session) {
         const bool count = std::string_view(entry.mode) == "rep";
         const std::string typed =
             Typed(arguments, entry.option, count ? kTouchesEntier : LengthKeys(programme));
-        SaisitValeur(entry.mode, typed, programme.rib, programme.SaisieEnCours(), entry.option);
+        // What the value dialog has to say is a refusal to somebody who can't answer it.
+        if (ValideSaisie(ModeDe(entry.mode), programme.rib, typed, programme.SaisieEnCours()) !=
+            FinSaisie::prise) {
+            return false;
+        }
     }
     RibModel &rib = programme.rib;
     rib.AffHaut = arguments.Has("--invert");
@@ -97,8 +99,7 @@ bool ApplyRibOptions(const Arguments &arguments, ConsoleSession &session) {
     rib.AffEpr = arguments.Has("--chord-thickness");
     rib.AffHautBA = arguments.Has("--le-thickness");
     rib.AffHautBF = arguments.Has("--te-thickness");
-    // Whatever a value dialog has to say is a refusal to somebody who can't answer it.
-    return session.Platform().LastText().empty();
+    return true;
 }
 
 void ApplyPageOptions(const Arguments &arguments, Programme &programme) {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/arguments.h"
-#include "app/console_session.h"
+#include "programme/programme.h"
 
 namespace loftwing {
 
@@ -11,7 +11,7 @@ std::vector<OptionRule> PageOptions();
 
 /// Puts the rib options into the rib as the value dialogs do. False when a value was refused.
 /// Throws UsageError for a text that the dialogs' fields wouldn't admit.
-bool ApplyRibOptions(const Arguments &arguments, ConsoleSession &session);
+bool ApplyRibOptions(const Arguments &arguments, Programme &programme);
 
 /// Puts the page options into the page settings. Throws UsageError for an unknown paper or a text
 /// that isn't a length.

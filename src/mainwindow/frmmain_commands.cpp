@@ -161,7 +161,7 @@ void frmmain::mnu_affLang_Click() {
 void frmmain::mnu_profilcorde_Click() {
     if (Saisit("corde")) {
         RetraceVues();
-        MajGabarit(programme_.rib, programme_.settings.Unite, programme_.messages);
+        MajGabarit(programme_.rib, programme_.SaisieEnCours());
         affiche();
     }
 }

@@ -17,8 +17,6 @@ namespace loftwing {
 
 namespace {
 
-constexpr double kUnitsPerPixel = 15.0;
-
 QSettings PlaceStore() {
     return QSettings(QSettings::IniFormat, QSettings::UserScope, "loftwing", "window");
 }
@@ -36,7 +34,7 @@ void frmmain::affiche() {
 
 void frmmain::Redessine() {
     drawing_ = true;
-    auto recording = std::make_unique<Recording>(MeasureOnScreen);
+    auto recording = std::make_unique<Recording>(ScreenAdvance);
     const Affichage result = afficheRib(programme_.TraceSur(*recording));
     drawing_ = false;
     if (result == Affichage::echec) {

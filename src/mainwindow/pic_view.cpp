@@ -30,7 +30,7 @@ void PicView::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
     if (drawing_) {
-        ReplayOnScreen(*drawing_, painter);
+        Replay(*drawing_, painter, ScreenSurface());
     }
 }
 

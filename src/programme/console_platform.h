@@ -13,9 +13,8 @@ class ConsolePlatform : public Platform {
   public:
     ConsolePlatform(std::ostream &lines, bool says_yes) : lines_(lines), says_yes_(says_yes) {}
 
-    /// Text of the last box, on one line; empty when there was none since Forget.
+    /// Text of the last box, on one line; empty when there was none.
     const std::string &LastText() const { return last_text_; }
-    void Forget() { last_text_.clear(); }
 
     BoxAnswer Show(const MessageBox &box) override;
     std::optional<std::string> Ask(const std::string &text, const std::string &title,

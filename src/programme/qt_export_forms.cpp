@@ -25,7 +25,7 @@ Exported AsSvg(Programme &programme, const std::function<void()> &) {
 
 Exported AsPng(Programme &programme, const std::function<void()> &) {
     Exported exported;
-    const auto drawing = DessineRib(programme, exported.failed, MeasureOnScreen);
+    const auto drawing = DessineRib(programme, exported.failed, ScreenAdvance);
     if (drawing) {
         exported.bytes = PngOf(*drawing);
     }
