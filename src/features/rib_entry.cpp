@@ -1,0 +1,187 @@
+#include "features/rib_entry.h"
+
+#include "base/number_text.h"
+#include "features/inserted_text.h"
+#include "features/talon.h"
+
+#include <algorithm>
+
+namespace loftwing {
+
+namespace {
+
+constexpr double kMaxReperes = 255;
+constexpr int kAideNervure = 40;
+constexpr int kAideGabarit = 50;
+
+// Every routine below converts all that it needs before it stores the first value, so that a
+// failure leaves the rib as it was.
+
+void RefuseCorde(const std::string &typed, const Saisie &saisie, const std::string &titre) {
+    const Messages &messages = saisie.messages;
+    messages.Inform(messages.Text({"FrmPrint", "26"}) + " : " + typed + saisie.Unite + " - " +
+                        messages.Text({"FrmAngle", "10"}),
+                    titre);
+}
+
+float LongueurBloc(const RibModel &rib, float corde) {
+    return ToSingle(static_cast<double>(corde) + static_cast<double>(rib.bloc.BAbloc) +
+                    static_cast<double>(rib.bloc.BFbloc));
+}
+
+/// Stores a stock's text and number; above the chord the number is 0 and a box says so.
+FinSaisie StockeBord(const std::string &typed, float number, std::string &afich, float &stored,
+                     const RibModel &rib) {
+    const bool fits = number <= rib.corde;
+    afich = typed;
+    stored = fits ? number : 0.0F;
+    return fits ? FinSaisie::prise : FinSaisie::ramenee;
+}
+
+constexpr std::array<ModeEntree, 5> kModes = {{
+    {"corde",
+     {"FrmInput", "1"},
+     {"FrmInput", "2"},
+     true,
+     kAideNervure,
+     [](const RibModel &rib) { return rib.cordeAfich; },
+     SaisitCorde},
+    {"epcof",
+     {"FrmInput", "3"},
+     {"FrmInput", "4"},
+     true,
+     kAideNervure,
+     [](const RibModel &rib) { return rib.EpCoffrageAfich; },
+     SaisitCoffrage},
+    {"ba",
+     {"FrmInput", "5"},
+     {"FrmInput", "6"},
+     true,
+     kAideNervure,
+     [](const RibModel &rib) { return rib.EpBAAfich; },
+     SaisitBordAttaque},
+    {"bf",
+     {"FrmInput", "7"},
+     {"FrmInput", "8"},
+     true,
+     kAideNervure,
+     [](const RibModel &rib) { return rib.EpBFAfich; },
+     SaisitBordFuite},
+    {"rep",
+     {"FrmInput", "9"},
+     {"FrmInput", "10"},
+     false,
+     kAideGabarit,
+     [](const RibModel &rib) { return std::to_string(rib.NbRep); },
+     SaisitReperes},
+}};
+
+} // namespace
+
+FinSaisie SaisitCorde(RibModel &rib, const std::string &typed, const Saisie &saisie,
+                      const std::string &titre) {
+    const float corde = ToSingle(NombreMm(typed, saisie));
+    if (corde == 0.0F) {
+        rib.cordeAfich = typed;
+        rib.corde = corde;
+        RefuseCorde(typed, saisie, titre);
+        return FinSaisie::refusee;
+    }
+    const float LongBloc = LongueurBloc(rib, corde);
+    Talon talon = TalonPour(rib, {corde, rib.EpCoffrage}, saisie);
+    talon = AvecMarges(talon, corde, saisie);
+    rib.cordeAfich = typed;
+    rib.corde = corde;
+    rib.bloc.LongBloc = LongBloc;
+    rib.talon = talon;
+    rib.Modifie = !rib.ModeCompare;
+    // A label names the chord, so a new chord makes the text the program's again.
+    rib.texte.TexteUtilisateur = false;
+    return FinSaisie::prise;
+}
+
+FinSaisie SaisitCoffrage(RibModel &rib, const std::string &typed, const Saisie &saisie,
+                         const std::string & /*titre*/) {
+    const float EpCoffrage = ToSingle(NombreMm(typed, saisie));
+    const Talon talon = TalonPour(rib, {rib.corde, EpCoffrage}, saisie);
+    rib.EpCoffrageAfich = typed;
+    rib.EpCoffrage = EpCoffrage;
+    rib.talon = talon;
+    rib.Modifie = true;
+    return FinSaisie::prise;
+}
+
+FinSaisie SaisitBordAttaque(RibModel &rib, const std::string &typed, const Saisie &saisie,
+                            const std::string &titre) {
+    const float EpBA = ToSingle(NombreMm(typed, saisie));
+    const FinSaisie fin = StockeBord(typed, EpBA, rib.EpBAAfich, rib.EpBA, rib);
+    if (fin == FinSaisie::ramenee) {
+        saisie.messages.Inform(saisie.messages.Text({"FrmInput", "11"}), titre);
+    }
+    rib.TypeBA = 1;
+    rib.Modifie = true;
+    return fin;
+}
+
+FinSaisie SaisitBordFuite(RibModel &rib, const std::string &typed, const Saisie &saisie,
+                          const std::string &titre) {
+    const float EpBF = ToSingle(NombreMm(typed, saisie));
+    const FinSaisie fin = StockeBord(typed, EpBF, rib.EpBFAfich, rib.EpBF, rib);
+    if (fin == FinSaisie::ramenee) {
+        saisie.messages.Inform(saisie.messages.Text({"FrmInput", "12"}), titre);
+    }
+    rib.Modifie = true;
+    return fin;
+}
+
+FinSaisie SaisitReperes(RibModel &rib, const std::string &typed, const Saisie &saisie,
+                        const std::string &titre) {
+    const double count = LeadingNumber(typed);
+    const bool fits = count <= kMaxReperes;
+    if (!fits) {
+        saisie.messages.Inform(saisie.messages.Text({"FrmInput", "13"}), titre);
+    }
+    rib.NbRep = ToByte(fits ? count : kMaxReperes);
+    rib.Modifie = true;
+    return fits ? FinSaisie::prise : FinSaisie::ramenee;
+}
+
+const ModeEntree &ModeDe(std::string_view ModeSaisie) {
+    const auto *const mode = std::find_if(kModes.begin(), kModes.end(), [&](const ModeEntree &row) {
+        return row.ModeSaisie == ModeSaisie;
+    });
+    if (mode == kModes.end()) {
+        throw MakeFailure(kInvalidProcedureCall);
+    }
+    return *mode;
+}
+
+std::string TitreSaisie(const ModeEntree &mode, const Saisie &saisie) {
+    const std::string words = saisie.messages.Text(mode.titre);
+    return mode.avec_unite ? words + " " + saisie.Unite : words;
+}
+
+FinSaisie ValideSaisie(const ModeEntree &mode, RibModel &rib, const std::string &typed,
+                       const Saisie &saisie) {
+    try {
+        return mode.saisit(rib, typed, saisie, TitreSaisie(mode, saisie));
+    } catch (const Failure &failure) {
+        saisie.messages.Report(failure, " Input/OK");
+        return FinSaisie::refusee;
+    }
+}
+
+void MajGabarit(RibModel &rib, const Saisie &saisie) {
+    if (!rib.Modifie) {
+        return;
+    }
+    RegenereTexte(rib, saisie.messages);
+    // Washed out or not: once a command is done the heights are the contour's.
+    const MesuresTalon mesures{rib.corde, rib.EpCoffrage};
+    Talon talon = rib.talon;
+    talon.TalonIntraAfich = TexteTalonIntra(rib, mesures, saisie.Unite);
+    talon.TalonExtraAfich = TexteTalonExtra(rib, mesures, saisie.Unite);
+    rib.talon = AvecHauteurs(talon, saisie);
+}
+
+} // namespace loftwing
