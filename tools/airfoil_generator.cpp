@@ -1,0 +1,36 @@
+// Writes the bundled airfoil library. After a change of the formulas or of the list:
+//
+//     cmake --build --preset default --target airfoil_generator
+//     build/tools/airfoil_generator resources/airfoils
+
+#include "naca_series.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+
+namespace {
+
+bool write_file(const std::filesystem::path &path, const std::string &text) {
+    std::ofstream file(path, std::ios::binary);
+    file << text;
+    file.close();
+    return file.good();
+}
+
+} // namespace
+
+int main(int argc, char *argv[]) {
+    if (argc != 2) {
+        std::cerr << "usage: airfoil_generator FOLDER\n";
+        return 2;
+    }
+    for (const loftwing::naca::Section &section : loftwing::naca::library) {
+        const auto path = std::filesystem::path(argv[1]) / loftwing::naca::file_name(section);
+        if (!write_file(path, loftwing::naca::file_text(section))) {
+            std::cerr << "cannot write " << path.string() << '\n';
+            return 1;
+        }
+    }
+    return 0;
+}
