@@ -1,0 +1,202 @@
+#include "base/whole_file.h"
+#include "e2e/program.h"
+#include "e2e/svg_lines.h"
+#include "support/scratch_folder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <filesystem>
+
+namespace loftwing {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+constexpr const char *kReferenceColour = "#ff0000"; // axes, colour 12
+
+const SvgPath &LastOf(const std::vector<SvgPath> &paths, const std::string &stroke) {
+    for (auto path = paths.rbegin(); path != paths.rend(); ++path) {
+        if (path->stroke == stroke) {
+            return *path;
+        }
+    }
+    throw std::runtime_error("no path of " + stroke);
+}
+
+TEST(Draw, SvgHasAReferenceLineAsLongAsTheChord) {
+    const ScratchFolder folder;
+    const std::string out = folder / "rib.svg";
+    const Ran ran = RunLoftwing({"draw", Sample("naca2412.dat"), "-o", out, "--chord", "237.5"});
+    EXPECT_EQ(ran.status, 0) << ran.err;
+    EXPECT_EQ(ran.err, "");
+    const auto paths = PathsOf(ReadWholeFile(out));
+    const SvgPath &line = LastOf(paths, kReferenceColour);
+    ASSERT_EQ(line.points.size(), 2U);
+    // One device unit beyond either end.
+    EXPECT_NEAR(line.points[1].x - line.points[0].x, 237.5 + 2 / 56.7, 0.0002);
+    EXPECT_NEAR(line.points[0].x, 5.0 - 1 / 56.7, 0.0001);
+    EXPECT_EQ(line.points[0].y, line.points[1].y);
+}
+
+TEST(Draw, StandardOutputGetsTheSameDrawingAsAFile) {
+    const ScratchFolder folder;
+    const std::string out = folder / "rib.svg";
+    ASSERT_EQ(RunLoftwing({"draw", Sample("naca0012.dat"), "-o", out}).status, 0);
+    const Ran ran = RunLoftwing({"draw", Sample("naca0012.dat"), "--to", "svg", "-o", "-"});
+    EXPECT_EQ(ran.status, 0);
+    EXPECT_EQ(ran.out, ReadWholeFile(out));
+}
+
+TEST(Draw, SheetingAndStocksAreDrawnInTheirColours) {
+    const Ran plain =
+        RunLoftwing({"draw", Sample("naca2412.dat"), "--to", "svg", "-o", "-", "--sheeting", "0"});
+    const Ran full = RunLoftwing({"draw", Sample("naca2412.dat"), "--to", "svg", "-o", "-",
+                                  "--sheeting", "1.5", "--le", "8", "--te", "25"});
+    ASSERT_EQ(plain.status, 0) << plain.err;
+    ASSERT_EQ(full.status, 0) << full.err;
+    EXPECT_GT(PathsOf(full.out).size(), PathsOf(plain.out).size() + 300);
+}
+
+TEST(Draw, InchesStartFromTheEnglishSet) {
+    const Ran ran =
+        RunLoftwing({"draw", Sample("naca2412.dat"), "--to", "svg", "-o", "-", "--unit", "in"});
+    ASSERT_EQ(ran.status, 0) << ran.err;
+    const auto paths = PathsOf(ran.out);
+    const SvgPath &line = LastOf(paths, kReferenceColour);
+    EXPECT_NEAR(line.points[1].x - line.points[0].x, 8 * 25.4 + 2 / 56.7, 0.0002);
+}
+
+TEST(Draw, InchesTakeFractionsAsTyped) {
+    const Ran ran = RunLoftwing({"draw", Sample("naca2412.dat"), "--to", "svg", "-o", "-", "--unit",
+                                 "in", "--chord", "8.1/2"});
+    ASSERT_EQ(ran.status, 0) << ran.err;
+    const auto paths = PathsOf(ran.out);
+    const SvgPath &line = LastOf(paths, kReferenceColour);
+    EXPECT_NEAR(line.points[1].x - line.points[0].x, 8.5 * 25.4 + 2 / 56.7, 0.0002);
+}
+
+TEST(Draw, AChordInTheTitleCountsUnlessAnotherIsAskedFor) {
+    const ScratchFolder folder;
+    std::string text = ReadWholeFile(Sample("naca2412.dat"));
+    text.replace(0, text.find_first_of("\r\n"), "Wing root: 150");
+    const std::string file = folder.Write("root.dat", text);
+    const Ran titled = RunLoftwing({"draw", file, "--to", "svg", "-o", "-"});
+    const Ran asked = RunLoftwing({"draw", file, "--to", "svg", "-o", "-", "--chord", "90"});
+    ASSERT_EQ(titled.status, 0) << titled.err;
+    ASSERT_EQ(asked.status, 0) << asked.err;
+    const auto length = [](const std::string &svg) {
+        const auto paths = PathsOf(svg);
+        const SvgPath line = LastOf(paths, kReferenceColour);
+        return line.points[1].x - line.points[0].x;
+    };
+    EXPECT_NEAR(length(titled.out), 150 + 2 / 56.7, 0.0002);
+    EXPECT_NEAR(length(asked.out), 90 + 2 / 56.7, 0.0002);
+}
+
+TEST(Draw, PngHasTheScreensPixels) {
+    const ScratchFolder folder;
+    const std::string out = folder / "rib.png";
+    const Ran ran = RunLoftwing({"draw", Sample("naca2412.dat"), "-o", out, "--chord", "200"});
+    ASSERT_EQ(ran.status, 0) << ran.err;
+    const std::string bytes = ReadWholeFile(out);
+    ASSERT_THAT(bytes, StartsWith("\x89PNG\r\n\x1A\n"));
+    const auto number = [&](std::size_t at) {
+        int value = 0;
+        for (std::size_t i = 0; i < 4; ++i) {
+            value = value * 256 + static_cast<unsigned char>(bytes[at + i]);
+        }
+        return value;
+    };
+    // 5 mm before, 200 mm of chord and 5 mm behind at 56.7 units a mm and 15 units a pixel.
+    EXPECT_NEAR(number(16), 210 * 56.7 / 15, 2);
+}
+
+TEST(Draw, SeveralFilesGoToAFolderAndARefusedOneStopsNothing) {
+    const ScratchFolder folder;
+    const std::string bad = folder.Write("bad.dat", "Title\n0.5 0.1\n1.0 0.0\n");
+    const Ran ran = RunLoftwing({"draw", Sample("naca2412.dat"), bad, Sample("naca0009.dat"),
+                                 "--to", "svg", "-o", folder / "out/"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_TRUE(std::filesystem::exists(folder / "out/naca2412.svg"));
+    EXPECT_TRUE(std::filesystem::exists(folder / "out/naca0009.svg"));
+    EXPECT_FALSE(std::filesystem::exists(folder / "out/bad.svg"));
+}
+
+TEST(Draw, ARefusalLeavesTheOldFileAndSaysWhyOnOneLine) {
+    const ScratchFolder folder;
+    const std::string bad = folder.Write("bad.dat", "Title\n0.5 0.1\n1.0 0.0\n");
+    const std::string out = folder.Write("rib.svg", "old");
+    const Ran ran = RunLoftwing({"draw", bad, "-o", out});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_EQ(ReadWholeFile(out), "old");
+    EXPECT_EQ(std::count(ran.err.begin(), ran.err.end(), '\n'), 1) << ran.err;
+    EXPECT_THAT(ran.err, StartsWith("Open airfoil file: "));
+}
+
+TEST(Draw, StocksLongerThanTheChordLeaveNoFile) {
+    const ScratchFolder folder;
+    for (const std::string form : {"svg", "png", "pdf"}) {
+        const std::string out = folder / ("rib." + form);
+        const Ran ran =
+            RunLoftwing({"draw", Sample("naca2412.dat"), "-o", out, "--le", "120", "--te", "100"});
+        EXPECT_EQ(ran.status, 1) << form;
+        EXPECT_NE(ran.err, "") << form;
+        EXPECT_FALSE(std::filesystem::exists(out)) << form;
+    }
+}
+
+TEST(Draw, AValueThatTheDialogRefusesLeavesNoFile) {
+    const ScratchFolder folder;
+    const std::string out = folder / "rib.svg";
+    for (const std::vector<std::string> &option :
+         {std::vector<std::string>{"--chord", "0"}, {"--le", "201"}, {"--stations", "256"}}) {
+        std::vector<std::string> words = {"draw", Sample("naca2412.dat"), "-o", out};
+        words.insert(words.end(), option.begin(), option.end());
+        const Ran ran = RunLoftwing(words);
+        EXPECT_EQ(ran.status, 1) << option[0];
+        EXPECT_NE(ran.err, "") << option[0];
+        EXPECT_FALSE(std::filesystem::exists(out)) << option[0];
+    }
+}
+
+TEST(Draw, AnUnwritablePlaceIsAFailure) {
+    const Ran ran = RunLoftwing({"draw", Sample("naca2412.dat"), "-o", "/nowhere/at/all/rib.svg"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err, HasSubstr("/nowhere/at/all/rib.svg"));
+}
+
+TEST(Draw, FrenchWordsComeFromTheFrenchFile) {
+    const std::vector<std::string> words = {"draw", Sample("naca2412.dat"), "--to", "svg", "-o",
+                                            "-",    "--chord-thickness"};
+    std::vector<std::string> french = words;
+    french.insert(french.end(), {"--language", "French"});
+    const Ran one = RunLoftwing(words);
+    const Ran other = RunLoftwing(french);
+    EXPECT_THAT(one.out, HasSubstr("Chord thickness : "));
+    EXPECT_THAT(other.out, Not(HasSubstr("Chord thickness : ")));
+    EXPECT_THAT(other.out, HasSubstr("<text"));
+}
+
+TEST(Draw, ASettingsFileGivesTheColours) {
+    const ScratchFolder folder;
+    const std::string settings = folder.Write(
+        "s.ini", "[Couleurs]\ncoulprofil=4\ncoulcoffrage=9\ncoulaxe=2\ncoulba=9\ncoulbf=9\n"
+                 "[StyleLignes]\nlineaxe=1\n[Eprlines]\nprofil=3\neplinecoffrage=1\neplineba=1\n"
+                 "eplinebf=1\n[InsText]\nTailleFont=9\n[Defaut]\nunit= mm\ncordeAfich=120\n"
+                 "EpCoffrageAfich=1\nEpBAAfich=0\n[Marges]\nMargeHaut=10\nMargeBas=15\n"
+                 "recouvrement=20\nNumIndex=0\n");
+    const Ran ran = RunLoftwing(
+        {"draw", Sample("naca2412.dat"), "--to", "svg", "-o", "-", "--settings", settings});
+    ASSERT_EQ(ran.status, 0) << ran.err;
+    const auto paths = PathsOf(ran.out);
+    const SvgPath &line = LastOf(paths, "#008000");
+    EXPECT_NEAR(line.points[1].x - line.points[0].x, 120 + 2 / 56.7, 0.0002);
+    EXPECT_GT(LastOf(paths, "#800000").points.size(), 100U);
+}
+
+} // namespace
+} // namespace loftwing
