@@ -1,0 +1,84 @@
+#include "support/qt_window_world.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QTimer>
+
+#include <filesystem>
+
+namespace loftwing {
+
+namespace {
+
+Paths TestPaths(const ScratchFolder &folder) {
+    const std::string resources = LOFTWING_SOURCE_DIR "/resources";
+    return {resources, resources + "/lng", folder / "Loftwing.ini", resources + "/help"};
+}
+
+std::string SettingsText(const ScratchFolder &folder, const std::string &language,
+                         const std::string &unit) {
+    return "[Language]\r\nLangue=" + language + "\r\n[Defaut]\r\nunit= " + unit +
+           "\r\ncordeAfich=" + (unit == "in" ? "8" : "200") +
+           "\r\nEpCoffrageAfich=" + (unit == "in" ? "1/16" : "1.5") +
+           "\r\nEpBAAfich=0\r\nBAblocAfich=0\r\nBFblocAfich=0\r\n"
+           "[Couleurs]\r\ncoulcoffrage=9\r\ncoulaxe=12\r\ncoulba=9\r\ncoulbf=9\r\ncoulrep=12\r\n"
+           "[Eprlines]\r\nprofil=1\r\neplinecoffrage=1\r\neplineba=1\r\neplinebf=1\r\n"
+           "eplinerep=1\r\n[InsText]\r\nTailleFont=9\r\n[Repertoires]\r\nInstall=1\r\n"
+           "RepProfil=" +
+           (folder / "airfoils") + "\r\nRepProfilevol=" + (folder / "sets") +
+           "\r\nLastOpenProfil=" + (folder / "airfoils") +
+           "\r\n[Marges]\r\nMargeHaut=10\r\n"
+           "MargeBas=15\r\nrecouvrement=20\r\nNumIndex=0\r\nYdprint=50\r\n";
+}
+
+} // namespace
+
+WindowWorld::WindowWorld(const std::string &language, const std::string &unit)
+    : programme(TestPaths(folder), platform) {
+    std::filesystem::create_directories(folder / "airfoils");
+    std::filesystem::create_directories(folder / "sets");
+    folder.Write("Loftwing.ini", SettingsText(folder, language, unit));
+    programme.language.Charge(programme.paths.langues, language);
+}
+
+frmmain &WindowWorld::Open() {
+    window = std::make_unique<frmmain>(programme);
+    window->resize(900, 500);
+    window->show();
+    QApplication::processEvents();
+    return *window;
+}
+
+std::string WindowWorld::Sample(const std::string &name) {
+    return std::string(LOFTWING_SOURCE_DIR "/resources/airfoils/") + name;
+}
+
+QAction *WindowWorld::Action(const std::string &name) const {
+    auto *action = window->findChild<QAction *>(QString::fromStdString(name));
+    if (action == nullptr) {
+        ADD_FAILURE() << "no action " << name;
+    }
+    return action;
+}
+
+std::string WindowWorld::Panel(int number) const {
+    return Find<QLabel>("StatusBar(" + std::to_string(number) + ")")->text().toStdString();
+}
+
+void InNextDialog(const std::function<void(QDialog &)> &act) {
+    QTimer::singleShot(0, [act] {
+        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (dialog == nullptr) {
+            ADD_FAILURE() << "no dialog came up";
+            return;
+        }
+        act(*dialog);
+        if (dialog->isVisible()) {
+            dialog->reject();
+        }
+    });
+}
+
+} // namespace loftwing

@@ -1,0 +1,548 @@
+#include "base/version.h"
+#include "mainwindow/frmmain.h"
+#include "output/recording.h"
+#include "support/qt_window_world.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMimeData>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QTest>
+#include <QWheelEvent>
+
+#include <set>
+
+namespace loftwing {
+namespace {
+
+using testing::HasSubstr;
+
+const std::set<std::string> kBornWithARib = {
+    "cmdba", "cmdlongeron", "cmdtrou", "cmdbf", "mnu_filesaveas", "Toolbar1(3)", "mnu_filedxf",
+    "mnu_filepage", "Toolbar1(5)", "mnu_fileprinterconfig", "mnu_fileprint", "Toolbar1(7)",
+    "mnu_affinver", "mnu_affdefaut", "mnu_affhautba", "mnu_affhautbf", "mnu_affepr",
+    "mnu_affInstxt", "mnu_affTrac", "mnu_afflignRef", "mnu_profilepcoffrage", "mnu_profilba",
+    "mnu_profillongeron", "mnu_profiltrou", "mnu_profilbf", "mnu_profilTalon", "mnu_param",
+    "mnu_Outilcoord",
+    // Live and die with the DXF entry beside them.
+    "mnu_filepdf", "mnu_filesvg"};
+
+const std::set<std::string> kDeadAfterClear = {
+    "mnu_filesaveas", "Toolbar1(3)", "mnu_filedxf",     "mnu_filepage", "mnu_fileprinterconfig",
+    "mnu_fileprint",  "Toolbar1(7)", "mnu_profilTalon", "mnu_param",    "mnu_affInstxt",
+    "mnu_filepdf",    "mnu_filesvg",
+    // Not among those that a clear brings back: still as the airfoil left them.
+};
+
+const std::set<std::string> kAlwaysAlive = {
+    "mnu_fileopen", "mnu_fileprofilopen", "mnu_fileexit",     "mnu_affcouleur",
+    "mnu_affclear", "mnu_affLang",        "mnu_profilcorde",  "cmdcorde",
+    "cmdprofil",    "mnu_outil",          "mnu_OutilCompare", "mnu_calc",
+    "mnu_help",     "mnu_helpAbout",      "Toolbar1(2)",      "mnu_fileprintpreview"};
+
+bool Enabled(const WindowWorld &world, const std::string &name) {
+    if (name.starts_with("cmd")) {
+        return world.Find<QPushButton>(name)->isEnabled();
+    }
+    return world.Action(name)->isEnabled();
+}
+
+void ExpectEnabled(const WindowWorld &world, const std::set<std::string> &names, bool enabled) {
+    for (const std::string &name : names) {
+        EXPECT_EQ(Enabled(world, name), enabled) << name;
+    }
+}
+
+/// A box of an unknown text is expected and answered so.
+void ExpectBox(WindowWorld &world, BoxAnswer answer, const std::string &text) {
+    world.platform.boxes_expected.push_back(
+        {answer, [text](const MessageBox &box) { EXPECT_EQ(box.text, text); }});
+}
+
+TEST(MainWindow, AtTheStartOnlyTheOpenCommandsAreAlive) {
+    WindowWorld world;
+    world.Open();
+    ExpectEnabled(world, kBornWithARib, false);
+    ExpectEnabled(world, kAlwaysAlive, true);
+    EXPECT_EQ(world.Panel(1), std::string(" V. ") + kVersion);
+    EXPECT_EQ(world.Panel(2), "");
+    EXPECT_EQ(world.Panel(3), "unit : mm");
+}
+
+TEST(MainWindow, AnAirfoilBringsTheCommandsToLife) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    ExpectEnabled(world, kBornWithARib, true);
+    ExpectEnabled(world, kAlwaysAlive, true);
+    EXPECT_EQ(world.Panel(1), kVersion);
+    EXPECT_EQ(world.Panel(2), "Airfoil : naca2412  Chord : 200 mm <> Information : NACA 2412");
+    EXPECT_EQ(world.window->windowTitle().toStdString(), "Loftwing Airfoil : naca2412");
+    EXPECT_TRUE(world.programme.rib.Modifie);
+    ASSERT_NE(world.window->findChild<PicView *>("Pic")->Dessin(), nullptr);
+}
+
+TEST(MainWindow, ClearingLeavesTheStateOfTheStartWithTheRibMenusAlive) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    ExpectBox(world, BoxAnswer::yes, world.programme.Text({"FrmMainMessage", "5"}));
+    world.Action("mnu_affclear")->trigger();
+    ExpectEnabled(world, kDeadAfterClear, false);
+    std::set<std::string> alive = kBornWithARib;
+    for (const std::string &name : kDeadAfterClear) {
+        alive.erase(name);
+    }
+    ExpectEnabled(world, alive, true);
+    EXPECT_FALSE(world.programme.rib.ProfilCharge);
+    EXPECT_EQ(world.window->findChild<PicView *>("Pic")->Dessin(), nullptr);
+    EXPECT_EQ(world.Panel(2), "");
+    EXPECT_EQ(world.window->windowTitle().toStdString(), "Loftwing");
+    EXPECT_EQ(world.Find<QComboBox>("Combo1")->currentIndex(), 3);
+}
+
+TEST(MainWindow, ClearingStopsAtNo) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    ExpectBox(world, BoxAnswer::no, world.programme.Text({"FrmMainMessage", "5"}));
+    world.Action("mnu_affclear")->trigger();
+    EXPECT_TRUE(world.programme.rib.ProfilCharge);
+}
+
+TEST(MainWindow, ClearedRibStartsFromTheUsersDefaults) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    world.programme.rib.cordeAfich = "321";
+    world.programme.rib.corde = 321;
+    world.programme.rib.Modifie = false;
+    world.Action("mnu_affclear")->trigger();
+    EXPECT_EQ(world.programme.rib.cordeAfich, "200");
+    EXPECT_EQ(world.programme.rib.corde, 200.0F);
+}
+
+TEST(MainWindow, WithoutChangesNothingIsAskedBeforeClearing) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    world.programme.rib.Modifie = false;
+    world.Action("mnu_affclear")->trigger();
+    EXPECT_TRUE(world.platform.boxes.empty());
+    EXPECT_FALSE(world.programme.rib.ProfilCharge);
+}
+
+TEST(MainWindow, ARefusedFileLeavesTheRibAsItWas) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    const std::string state = world.Panel(2);
+    world.platform.Expect(BoxAnswer::ok);
+    world.window->OuvreFichier(world.folder.Write("bad.dat", "Title\n0.5 0.1\n1 0\n"));
+    EXPECT_TRUE(world.programme.rib.ProfilCharge);
+    world.window->affiche();
+    EXPECT_EQ(world.Panel(2), state);
+    EXPECT_EQ(world.programme.rib.CheminProfil, WindowWorld::Sample("naca2412.dat"));
+}
+
+TEST(MainWindow, AFileThatCannotBeReadClearsTheRibAndSaysSo) {
+    WindowWorld world;
+    world.Open();
+    world.platform.Expect(BoxAnswer::ok);
+    world.window->OuvreFichier(world.folder / "missing.dat");
+    ASSERT_EQ(world.platform.boxes.size(), 1U);
+    EXPECT_EQ(world.platform.boxes[0].title, " Open/FichierLecture");
+    EXPECT_THAT(world.platform.boxes[0].text, HasSubstr(" # 53 "));
+    EXPECT_FALSE(world.programme.rib.ProfilCharge);
+}
+
+TEST(MainWindow, AnAirfoilTooShortForAContourIsReportedAndCleared) {
+    WindowWorld world;
+    world.Open();
+    world.platform.Expect(BoxAnswer::ok);
+    world.platform.Expect(BoxAnswer::ok);
+    world.window->OuvreFichier(
+        world.folder.Write("five.dat", "Five\n1 0\n0.5 0.1\n0 0\n0.5 -0.1\n1 0\n"));
+    ASSERT_EQ(world.platform.boxes.size(), 2U);
+    EXPECT_EQ(world.platform.boxes[0].title, " Calcul/Alocate");
+    EXPECT_EQ(world.platform.boxes[1].title, " Calcul/MiniX");
+    EXPECT_FALSE(world.programme.rib.ProfilCharge);
+    EXPECT_FALSE(Enabled(world, "mnu_fileprint"));
+}
+
+TEST(MainWindow, RecentFilesAreListedAndOpened) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    world.window->OuvreFichier(WindowWorld::Sample("naca0012.dat"));
+    QAction *first = world.Action("mnuFileMRU(1)");
+    QAction *second = world.Action("mnuFileMRU(2)");
+    EXPECT_TRUE(first->isVisible());
+    EXPECT_FALSE(world.Action("mnuFileMRU(3)")->isVisible());
+    EXPECT_EQ(first->data().toString().toStdString(), WindowWorld::Sample("naca0012.dat"));
+    second->trigger();
+    EXPECT_EQ(world.programme.rib.NomProfil, "naca2412");
+    EXPECT_EQ(world.Action("mnuFileMRU(1)")->data().toString().toStdString(),
+              WindowWorld::Sample("naca2412.dat"));
+}
+
+TEST(MainWindow, ARecentEntryWhoseFileHasGoneDoesNothingVisible) {
+    WindowWorld world;
+    world.Open();
+    const std::string state = world.Panel(2);
+    world.window->mnuFileMRU_Click(world.folder / "gone.dat");
+    EXPECT_TRUE(world.platform.boxes.empty());
+    EXPECT_EQ(world.Panel(2), state);
+}
+
+TEST(MainWindow, ARecentPathWithAnAmpersandIsShownWhole) {
+    WindowWorld world;
+    const std::string path = world.folder / "a&b.dat";
+    std::filesystem::copy_file(WindowWorld::Sample("naca2412.dat"), path);
+    world.Open().OuvreFichier(path);
+    EXPECT_THAT(world.Action("mnuFileMRU(1)")->text().toStdString(), HasSubstr("a&&b.dat"));
+    EXPECT_EQ(world.Action("mnuFileMRU(1)")->data().toString().toStdString(), path);
+}
+
+TEST(MainWindow, ZoomComesFromTheRowsTextAndResetsTheScrollBars) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    auto *zoom = world.Find<QComboBox>("Combo1");
+    zoom->setCurrentIndex(0);
+    Q_EMIT zoom->activated(0);
+    EXPECT_EQ(world.programme.rib.Zoom, 3.0F);
+    auto *across = world.Find<QScrollBar>("Hsbpic");
+    ASSERT_GT(across->maximum(), 0);
+    across->setValue(1);
+    EXPECT_EQ(world.programme.rib.DecalX, -1);
+    zoom->setCurrentIndex(4);
+    Q_EMIT zoom->activated(4);
+    EXPECT_EQ(world.programme.rib.Zoom, 0.75F);
+    EXPECT_EQ(across->value(), 0);
+    EXPECT_EQ(world.programme.rib.DecalX, 0);
+}
+
+TEST(MainWindow, ScrollBarsReachTheWholeDrawing) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    world.window->resize(400, 160);
+    QApplication::processEvents();
+    world.Find<QComboBox>("Combo1")->setCurrentIndex(0);
+    Q_EMIT world.Find<QComboBox>("Combo1")->activated(0);
+    auto *across = world.Find<QScrollBar>("Hsbpic");
+    auto *down = world.Find<QScrollBar>("Vsbpic");
+    across->setValue(across->maximum());
+    down->setValue(down->minimum());
+    EXPECT_LT(down->minimum(), 0);
+    EXPECT_EQ(down->maximum(), 0);
+    auto *pic = world.Find<PicView>("Pic");
+    const Extent extent = pic->Dessin()->Bounds();
+    EXPECT_LE(extent.right, pic->width() * 15.0);
+    EXPECT_LE(extent.bottom, pic->height() * 15.0);
+}
+
+TEST(MainWindow, WithoutAnAirfoilZoomAndScrollHaveNoVisibleEffect) {
+    WindowWorld world;
+    world.Open();
+    Q_EMIT world.Find<QComboBox>("Combo1")->activated(0);
+    EXPECT_EQ(world.Find<PicView>("Pic")->Dessin(), nullptr);
+    EXPECT_FALSE(world.Find<QScrollBar>("Hsbpic")->isEnabled());
+}
+
+TEST(MainWindow, CtrlWithTheWheelStepsThroughTheZoomList) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    auto *pic = world.Find<PicView>("Pic");
+    const auto turn = [&](int eighths, Qt::KeyboardModifiers keys) {
+        QWheelEvent event(QPointF(50, 50), pic->mapToGlobal(QPointF(50, 50)), QPoint(),
+                          QPoint(0, eighths), Qt::NoButton, keys, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(pic, &event);
+    };
+    turn(120, Qt::ControlModifier);
+    EXPECT_EQ(world.programme.rib.Zoom, 1.5F);
+    turn(60, Qt::ControlModifier);
+    EXPECT_EQ(world.programme.rib.Zoom, 1.5F);
+    turn(60, Qt::ControlModifier);
+    EXPECT_EQ(world.programme.rib.Zoom, 2.0F);
+    turn(-1200, Qt::ControlModifier);
+    EXPECT_EQ(world.programme.rib.Zoom, 0.25F);
+    world.window->resize(400, 160);
+    QApplication::processEvents();
+    turn(1200, Qt::ControlModifier);
+    EXPECT_EQ(world.programme.rib.Zoom, 3.0F);
+    turn(-120, Qt::NoModifier);
+    EXPECT_LT(world.Find<QScrollBar>("Vsbpic")->value(), 0);
+}
+
+TEST(MainWindow, TheMiddleButtonDragsTheDrawing) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    Q_EMIT world.Find<QComboBox>("Combo1")->activated(0);
+    auto *pic = world.Find<PicView>("Pic");
+    QTest::mousePress(pic, Qt::MiddleButton, {}, QPoint(300, 100));
+    QTest::mouseMove(pic, QPoint(200, 100));
+    QTest::mouseRelease(pic, Qt::MiddleButton, {}, QPoint(200, 100));
+    // One unit is half the chord: 200 mm at three times are 300 units of 1/15 pixel, 20 pixels.
+    EXPECT_EQ(world.Find<QScrollBar>("Hsbpic")->value(), 5);
+}
+
+TEST(MainWindow, TheFitBoxAppearsOnEachRedrawAndTheOldDrawingStays) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    auto *pic = world.Find<PicView>("Pic");
+    const Recording *old = pic->Dessin();
+    world.programme.rib.EpBA = 100;
+    world.programme.rib.EpBF = 100.5F;
+    for (int i = 0; i < 2; ++i) {
+        ExpectBox(world, BoxAnswer::ok, world.programme.Text({"FrmMainMessage", "13"}));
+        world.window->affiche();
+        EXPECT_EQ(pic->Dessin(), old);
+    }
+    EXPECT_EQ(world.platform.boxes[0].icon, BoxIcon::warning);
+    world.programme.rib.EpBF = 100;
+    world.window->affiche();
+    EXPECT_NE(pic->Dessin(), old);
+}
+
+TEST(MainWindow, ExposureReplaysWithoutComputing) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    auto *pic = world.Find<PicView>("Pic");
+    const Recording *drawing = pic->Dessin();
+    world.programme.rib.corde = 300; // would show if anything were computed
+    pic->repaint();
+    EXPECT_EQ(pic->Dessin(), drawing);
+}
+
+TEST(MainWindow, CheckedEntriesOfTheViewMenuChangeTheRib) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    RibModel &rib = world.programme.rib;
+    world.Action("mnu_affinver")->trigger();
+    EXPECT_TRUE(rib.AffHaut);
+    world.Action("mnu_affTrac")->trigger();
+    EXPECT_FALSE(rib.AffTrac);
+    world.Action("mnu_afflignRef")->trigger();
+    EXPECT_FALSE(rib.AffLignRef);
+    world.Action("mnu_affepr")->trigger();
+    EXPECT_TRUE(rib.AffEpr);
+    world.Action("mnu_affhautba")->trigger();
+    EXPECT_TRUE(rib.AffHautBA);
+    world.Action("mnu_affhautbf")->trigger();
+    EXPECT_TRUE(rib.AffHautBF);
+}
+
+TEST(MainWindow, ATypedChordIsDrawn) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    InNextDialog([](QDialog &dialog) {
+        auto *box = dialog.findChild<QLineEdit *>("infotxt");
+        box->setFocus();
+        box->selectAll();
+        QTest::keyClicks(box, "250x");
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+    world.Action("mnu_profilcorde")->trigger();
+    EXPECT_EQ(world.programme.rib.corde, 250.0F);
+    EXPECT_THAT(world.Panel(2), HasSubstr("Chord : 250 mm"));
+}
+
+TEST(MainWindow, ACancelledEntryChangesNothing) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    InNextDialog([](QDialog &dialog) {
+        dialog.findChild<QLineEdit *>("infotxt")->setText("90");
+        QTest::mouseClick(dialog.findChild<QPushButton *>("cmdannuler"), Qt::LeftButton);
+    });
+    world.Find<QPushButton>("cmdcorde")->click();
+    EXPECT_EQ(world.programme.rib.corde, 200.0F);
+}
+
+TEST(MainWindow, ClosingAsksAndNoRefuses) {
+    WindowWorld world;
+    world.Open();
+    ExpectBox(world, BoxAnswer::no, "Do you want to quit Loftwing ? ");
+    EXPECT_FALSE(world.window->close());
+    EXPECT_TRUE(world.window->isVisible());
+    EXPECT_EQ(world.platform.boxes[0].fallback, BoxAnswer::no);
+    ExpectBox(world, BoxAnswer::yes, "Do you want to quit Loftwing ? ");
+    EXPECT_TRUE(world.window->close());
+    EXPECT_EQ(world.platform.help_closed, 1);
+}
+
+TEST(MainWindow, ClosingWithChangesAsksInOtherWords) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    ExpectBox(world, BoxAnswer::yes, world.programme.Text({"FrmMainMessage", "4"}));
+    world.Action("mnu_fileexit")->trigger();
+    EXPECT_FALSE(world.window->isVisible());
+}
+
+TEST(MainWindow, SeparatorsOfTheToolBarAndThePrintPreviewDoNothing) {
+    WindowWorld world;
+    world.Open();
+    for (const char *name : {"Toolbar1(1)", "Toolbar1(4)", "Toolbar1(6)", "mnu_fileprintpreview"}) {
+        world.Action(name)->trigger();
+    }
+    EXPECT_TRUE(world.platform.boxes.empty());
+}
+
+/// A printer that only records, a sheet each.
+class RecordingPrinter : public Printer {
+  public:
+    struct Job {
+        int pages = 1;
+        bool ended = false;
+        bool aborted = false;
+        std::size_t segments = 0;
+    };
+    explicit RecordingPrinter(Job &job) : job_(job) {}
+    void SetOrientation(Orientation) override {}
+    void SetPaperSize(double, double) override {}
+    void NewPage() override { ++job_.pages; }
+    void EndDoc() override { job_.ended = true; }
+    void Abort() override { job_.aborted = true; }
+
+  protected:
+    void Segment(double, double, double, double, const Pen &) override { ++job_.segments; }
+    void CircleOutline(double, double, double, const Pen &) override {}
+    double Text(double, double, const std::string &, const TextFont &, Colour) override {
+        return 0;
+    }
+
+  private:
+    Job &job_;
+};
+
+TEST(MainWindow, PrintingAsksFirstAndKeepsTheZoomOfTheScreen) {
+    WindowWorld world;
+    RecordingPrinter::Job job;
+    world.platform.make_printer = [&](const PrintQuestion &) {
+        return std::make_unique<RecordingPrinter>(job);
+    };
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    Q_EMIT world.Find<QComboBox>("Combo1")->activated(0);
+    ExpectBox(world, BoxAnswer::no, world.programme.Text({"TextButton", "14"}) + " naca2412");
+    world.Action("mnu_fileprint")->trigger();
+    EXPECT_FALSE(job.ended);
+    ExpectBox(world, BoxAnswer::yes, world.programme.Text({"TextButton", "14"}) + " naca2412");
+    world.Action("mnu_fileprint")->trigger();
+    EXPECT_TRUE(job.ended);
+    EXPECT_EQ(job.pages, 1);
+    EXPECT_GT(job.segments, 400U);
+    EXPECT_EQ(world.programme.rib.Zoom, 3.0F);
+    EXPECT_EQ(world.programme.settings.page.recouvrement, 0.0F);
+}
+
+TEST(MainWindow, ALongRibOpensThePageSetupOnceAndIsTiled) {
+    WindowWorld world;
+    RecordingPrinter::Job job;
+    world.platform.make_printer = [&](const PrintQuestion &) {
+        return std::make_unique<RecordingPrinter>(job);
+    };
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    world.programme.rib.corde = 300;
+    world.platform.Expect(BoxAnswer::yes);
+    bool opened = false;
+    InNextDialog([&](QDialog &dialog) {
+        opened = true;
+        QTest::mouseClick(dialog.findChild<QPushButton *>("cmdok"), Qt::LeftButton);
+    });
+    world.Action("mnu_fileprint")->trigger();
+    EXPECT_TRUE(opened);
+    EXPECT_TRUE(job.ended);
+    // 297 - 10 - 15 - 20 = 252 mm a sheet.
+    EXPECT_EQ(job.pages, 2);
+    world.programme.rib.corde = 600;
+    world.platform.Expect(BoxAnswer::yes);
+    job = {};
+    world.Action("mnu_fileprint")->trigger();
+    EXPECT_EQ(job.pages, 3);
+}
+
+TEST(MainWindow, ACancelledPageSetupPrintsNothing) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    world.programme.rib.corde = 300;
+    world.platform.Expect(BoxAnswer::yes);
+    InNextDialog([](QDialog &dialog) {
+        QTest::mouseClick(dialog.findChild<QPushButton *>("cmdannuler"), Qt::LeftButton);
+    });
+    world.Action("mnu_fileprint")->trigger();
+    EXPECT_TRUE(world.platform.print_questions.empty());
+}
+
+TEST(MainWindow, ExportsGoToTheFileThatIsChosen) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    world.platform.files_expected = {world.folder / "rib.svg", world.folder / "rib.pdf", ""};
+    world.Action("mnu_filesvg")->trigger();
+    world.Action("mnu_filepdf")->trigger();
+    world.Action("mnu_filesvg")->trigger();
+    EXPECT_EQ(world.platform.file_questions[0].name, "naca2412.svg");
+    EXPECT_GT(std::filesystem::file_size(world.folder / "rib.svg"), 1000U);
+    EXPECT_GT(std::filesystem::file_size(world.folder / "rib.pdf"), 1000U);
+}
+
+TEST(MainWindow, AMissingCalculatorIsSaid) {
+    WindowWorld world;
+    world.Open();
+    world.platform.programs_start = false;
+    ExpectBox(world, BoxAnswer::ok, world.programme.Text({"Erreur", "6"}));
+    world.Action("mnu_calc")->trigger();
+    EXPECT_EQ(world.platform.boxes[0].title, "Loftwing No-Calc");
+}
+
+TEST(MainWindow, HelpAndPrinterSettingsGoThroughTheirSeams) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    world.Action("mnu_helpsearch")->trigger();
+    EXPECT_EQ(world.platform.help_contexts, std::vector<int>{10});
+    world.Action("mnu_fileprinterconfig")->trigger();
+    EXPECT_EQ(world.platform.printer_settings_shown, 1);
+}
+
+TEST(MainWindow, SpeaksFrench) {
+    WindowWorld world("French");
+    world.Open();
+    for (const Command &command : MenuCommands()) {
+        const std::string shown = world.Action(command.name)->text().toStdString();
+        EXPECT_NE(shown, "") << command.name;
+        if (command.name != std::string("mnu_helpVersion")) {
+            EXPECT_EQ(shown, world.programme.Text(command.text)) << command.name;
+        }
+    }
+    EXPECT_EQ(world.Find<QPushButton>("cmdcorde")->text().toStdString(),
+              world.programme.Text({"MainTolbar", "13"}));
+}
+
+TEST(MainWindow, NoShortcutStandsForTwoCommands) {
+    std::set<std::string> keys;
+    for (const Command &command : MenuCommands()) {
+        if (command.keys != nullptr) {
+            EXPECT_TRUE(keys.insert(command.keys).second) << command.name;
+        }
+    }
+    EXPECT_GE(keys.size(), 5U);
+}
+
+TEST(MainWindow, AFileDroppedOnItOpens) {
+    WindowWorld world;
+    world.Open();
+    QMimeData data;
+    data.setUrls(
+        {QUrl::fromLocalFile(QString::fromStdString(WindowWorld::Sample("naca4412.dat")))});
+    QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(world.window.get(), &drop);
+    QTRY_COMPARE(world.programme.rib.NomProfil, std::string("naca4412"));
+}
+
+TEST(MainWindow, ShowsTheUnitInInches) {
+    WindowWorld world("English", "in");
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    EXPECT_EQ(world.Panel(3), "unit : in");
+    EXPECT_EQ(world.Panel(2), "Airfoil : naca2412  Chord : 8 in <> Information : NACA 2412");
+    EXPECT_EQ(world.programme.settings.page.YdprintAfich, "2");
+}
+
+} // namespace
+} // namespace loftwing
