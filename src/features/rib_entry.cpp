@@ -29,13 +29,40 @@ float LongueurBloc(const RibModel &rib, float corde) {
                     static_cast<double>(rib.bloc.BFbloc));
 }
 
+/// A typed length in mm.
+struct Lu {
+    float mm;
+    bool illisible; ///< no length; a box has told so, and it counts as 0
+};
+
+Lu LitLongueur(const std::string &typed, const Saisie &saisie) {
+    const std::string mm = VersMm(typed, saisie);
+    return {ToSingle(LeadingNumber(mm)), mm.empty() && !typed.empty()};
+}
+
+/// How a length ended that nothing else speaks against.
+FinSaisie FinDe(const Lu &lu) {
+    return lu.illisible ? FinSaisie::ramenee : FinSaisie::prise;
+}
+
+/// Where a stock is kept, and what is said of one that is wider than the chord.
+struct Bord {
+    std::string &afich;
+    float &mm;
+    LngKey trop_large;
+};
+
 /// Stores a stock's text and number; above the chord the number is 0 and a box says so.
-FinSaisie StockeBord(const std::string &typed, float number, std::string &afich, float &stored,
-                     const RibModel &rib) {
-    const bool fits = number <= rib.corde;
-    afich = typed;
-    stored = fits ? number : 0.0F;
-    return fits ? FinSaisie::prise : FinSaisie::ramenee;
+FinSaisie StockeBord(const Bord &bord, const RibModel &rib, const std::string &typed,
+                     const Saisie &saisie, const std::string &titre) {
+    const Lu lu = LitLongueur(typed, saisie);
+    const bool fits = lu.mm <= rib.corde;
+    if (!fits) {
+        saisie.messages.Inform(saisie.messages.Text(bord.trop_large), titre);
+    }
+    bord.afich = typed;
+    bord.mm = fits ? lu.mm : 0.0F;
+    return fits ? FinDe(lu) : FinSaisie::ramenee;
 }
 
 constexpr std::array<ModeEntree, 5> kModes = {{
@@ -80,7 +107,7 @@ constexpr std::array<ModeEntree, 5> kModes = {{
 
 FinSaisie SaisitCorde(RibModel &rib, const std::string &typed, const Saisie &saisie,
                       const std::string &titre) {
-    const float corde = ToSingle(NombreMm(typed, saisie));
+    const float corde = LitLongueur(typed, saisie).mm;
     if (corde == 0.0F) {
         rib.cordeAfich = typed;
         rib.corde = corde;
@@ -102,22 +129,19 @@ FinSaisie SaisitCorde(RibModel &rib, const std::string &typed, const Saisie &sai
 
 FinSaisie SaisitCoffrage(RibModel &rib, const std::string &typed, const Saisie &saisie,
                          const std::string & /*titre*/) {
-    const float EpCoffrage = ToSingle(NombreMm(typed, saisie));
-    const Talon talon = TalonPour(rib, {rib.corde, EpCoffrage}, saisie);
+    const Lu lu = LitLongueur(typed, saisie);
+    const Talon talon = TalonPour(rib, {rib.corde, lu.mm}, saisie);
     rib.EpCoffrageAfich = typed;
-    rib.EpCoffrage = EpCoffrage;
+    rib.EpCoffrage = lu.mm;
     rib.talon = talon;
     rib.Modifie = true;
-    return FinSaisie::prise;
+    return FinDe(lu);
 }
 
 FinSaisie SaisitBordAttaque(RibModel &rib, const std::string &typed, const Saisie &saisie,
                             const std::string &titre) {
-    const float EpBA = ToSingle(NombreMm(typed, saisie));
-    const FinSaisie fin = StockeBord(typed, EpBA, rib.EpBAAfich, rib.EpBA, rib);
-    if (fin == FinSaisie::ramenee) {
-        saisie.messages.Inform(saisie.messages.Text({"FrmInput", "11"}), titre);
-    }
+    const FinSaisie fin =
+        StockeBord({rib.EpBAAfich, rib.EpBA, {"FrmInput", "11"}}, rib, typed, saisie, titre);
     rib.TypeBA = 1;
     rib.Modifie = true;
     return fin;
@@ -125,11 +149,8 @@ FinSaisie SaisitBordAttaque(RibModel &rib, const std::string &typed, const Saisi
 
 FinSaisie SaisitBordFuite(RibModel &rib, const std::string &typed, const Saisie &saisie,
                           const std::string &titre) {
-    const float EpBF = ToSingle(NombreMm(typed, saisie));
-    const FinSaisie fin = StockeBord(typed, EpBF, rib.EpBFAfich, rib.EpBF, rib);
-    if (fin == FinSaisie::ramenee) {
-        saisie.messages.Inform(saisie.messages.Text({"FrmInput", "12"}), titre);
-    }
+    const FinSaisie fin =
+        StockeBord({rib.EpBFAfich, rib.EpBF, {"FrmInput", "12"}}, rib, typed, saisie, titre);
     rib.Modifie = true;
     return fin;
 }

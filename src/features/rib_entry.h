@@ -14,7 +14,7 @@ namespace loftwing {
 /// What became of a typed value.
 enum class FinSaisie {
     prise,   ///< stored
-    ramenee, ///< out of range; a box told so, and the rib has the value that stands in its place
+    ramenee, ///< out of range or unreadable; a box told so, and the rib has 0 or the limit
     refusee  ///< a box told why; the user types again
 };
 

@@ -320,10 +320,19 @@ TEST_F(RibEntryTest, AStockThatIsNoLengthInInchesIsZero) {
     Unite = kUniteIn;
     rib.EpBA = 4;
     platform.Expect(BoxAnswer::ok);
-    EXPECT_EQ(Type("ba", "/8"), FinSaisie::prise);
+    EXPECT_EQ(Type("ba", "/8"), FinSaisie::ramenee);
     ExpectBox(0, "Wrong entry : \nxx.yy/zz ou xx.yy", "Enter error");
     EXPECT_EQ(rib.EpBA, 0.0F);
     EXPECT_EQ(rib.EpBAAfich, "/8");
+}
+
+TEST_F(RibEntryTest, SheetingThatIsNoLengthInInchesIsZero) {
+    Unite = kUniteIn;
+    platform.Expect(BoxAnswer::ok);
+    EXPECT_EQ(Type("epcof", "1./8"), FinSaisie::ramenee);
+    EXPECT_EQ(rib.EpCoffrage, 0.0F);
+    EXPECT_EQ(rib.EpCoffrageAfich, "1./8");
+    EXPECT_TRUE(rib.Modifie);
 }
 
 TEST_F(RibEntryTest, StocksAreComparedInMmWhateverTheUnit) {
