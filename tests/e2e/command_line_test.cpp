@@ -92,7 +92,7 @@ TEST(Info, ARefusedFileSaysWhyAndTheOthersGoOn) {
     EXPECT_EQ(std::count(ran.out.begin(), ran.out.end(), '\n'), 4) << ran.out;
     EXPECT_THAT(ran.out, HasSubstr("bad \\\"x\\\".dat\", \"refused\": \""));
     EXPECT_THAT(ran.out, HasSubstr("File not found"));
-    EXPECT_THAT(ran.out, HasSubstr("\"thickness\": 0.11"));
+    EXPECT_THAT(ran.out, HasSubstr("\"thickness\": 0.120"));
 }
 
 TEST(Info, ReadableLinesNameTheAirfoil) {
