@@ -1,0 +1,170 @@
+#include "platform/qt_form.h"
+
+#include "platform/platform.h"
+#include "platform/qt_pointer.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QClipboard>
+#include <QDialog>
+#include <QFocusEvent>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QShortcut>
+
+#include <algorithm>
+#include <iterator>
+
+namespace loftwing {
+
+namespace {
+
+LngKey KeyOf(SharedWord word) {
+    switch (word) {
+    case SharedWord::ok:
+        return {"TextButton", "1"};
+    case SharedWord::cancel:
+        return {"TextButton", "2"};
+    case SharedWord::help:
+        return {"TextButton", "3"};
+    case SharedWord::apply:
+        return {"TextButton", "4"};
+    case SharedWord::close:
+        break;
+    }
+    return {"TextButton", "5"};
+}
+
+// Only where nobody has chosen a size; the size found here counts as found, not as chosen.
+void FitToContent(QDialog &dialog) {
+    if (!dialog.testAttribute(Qt::WA_Resized)) {
+        dialog.adjustSize();
+        dialog.setAttribute(Qt::WA_Resized, false);
+    }
+}
+
+void CentreOn(QDialog &dialog, const QWidget &window) {
+    const QRect space = window.screen()->availableGeometry();
+    QRect place({}, dialog.size());
+    place.moveCenter(window.frameGeometry().center());
+    // A window that reaches beyond the screen must not take its dialogs along.
+    place.moveRight(std::min(place.right(), space.right()));
+    place.moveBottom(std::min(place.bottom(), space.bottom()));
+    place.moveLeft(std::max(place.left(), space.left()));
+    place.moveTop(std::max(place.top(), space.top()));
+    dialog.move(place.topLeft());
+}
+
+} // namespace
+
+NumericField::NumericField(std::string_view keys, QWidget *parent)
+    : QLineEdit(parent), keys_(Q(keys)) {
+    setInputMethodHints(Qt::ImhPreferNumbers | Qt::ImhNoPredictiveText);
+}
+
+bool NumericField::Admits(QChar character) const {
+    return keys_.isEmpty() || keys_.contains(character);
+}
+
+QString NumericField::Admitted(const QString &text) const {
+    QString admitted;
+    std::copy_if(text.begin(), text.end(), std::back_inserter(admitted),
+                 [this](QChar character) { return Admits(character); });
+    return admitted;
+}
+
+void NumericField::keyPressEvent(QKeyEvent *event) {
+    if (event->matches(QKeySequence::Paste)) {
+        insert(Admitted(QApplication::clipboard()->text()));
+        return;
+    }
+    // Keys without a character of their own (backspace, arrows, Return, shortcuts with Ctrl) go on.
+    const QString typed = event->text();
+    const bool printable = !typed.isEmpty() && typed.front().isPrint();
+    if (!printable || Admitted(typed) == typed) {
+        QLineEdit::keyPressEvent(event);
+        return;
+    }
+    // Alt with a letter may still be somebody's access key.
+    event->setAccepted((event->modifiers() & (Qt::AltModifier | Qt::MetaModifier)) == 0);
+}
+
+void NumericField::inputMethodEvent(QInputMethodEvent *event) {
+    event->setCommitString(Admitted(event->commitString()), event->replacementStart(),
+                           event->replacementLength());
+    QLineEdit::inputMethodEvent(event);
+}
+
+void NumericField::focusInEvent(QFocusEvent *event) {
+    QLineEdit::focusInEvent(event);
+    // A context menu that closes gives the focus back; what it was opened for is still selected.
+    if (event->reason() == Qt::PopupFocusReason) {
+        return;
+    }
+    entered_by_press_ = event->reason() == Qt::MouseFocusReason;
+    selectAll();
+}
+
+void NumericField::mousePressEvent(QMouseEvent *event) {
+    // The press that brought the focus would drop the selection again.
+    if (entered_by_press_ && event->button() == Qt::LeftButton) {
+        event->accept();
+        return;
+    }
+    QLineEdit::mousePressEvent(event);
+}
+
+void NumericField::mouseReleaseEvent(QMouseEvent *event) {
+    entered_by_press_ = false;
+    QLineEdit::mouseReleaseEvent(event);
+}
+
+void SelectField(QLineEdit &field) {
+    field.setFocus();
+    field.selectAll();
+}
+
+std::string ButtonWord(const LngIni &language, SharedWord word) {
+    return language.LngText(KeyOf(word));
+}
+
+void SetButtonWord(QAbstractButton &button, const LngIni &language, SharedWord word) {
+    button.setText(Q(ButtonWord(language, word)));
+}
+
+void SetTip(QWidget &widget, const std::string &tip) {
+    const QString text = Q(tip).trimmed();
+    widget.setToolTip(Qt::mightBeRichText(text) ? "<qt>" + text.toHtmlEscaped() + "</qt>" : text);
+    widget.setAccessibleDescription(text);
+}
+
+void ConnectHelp(QDialog &dialog, QAbstractButton &help, Platform &platform, int context) {
+    const auto show = [&platform, context] { platform.ShowHelp(context); };
+    QObject::connect(&help, &QAbstractButton::clicked, &dialog, show);
+    auto *key = new QShortcut(QKeySequence(Qt::Key_F1), &dialog);
+    QObject::connect(key, &QShortcut::activated, &dialog, show);
+}
+
+void NameControl(QObject &control, const char *name) {
+    control.setObjectName(QString::fromLatin1(name));
+}
+
+void NameControl(QObject &control, const char *name, int index) {
+    control.setObjectName(QString::fromLatin1("%1(%2)").arg(QLatin1String(name)).arg(index));
+}
+
+int ShowModal(QDialog &dialog) {
+    const PointerPause pause;
+    dialog.setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    const QWidget *parent =
+        dialog.parentWidget() ? dialog.parentWidget()->window() : QApplication::activeWindow();
+    if (parent && parent->isVisible()) {
+        FitToContent(dialog);
+        CentreOn(dialog, *parent);
+    }
+    return dialog.exec();
+}
+
+} // namespace loftwing

@@ -1,0 +1,88 @@
+/// What all windows share: numeric fields, shared words, help, names, showing.
+#pragma once
+
+#include "lang/LngIni.h"
+#include "platform/qt_text.h"
+
+#include <QLineEdit>
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+class QAbstractButton;
+class QDialog;
+
+namespace loftwing {
+
+class Platform;
+
+/// A field for a number. A typed character that its key set lacks is swallowed, and text pasted by
+/// key loses such characters; backspace, navigation, copying and setText() pass. The whole content
+/// is selected whenever the field gets the focus, by mouse too, so that typing replaces it.
+class NumericField : public QLineEdit {
+    Q_OBJECT
+
+  public:
+    explicit NumericField(QWidget *parent = nullptr) : NumericField({}, parent) {}
+    NumericField(std::string_view keys, QWidget *parent);
+
+    /// The characters that the field admits from now on (one of the sets of core/units.h); with
+    /// none it admits all. What the field holds stays.
+    void SetKeys(std::string_view keys) { keys_ = Q(keys); }
+
+  protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+  private:
+    QString keys_;
+    bool entered_by_press_ = false;
+
+    bool Admits(QChar character) const;
+    QString Admitted(const QString &text) const;
+};
+
+/// Gives a field the focus with its whole content selected, as after a refused entry.
+void SelectField(QLineEdit &field);
+
+/// The words that buttons of all windows share.
+enum class SharedWord { ok, cancel, help, apply, close };
+
+std::string ButtonWord(const LngIni &language, SharedWord word);
+void SetButtonWord(QAbstractButton &button, const LngIni &language, SharedWord word);
+
+/// Gives a widget a tool tip, shown as it stands even when it looks like markup.
+void SetTip(QWidget &widget, const std::string &tip);
+
+/// Makes the help button of a dialog and F1 in it open the help at `context`.
+void ConnectHelp(QDialog &dialog, QAbstractButton &help, Platform &platform, int context);
+
+/// Names a control; tests, accessibility tools and style sheets find it by that.
+void NameControl(QObject &control, const char *name);
+/// The same for an element of an array: "Text1(0)".
+void NameControl(QObject &control, const char *name, int index);
+
+/// Names all elements of an array of controls or of pointers to controls, from index 0.
+template <class Array>
+void NameControls(Array &controls, const char *name) {
+    int index = 0;
+    for (auto &control : controls) {
+        if constexpr (std::is_pointer_v<std::remove_reference_t<decltype(control)>>) {
+            NameControl(*control, name, index);
+        } else {
+            NameControl(control, name, index);
+        }
+        ++index;
+    }
+}
+
+/// Shows a dialog centred on its parent, or on the active window, and waits until it is closed.
+/// Gives what exec() gives. A busy pointer is put aside meanwhile.
+int ShowModal(QDialog &dialog);
+
+} // namespace loftwing

@@ -1,0 +1,229 @@
+#include "platform/qt_printer.h"
+
+#include "base/failure.h"
+#include "base/version.h"
+#include "base/whole_file.h"
+#include "output/recording.h"
+#include "platform/qt_plot_device.h"
+#include "platform/qt_text.h"
+
+#include <QBuffer>
+#include <QPageLayout>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPrinter>
+
+#include <algorithm>
+#include <cmath>
+#include <deque>
+#include <filesystem>
+#include <optional>
+
+namespace loftwing {
+
+namespace {
+
+/// One dot is 0.02 mm; places between dots are kept.
+constexpr int kDpi = 1200;
+constexpr double kSamePaper = 0.1; // mm
+
+/// A sheet as it was drawn.
+class Sheet : public Recording {
+  public:
+    Sheet() : Recording(PaperAdvance) {}
+    using Recording::CircleOutline;
+    using Recording::Segment;
+    using Recording::Text;
+};
+
+void SetLayout(QPagedPaintDevice &device, const std::optional<QPageSize> &paper,
+               Orientation orientation) {
+    QPageLayout layout = device.pageLayout();
+    // The origin is the sheet's corner, whatever rim the printer leaves white.
+    layout.setMode(QPageLayout::FullPageMode);
+    layout.setMargins({});
+    if (paper) {
+        layout.setPageSize(*paper);
+    }
+    layout.setOrientation(orientation == Orientation::landscape ? QPageLayout::Landscape
+                                                                : QPageLayout::Portrait);
+    if (!device.setPageLayout(layout)) {
+        throw MakeFailure(kDeviceError, S(layout.pageSize().name()));
+    }
+}
+
+void DrawSheets(QPagedPaintDevice &device, const std::deque<Sheet> &sheets) {
+    QPainter painter;
+    if (!painter.begin(&device)) {
+        throw MakeFailure(kDeviceError);
+    }
+    const PlotSurface surface = PaperSurface(device.logicalDpiX());
+    const QSize size = device.pageLayout().fullRectPixels(device.logicalDpiX()).size();
+    for (const Sheet &sheet : sheets) {
+        if (&sheet != &sheets.front() && !device.newPage()) {
+            throw MakeFailure(kDeviceError);
+        }
+        painter.setClipRect(QRect({}, size));
+        Replay(sheet, painter, surface);
+    }
+    if (!painter.end()) {
+        throw MakeFailure(kDeviceError);
+    }
+}
+
+/// What all jobs have in common: sheets are kept, and sent at the end.
+class SheetPrinter : public Printer {
+  public:
+    explicit SheetPrinter(std::optional<QPageSize> paper) : own_paper_(paper), paper_(paper) {}
+
+    void SetOrientation(Orientation orientation) override { orientation_ = orientation; }
+    void SetPaperSize(double short_side, double long_side) override {
+        const bool own = short_side == 0 && long_side == 0;
+        paper_ = own ? own_paper_ : PaperOf(short_side, long_side);
+    }
+    void NewPage() override { sheets_.emplace_back(); }
+    void EndDoc() override {
+        Send(sheets_);
+        Abort();
+    }
+    void Abort() override {
+        sheets_.clear();
+        sheets_.emplace_back();
+    }
+
+  protected:
+    virtual void Send(const std::deque<Sheet> &sheets) = 0;
+
+    void SetUp(QPagedPaintDevice &device) const { SetLayout(device, paper_, orientation_); }
+
+    void Segment(double x1, double y1, double x2, double y2, const Pen &pen) override {
+        sheets_.back().Segment(x1, y1, x2, y2, pen);
+    }
+    void CircleOutline(double x, double y, double radius, const Pen &pen) override {
+        sheets_.back().CircleOutline(x, y, radius, pen);
+    }
+    double Text(double x, double y, const std::string &text, const TextFont &font,
+                Colour colour) override {
+        return sheets_.back().Text(x, y, text, font, colour);
+    }
+
+  private:
+    std::optional<QPageSize> own_paper_; ///< nothing: what the device has
+    std::optional<QPageSize> paper_;
+    Orientation orientation_ = Orientation::portrait;
+    std::deque<Sheet> sheets_ = std::deque<Sheet>(1);
+};
+
+class PdfPrinter : public SheetPrinter {
+  public:
+    PdfPrinter(const std::string &title, const QPageSize &paper)
+        : SheetPrinter(paper), title_(Q(title)) {}
+
+  protected:
+    void Send(const std::deque<Sheet> &sheets) override {
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        QPdfWriter writer(&buffer);
+        writer.setResolution(kDpi);
+        writer.setTitle(title_);
+        writer.setCreator(QString::fromLatin1(kTitre));
+        SetUp(writer);
+        DrawSheets(writer, sheets);
+        Deliver(bytes.toStdString());
+    }
+    virtual void Deliver(std::string bytes) = 0;
+
+  private:
+    QString title_;
+};
+
+class MemoryPdf : public PdfPrinter {
+  public:
+    MemoryPdf(std::string &bytes, const std::string &title, const QPageSize &paper)
+        : PdfPrinter(title, paper), bytes_(bytes) {}
+
+  protected:
+    void Deliver(std::string bytes) override { bytes_ = std::move(bytes); }
+
+  private:
+    std::string &bytes_;
+};
+
+bool IsDiskFull(const std::string &path, std::size_t needed) {
+    std::error_code error;
+    const std::filesystem::path folder = std::filesystem::absolute(path, error).parent_path();
+    const std::filesystem::space_info space = std::filesystem::space(folder, error);
+    return !error && space.available < needed;
+}
+
+class FilePdf : public PdfPrinter {
+  public:
+    FilePdf(const std::string &path, const std::string &title, const QPageSize &paper)
+        : PdfPrinter(title, paper), path_(path) {}
+
+  protected:
+    void Deliver(std::string bytes) override {
+        if (!ReplaceFile(path_, bytes)) {
+            throw MakeFailure(IsDiskFull(path_, bytes.size()) ? kDiskFull : kDeviceError, path_);
+        }
+    }
+
+  private:
+    std::string path_;
+};
+
+class SystemPrinter : public SheetPrinter {
+  public:
+    explicit SystemPrinter(std::unique_ptr<QPrinter> printer)
+        : SheetPrinter(std::nullopt), printer_(std::move(printer)) {}
+
+  protected:
+    void Send(const std::deque<Sheet> &sheets) override {
+        SetUp(*printer_);
+        DrawSheets(*printer_, sheets);
+        if (printer_->printerState() == QPrinter::Error) {
+            throw MakeFailure(kDeviceError, S(printer_->printerName()));
+        }
+    }
+
+  private:
+    std::unique_ptr<QPrinter> printer_;
+};
+
+} // namespace
+
+QPageSize PaperOf(double short_side, double long_side) {
+    if (!(short_side > 0 && long_side > 0)) {
+        throw MakeFailure(kInvalidProcedureCall);
+    }
+    const QSizeF size(std::min(short_side, long_side), std::max(short_side, long_side));
+    for (int id = 0; id <= QPageSize::LastPageSize; ++id) {
+        const auto standard = static_cast<QPageSize::PageSizeId>(id);
+        if (standard == QPageSize::Custom) {
+            continue;
+        }
+        const QSizeF its = QPageSize::size(standard, QPageSize::Millimeter);
+        if (std::abs(its.width() - size.width()) <= kSamePaper &&
+            std::abs(its.height() - size.height()) <= kSamePaper) {
+            return QPageSize(standard);
+        }
+    }
+    return QPageSize(size, QPageSize::Millimeter, {}, QPageSize::ExactMatch);
+}
+
+std::unique_ptr<Printer> MakePdfPrinter(std::string &bytes, const std::string &title,
+                                        const QPageSize &paper) {
+    return std::make_unique<MemoryPdf>(bytes, title, paper);
+}
+
+std::unique_ptr<Printer> MakePdfFilePrinter(const std::string &path, const std::string &title,
+                                            const QPageSize &paper) {
+    return std::make_unique<FilePdf>(path, title, paper);
+}
+
+std::unique_ptr<Printer> MakeSystemPrinter(std::unique_ptr<QPrinter> printer) {
+    return std::make_unique<SystemPrinter>(std::move(printer));
+}
+
+} // namespace loftwing
