@@ -1,0 +1,109 @@
+#include "base/text_encoding.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace loftwing {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(IsUtf8, TakesSequencesOfOneToFourBytes) {
+    EXPECT_TRUE(IsUtf8(""));
+    EXPECT_TRUE(IsUtf8("plain"));
+    EXPECT_TRUE(IsUtf8("\xC3\xA9"));         // e with acute accent
+    EXPECT_TRUE(IsUtf8("\xE2\x82\xAC"));     // euro sign
+    EXPECT_TRUE(IsUtf8("\xF0\x9F\x9B\xA9")); // a small aeroplane
+    EXPECT_TRUE(IsUtf8("\xF4\x8F\xBF\xBF")); // the last code point
+}
+
+TEST(IsUtf8, RefusesWhatIsCutOrStray) {
+    EXPECT_FALSE(IsUtf8("\xC3"));
+    EXPECT_FALSE(IsUtf8("\xC3 "));
+    EXPECT_FALSE(IsUtf8("\xE2\x82"));
+    EXPECT_FALSE(IsUtf8("\xF0\x9F\x9B"));
+    EXPECT_FALSE(IsUtf8("\xA9"));
+    EXPECT_FALSE(IsUtf8("caf\xE9"));
+    EXPECT_FALSE(IsUtf8("\xFF"));
+}
+
+TEST(IsUtf8, RefusesOverlongFormsSurrogatesAndWhatLiesBeyond) {
+    EXPECT_FALSE(IsUtf8("\xC0\xAF"));
+    EXPECT_FALSE(IsUtf8("\xC1\xBF"));
+    EXPECT_FALSE(IsUtf8("\xE0\x9F\xBF"));
+    EXPECT_FALSE(IsUtf8("\xF0\x8F\xBF\xBF"));
+    EXPECT_FALSE(IsUtf8("\xED\xA0\x80"));
+    EXPECT_FALSE(IsUtf8("\xF4\x90\x80\x80"));
+    EXPECT_FALSE(IsUtf8("\xF5\x80\x80\x80"));
+}
+
+TEST(ToUtf8, LeavesValidUtf8AsItIs) {
+    EXPECT_EQ(ToUtf8("profil \xC3\xA9pais"), "profil \xC3\xA9pais");
+}
+
+TEST(ToUtf8, ReadsAllElseAsWindows1252) {
+    EXPECT_EQ(ToUtf8("\xE9pais"), "\xC3\xA9pais");
+    EXPECT_EQ(ToUtf8("10\x80"), "10\xE2\x82\xAC");
+    EXPECT_EQ(ToUtf8("\x93x\x94"), "\xE2\x80\x9Cx\xE2\x80\x9D");
+    EXPECT_EQ(ToUtf8("\xB0"), "\xC2\xB0");
+    EXPECT_EQ(ToUtf8("\x9F\xFF"), "\xC5\xB8\xC3\xBF");
+    EXPECT_EQ(ToUtf8("\x81"), "\xC2\x81") << "a byte that stands for nothing stands for itself";
+}
+
+TEST(ToUtf8, ReadsTheWholeFileOneWay) {
+    EXPECT_EQ(ToUtf8("\xC3\xA9 \xE9"), "\xC3\x83\xC2\xA9 \xC3\xA9");
+}
+
+TEST(ToUtf8, SkipsAByteOrderMark) {
+    EXPECT_EQ(ToUtf8("\xEF\xBB\xBF"
+                     "1.0 0.0"),
+              "1.0 0.0");
+    EXPECT_EQ(ToUtf8("\xEF\xBB\xBF"), "");
+    EXPECT_EQ(ToUtf8("\xEF\xBB\xBF\xE9"), "\xC3\xA9");
+    EXPECT_EQ(ToUtf8("x\xEF\xBB\xBF"), "x\xEF\xBB\xBF") << "only in front";
+}
+
+TEST(ToUtf8, GivesValidUtf8ForEveryByte) {
+    for (int byte = 0; byte < 256; ++byte) {
+        EXPECT_TRUE(IsUtf8(ToUtf8(std::string(1, static_cast<char>(byte))))) << byte;
+    }
+}
+
+TEST(SplitLines, EndsLinesAtLfAndCrLf) {
+    EXPECT_THAT(SplitLines("a\nb\r\nc\n"), ElementsAre("a", "b", "c"));
+}
+
+TEST(SplitLines, NeedsNoEndOfTheLastLine) {
+    EXPECT_THAT(SplitLines("a\nb"), ElementsAre("a", "b"));
+    EXPECT_THAT(SplitLines(""), IsEmpty());
+}
+
+TEST(SplitLines, KeepsEmptyLines) {
+    EXPECT_THAT(SplitLines("\n\r\nx\n\n"), ElementsAre("", "", "x", ""));
+}
+
+TEST(SplitLines, KeepsACarriageReturnWithinALine) {
+    EXPECT_THAT(SplitLines("a\rb\nc"), ElementsAre("a\rb", "c"));
+}
+
+TEST(Characters, AreCountedAndNotBytes) {
+    const std::string text = "\xC3\xA9t\xC3\xA9\xE2\x82\xAC"; // four characters in eight bytes
+    EXPECT_EQ(CharacterCount(text), 4U);
+    EXPECT_EQ(FirstCharacters(text, 1), "\xC3\xA9");
+    EXPECT_EQ(FirstCharacters(text, 3), "\xC3\xA9t\xC3\xA9");
+    EXPECT_EQ(LastCharacters(text, 1), "\xE2\x82\xAC");
+    EXPECT_EQ(LastCharacters(text, 2), "\xC3\xA9\xE2\x82\xAC");
+}
+
+TEST(Characters, AreAllThereAreWhereMoreAreWanted) {
+    EXPECT_EQ(FirstCharacters("abc", 5), "abc");
+    EXPECT_EQ(LastCharacters("abc", 5), "abc");
+    EXPECT_EQ(FirstCharacters("abc", 0), "");
+    EXPECT_EQ(LastCharacters("abc", 0), "");
+    EXPECT_EQ(FirstCharacters("", 2), "");
+    EXPECT_EQ(LastCharacters("", 2), "");
+}
+
+} // namespace
+} // namespace loftwing

@@ -1,0 +1,207 @@
+#include "base/whole_file.h"
+
+#include "support/failures.h"
+#include "support/temp_folder.h"
+
+#include <csignal>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace loftwing {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Status of a process of its own in which `action` ran as a user without privileges: root may read
+/// and write everything.
+template <class Action>
+int AsOrdinaryUser(Action action) {
+    constexpr uid_t kNobody = 65534;
+    const pid_t child = fork();
+    if (child == 0) {
+        const bool changed = geteuid() != 0 || seteuid(kNobody) == 0;
+        _exit(changed ? action() : 255);
+    }
+    int status = 0;
+    EXPECT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFEXITED(status));
+    return WEXITSTATUS(status);
+}
+
+TEST(ReadWholeFile, GivesEveryByte) {
+    const TempFolder folder;
+    const std::string bytes("a\0b\r\n\xFF", 6);
+    EXPECT_EQ(ReadWholeFile(folder.File("x", bytes)), bytes);
+    EXPECT_EQ(ReadWholeFile(folder.File("empty", "")), "");
+    const std::string long_one(200001, 'x');
+    EXPECT_EQ(ReadWholeFile(folder.File("long", long_one)), long_one);
+}
+
+TEST(ReadWholeFile, FailsWith53WhenTheFileIsMissing) {
+    const TempFolder folder;
+    EXPECT_EQ(FailureOf([&] { ReadWholeFile(folder.Path("none.dat")); }), kFileNotFound);
+    EXPECT_EQ(FailureOf([] { ReadWholeFile("surely-no-such-file.dat"); }), kFileNotFound);
+    EXPECT_EQ(FailureOf([] { ReadWholeFile(""); }), kFileNotFound);
+}
+
+TEST(ReadWholeFile, FailsWith76WhenTheFolderIsMissing) {
+    const TempFolder folder;
+    EXPECT_EQ(FailureOf([&] { ReadWholeFile(folder.Path("none/x.dat")); }), kPathNotFound);
+    const std::string file = folder.File("file", "");
+    EXPECT_EQ(FailureOf([&] { ReadWholeFile(file + "/x.dat"); }), kPathNotFound);
+}
+
+TEST(ReadWholeFile, FailsWith75ForAFolder) {
+    const TempFolder folder;
+    EXPECT_EQ(FailureOf([&] { ReadWholeFile(folder.Path()); }), kPathFileAccess);
+}
+
+TEST(ReadWholeFile, FailsWith75ForAPipeAndDoesNotWaitForIt) {
+    const TempFolder folder;
+    const std::string pipe = folder.Path("pipe");
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_EQ(FailureOf([&] { ReadWholeFile(pipe); }), kPathFileAccess);
+}
+
+TEST(ReadWholeFile, FailsWith75ForADevice) {
+    EXPECT_EQ(FailureOf([] { ReadWholeFile("/dev/zero"); }), kPathFileAccess);
+}
+
+TEST(ReadWholeFile, FailsWith70WhenItMayNotBeRead) {
+    const TempFolder folder;
+    const std::string file = folder.File("x", "secret");
+    fs::permissions(file, fs::perms::none);
+    EXPECT_EQ(AsOrdinaryUser([&] { return FailureOf([&] { ReadWholeFile(file); }); }),
+              kPermissionDenied);
+}
+
+TEST(ReadWholeFile, FailsWith70InAFolderThatMayNotBeEntered) {
+    const TempFolder folder;
+    fs::create_directory(folder.Path("sub"));
+    const std::string file = folder.File("sub/x", "secret");
+    fs::permissions(folder.Path("sub"), fs::perms::none);
+    EXPECT_EQ(AsOrdinaryUser([&] { return FailureOf([&] { ReadWholeFile(file); }); }),
+              kPermissionDenied);
+    EXPECT_EQ(AsOrdinaryUser([&] { return FailureOf([&] { ReadWholeFileIfThere(file); }); }),
+              kPermissionDenied);
+    fs::permissions(folder.Path("sub"), fs::perms::owner_all);
+}
+
+TEST(ReadWholeFile, FailsWith7AboveTheLargestFile) {
+    const TempFolder folder;
+    const std::string file = folder.File("x", "");
+    fs::resize_file(file, kLargestFile); // without blocks on the disk
+    EXPECT_EQ(ReadWholeFile(file).size(), kLargestFile);
+    fs::resize_file(file, kLargestFile + 1);
+    EXPECT_EQ(FailureOf([&] { ReadWholeFile(file); }), kOutOfMemory);
+}
+
+TEST(ReadWholeFileIfThere, IsEmptyOnlyWhereThereIsNoFile) {
+    const TempFolder folder;
+    EXPECT_EQ(ReadWholeFileIfThere(folder.Path("none")), "");
+    EXPECT_EQ(ReadWholeFileIfThere(folder.Path("none/x")), "");
+    EXPECT_EQ(ReadWholeFileIfThere(folder.File("x", "text")), "text");
+    EXPECT_EQ(FailureOf([&] { ReadWholeFileIfThere(folder.Path()); }), kPathFileAccess);
+}
+
+TEST(ReplaceFile, MakesAndReplacesFilesAndLeavesNothingElse) {
+    const TempFolder folder;
+    EXPECT_TRUE(ReplaceFile(folder.Path("x"), "first, and longer"));
+    EXPECT_EQ(folder.Bytes("x"), "first, and longer");
+    EXPECT_TRUE(ReplaceFile(folder.Path("x"), "second"));
+    EXPECT_EQ(folder.Bytes("x"), "second");
+    EXPECT_EQ(folder.Entries(), 1);
+}
+
+TEST(ReplaceFile, TakesNamesOfAnyLengthThatAFileMayHave) {
+    const TempFolder folder;
+    const std::string name(255, 'n');
+    EXPECT_TRUE(ReplaceFile(folder.Path(name), "text"));
+    EXPECT_EQ(folder.Bytes(name), "text");
+}
+
+TEST(ReplaceFile, ReplacesTheFileBehindALink) {
+    const TempFolder folder;
+    const std::string file = folder.File("file", "old");
+    fs::create_symlink(file, folder.Path("link"));
+    EXPECT_TRUE(ReplaceFile(folder.Path("link"), "new"));
+    EXPECT_TRUE(fs::is_symlink(folder.Path("link")));
+    EXPECT_EQ(folder.Bytes("file"), "new");
+}
+
+TEST(ReplaceFile, KeepsThePermissions) {
+    const TempFolder folder;
+    const std::string file = folder.File("x", "old");
+    const fs::perms mode = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
+    fs::permissions(file, mode);
+    EXPECT_TRUE(ReplaceFile(file, "new"));
+    EXPECT_EQ(fs::status(file).permissions(), mode);
+}
+
+TEST(ReplaceFile, IsRefusedWithoutAFolder) {
+    const TempFolder folder;
+    EXPECT_FALSE(ReplaceFile(folder.Path("none/x"), "text"));
+    EXPECT_EQ(folder.Entries(), 0);
+}
+
+TEST(ReplaceFile, IsRefusedOverAFolder) {
+    const TempFolder folder;
+    fs::create_directory(folder.Path("sub"));
+    EXPECT_FALSE(ReplaceFile(folder.Path("sub"), "text"));
+    EXPECT_EQ(folder.Entries(), 1);
+}
+
+TEST(ReplaceFile, IsRefusedOverAPipe) {
+    const TempFolder folder;
+    const std::string pipe = folder.Path("pipe");
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_FALSE(ReplaceFile(pipe, "text"));
+    EXPECT_TRUE(fs::is_fifo(pipe));
+    EXPECT_EQ(folder.Entries(), 1);
+}
+
+TEST(ReplaceFile, IsRefusedOverAProtectedFile) {
+    const TempFolder folder;
+    const std::string file = folder.File("x", "old");
+    fs::permissions(folder.Path(), fs::perms::all);
+    fs::permissions(file, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+    EXPECT_EQ(AsOrdinaryUser([&] { return ReplaceFile(file, "new") ? 1 : 0; }), 0);
+    EXPECT_EQ(folder.Bytes("x"), "old");
+    EXPECT_EQ(folder.Entries(), 1);
+}
+
+TEST(ReplaceFile, IsRefusedInAProtectedFolder) {
+    const TempFolder folder;
+    const std::string file = folder.File("x", "old");
+    fs::permissions(file, fs::perms::all);
+    const fs::perms mode = fs::status(folder.Path()).permissions();
+    fs::permissions(folder.Path(), fs::perms::owner_read | fs::perms::owner_exec |
+                                       fs::perms::others_read | fs::perms::others_exec);
+    EXPECT_EQ(AsOrdinaryUser([&] { return ReplaceFile(file, "new") ? 1 : 0; }), 0);
+    fs::permissions(folder.Path(), mode);
+    EXPECT_EQ(folder.Bytes("x"), "old");
+    EXPECT_EQ(folder.Entries(), 1);
+}
+
+TEST(ReplaceFile, LeavesTheOldFileWhenTheDiskIsFull) {
+    const TempFolder folder;
+    const std::string file = folder.File("x", "old");
+    fs::permissions(folder.Path(), fs::perms::all);
+    fs::permissions(file, fs::perms::all);
+    EXPECT_EQ(AsOrdinaryUser([&] {
+                  // A limit on the size of files stands for the disk's.
+                  const rlimit limit{1000, 1000};
+                  std::signal(SIGXFSZ, SIG_IGN);
+                  const bool limited = setrlimit(RLIMIT_FSIZE, &limit) == 0;
+                  return limited && !ReplaceFile(file, std::string(5000, 'x')) ? 7 : 1;
+              }),
+              7);
+    EXPECT_EQ(folder.Bytes("x"), "old");
+    EXPECT_EQ(folder.Entries(), 1);
+}
+
+} // namespace
+} // namespace loftwing

@@ -1,0 +1,22 @@
+/// Asking for a run-time failure in a test.
+#pragma once
+
+#include "base/failure.h"
+
+#include <gtest/gtest.h>
+
+namespace loftwing {
+
+/// Number of the failure that `action` ends in; 0 when it ends well.
+template <class Action>
+int FailureOf(Action action) {
+    try {
+        action();
+    } catch (const Failure &failure) {
+        EXPECT_FALSE(failure.description.empty());
+        return failure.number;
+    }
+    return 0;
+}
+
+} // namespace loftwing
