@@ -109,8 +109,8 @@ FinSaisie SaisitCorde(RibModel &rib, const std::string &typed, const Saisie &sai
                       const std::string &titre) {
     const float corde = LitLongueur(typed, saisie).mm;
     if (corde == 0.0F) {
+        // The text is new already; the number stays, for nothing can be drawn at a chord of 0.
         rib.cordeAfich = typed;
-        rib.corde = corde;
         RefuseCorde(typed, saisie, titre);
         return FinSaisie::refusee;
     }

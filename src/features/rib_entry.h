@@ -18,7 +18,7 @@ enum class FinSaisie {
     refusee  ///< a box told why; the user types again
 };
 
-/// Chord. A chord of 0 is refused, but text and number are stored all the same; else the heel, the
+/// Chord. A chord of 0 is refused; its text is stored all the same and the number stays. Else the heel, the
 /// template's length and the inserted text's owner follow. While two airfoils are compared the rib
 /// doesn't count as changed. `titre` is the title of the boxes.
 FinSaisie SaisitCorde(RibModel &rib, const std::string &typed, const Saisie &saisie,

@@ -112,7 +112,7 @@ TEST_F(RibEntryTest, AChordOfZeroIsRefusedButStored) {
     EXPECT_EQ(Type("corde", "0.0"), FinSaisie::refusee);
     ExpectBox(0, "Chord length : 0.0 mm - Please enter a chord", "Chord length  mm");
     EXPECT_EQ(rib.cordeAfich, "0.0");
-    EXPECT_EQ(rib.corde, 0.0F);
+    EXPECT_EQ(rib.corde, 200.0F);
     EXPECT_FALSE(rib.Modifie);
     EXPECT_EQ(rib.talon.TalonIntraAfich, "3");
     EXPECT_EQ(rib.bloc.LongBloc, 7);
