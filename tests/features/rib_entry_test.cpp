@@ -104,7 +104,7 @@ TEST_F(RibEntryTest, TheSameTextInMmIsEightAndATenth) {
     EXPECT_EQ(rib.corde, 8.1F);
 }
 
-TEST_F(RibEntryTest, AChordOfZeroIsRefusedButStored) {
+TEST_F(RibEntryTest, AChordOfZeroIsRefusedButItsTextIsStored) {
     rib.talon.TalonIntraAfich = "3";
     rib.bloc.LongBloc = 7;
     rib.texte.TexteUtilisateur = true;
