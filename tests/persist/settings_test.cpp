@@ -46,7 +46,7 @@ class Settings : public testing::Test {
         }
         return sections;
     }
-    void File(const std::string &text) { folder.Write("Loftwing.ini", text); }
+    void File(const std::string &text) { folder.File("Loftwing.ini", text); }
     /// What a first start does.
     void FirstRun() {
         ValeursDefaut(With(), programme);
@@ -55,9 +55,9 @@ class Settings : public testing::Test {
     }
 
     RibWorld world;
-    ScratchFolder folder;
-    std::string programme = folder / "programme";
-    std::string fichier = folder / "Loftwing.ini";
+    TempFolder folder;
+    std::string programme = folder.Path("programme");
+    std::string fichier = folder.Path("Loftwing.ini");
 };
 
 TEST_F(Settings, FirstRunWritesEverySectionWithItsDefaults) {
@@ -268,7 +268,7 @@ TEST_F(Settings, UnreadableFileIsToldOnceAndDefaultsStay) {
 }
 
 TEST_F(Settings, UnwritableFileIsNotReported) {
-    fichier = folder / "no such folder/Loftwing.ini";
+    fichier = folder.Path("no such folder/Loftwing.ini");
     EcritTout(With()); // an unexpected box would fail the test
     NoteFichierRecent("/a.dat", fichier);
     EXPECT_FALSE(fs::exists(fichier));
@@ -289,8 +289,8 @@ TEST_F(Settings, FoldersComeFromTheUsersStore) {
 class ControlOfFolders : public Settings {
   protected:
     ControlOfFolders() {
-        Folders().RepProfil = folder / "airfoils";
-        Folders().RepProfilevol = folder / "sets";
+        Folders().RepProfil = folder.Path("airfoils");
+        Folders().RepProfilevol = folder.Path("sets");
         fs::create_directory(Folders().RepProfil);
         fs::create_directory(Folders().RepProfilevol);
     }
@@ -318,11 +318,11 @@ TEST_F(ControlOfFolders, FoldersThatAreThereRaiseNoAlert) {
 }
 
 TEST_F(ControlOfFolders, MissingFoldersAreToldOneAtATime) {
-    Folders().RepProfil = folder / "gone";
-    Folders().RepProfilevol = folder / "gone too";
-    EXPECT_EQ(Told(), folder / "gone");
-    fs::create_directory(folder / "gone");
-    EXPECT_EQ(Told(), folder / "gone too");
+    Folders().RepProfil = folder.Path("gone");
+    Folders().RepProfilevol = folder.Path("gone too");
+    EXPECT_EQ(Told(), folder.Path("gone"));
+    fs::create_directory(folder.Path("gone"));
+    EXPECT_EQ(Told(), folder.Path("gone too"));
     Folders().RepProfil = "";
     EXPECT_EQ(Told(), "");
     EXPECT_EQ(world.platform.boxes.size(), 1U); // the empty path is no folder either
@@ -333,7 +333,7 @@ TEST_F(ControlOfFolders, ProgramsOwnFolderShouldBeASubfolder) {
     EXPECT_EQ(Told(), "\\airfoils  \\...  ");
     Folders().RepProfilevol = programme + "/";
     EXPECT_EQ(Told(), "\\airfoils  \\...  "); // one box for both
-    Folders().RepProfil = folder / "airfoils";
+    Folders().RepProfil = folder.Path("airfoils");
     EXPECT_EQ(Told(), "\\airfoils  \\...  ");
 }
 
