@@ -1,8 +1,11 @@
 #include "output/page_setup.h"
 
+#include "support/failures.h"
 #include "support/rib_world.h"
 
 #include <gtest/gtest.h>
+
+#include <array>
 
 namespace loftwing {
 namespace {
@@ -41,8 +44,8 @@ TEST(PageSetup, PaperTableHoldsTheTradesSizes) {
 TEST(PageSetup, LastPaperHasTheNameWithTheBlankInItsKey) {
     const RibWorld world;
     EXPECT_EQ(NomFeuille(8, world.language), "<FrmPrint tailleFeuille(8) >");
-    EXPECT_THROW(NomFeuille(9, world.language), Failure);
-    EXPECT_THROW(NomFeuille(-1, world.language), Failure);
+    EXPECT_EQ(FailureOf([&] { NomFeuille(9, world.language); }), 9);
+    EXPECT_EQ(FailureOf([&] { NomFeuille(-1, world.language); }), 9);
 }
 
 TEST(PageSetup, NewProgramHasItsPageInMm) {
@@ -134,12 +137,7 @@ TEST(PageSetup, MoreThan255SheetsAreAnOverflow) {
     EXPECT_EQ(CalculPasPage(page, Chord(254.5F)), Feuilles::plusieurs);
     EXPECT_EQ(page.NbPages, 255);
     for (const float corde : {255.0F, 3e38F}) {
-        try {
-            CalculPasPage(page, Chord(corde));
-            ADD_FAILURE() << corde;
-        } catch (const Failure &failure) {
-            EXPECT_EQ(failure.number, 6);
-        }
+        EXPECT_EQ(FailureOf([&] { CalculPasPage(page, Chord(corde)); }), 6) << corde;
     }
 }
 

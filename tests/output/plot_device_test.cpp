@@ -1,25 +1,15 @@
 #include "output/plot_device.h"
 
-#include "base/failure.h"
 #include "output/recording.h"
+#include "support/failures.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
-#include <functional>
 #include <limits>
 
 namespace loftwing {
 namespace {
-
-int FailureOf(const std::function<void()> &work) {
-    try {
-        work();
-    } catch (const Failure &failure) {
-        return failure.number;
-    }
-    return 0;
-}
 
 TEST(PlotDevice, PaletteHasSixteenColours) {
     const std::array<Colour, 16> colours = {

@@ -1,7 +1,7 @@
 #include "output/svg_writer.h"
 
-#include "base/failure.h"
 #include "output/screen_plot.h"
+#include "support/failures.h"
 #include "support/rib_world.h"
 #include "support/tiny_svg.h"
 
@@ -175,12 +175,7 @@ TEST(Svg, DrawingBeyondAKilometreIsAnOverflow) {
             Recording drawing;
             const double far = sign * 1e200;
             drawing.Line(0, 0, across ? far : 0, across ? 0 : far, 0);
-            try {
-                WriteSvg(drawing, "");
-                ADD_FAILURE() << sign << across;
-            } catch (const Failure &failure) {
-                EXPECT_EQ(failure.number, 6);
-            }
+            EXPECT_EQ(FailureOf([&] { WriteSvg(drawing, ""); }), 6) << sign << across;
         }
     }
 }

@@ -54,8 +54,8 @@ std::string Word(const std::string &section, const std::string &key) {
 }
 
 RibWorld::RibWorld() {
-    const ScratchFolder folder;
-    folder.Write("Words.lng", Words());
+    const TempFolder folder;
+    folder.File("Words.lng", Words());
     language.Charge(folder.Path(), "Words");
     ValeursDefautTraits(settings);
     rib.ProfilCharge = true;

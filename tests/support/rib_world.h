@@ -6,8 +6,8 @@
 #include "output/rib_plot.h"
 #include "output/screen_plot.h"
 #include "persist/settings.h"
-#include "support/scratch_folder.h"
 #include "support/scripted_platform.h"
+#include "support/temp_folder.h"
 
 #include <string>
 #include <utility>
