@@ -1,5 +1,5 @@
 #include "e2e/program.h"
-#include "support/scratch_folder.h"
+#include "support/temp_folder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -62,7 +62,7 @@ TEST(CommandLine, WrongUsageIsStatusTwoWithAReason) {
 }
 
 TEST(CommandLine, NeitherReadsNorWritesTheUsersSettings) {
-    const ScratchFolder folder;
+    const TempFolder folder;
     const Ran ran = RunShell("XDG_CONFIG_HOME=" + ShellWord(folder.Path()) + " HOME=" +
                              ShellWord(folder.Path()) + " " LOFTWING_BINARY_DIR "/loftwing draw " +
                              ShellWord(Sample("naca2412.dat")) + " --to svg -o -");
@@ -83,11 +83,11 @@ TEST(Info, JsonHoldsTheFactsOfEachFile) {
 }
 
 TEST(Info, ARefusedFileSaysWhyAndTheOthersGoOn) {
-    const ScratchFolder folder;
-    const std::string bad = folder.Write("bad \"x\".dat", "Title\n0.5 0.1\n1.0 0.0\n");
-    const std::string few = folder.Write("few.dat", "Few\n1 0\n0 0\n1 0\n");
-    const Ran ran =
-        RunLoftwing({"info", "--json", bad, folder / "missing.dat", few, Sample("naca0012.dat")});
+    const TempFolder folder;
+    const std::string bad = folder.File("bad \"x\".dat", "Title\n0.5 0.1\n1.0 0.0\n");
+    const std::string few = folder.File("few.dat", "Few\n1 0\n0 0\n1 0\n");
+    const Ran ran = RunLoftwing(
+        {"info", "--json", bad, folder.Path("missing.dat"), few, Sample("naca0012.dat")});
     EXPECT_EQ(ran.status, 1);
     EXPECT_EQ(std::count(ran.out.begin(), ran.out.end(), '\n'), 4) << ran.out;
     EXPECT_THAT(ran.out, HasSubstr("bad \\\"x\\\".dat\", \"refused\": \""));

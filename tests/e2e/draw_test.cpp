@@ -1,7 +1,7 @@
 #include "base/whole_file.h"
 #include "e2e/program.h"
 #include "e2e/svg_lines.h"
-#include "support/scratch_folder.h"
+#include "support/temp_folder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -28,8 +28,8 @@ const SvgPath &LastOf(const std::vector<SvgPath> &paths, const std::string &stro
 }
 
 TEST(Draw, SvgHasAReferenceLineAsLongAsTheChord) {
-    const ScratchFolder folder;
-    const std::string out = folder / "rib.svg";
+    const TempFolder folder;
+    const std::string out = folder.Path("rib.svg");
     const Ran ran = RunLoftwing({"draw", Sample("naca2412.dat"), "-o", out, "--chord", "237.5"});
     EXPECT_EQ(ran.status, 0) << ran.err;
     EXPECT_EQ(ran.err, "");
@@ -43,8 +43,8 @@ TEST(Draw, SvgHasAReferenceLineAsLongAsTheChord) {
 }
 
 TEST(Draw, StandardOutputGetsTheSameDrawingAsAFile) {
-    const ScratchFolder folder;
-    const std::string out = folder / "rib.svg";
+    const TempFolder folder;
+    const std::string out = folder.Path("rib.svg");
     ASSERT_EQ(RunLoftwing({"draw", Sample("naca0012.dat"), "-o", out}).status, 0);
     const Ran ran = RunLoftwing({"draw", Sample("naca0012.dat"), "--to", "svg", "-o", "-"});
     EXPECT_EQ(ran.status, 0);
@@ -80,10 +80,10 @@ TEST(Draw, InchesTakeFractionsAsTyped) {
 }
 
 TEST(Draw, AChordInTheTitleCountsUnlessAnotherIsAskedFor) {
-    const ScratchFolder folder;
+    const TempFolder folder;
     std::string text = ReadWholeFile(Sample("naca2412.dat"));
     text.replace(0, text.find_first_of("\r\n"), "Wing root: 150");
-    const std::string file = folder.Write("root.dat", text);
+    const std::string file = folder.File("root.dat", text);
     const Ran titled = RunLoftwing({"draw", file, "--to", "svg", "-o", "-"});
     const Ran asked = RunLoftwing({"draw", file, "--to", "svg", "-o", "-", "--chord", "90"});
     ASSERT_EQ(titled.status, 0) << titled.err;
@@ -98,8 +98,8 @@ TEST(Draw, AChordInTheTitleCountsUnlessAnotherIsAskedFor) {
 }
 
 TEST(Draw, PngHasTheScreensPixels) {
-    const ScratchFolder folder;
-    const std::string out = folder / "rib.png";
+    const TempFolder folder;
+    const std::string out = folder.Path("rib.png");
     const Ran ran = RunLoftwing({"draw", Sample("naca2412.dat"), "-o", out, "--chord", "200"});
     ASSERT_EQ(ran.status, 0) << ran.err;
     const std::string bytes = ReadWholeFile(out);
@@ -116,20 +116,20 @@ TEST(Draw, PngHasTheScreensPixels) {
 }
 
 TEST(Draw, SeveralFilesGoToAFolderAndARefusedOneStopsNothing) {
-    const ScratchFolder folder;
-    const std::string bad = folder.Write("bad.dat", "Title\n0.5 0.1\n1.0 0.0\n");
+    const TempFolder folder;
+    const std::string bad = folder.File("bad.dat", "Title\n0.5 0.1\n1.0 0.0\n");
     const Ran ran = RunLoftwing({"draw", Sample("naca2412.dat"), bad, Sample("naca0009.dat"),
-                                 "--to", "svg", "-o", folder / "out/"});
+                                 "--to", "svg", "-o", folder.Path("out/")});
     EXPECT_EQ(ran.status, 1);
-    EXPECT_TRUE(std::filesystem::exists(folder / "out/naca2412.svg"));
-    EXPECT_TRUE(std::filesystem::exists(folder / "out/naca0009.svg"));
-    EXPECT_FALSE(std::filesystem::exists(folder / "out/bad.svg"));
+    EXPECT_TRUE(std::filesystem::exists(folder.Path("out/naca2412.svg")));
+    EXPECT_TRUE(std::filesystem::exists(folder.Path("out/naca0009.svg")));
+    EXPECT_FALSE(std::filesystem::exists(folder.Path("out/bad.svg")));
 }
 
 TEST(Draw, ARefusalLeavesTheOldFileAndSaysWhyOnOneLine) {
-    const ScratchFolder folder;
-    const std::string bad = folder.Write("bad.dat", "Title\n0.5 0.1\n1.0 0.0\n");
-    const std::string out = folder.Write("rib.svg", "old");
+    const TempFolder folder;
+    const std::string bad = folder.File("bad.dat", "Title\n0.5 0.1\n1.0 0.0\n");
+    const std::string out = folder.File("rib.svg", "old");
     const Ran ran = RunLoftwing({"draw", bad, "-o", out});
     EXPECT_EQ(ran.status, 1);
     EXPECT_EQ(ReadWholeFile(out), "old");
@@ -138,9 +138,9 @@ TEST(Draw, ARefusalLeavesTheOldFileAndSaysWhyOnOneLine) {
 }
 
 TEST(Draw, StocksLongerThanTheChordLeaveNoFile) {
-    const ScratchFolder folder;
+    const TempFolder folder;
     for (const std::string form : {"svg", "png", "pdf"}) {
-        const std::string out = folder / ("rib." + form);
+        const std::string out = folder.Path("rib." + form);
         const Ran ran =
             RunLoftwing({"draw", Sample("naca2412.dat"), "-o", out, "--le", "120", "--te", "100"});
         EXPECT_EQ(ran.status, 1) << form;
@@ -150,8 +150,8 @@ TEST(Draw, StocksLongerThanTheChordLeaveNoFile) {
 }
 
 TEST(Draw, AValueThatTheDialogRefusesLeavesNoFile) {
-    const ScratchFolder folder;
-    const std::string out = folder / "rib.svg";
+    const TempFolder folder;
+    const std::string out = folder.Path("rib.svg");
     for (const std::vector<std::string> &option :
          {std::vector<std::string>{"--chord", "0"}, {"--le", "201"}, {"--stations", "256"}}) {
         std::vector<std::string> words = {"draw", Sample("naca2412.dat"), "-o", out};
@@ -182,8 +182,8 @@ TEST(Draw, FrenchWordsComeFromTheFrenchFile) {
 }
 
 TEST(Draw, ASettingsFileGivesTheColours) {
-    const ScratchFolder folder;
-    const std::string settings = folder.Write(
+    const TempFolder folder;
+    const std::string settings = folder.File(
         "s.ini", "[Couleurs]\ncoulprofil=4\ncoulcoffrage=9\ncoulaxe=2\ncoulba=9\ncoulbf=9\n"
                  "[StyleLignes]\nlineaxe=1\n[Eprlines]\nprofil=3\neplinecoffrage=1\neplineba=1\n"
                  "eplinebf=1\n[InsText]\nTailleFont=9\n[Defaut]\nunit= mm\ncordeAfich=120\n"

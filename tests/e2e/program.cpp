@@ -1,7 +1,7 @@
 #include "e2e/program.h"
 
 #include "base/whole_file.h"
-#include "support/scratch_folder.h"
+#include "support/temp_folder.h"
 
 #include <cstdlib>
 #include <sys/wait.h>
@@ -9,12 +9,12 @@
 namespace loftwing {
 
 Ran RunShell(const std::string &line) {
-    const ScratchFolder folder;
-    const int status = std::system(("( " + line + " ) > " + ShellWord(folder / "out") + " 2> " +
-                                    ShellWord(folder / "err") + " < /dev/null")
+    const TempFolder folder;
+    const int status = std::system(("( " + line + " ) > " + ShellWord(folder.Path("out")) + " 2> " +
+                                    ShellWord(folder.Path("err")) + " < /dev/null")
                                        .c_str());
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, ReadWholeFile(folder / "out"),
-            ReadWholeFile(folder / "err")};
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, ReadWholeFile(folder.Path("out")),
+            ReadWholeFile(folder.Path("err"))};
 }
 
 Ran RunLoftwing(const std::vector<std::string> &words) {

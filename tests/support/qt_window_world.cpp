@@ -12,12 +12,12 @@ namespace loftwing {
 
 namespace {
 
-Paths TestPaths(const ScratchFolder &folder) {
+Paths TestPaths(const TempFolder &folder) {
     const std::string resources = LOFTWING_SOURCE_DIR "/resources";
-    return {resources, resources + "/lng", folder / "Loftwing.ini", resources + "/help"};
+    return {resources, resources + "/lng", folder.Path("Loftwing.ini"), resources + "/help"};
 }
 
-std::string SettingsText(const ScratchFolder &folder, const std::string &language,
+std::string SettingsText(const TempFolder &folder, const std::string &language,
                          const std::string &unit) {
     return "[Language]\r\nLangue=" + language + "\r\n[Defaut]\r\nunit= " + unit +
            "\r\ncordeAfich=" + (unit == "in" ? "8" : "200") +
@@ -27,8 +27,8 @@ std::string SettingsText(const ScratchFolder &folder, const std::string &languag
            "[Eprlines]\r\nprofil=1\r\neplinecoffrage=1\r\neplineba=1\r\neplinebf=1\r\n"
            "eplinerep=1\r\n[InsText]\r\nTailleFont=9\r\n[Repertoires]\r\nInstall=1\r\n"
            "RepProfil=" +
-           (folder / "airfoils") + "\r\nRepProfilevol=" + (folder / "sets") +
-           "\r\nLastOpenProfil=" + (folder / "airfoils") +
+           folder.Path("airfoils") + "\r\nRepProfilevol=" + folder.Path("sets") +
+           "\r\nLastOpenProfil=" + folder.Path("airfoils") +
            "\r\n[Marges]\r\nMargeHaut=10\r\n"
            "MargeBas=15\r\nrecouvrement=20\r\nNumIndex=0\r\nYdprint=50\r\n";
 }
@@ -37,9 +37,9 @@ std::string SettingsText(const ScratchFolder &folder, const std::string &languag
 
 WindowWorld::WindowWorld(const std::string &language, const std::string &unit)
     : programme(TestPaths(folder), platform) {
-    std::filesystem::create_directories(folder / "airfoils");
-    std::filesystem::create_directories(folder / "sets");
-    folder.Write("Loftwing.ini", SettingsText(folder, language, unit));
+    std::filesystem::create_directoriesfolder.Path("airfoils");
+    std::filesystem::create_directoriesfolder.Path("sets");
+    folder.File("Loftwing.ini", SettingsText(folder, language, unit));
     programme.language.Charge(programme.paths.langues, language);
 }
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "mainwindow/frmmain.h"
-#include "support/scratch_folder.h"
 #include "support/scripted_platform.h"
+#include "support/temp_folder.h"
 
 #include <QDialog>
 
@@ -18,7 +18,7 @@ class WindowWorld {
     /// With a settings file that says `unit` ("mm" or "in") and the language `language`.
     explicit WindowWorld(const std::string &language = "English", const std::string &unit = "mm");
 
-    ScratchFolder folder;
+    TempFolder folder;
     ScriptedPlatform platform;
     Programme programme;
     std::unique_ptr<frmmain> window;

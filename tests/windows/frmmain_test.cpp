@@ -2,6 +2,7 @@
 #include "mainwindow/frmmain.h"
 #include "output/recording.h"
 #include "support/qt_window_world.h"
+#include "support/test_printer.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -138,7 +139,7 @@ TEST(MainWindow, ARefusedFileLeavesTheRibAsItWas) {
     world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
     const std::string state = world.Panel(2);
     world.platform.Expect(BoxAnswer::ok);
-    world.window->OuvreFichier(world.folder.Write("bad.dat", "Title\n0.5 0.1\n1 0\n"));
+    world.window->OuvreFichier(world.folder.File("bad.dat", "Title\n0.5 0.1\n1 0\n"));
     EXPECT_TRUE(world.programme.rib.ProfilCharge);
     world.window->affiche();
     EXPECT_EQ(world.Panel(2), state);
@@ -149,7 +150,7 @@ TEST(MainWindow, AFileThatCannotBeReadClearsTheRibAndSaysSo) {
     WindowWorld world;
     world.Open();
     world.platform.Expect(BoxAnswer::ok);
-    world.window->OuvreFichier(world.folder / "missing.dat");
+    world.window->OuvreFichier(world.folder.Path("missing.dat"));
     ASSERT_EQ(world.platform.boxes.size(), 1U);
     EXPECT_EQ(world.platform.boxes[0].title, " Open/FichierLecture");
     EXPECT_THAT(world.platform.boxes[0].text, HasSubstr(" # 53 "));
@@ -162,7 +163,7 @@ TEST(MainWindow, AnAirfoilTooShortForAContourIsReportedAndCleared) {
     world.platform.Expect(BoxAnswer::ok);
     world.platform.Expect(BoxAnswer::ok);
     world.window->OuvreFichier(
-        world.folder.Write("five.dat", "Five\n1 0\n0.5 0.1\n0 0\n0.5 -0.1\n1 0\n"));
+        world.folder.File("five.dat", "Five\n1 0\n0.5 0.1\n0 0\n0.5 -0.1\n1 0\n"));
     ASSERT_EQ(world.platform.boxes.size(), 2U);
     EXPECT_EQ(world.platform.boxes[0].title, " Calcul/Alocate");
     EXPECT_EQ(world.platform.boxes[1].title, " Calcul/MiniX");
@@ -189,14 +190,14 @@ TEST(MainWindow, ARecentEntryWhoseFileHasGoneDoesNothingVisible) {
     WindowWorld world;
     world.Open();
     const std::string state = world.Panel(2);
-    world.window->mnuFileMRU_Click(world.folder / "gone.dat");
+    world.window->mnuFileMRU_Click(world.folder.Path("gone.dat"));
     EXPECT_TRUE(world.platform.boxes.empty());
     EXPECT_EQ(world.Panel(2), state);
 }
 
 TEST(MainWindow, ARecentPathWithAnAmpersandIsShownWhole) {
     WindowWorld world;
-    const std::string path = world.folder / "a&b.dat";
+    const std::string path = world.folder.Path("a&b.dat");
     std::filesystem::copy_file(WindowWorld::Sample("naca2412.dat"), path);
     world.Open().OuvreFichier(path);
     EXPECT_THAT(world.Action("mnuFileMRU(1)")->text().toStdString(), HasSubstr("a&&b.dat"));
@@ -386,59 +387,51 @@ TEST(MainWindow, SeparatorsOfTheToolBarAndThePrintPreviewDoNothing) {
     EXPECT_TRUE(world.platform.boxes.empty());
 }
 
-/// A printer that only records, a sheet each.
-class RecordingPrinter : public Printer {
-  public:
-    struct Job {
-        int pages = 1;
-        bool ended = false;
-        bool aborted = false;
-        std::size_t segments = 0;
-    };
-    explicit RecordingPrinter(Job &job) : job_(job) {}
-    void SetOrientation(Orientation) override {}
-    void SetPaperSize(double, double) override {}
-    void NewPage() override { ++job_.pages; }
-    void EndDoc() override { job_.ended = true; }
-    void Abort() override { job_.aborted = true; }
+/// What became of a print job; the run's printer is gone when the command is over.
+struct Job {
+    std::vector<std::string> calls;
+    std::size_t pages = 0;
+};
 
-  protected:
-    void Segment(double, double, double, double, const Pen &) override { ++job_.segments; }
-    void CircleOutline(double, double, double, const Pen &) override {}
-    double Text(double, double, const std::string &, const TextFont &, Colour) override {
-        return 0;
-    }
+class WatchedPrinter : public TestPrinter {
+  public:
+    explicit WatchedPrinter(Job &job) : job_(job) {}
+    WatchedPrinter(const WatchedPrinter &) = delete;
+    WatchedPrinter &operator=(const WatchedPrinter &) = delete;
+    ~WatchedPrinter() override { job_ = {calls, sheets.size()}; }
 
   private:
     Job &job_;
 };
 
+void PrintInto(WindowWorld &world, Job &job) {
+    world.platform.make_printer = [&job](const PrintQuestion &) {
+        return std::make_unique<WatchedPrinter>(job);
+    };
+}
+
 TEST(MainWindow, PrintingAsksFirstAndKeepsTheZoomOfTheScreen) {
     WindowWorld world;
-    RecordingPrinter::Job job;
-    world.platform.make_printer = [&](const PrintQuestion &) {
-        return std::make_unique<RecordingPrinter>(job);
-    };
+    Job job;
+    PrintInto(world, job);
     world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
     Q_EMIT world.Find<QComboBox>("Combo1")->activated(0);
     ExpectBox(world, BoxAnswer::no, world.programme.Text({"TextButton", "14"}) + " naca2412");
     world.Action("mnu_fileprint")->trigger();
-    EXPECT_FALSE(job.ended);
+    EXPECT_TRUE(job.calls.empty());
     ExpectBox(world, BoxAnswer::yes, world.programme.Text({"TextButton", "14"}) + " naca2412");
     world.Action("mnu_fileprint")->trigger();
-    EXPECT_TRUE(job.ended);
-    EXPECT_EQ(job.pages, 1);
-    EXPECT_GT(job.segments, 400U);
+    ASSERT_FALSE(job.calls.empty());
+    EXPECT_EQ(job.calls.back(), "end");
+    EXPECT_EQ(job.pages, 1U);
     EXPECT_EQ(world.programme.rib.Zoom, 3.0F);
     EXPECT_EQ(world.programme.settings.page.recouvrement, 0.0F);
 }
 
 TEST(MainWindow, ALongRibOpensThePageSetupOnceAndIsTiled) {
     WindowWorld world;
-    RecordingPrinter::Job job;
-    world.platform.make_printer = [&](const PrintQuestion &) {
-        return std::make_unique<RecordingPrinter>(job);
-    };
+    Job job;
+    PrintInto(world, job);
     world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
     world.programme.rib.corde = 300;
     world.platform.Expect(BoxAnswer::yes);
@@ -449,14 +442,15 @@ TEST(MainWindow, ALongRibOpensThePageSetupOnceAndIsTiled) {
     });
     world.Action("mnu_fileprint")->trigger();
     EXPECT_TRUE(opened);
-    EXPECT_TRUE(job.ended);
+    ASSERT_FALSE(job.calls.empty());
+    EXPECT_EQ(job.calls.back(), "end");
     // 297 - 10 - 15 - 20 = 252 mm a sheet.
-    EXPECT_EQ(job.pages, 2);
+    EXPECT_EQ(job.pages, 2U);
     world.programme.rib.corde = 600;
     world.platform.Expect(BoxAnswer::yes);
     job = {};
     world.Action("mnu_fileprint")->trigger();
-    EXPECT_EQ(job.pages, 3);
+    EXPECT_EQ(job.pages, 3U);
 }
 
 TEST(MainWindow, ACancelledPageSetupPrintsNothing) {
@@ -474,13 +468,14 @@ TEST(MainWindow, ACancelledPageSetupPrintsNothing) {
 TEST(MainWindow, ExportsGoToTheFileThatIsChosen) {
     WindowWorld world;
     world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
-    world.platform.files_expected = {world.folder / "rib.svg", world.folder / "rib.pdf", ""};
+    world.platform.files_expected = {world.folder.Path("rib.svg"), world.folder.Path("rib.pdf"),
+                                     ""};
     world.Action("mnu_filesvg")->trigger();
     world.Action("mnu_filepdf")->trigger();
     world.Action("mnu_filesvg")->trigger();
     EXPECT_EQ(world.platform.file_questions[0].name, "naca2412.svg");
-    EXPECT_GT(std::filesystem::file_size(world.folder / "rib.svg"), 1000U);
-    EXPECT_GT(std::filesystem::file_size(world.folder / "rib.pdf"), 1000U);
+    EXPECT_GT(std::filesystem::file_size(world.folder.Path("rib.svg")), 1000U);
+    EXPECT_GT(std::filesystem::file_size(world.folder.Path("rib.pdf")), 1000U);
 }
 
 TEST(MainWindow, AMissingCalculatorIsSaid) {
