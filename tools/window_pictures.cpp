@@ -1,0 +1,140 @@
+// Makes pictures of every window, in each language and unit, to look at them after a change.
+//
+//     window_pictures FOLDER [SCALE]
+//
+// Pictures go to FOLDER, named WINDOW-LANGUAGE-UNIT.png. SCALE is that of the font, 1 if left out.
+
+#include "lang/frmlang.h"
+#include "mainwindow/frmAbout.h"
+#include "mainwindow/frmInput.h"
+#include "mainwindow/frmSplash.h"
+#include "mainwindow/frmmain.h"
+#include "mainwindow/frmopen.h"
+#include "output/frmPrint.h"
+#include "output/frmcoul.h"
+#include "platform/qt_form.h"
+#include "programme/console_platform.h"
+#include "programme/programme.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QListWidget>
+#include <QTemporaryDir>
+
+#include <iostream>
+
+namespace {
+
+using namespace loftwing;
+
+/// Answers with folders of its own, so that no alert comes up.
+class PicturePlatform : public ConsolePlatform {
+  public:
+    explicit PicturePlatform(std::string folder)
+        : ConsolePlatform(std::cerr, true), folder_(std::move(folder)) {}
+    std::string StoredValue(const std::string &, const std::string &) override { return folder_; }
+    std::string PrinterName() override { return "Office"; }
+
+  private:
+    std::string folder_;
+};
+
+class Pictures {
+  public:
+    Pictures(const std::string &folder, const std::string &language, const std::string &unit)
+        : platform_(std::string(LOFTWING_SOURCE_DIR) + "/resources/airfoils"),
+          programme_(PathsIn(home_.path().toStdString()), platform_),
+          name_("-" + language + "-" + unit + ".png"), folder_(folder) {
+        programme_.language.Charge(programme_.paths.langues, language);
+        WriteINIFile("Language", "Langue", language, programme_.paths.fichier);
+        window_ = std::make_unique<frmmain>(programme_);
+        if (unit == "in") {
+            programme_.settings.Unite = kUniteIn;
+            programme_.rib.cordeAfich = "8.1/2";
+            programme_.rib.corde = 215.9F;
+        }
+    }
+
+    void Take() {
+        window_->resize(1000, 420);
+        window_->show();
+        RibModel &rib = programme_.rib;
+        window_->OuvreFichier(programme_.settings.repertoires.RepProfil + "/naca2412.dat");
+        rib.EpBA = 8;
+        rib.EpBF = 25;
+        rib.NbRep = 3;
+        rib.AffEpr = rib.AffHautBA = rib.AffHautBF = true;
+        window_->affiche();
+        Save(*window_, "frmmain");
+        for (const char *mode : {"corde", "epcof", "ba", "bf", "rep"}) {
+            frmInput entry(programme_, mode, window_.get());
+            Save(entry, std::string("frmInput-") + mode);
+        }
+        TakeDialogs();
+    }
+
+  private:
+    QTemporaryDir home_;
+    PicturePlatform platform_;
+    Programme programme_;
+    std::unique_ptr<frmmain> window_;
+    std::string name_;
+    std::string folder_;
+
+    static Paths PathsIn(const std::string &home) {
+        const std::string resources = std::string(LOFTWING_SOURCE_DIR) + "/resources";
+        return {resources, resources + "/lng", home + "/Loftwing.ini", resources + "/help"};
+    }
+
+    void TakeDialogs() {
+        frmPrint page(programme_, window_.get());
+        Save(page, "frmPrint");
+        frmcoul colours(programme_, window_.get());
+        Save(colours, "frmcoul");
+        frmAbout about(programme_, window_.get());
+        Save(about, "frmAbout");
+        frmSplash splash(programme_, window_.get());
+        Save(splash, "frmSplash");
+        frmopen picker(programme_, *window_, window_.get());
+        picker.show();
+        if (auto *files = picker.findChild<QListWidget *>("File1")) {
+            files->setCurrentRow(3);
+        }
+        Save(picker, "frmopen");
+        // Last, since it clears the rib.
+        lang language(programme_, *window_, window_.get());
+        Save(language, "lang");
+    }
+
+    void Save(QWidget &window, const std::string &name) {
+        window.show();
+        QApplication::processEvents();
+        const QString path = Q(folder_ + "/" + name + name_);
+        if (!window.grab().save(path)) {
+            std::cerr << "can't write " << S(path) << '\n';
+        }
+    }
+};
+
+} // namespace
+
+int main(int argc, char **argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    if (argc < 2) {
+        std::cerr << "window_pictures FOLDER [SCALE]\n";
+        return 2;
+    }
+    if (argc > 2) {
+        QFont font = QApplication::font();
+        font.setPointSizeF(font.pointSizeF() * QString(argv[2]).toDouble());
+        QApplication::setFont(font);
+    }
+    QDir().mkpath(argv[1]);
+    for (const char *language : {"English", "French"}) {
+        for (const char *unit : {"mm", "in"}) {
+            Pictures(argv[1], language, unit).Take();
+        }
+    }
+    return 0;
+}
