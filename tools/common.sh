@@ -1,0 +1,42 @@
+# shellcheck shell=bash
+# What run, test and .ci/run share. To be sourced; sets `root`, the project's folder.
+
+root=$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")
+
+# configure PRESET [CMAKE OPTION...]: uses ccache where it is installed.
+configure() {
+    local preset=$1 launcher=
+    shift
+    if command -v ccache >/dev/null; then
+        launcher=ccache
+    fi
+    (cd "$root" && cmake --preset "$preset" "-DCMAKE_CXX_COMPILER_LAUNCHER=$launcher" "$@")
+}
+
+# build PRESET [TARGET...]
+build() {
+    local preset=$1
+    shift
+    (cd "$root" && cmake --build --preset "$preset" ${1:+--target "$@"})
+}
+
+# make_locales FOLDER: the locales besides C that the tests run under. Made here because few
+# machines have them, and without touching those of the system.
+make_locales() {
+    local folder=$1 name
+    mkdir -p "$folder"
+    for name in fr_FR de_DE; do
+        [[ -d $folder/$name.UTF-8 ]] && continue
+        rm -rf "$folder/$name.new"
+        localedef -i "$name" -f UTF-8 "$folder/$name.new"
+        mv "$folder/$name.new" "$folder/$name.UTF-8"
+    done
+}
+
+# run_tests FOLDER [CTEST OPTION...]: the tests of a build folder.
+run_tests() {
+    local folder=$1
+    shift
+    make_locales "$folder/locales"
+    ctest --test-dir "$folder" --output-on-failure --no-tests=error --parallel 2 "$@"
+}
