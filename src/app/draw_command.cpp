@@ -3,6 +3,7 @@
 #include "app/command_line.h"
 #include "app/console_session.h"
 #include "app/rib_options.h"
+#include "app/toolkit.h"
 #include "base/whole_file.h"
 #include "core/contour.h"
 #include "programme/qt_export_forms.h"
@@ -128,6 +129,7 @@ int RunDraw(const Arguments &arguments) {
         std::error_code error;
         fs::create_directories(target.folder, error);
     }
+    const Toolkit toolkit(target.form->needs_toolkit);
     int status = kDone;
     for (const std::string &file : arguments.Files()) {
         if (!DrawAndDeliver(arguments, target, file)) {

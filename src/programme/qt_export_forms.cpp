@@ -53,9 +53,9 @@ Exported AsPdf(Programme &programme, const std::function<void()> &set_up_page) {
 } // namespace
 
 const std::vector<ExportForm> &ExportForms() {
-    static const std::vector<ExportForm> forms = {{"svg", "SVG (*.svg)", AsSvg},
-                                                  {"png", "PNG (*.png)", AsPng},
-                                                  {"pdf", "PDF (*.pdf)", AsPdf}};
+    static const std::vector<ExportForm> forms = {{"svg", "SVG (*.svg)", false, AsSvg},
+                                                  {"png", "PNG (*.png)", true, AsPng},
+                                                  {"pdf", "PDF (*.pdf)", true, AsPdf}};
     return forms;
 }
 

@@ -20,6 +20,7 @@ struct Exported {
 struct ExportForm {
     std::string extension;   ///< without its point
     std::string filter_text; ///< "PDF (*.pdf)"
+    bool needs_toolkit;      ///< drawn with the toolkit's fonts, so its application must run
     /// Makes the bytes of a file. `set_up_page` is called where a print run asks for a page; it
     /// sets rib.Annule to stop.
     std::function<Exported(Programme &, const std::function<void()> &set_up_page)> Export;
