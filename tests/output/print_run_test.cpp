@@ -197,8 +197,8 @@ TEST_F(PrintRun, OneSheetIsDrawnAtTheMarginsInLandscape) {
     world.rib.Zoom = 0.5F; // the screen's
     ASSERT_TRUE(Prepare());
     EXPECT_EQ(Imprime(world.Run(), printer), FinImpression::imprime);
-    EXPECT_EQ(printer.calls, (std::vector<std::string>{"landscape", "paper 210.000000 297.000000",
-                                                       "draw", "end"}));
+    EXPECT_EQ(printer.calls,
+              (std::vector<std::string>{"landscape", "paper 210 297", "draw", "end"}));
     // The margin is taken off in units: 10 mm are 567, less 10.
     EXPECT_EQ(world.plot.OrigineX, static_cast<float>(567.0 - (0 + 10.0)));
     EXPECT_EQ(world.plot.OrigineY, 2835.0F);
@@ -218,8 +218,7 @@ TEST_F(PrintRun, OneSheetHasNoCrosses) {
 TEST_F(PrintRun, PrintersOwnPaperIsLeftAloneAndKeepsTheFullMargin) {
     Page().NumIndex = 8;
     EXPECT_EQ(Imprime(world.Run(), printer), FinImpression::imprime);
-    EXPECT_EQ(printer.calls,
-              (std::vector<std::string>{"landscape", "paper 0.000000 0.000000", "draw", "end"}));
+    EXPECT_EQ(printer.calls, (std::vector<std::string>{"landscape", "paper 0 0", "draw", "end"}));
     EXPECT_EQ(world.plot.OrigineX, 567.0F);
     EXPECT_EQ(world.plot.OrigineY, 2835.0F);
 }
@@ -247,8 +246,8 @@ TEST_F(PrintRun, SheetsShowTheSameDrawingShiftedByTheStep) {
     ASSERT_EQ(Page().NbPages, 3);
     EXPECT_EQ(Imprime(world.Run(), printer), FinImpression::imprime);
     EXPECT_EQ(printer.calls,
-              (std::vector<std::string>{"landscape", "paper 210.000000 297.000000", "draw",
-                                        "new page", "draw", "new page", "draw", "end"}));
+              (std::vector<std::string>{"landscape", "paper 210 297", "draw", "new page", "draw",
+                                        "new page", "draw", "end"}));
     ASSERT_EQ(printer.sheets.size(), 3U);
     for (int i = 0; i < 3; ++i) {
         const auto &sheet = printer.sheets[static_cast<std::size_t>(i)];

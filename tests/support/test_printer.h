@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/failure.h"
+#include "base/number_text.h"
 #include "output/printer.h"
 #include "output/recording.h"
 
@@ -21,7 +22,7 @@ class TestPrinter : public Printer {
         calls.emplace_back(orientation == Orientation::landscape ? "landscape" : "portrait");
     }
     void SetPaperSize(double short_side, double long_side) override {
-        calls.push_back("paper " + std::to_string(short_side) + " " + std::to_string(long_side));
+        calls.push_back("paper " + NumberText(short_side) + " " + NumberText(long_side));
     }
     void NewPage() override {
         if (std::ssize(sheets) == fails_at_sheet) {
