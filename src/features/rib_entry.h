@@ -18,9 +18,9 @@ enum class FinSaisie {
     refusee  ///< a box told why; the user types again
 };
 
-/// Chord. A chord of 0 is refused; its text is stored all the same and the number stays. Else the heel, the
-/// template's length and the inserted text's owner follow. While two airfoils are compared the rib
-/// doesn't count as changed. `titre` is the title of the boxes.
+/// Chord. A chord of 0 is refused; its text is stored all the same and the number stays. Else the
+/// heel, the template's length and the inserted text's owner follow. While two airfoils are
+/// compared the rib doesn't count as changed. `titre` is the title of the boxes.
 FinSaisie SaisitCorde(RibModel &rib, const std::string &typed, const Saisie &saisie,
                       const std::string &titre);
 

@@ -46,14 +46,17 @@ void frmmain::Form_Load() {
 }
 
 void frmmain::Execute(const char *name, void (frmmain::*handler)()) {
-    if (handler == nullptr) {
-        return;
+    if (handler != nullptr) {
+        Garde(std::string(" Main/") + name, [this, handler] { (this->*handler)(); });
     }
+}
+
+void frmmain::Garde(const std::string &label, const std::function<void()> &action) {
     try {
-        (this->*handler)();
+        action();
     } catch (const Failure &failure) {
         programme_.platform.SetPointer(Pointer::normal);
-        programme_.messages.Report(failure, std::string(" Main/") + name);
+        programme_.messages.Report(failure, label);
     }
 }
 
@@ -174,6 +177,10 @@ void frmmain::RecalculProfil() {
 }
 
 void frmmain::OuvreFichier(const std::string &path) {
+    Garde(" Main/FileMru", [this, &path] { LitEtReprend(path); });
+}
+
+void frmmain::LitEtReprend(const std::string &path) {
     RibModel &rib = programme_.rib;
     const std::string old_path = rib.CheminProfil;
     const std::string old_title = rib.EnteteProfil;
@@ -199,7 +206,7 @@ void frmmain::OuvreFichier(const std::string &path) {
 }
 
 void frmmain::AfficheFichiersRecents() {
-    const FichiersRecents recent = LitFichiersRecents(programme_.paths.fichier);
+    const FichiersRecents recent = FichiersRecentsConnus(programme_);
     bool any = false;
     for (std::size_t i = 0; i < recent.size(); ++i) {
         const QString path = Q(recent[i]);

@@ -17,6 +17,7 @@
 #include <QToolBar>
 
 #include <array>
+#include <functional>
 #include <map>
 #include <string>
 
@@ -105,6 +106,8 @@ class frmmain : public QMainWindow, public MainView {
     // frmmain.cpp
     void Form_Load();
     void Execute(const char *name, void (frmmain::*handler)());
+    /// Runs what an event asks for: no failure may pass into the toolkit's event loop.
+    void Garde(const std::string &label, const std::function<void()> &action);
     void Panel(int number, const std::string &text);
     bool Checked(const char *name) const;
     void SetChecked(const char *name, bool checked);
@@ -117,6 +120,7 @@ class frmmain : public QMainWindow, public MainView {
     /// Whether to go on where changes could be lost.
     bool ConfirmePerte(LngKey text, LngKey title);
     void ClearRib();
+    void LitEtReprend(const std::string &path);
     void RepriseProfil();
     void RecalculProfil();
     void AfficheFichiersRecents();

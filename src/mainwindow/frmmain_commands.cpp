@@ -33,13 +33,9 @@ void frmmain::mnu_fileprofilopen_Click() {
 }
 
 void frmmain::mnuFileMRU_Click(const std::string &path) {
-    try {
-        std::error_code error;
-        if (std::filesystem::exists(path, error)) {
-            OuvreFichier(path);
-        }
-    } catch (const Failure &failure) {
-        programme_.messages.Report(failure, " Main/FileMru");
+    std::error_code error;
+    if (std::filesystem::exists(path, error)) {
+        OuvreFichier(path);
     }
 }
 

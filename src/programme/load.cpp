@@ -7,6 +7,9 @@ namespace loftwing {
 
 namespace {
 
+/// An airfoil can be worked on although the list of recent ones can't be kept.
+constexpr const char *kLabelRecents = " Main/FileMru";
+
 void LitOuEcrit(Programme &programme) {
     const Reglages reglages = programme.ReglagesEnCours();
     const std::string &folder = programme.paths.programme;
@@ -46,7 +49,20 @@ void FinPremierDemarrage(Programme &programme) {
 
 void EntreProfil(Programme &programme) {
     ReprendProfil(programme.rib);
-    NoteFichierRecent(programme.rib.CheminProfil, programme.paths.fichier);
+    try {
+        NoteFichierRecent(programme.rib.CheminProfil, programme.paths.fichier);
+    } catch (const Failure &failure) {
+        programme.messages.Report(failure, kLabelRecents);
+    }
+}
+
+FichiersRecents FichiersRecentsConnus(Programme &programme) {
+    try {
+        return LitFichiersRecents(programme.paths.fichier);
+    } catch (const Failure &failure) {
+        programme.messages.Report(failure, kLabelRecents);
+        return {};
+    }
 }
 
 void VideRib(Programme &programme) {

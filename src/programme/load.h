@@ -16,6 +16,9 @@ void FinPremierDemarrage(Programme &programme);
 /// A new airfoil takes over the rib: heel and washout reset, the file noted among the recent ones.
 void EntreProfil(Programme &programme);
 
+/// The recent files; none, with a box, when the settings file can't be read.
+FichiersRecents FichiersRecentsConnus(Programme &programme);
+
 /// The values of a cleared rib: no airfoil, no features, the plain view. The user's defaults are
 /// read anew by LitDefauts afterwards.
 void VideRib(Programme &programme);
