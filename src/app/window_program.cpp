@@ -19,6 +19,7 @@
 #include <QTranslator>
 
 #include <iostream>
+#include <memory>
 
 namespace loftwing {
 
@@ -42,25 +43,32 @@ void TranslateToolkit(QTranslator &translator) {
 }
 
 int Show(Programme &programme, const std::vector<std::string> &files) {
-    frmmain window(programme);
-    const auto choose_language = [&] {
-        lang dialog(programme, window, nullptr);
-        ShowModal(dialog);
+    // The language comes first, for the window's load may have something to say; only a first start,
+    // which has to ask for it, makes the window before.
+    std::unique_ptr<frmmain> window;
+    const auto main_window = [&]() -> frmmain & {
+        if (!window) {
+            window = std::make_unique<frmmain>(programme);
+        }
+        return *window;
     };
-    ChargeLangue(programme, choose_language);
-    window.AppliqueLangue();
+    ChargeLangue(programme, [&] {
+        lang dialog(programme, main_window(), nullptr);
+        ShowModal(dialog);
+    });
     if (!ControleSeparateur(programme)) {
         return kDone;
     }
     programme.platform.SetPointer(Pointer::busy);
-    window.show();
-    frmSplash splash(programme, &window);
+    main_window().AppliqueLangue();
+    main_window().show();
+    frmSplash splash(programme, window.get());
     splash.show();
     if (programme.PremierDemarrage) {
         FinPremierDemarrage(programme);
     }
     if (!files.empty()) {
-        QTimer::singleShot(0, &window, [&window, &files] { window.OuvreFichier(files.front()); });
+        QTimer::singleShot(0, window.get(), [&] { window->OuvreFichier(files.front()); });
     }
     return QApplication::exec();
 }
