@@ -23,11 +23,12 @@ constexpr double kDashPixelsPerMm = 4.0;
 /// Sheets are measured at this fineness, where a face's advances have no rounding left.
 constexpr double kMeasuringDpi = 1200.0;
 
-/// A font that is `height` painter units high. The toolkit takes whole pixels or points of the
-/// device's own resolution; points keep the fraction, and the resolution cancels out.
+/// Faces of Arial's widths stand in where it isn't installed. A font that is `height` painter units
+/// high. The toolkit takes whole pixels or points of the device's own resolution; points keep the
+/// fraction, and the resolution cancels out.
 QFont FontOf(const TextFont &font, double height, int device_dpi) {
-    QFont face(Q(font.name));
-    face.setStyleHint(QFont::SansSerif);
+    QFont face;
+    face.setFamilies({Q(font.name), "Liberation Sans", "Arimo", "Nimbus Sans", "Helvetica"});
     face.setPointSizeF(height * kPointsPerInch / device_dpi);
     // Without hinting a text keeps its proportions at every zoom.
     face.setHintingPreference(QFont::PreferNoHinting);
