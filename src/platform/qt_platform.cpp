@@ -1,0 +1,239 @@
+#include "platform/qt_platform.h"
+
+#include "platform/qt_desktop.h"
+#include "platform/qt_pointer.h"
+#include "platform/qt_text.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QUrl>
+
+namespace loftwing {
+
+namespace {
+
+/// The window that a question stands over.
+QWidget *Asker() {
+    QWidget *modal = QApplication::activeModalWidget();
+    return modal != nullptr ? modal : QApplication::activeWindow();
+}
+
+QMessageBox::Icon IconOf(BoxIcon icon) {
+    switch (icon) {
+    case BoxIcon::information:
+        return QMessageBox::Information;
+    case BoxIcon::question:
+        return QMessageBox::Question;
+    case BoxIcon::warning:
+        return QMessageBox::Warning;
+    case BoxIcon::stop:
+        return QMessageBox::Critical;
+    case BoxIcon::none:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+struct BoxButton {
+    BoxAnswer answer;
+    QMessageBox::StandardButton button;
+    std::string ButtonWords::*word;
+};
+
+const BoxButton kOk = {BoxAnswer::ok, QMessageBox::Ok, &ButtonWords::ok};
+const BoxButton kCancelButton = {BoxAnswer::cancel, QMessageBox::Cancel, &ButtonWords::cancel};
+const BoxButton kYes = {BoxAnswer::yes, QMessageBox::Yes, &ButtonWords::yes};
+const BoxButton kNo = {BoxAnswer::no, QMessageBox::No, &ButtonWords::no};
+const BoxButton kRetry = {BoxAnswer::retry, QMessageBox::Retry, &ButtonWords::retry};
+
+/// The buttons of a box; the last is what closing it means.
+std::vector<BoxButton> ButtonsOf(BoxButtons buttons) {
+    switch (buttons) {
+    case BoxButtons::ok_cancel:
+        return {kOk, kCancelButton};
+    case BoxButtons::yes_no:
+        return {kYes, kNo};
+    case BoxButtons::retry_cancel:
+        return {kRetry, kCancelButton};
+    case BoxButtons::ok:
+        break;
+    }
+    return {kOk};
+}
+
+void Prepare(QFileDialog &dialog, const FileQuestion &question) {
+    dialog.setWindowTitle(Q(question.title));
+    if (!question.folder.empty()) {
+        dialog.setDirectory(Q(question.folder));
+    }
+    if (!question.filter_text.empty()) {
+        dialog.setNameFilter(Q(question.filter_text));
+    }
+    if (!question.name.empty()) {
+        dialog.selectFile(Q(question.name));
+    }
+}
+
+std::string Chosen(QFileDialog &dialog) {
+    const PointerPause pause;
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        return {};
+    }
+    return S(dialog.selectedFiles().front());
+}
+
+std::string WithExtension(const std::string &path, const std::string &extension) {
+    const bool has_one = !QFileInfo(Q(path)).suffix().isEmpty();
+    return path.empty() || has_one || extension.empty() ? path : path + "." + extension;
+}
+
+} // namespace
+
+QtPlatform::QtPlatform(const std::string &program_folder) : store_(program_folder + "/airfoils") {}
+
+void QtPlatform::SetHelp(std::function<void(int)> show, std::function<void()> close) {
+    show_help_ = std::move(show);
+    close_help_ = std::move(close);
+}
+
+BoxAnswer QtPlatform::Show(const MessageBox &box) {
+    const PointerPause pause;
+    QMessageBox dialog(Asker());
+    dialog.setIcon(IconOf(box.icon));
+    dialog.setWindowTitle(Q(box.title));
+    dialog.setTextFormat(Qt::PlainText);
+    dialog.setText(Q(box.text));
+    const std::vector<BoxButton> buttons = ButtonsOf(box.buttons);
+    for (const BoxButton &button : buttons) {
+        QPushButton *push = dialog.addButton(button.button);
+        if (const std::string &word = words_.*button.word; !word.empty()) {
+            push->setText(Q(word));
+        }
+        if (button.answer == box.fallback) {
+            dialog.setDefaultButton(push);
+        }
+    }
+    dialog.setEscapeButton(buttons.back().button);
+    const int pressed = dialog.exec();
+    for (const BoxButton &button : buttons) {
+        if (button.button == pressed) {
+            return button.answer;
+        }
+    }
+    return buttons.back().answer;
+}
+
+std::optional<std::string> QtPlatform::Ask(const std::string &text, const std::string &title,
+                                           const std::string &proposed) {
+    const PointerPause pause;
+    QInputDialog dialog(Asker());
+    dialog.setWindowTitle(Q(title));
+    dialog.setLabelText(Q(text));
+    dialog.setTextValue(Q(proposed));
+    if (!words_.ok.empty()) {
+        dialog.setOkButtonText(Q(words_.ok));
+    }
+    if (!words_.cancel.empty()) {
+        dialog.setCancelButtonText(Q(words_.cancel));
+    }
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return S(dialog.textValue());
+}
+
+std::string QtPlatform::ChooseOpenFile(const FileQuestion &question) {
+    QFileDialog dialog(Asker());
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    Prepare(dialog, question);
+    return Chosen(dialog);
+}
+
+// The dialog's own question would come before the extension is added.
+std::string QtPlatform::ChooseSaveFile(const FileQuestion &question) {
+    FileQuestion next = question;
+    while (true) {
+        QFileDialog dialog(Asker());
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        dialog.setFileMode(QFileDialog::AnyFile);
+        dialog.setOption(QFileDialog::DontConfirmOverwrite);
+        Prepare(dialog, next);
+        const std::string path = WithExtension(Chosen(dialog), question.default_extension);
+        const QFileInfo file(Q(path));
+        if (path.empty() || !file.exists() || MayReplace(path, question.title)) {
+            return path;
+        }
+        next.folder = S(file.path());
+        next.name = S(file.fileName());
+    }
+}
+
+bool QtPlatform::MayReplace(const std::string &path, const std::string &title) {
+    // In the words that the toolkit's own chooser has for it, in the user's language.
+    const QString question = QCoreApplication::translate(
+        "QFileDialog", "%1 already exists.\nDo you want to replace it?");
+    const std::string text = S(question.arg(QFileInfo(Q(path)).fileName()));
+    return Show({text, title, BoxIcon::warning, BoxButtons::yes_no, BoxAnswer::no}) ==
+           BoxAnswer::yes;
+}
+
+std::string QtPlatform::ChooseFolder(const std::string &title, const std::string &folder) {
+    QFileDialog dialog(Asker());
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    Prepare(dialog, {title, folder, {}, {}, {}});
+    return Chosen(dialog);
+}
+
+void QtPlatform::SetPointer(Pointer pointer) {
+    pointer == Pointer::busy ? ShowBusyPointer() : ShowNormalPointer();
+}
+
+void QtPlatform::ProcessEvents() {
+    QCoreApplication::processEvents();
+}
+
+char QtPlatform::DecimalSeparator() {
+    const QString separator = QLocale::system().decimalPoint();
+    // A separator beyond Latin-1 is no point either.
+    return separator.isEmpty() ? '.' : separator.front().toLatin1();
+}
+
+std::string QtPlatform::StoredValue(const std::string &section, const std::string &key) {
+    return store_.Value(section, key);
+}
+
+void QtPlatform::StoreValue(const std::string &section, const std::string &key,
+                            const std::string &value) {
+    store_.SetValue(section, key, value);
+}
+
+void QtPlatform::OpenPage(const std::string &url) {
+    const QString address = Q(url);
+    QDesktopServices::openUrl(QFileInfo::exists(address) ? QUrl::fromLocalFile(address)
+                                                         : QUrl::fromUserInput(address));
+}
+
+bool QtPlatform::StartProgram(const std::string &program) {
+    return StartByName(program);
+}
+
+void QtPlatform::ShowHelp(int context) {
+    if (show_help_) {
+        show_help_(context);
+    }
+}
+
+void QtPlatform::CloseHelp() {
+    if (close_help_) {
+        close_help_();
+    }
+}
+
+} // namespace loftwing

@@ -1,0 +1,61 @@
+/// The world outside as the toolkit shows it.
+#pragma once
+
+#include "platform/platform.h"
+#include "platform/qt_user_store.h"
+
+#include <QPageSize>
+
+#include <functional>
+
+class QWidget;
+
+namespace loftwing {
+
+/// Words for the buttons of boxes; an empty one leaves the toolkit's own.
+struct ButtonWords {
+    std::string ok, cancel, yes, no, retry;
+};
+
+class QtPlatform : public Platform {
+  public:
+    /// `program_folder` is where the program's resources are; the airfoil library is part of them.
+    explicit QtPlatform(const std::string &program_folder);
+
+    /// From now on buttons of boxes carry these words.
+    void SetButtonWords(const ButtonWords &words) { words_ = words; }
+    /// What opens the help at a context number, and what closes it. Until then there is no help.
+    void SetHelp(std::function<void(int)> show, std::function<void()> close);
+
+    BoxAnswer Show(const MessageBox &box) override;
+    std::optional<std::string> Ask(const std::string &text, const std::string &title,
+                                   const std::string &proposed) override;
+    std::string ChooseOpenFile(const FileQuestion &question) override;
+    std::string ChooseSaveFile(const FileQuestion &question) override;
+    std::string ChooseFolder(const std::string &title, const std::string &folder) override;
+    void SetPointer(Pointer pointer) override;
+    void ProcessEvents() override;
+    char DecimalSeparator() override;
+    std::string StoredValue(const std::string &section, const std::string &key) override;
+    void StoreValue(const std::string &section, const std::string &key,
+                    const std::string &value) override;
+    void OpenPage(const std::string &url) override;
+    bool StartProgram(const std::string &program) override;
+    void ShowHelp(int context) override;
+    void CloseHelp() override;
+    void ShowPrinterSettings() override;
+    std::string PrinterName() override;
+    std::unique_ptr<Printer> OpenPrinter(const PrintQuestion &question) override;
+
+  private:
+    UserStore store_;
+    ButtonWords words_;
+    std::function<void(int)> show_help_;
+    std::function<void()> close_help_;
+    std::optional<QPageSize> paper_; ///< chosen in the toolkit's page set-up
+
+    bool MayReplace(const std::string &path, const std::string &title);
+    std::unique_ptr<Printer> OpenPdf(const PrintQuestion &question);
+};
+
+} // namespace loftwing

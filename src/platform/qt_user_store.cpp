@@ -1,0 +1,107 @@
+#include "platform/qt_user_store.h"
+
+#include "base/failure.h"
+#include "platform/qt_text.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+namespace loftwing {
+
+namespace {
+
+QString StoreFile() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           "/loftwing/store.ini";
+}
+
+QString KeyOf(const std::string &section, const std::string &key) {
+    return "iLoftwing/" + Q(section) + "/" + Q(key);
+}
+
+QString DocumentsFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + "/Loftwing";
+}
+
+bool CopyOne(const QString &from, const QString &to) {
+    if (!QFile::copy(from, to)) {
+        return false;
+    }
+    // The bundled file may be read-only; its copy is the user's to change.
+    return QFile::setPermissions(to, QFile::permissions(to) | QFile::WriteOwner);
+}
+
+/// Copies what lies in a folder and below it into a folder that is there.
+bool CopyContent(const QDir &from, const QDir &to) {
+    constexpr auto kAll = QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks;
+    QDirIterator each(from.path(), kAll, QDirIterator::Subdirectories);
+    while (each.hasNext()) {
+        const QString path = each.next();
+        const QString target = to.filePath(from.relativeFilePath(path));
+        const bool made = each.fileInfo().isDir()
+                              ? to.mkpath(target)
+                              : to.mkpath(QFileInfo(target).path()) && CopyOne(path, target);
+        if (!made) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// The user's copy of the library. It is made under another name and takes its own when it is
+/// whole. What is there already stays as it is.
+QString AirfoilFolder(const QDir &bundled) {
+    const QDir documents(DocumentsFolder());
+    const QString folder = documents.filePath("airfoils");
+    if (QFileInfo(folder).isDir()) {
+        return folder;
+    }
+    if (!bundled.exists() || QFileInfo::exists(folder) || !documents.mkpath(".")) {
+        return {};
+    }
+    QTemporaryDir copy(documents.filePath("airfoils.XXXXXX"));
+    if (!copy.isValid() || !CopyContent(bundled, QDir(copy.path()))) {
+        return {};
+    }
+    // The temporary folder was for its owner alone; the library is a folder like others.
+    QFile::setPermissions(copy.path(), QFile::permissions(documents.path()));
+    if (!QDir().rename(copy.path(), folder)) {
+        return {};
+    }
+    copy.setAutoRemove(false);
+    return folder;
+}
+
+QString RibSetFolder() {
+    const QDir documents(DocumentsFolder());
+    return documents.mkpath("rib sets") ? documents.filePath("rib sets") : QString();
+}
+
+} // namespace
+
+std::string UserStore::Value(const std::string &section, const std::string &key) const {
+    const QSettings store(StoreFile(), QSettings::IniFormat);
+    const QString stored = store.value(KeyOf(section, key)).toString();
+    if (!stored.isEmpty() || section != "Install") {
+        return S(stored);
+    }
+    if (key == "RepAirfoil") {
+        return S(AirfoilFolder(QDir(Q(bundled_))));
+    }
+    return key == "RepEvol" ? S(RibSetFolder()) : std::string();
+}
+
+void UserStore::SetValue(const std::string &section, const std::string &key,
+                         const std::string &value) {
+    QSettings store(StoreFile(), QSettings::IniFormat);
+    store.setValue(KeyOf(section, key), Q(value));
+    store.sync();
+    if (store.status() != QSettings::NoError) {
+        throw MakeFailure(kPathFileAccess, S(StoreFile()));
+    }
+}
+
+} // namespace loftwing
