@@ -104,9 +104,9 @@ std::string IniFile::Value(std::string_view section, std::string_view key) const
 }
 
 void IniFile::SetValue(std::string_view section, std::string_view key, std::string_view value) {
-    std::string line = std::string(key) + '=' + std::string(value);
     // A line break would make another line of the rest, and that line could be anything.
-    line.erase(std::min(line.find_first_of("\r\n"), line.size()));
+    const std::string_view one_line = value.substr(0, value.find_first_of("\r\n"));
+    const std::string line = std::string(key) + '=' + std::string(one_line);
     const std::size_t at = FindKey(section, key);
     if (at != kNowhere) {
         lines_[at] = line;

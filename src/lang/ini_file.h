@@ -19,7 +19,8 @@ class IniFile {
     /// The value without the blanks around it and without one pair of quotes around that, at most
     /// 199 characters; empty where there is none.
     std::string Value(std::string_view section, std::string_view key) const;
-    /// Replaces the value, or adds key and section. All other lines stay as they are.
+    /// Replaces the value, or adds key and section. All other lines stay as they are. A value ends
+    /// at its first line break; section and key are names without one.
     void SetValue(std::string_view section, std::string_view key, std::string_view value);
 
     /// Every (section, key as it stands) in file order.
