@@ -89,4 +89,9 @@ void RemetVue(RibModel &rib) {
     rib.ModeCompare = false;
 }
 
+float LongueurBloc(const RibModel &rib, float corde) {
+    return ToSingle(static_cast<double>(corde) + static_cast<double>(rib.bloc.BAbloc) +
+                    static_cast<double>(rib.bloc.BFbloc));
+}
+
 } // namespace loftwing

@@ -127,4 +127,8 @@ void NommeProfil(RibModel &rib, const std::string &path);
 /// What a new airfoil resets in the view: scroll offsets and special views.
 void RemetVue(RibModel &rib);
 
+/// Length of the foam template of a rib of that chord: chord and both ramps, mm. Failure 6 when it
+/// doesn't fit.
+float LongueurBloc(const RibModel &rib, float corde);
+
 } // namespace loftwing

@@ -24,11 +24,6 @@ void RefuseCorde(const std::string &typed, const Saisie &saisie, const std::stri
                     titre);
 }
 
-float LongueurBloc(const RibModel &rib, float corde) {
-    return ToSingle(static_cast<double>(corde) + static_cast<double>(rib.bloc.BAbloc) +
-                    static_cast<double>(rib.bloc.BFbloc));
-}
-
 /// A typed length in mm.
 struct Lu {
     float mm;

@@ -80,6 +80,13 @@ LongueurRib LongueurDe(const RibModel &rib) {
     return {rib.corde, rib.bloc.LongBloc, rib.TypeGabarit == kGabaritMousse};
 }
 
+LongueurRib ReprendLongueur(RibModel &rib) {
+    if (rib.TypeGabarit == kGabaritMousse) {
+        rib.bloc.LongBloc = LongueurBloc(rib, rib.corde);
+    }
+    return LongueurDe(rib);
+}
+
 bool TientSurUneFeuille(const MiseEnPage &page, const LongueurRib &longueur) {
     return Wide(longueur.EnJeu()) + Wide(page.MargeHaut) + Wide(page.MargeBas) <=
            PapierDe(page).tailleFeuille;
@@ -97,7 +104,8 @@ Feuilles CalculPages(MiseEnPage &page, const LongueurRib &longueur) {
 
 Feuilles CalculPasPage(MiseEnPage &page, const LongueurRib &longueur) {
     float step = PasDe(page);
-    if (step == longueur.corde || step == longueur.LongBloc) {
+    // A rib without a template has a LongBloc of 0, which no step must be taken for.
+    if (step > 0.0F && (step == longueur.corde || step == longueur.LongBloc)) {
         step = ToSingle(Wide(step) + 0.5);
     }
     return Recoupe(page, step, longueur.EnJeu());

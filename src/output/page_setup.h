@@ -47,6 +47,8 @@ struct LongueurRib {
     float EnJeu() const { return gabarit ? LongBloc : corde; }
 };
 LongueurRib LongueurDe(const RibModel &rib);
+/// The same, with the template's length made anew from the chord and the ramps first.
+LongueurRib ReprendLongueur(RibModel &rib);
 
 /// What one computation of the sheets came to.
 enum class Feuilles {

@@ -1,5 +1,6 @@
 #include "output/print_run.h"
 
+#include "output/page_entry.h"
 #include "output/styles.h"
 
 namespace loftwing {
@@ -108,8 +109,7 @@ bool DecideFeuilles(const Impression &run, const std::function<void()> &set_up_p
         }
     }
     if (CalculPasPage(page, LongueurDe(run.rib)) == Feuilles::sans_pas) {
-        run.messages.Tell(run.messages.Text({"FrmPrint", "22"}), run.messages.Text({"Erreur", "1"}),
-                          BoxIcon::stop);
+        RefuseSansPas(run.messages);
         return false;
     }
     return true;

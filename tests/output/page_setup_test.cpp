@@ -121,14 +121,13 @@ TEST(PageSetup, StepBackwardsIsRefusedAndChangesNothing) {
     EXPECT_EQ(page.PasPage, 99.0F);
 }
 
-TEST(PageSetup, StepOfNothingIsRefusedWhileTypingAndEqualsATemplateNeverSet) {
+TEST(PageSetup, StepOfNothingIsRefusedAndIsNoTemplateThatIsntThere) {
     MiseEnPage page;
     page.recouvrement = 272;
     EXPECT_EQ(CalculPages(page, Chord(300)), Feuilles::sans_pas);
     EXPECT_EQ(CalculPasPage(page, {300, 310, false}), Feuilles::sans_pas);
-    // A template of length 0 makes half a millimetre of it: 201 sheets.
-    EXPECT_EQ(CalculPasPage(page, Chord(100)), Feuilles::plusieurs);
-    EXPECT_EQ(page.NbPages, 201);
+    EXPECT_EQ(CalculPasPage(page, Chord(300)), Feuilles::sans_pas);
+    EXPECT_EQ(page.NbPages, 0);
 }
 
 TEST(PageSetup, MoreThan255SheetsAreAnOverflow) {
