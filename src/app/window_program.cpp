@@ -43,8 +43,8 @@ void TranslateToolkit(QTranslator &translator) {
 }
 
 int Show(Programme &programme, const std::vector<std::string> &files) {
-    // The language comes first, for the window's load may have something to say; only a first start,
-    // which has to ask for it, makes the window before.
+    // The language comes first, for the window's load may have something to say; only a first
+    // start, which has to ask for it, makes the window before.
     std::unique_ptr<frmmain> window;
     const auto main_window = [&]() -> frmmain & {
         if (!window) {

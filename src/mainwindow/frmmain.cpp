@@ -241,6 +241,10 @@ void frmmain::AppliqueLangue() {
         tools_.at(button.index)->setText(caption(button.tip));
         tools_.at(button.index)->setIcon(ToolIcon(button.index, palette()));
     }
+    programme_.platform.SetButtonWords(
+        {programme_.Text({"TextButton", "1"}), programme_.Text({"TextButton", "2"}),
+         programme_.Text({"TextButton", "18"}), programme_.Text({"TextButton", "19"}),
+         programme_.Text({"TextButton", "20"})});
     Combo1->setToolTip(tools_.at(8)->toolTip());
     Combo1->setAccessibleName(tools_.at(8)->toolTip());
 }

@@ -44,6 +44,11 @@ struct PrintQuestion {
 
 enum class Pointer { normal, busy };
 
+/// Words for the buttons of boxes; an empty one leaves those that the desktop has.
+struct ButtonWords {
+    std::string ok, cancel, yes, no, retry;
+};
+
 /// The seam to the world. Texts are UTF-8; an empty answer of a chooser is the cancel.
 class Platform {
   public:
@@ -54,6 +59,8 @@ class Platform {
 
     /// Shows a box and waits for its answer. Closing the box is the answer "cancel" or "no".
     virtual BoxAnswer Show(const MessageBox &box) = 0;
+    /// From now on the buttons of boxes carry these words.
+    virtual void SetButtonWords(const ButtonWords &words) = 0;
     /// Asks for one line of text; nothing when it is cancelled.
     virtual std::optional<std::string> Ask(const std::string &text, const std::string &title,
                                            const std::string &proposed) = 0;

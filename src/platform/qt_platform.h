@@ -12,22 +12,16 @@ class QWidget;
 
 namespace loftwing {
 
-/// Words for the buttons of boxes; an empty one leaves the toolkit's own.
-struct ButtonWords {
-    std::string ok, cancel, yes, no, retry;
-};
-
 class QtPlatform : public Platform {
   public:
     /// `program_folder` is where the program's resources are; the airfoil library is part of them.
     explicit QtPlatform(const std::string &program_folder);
 
-    /// From now on buttons of boxes carry these words.
-    void SetButtonWords(const ButtonWords &words) { words_ = words; }
     /// What opens the help at a context number, and what closes it. Until then there is no help.
     void SetHelp(std::function<void(int)> show, std::function<void()> close);
 
     BoxAnswer Show(const MessageBox &box) override;
+    void SetButtonWords(const ButtonWords &words) override { words_ = words; }
     std::optional<std::string> Ask(const std::string &text, const std::string &title,
                                    const std::string &proposed) override;
     std::string ChooseOpenFile(const FileQuestion &question) override;

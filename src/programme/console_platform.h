@@ -17,6 +17,7 @@ class ConsolePlatform : public Platform {
     const std::string &LastText() const { return last_text_; }
 
     BoxAnswer Show(const MessageBox &box) override;
+    void SetButtonWords(const ButtonWords &) override {}
     std::optional<std::string> Ask(const std::string &text, const std::string &title,
                                    const std::string &proposed) override;
     std::string ChooseOpenFile(const FileQuestion &question) override;

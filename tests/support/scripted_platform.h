@@ -38,6 +38,7 @@ class ScriptedPlatform : public Platform {
     std::vector<int> help_contexts;
     int help_closed = 0;
     int printer_settings_shown = 0;
+    ButtonWords button_words;
     Pointer pointer = Pointer::normal;
     char decimal_separator = '.';
     bool programs_start = true;
@@ -47,6 +48,7 @@ class ScriptedPlatform : public Platform {
     std::vector<PrintQuestion> print_questions;
 
     BoxAnswer Show(const MessageBox &box) override;
+    void SetButtonWords(const ButtonWords &words) override { button_words = words; }
     std::optional<std::string> Ask(const std::string &text, const std::string &title,
                                    const std::string &proposed) override;
     std::string ChooseOpenFile(const FileQuestion &question) override;

@@ -506,6 +506,7 @@ TEST(MainWindow, SpeaksFrench) {
             EXPECT_EQ(shown, world.programme.Text(command.text)) << command.name;
         }
     }
+    EXPECT_EQ(world.platform.button_words.yes, "Oui");
     EXPECT_EQ(world.Find<QPushButton>("cmdcorde")->text().toStdString(),
               world.programme.Text({"MainTolbar", "13"}));
 }
