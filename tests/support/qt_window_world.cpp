@@ -37,8 +37,8 @@ std::string SettingsText(const TempFolder &folder, const std::string &language,
 
 WindowWorld::WindowWorld(const std::string &language, const std::string &unit)
     : programme(TestPaths(folder), platform) {
-    std::filesystem::create_directoriesfolder.Path("airfoils");
-    std::filesystem::create_directoriesfolder.Path("sets");
+    std::filesystem::create_directories(folder.Path("airfoils"));
+    std::filesystem::create_directories(folder.Path("sets"));
     folder.File("Loftwing.ini", SettingsText(folder, language, unit));
     programme.language.Charge(programme.paths.langues, language);
 }
