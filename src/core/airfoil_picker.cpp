@@ -1,0 +1,160 @@
+#include "core/airfoil_picker.h"
+
+#include "base/text_encoding.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace loftwing {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t kCheminEntier = 30; // characters of a folder that is shown whole
+constexpr std::size_t kCheminDebut = 12;
+constexpr std::size_t kCheminFin = 10;
+
+constexpr std::size_t kMotifEtCrochet = 6;
+constexpr std::size_t kMotif = 5;
+
+// Capitals of the plain alphabet only: the order must not depend on the locale.
+char Minuscule(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool MemeLettre(char a, char b) {
+    return Minuscule(a) == Minuscule(b);
+}
+
+bool Avant(const std::string &a, const std::string &b) {
+    const auto less = [](char x, char y) {
+        return static_cast<unsigned char>(Minuscule(x)) < static_cast<unsigned char>(Minuscule(y));
+    };
+    if (std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), less)) {
+        return true;
+    }
+    const bool after = std::lexicographical_compare(b.begin(), b.end(), a.begin(), a.end(), less);
+    return !after && a < b;
+}
+
+Failure EchecDossier(const std::error_code &error, const std::string &folder) {
+    if (error == std::errc::permission_denied || error == std::errc::operation_not_permitted) {
+        return MakeFailure(kPermissionDenied, folder);
+    }
+    if (error == std::errc::no_such_file_or_directory || error == std::errc::not_a_directory) {
+        return MakeFailure(kPathNotFound, folder);
+    }
+    return MakeFailure(kDeviceError, folder);
+}
+
+void Classe(const fs::directory_entry &entry, std::string_view motif, ContenuDossier &contenu) {
+    const std::string name = entry.path().filename().string();
+    if (name.starts_with('.')) {
+        return;
+    }
+    std::error_code error; // a link that leads nowhere is neither
+    if (entry.is_directory(error)) {
+        contenu.dossiers.push_back(name);
+    } else if (SuitMotif(name, motif) && entry.is_regular_file(error)) {
+        contenu.fichiers.push_back(name);
+    }
+}
+
+bool PeutEtreListe(const std::string &folder) {
+    std::error_code error;
+    const fs::directory_iterator first(folder, error);
+    return !error;
+}
+
+} // namespace
+
+ProfilPrecedent::ProfilPrecedent(const RibModel &rib)
+    : chemin_(rib.CheminProfil), nom_(rib.NomProfil), entete_(rib.EnteteProfil),
+      extension_(rib.ExtProfil), charge_(rib.ProfilCharge) {}
+
+void ProfilPrecedent::Rend(RibModel &rib) const {
+    rib.CheminProfil = chemin_;
+    rib.NomProfil = nom_;
+    rib.EnteteProfil = entete_;
+    rib.ExtProfil = extension_;
+    rib.ProfilCharge = charge_;
+}
+
+std::string CheminAbrege(const std::string &folder) {
+    if (CharacterCount(folder) <= kCheminEntier) {
+        return folder;
+    }
+    return FirstCharacters(folder, kCheminDebut) + "..." + LastCharacters(folder, kCheminFin);
+}
+
+std::string MotifDeLigne(const std::string &row) {
+    return FirstCharacters(LastCharacters(row, kMotifEtCrochet), kMotif);
+}
+
+bool SuitMotif(std::string_view name, std::string_view motif) {
+    const std::string_view extension = motif.substr(motif.starts_with('*') ? 1 : 0);
+    return name.size() >= extension.size() &&
+           std::equal(extension.begin(), extension.end(),
+                      name.end() - static_cast<std::ptrdiff_t>(extension.size()), MemeLettre);
+}
+
+std::string CheminDans(const std::string &folder, const std::string &name) {
+    return folder.ends_with('/') ? folder + name : folder + "/" + name;
+}
+
+std::string DossierParent(const std::string &folder) {
+    const std::string parent = fs::path(folder).parent_path().string();
+    return parent == folder ? std::string() : parent;
+}
+
+ContenuDossier LitDossier(const std::string &folder, std::string_view motif) {
+    ContenuDossier contenu;
+    std::error_code error;
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+         entry.increment(error)) {
+        Classe(*entry, motif, contenu);
+    }
+    if (error) {
+        throw EchecDossier(error, folder);
+    }
+    std::sort(contenu.dossiers.begin(), contenu.dossiers.end(), Avant);
+    std::sort(contenu.fichiers.begin(), contenu.fichiers.end(), Avant);
+    return contenu;
+}
+
+std::string DossierDepart(const std::string &last) {
+    std::error_code error;
+    const fs::path current = fs::current_path(error);
+    if (!last.empty()) {
+        const std::string folder = (current / last).lexically_normal().string();
+        const std::string plain =
+            fs::path(folder).has_filename() ? folder : fs::path(folder).parent_path().string();
+        if (PeutEtreListe(plain)) {
+            return plain;
+        }
+    }
+    return !error && PeutEtreListe(current.string()) ? current.string() : "/";
+}
+
+std::string TitreApercu(const RibModel &rib) {
+    return rib.EnteteProfil.starts_with('1') ? rib.NomProfil : rib.EnteteProfil;
+}
+
+std::string NombreApercu(const RibModel &rib, const Messages &messages) {
+    return std::to_string(rib.NbPoints) + " " + messages.Text({"frmopen", "24"});
+}
+
+std::string NomEcarte(const RibModel &rib) {
+    if (rib.NomProfil == "Uninstal" || rib.NomProfil == "UNINSTAL") {
+        return "Caution Uninstall file....";
+    }
+    for (const char *extension : {"LFW", "lfw", "TXT", "txt"}) {
+        if (rib.ExtProfil == extension) {
+            return "This file is NOT an Airfoil file....";
+        }
+    }
+    return {};
+}
+
+} // namespace loftwing

@@ -1,0 +1,71 @@
+/// What choosing an airfoil file means, without the window in which it is chosen.
+#pragma once
+
+#include "core/messages.h"
+#include "core/rib_model.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace loftwing {
+
+/// The identity of the airfoil that is there when the picker opens. The picker overwrites it with
+/// each file that is looked at, and a cancel gives it back.
+class ProfilPrecedent {
+  public:
+    explicit ProfilPrecedent(const RibModel &rib);
+    /// Puts CheminProfil, NomProfil, EnteteProfil, ExtProfil and ProfilCharge back.
+    void Rend(RibModel &rib) const;
+
+  private:
+    std::string chemin_;
+    std::string nom_;
+    std::string entete_;
+    std::string extension_;
+    bool charge_;
+};
+
+/// A folder as a label shows it: whole up to 30 characters, otherwise its first 12, "..." and its
+/// last 10.
+std::string CheminAbrege(const std::string &folder);
+
+/// The file pattern that a row of the picker's list of file types ends in: "*.dat" of
+/// "Selig Files (*.dat)".
+std::string MotifDeLigne(const std::string &row);
+
+/// Whether a file name has the extension of a pattern such as "*.dat"; capitals don't matter, since
+/// libraries that come from other systems write .DAT.
+bool SuitMotif(std::string_view name, std::string_view motif);
+
+/// The path of an entry of a folder.
+std::string CheminDans(const std::string &folder, const std::string &name);
+
+/// The folder above, empty at the top.
+std::string DossierParent(const std::string &folder);
+
+/// Names in a folder, sorted without regard to capitals. Hidden entries are left out.
+struct ContenuDossier {
+    std::vector<std::string> dossiers;
+    std::vector<std::string> fichiers;
+};
+
+/// Lists the folders of `folder` and its plain files that suit `motif`; links count as what they
+/// lead to. Failure 76 when it is no folder, 70 when it may not be read, 57 when reading breaks
+/// off.
+ContenuDossier LitDossier(const std::string &folder, std::string_view motif);
+
+/// The folder on which the picker opens: `last` as an absolute path where that can be listed,
+/// otherwise the current folder, otherwise the top one.
+std::string DossierDepart(const std::string &last);
+
+/// Words at the preview: the file's title, or its name where the title is the first point.
+std::string TitreApercu(const RibModel &rib);
+/// Number of points read, with its word.
+std::string NombreApercu(const RibModel &rib, const Messages &messages);
+
+/// The warning for a file that is no airfoil by its name (rib components, texts, what an installer
+/// left behind); empty for any other.
+std::string NomEcarte(const RibModel &rib);
+
+} // namespace loftwing

@@ -1,0 +1,75 @@
+#include "mainwindow/frmSplash.h"
+
+#include "base/version.h"
+#include "platform/qt_form.h"
+
+#include <QShowEvent>
+#include <QVBoxLayout>
+
+namespace loftwing {
+
+namespace {
+
+constexpr int kShownFor = 3000; // ms
+constexpr double kTitleSize = 2.2;
+
+} // namespace
+
+frmSplash::frmSplash(Programme &programme, QWidget *parent)
+    : QDialog(parent, Qt::SplashScreen | Qt::FramelessWindowHint), programme_(programme),
+      image(this), lbltitre(this), lblversion(this), lblpresentation(this) {
+    NameControl(*this, "frmSplash");
+    NameControl(image, "image");
+    NameControl(lbltitre, "lbltitre");
+    NameControl(lblversion, "lblversion");
+    NameControl(lblpresentation, "lblpresentation");
+    NameControl(Timer1, "Timer1");
+    Timer1.setParent(this);
+    // Keys that are typed meanwhile are meant for the main window.
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setFocusPolicy(Qt::NoFocus);
+    LayOut();
+    Form_Load();
+    connect(&Timer1, &QTimer::timeout, this, &frmSplash::Ferme);
+    connect(&image, &RibPicture::Clique, this, &frmSplash::Ferme);
+}
+
+void frmSplash::LayOut() {
+    auto *rows = new QVBoxLayout(this);
+    rows->addWidget(&image);
+    for (QLabel *label : {&lbltitre, &lblversion, &lblpresentation}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setAlignment(Qt::AlignHCenter);
+        rows->addWidget(label);
+    }
+    QFont large = lbltitre.font();
+    large.setPointSizeF(large.pointSizeF() * kTitleSize);
+    lbltitre.setFont(large);
+    setSizeGripEnabled(false);
+}
+
+void frmSplash::Form_Load() {
+    setWindowTitle(QString::fromUtf8(kTitre));
+    lbltitre.setText(QString::fromUtf8(kTitre));
+    lblversion.setText(Q(programme_.Text({"FrmAbout", "3"}) + "  " + kVersion));
+    lblpresentation.setText(Q(programme_.Text({"FrmAbout", "2"})));
+    Timer1.setSingleShot(true);
+    Timer1.setInterval(kShownFor);
+}
+
+void frmSplash::showEvent(QShowEvent *event) {
+    QDialog::showEvent(event);
+    if (const QWidget *window = parentWidget()) {
+        adjustSize();
+        move(window->frameGeometry().center() - rect().center());
+    }
+    Timer1.start();
+}
+
+void frmSplash::Ferme() {
+    Timer1.stop();
+    close();
+    programme_.platform.SetPointer(Pointer::normal);
+}
+
+} // namespace loftwing

@@ -1,0 +1,38 @@
+/// The splash window.
+#pragma once
+
+#include "mainwindow/rib_picture.h"
+#include "programme/programme.h"
+
+#include <QDialog>
+#include <QLabel>
+#include <QTimer>
+
+namespace loftwing {
+
+/// Shows the program's name and version over the main window while that appears. It is shown
+/// without waiting for it; it closes of itself, or when its image is clicked, and the mouse pointer
+/// is normal from then on.
+class frmSplash : public QDialog {
+    Q_OBJECT
+
+  public:
+    frmSplash(Programme &programme, QWidget *parent);
+
+  protected:
+    void showEvent(QShowEvent *event) override;
+
+  private:
+    Programme &programme_;
+    RibPicture image;
+    QLabel lbltitre;
+    QLabel lblversion;
+    QLabel lblpresentation;
+    QTimer Timer1;
+
+    void LayOut();
+    void Form_Load();
+    void Ferme();
+};
+
+} // namespace loftwing

@@ -1,0 +1,107 @@
+/// The window in which an airfoil file is chosen.
+#pragma once
+
+#include "core/airfoil_picker.h"
+#include "core/airfoil_reader.h"
+#include "mainwindow/apercu.h"
+#include "mainwindow/fitted_label.h"
+#include "programme/main_view.h"
+#include "programme/programme.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTimer>
+
+#include <string>
+
+namespace loftwing {
+
+/// Folders, files, and a preview of the file that is selected: each is read into the rib and tested
+/// at once, so that a bad one is refused before it is accepted. Open leaves the airfoil in the rib,
+/// every other way out puts back the identity of the one before and sets rib.Annule. The window's
+/// title is the title of its boxes; whoever opens it may set another.
+class frmopen : public QDialog {
+    Q_OBJECT
+
+  public:
+    frmopen(Programme &programme, MainView &view, QWidget *parent);
+
+    /// For commands that want a second airfoil: shows the check box that sets rib.MemProfil where
+    /// `check` says so, and `note` over it where there is one. Both are hidden otherwise.
+    void MontreMemoire(bool check, const std::string &note);
+
+    /// Escape and the window's own close button do what Cancel does.
+    void reject() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+  private:
+    Programme &programme_;
+    MainView &view_;
+    RibModel &rib_;
+    ProfilPrecedent precedent_;
+    std::string dossier_;  ///< whose content the lists show
+    QTimer selection_;     ///< a selected file waits to be read
+    bool pressed_ = false; ///< the mouse is down on File1
+
+    QLineEdit txtchemin;
+    QLabel lbldossiers;
+    QListWidget Dir1;
+    QLabel lblfichiers;
+    QListWidget File1;
+    QLabel lbltype;
+    QComboBox Combo1;
+    QLabel lblfichier;
+    FittedLabel nomfile1;
+    QLabel lbldossier;
+    FittedLabel Lbchemin;
+    Apercu Surface;
+    FittedLabel Label1;
+    FittedLabel Label2;
+    FittedLabel Label3;
+    QCheckBox memP1;
+    QLabel LbMem;
+    QPushButton cmdouvrir;
+    QPushButton cmdannuler;
+    QPushButton cmdaide;
+
+    // frmopen_build.cpp
+    void NameAll();
+    QLayout *LayOutLists();
+    QLayout *LayOutPreview();
+    void LayOut();
+    void SetWords();
+    void SetTips();
+    void Connect();
+
+    // frmopen.cpp
+    void Form_Load();
+    void Combo1_Change();
+    void Dir1_Change(const std::string &came_from);
+    void Dir1_DblClick();
+    void File1_Click();
+    void File1_DblClick();
+    /// Goes where the path leads; true when it named a file, which is then selected.
+    bool txtchemin_Return();
+    void memP1_Click();
+    void cmdouvrir_Click();
+    void cmdannuler_Click();
+
+    /// Shows another folder. One that can't be listed is reported, and the present one stays.
+    bool Ouvre(const std::string &folder, const std::string &came_from = {});
+    void Monte();
+    void RemplitFile1(const std::vector<std::string> &names);
+    std::string Motif() const;
+    /// Path of the selected file, empty when none is.
+    std::string Choisi() const;
+    /// Reads a file that is selected but still waits.
+    void LitSelection();
+    void MontreLecture(const ResultatLecture &lecture);
+    bool ListKey(QListWidget &list, int key);
+    void File1_Mouse(const QEvent &event);
+};
+
+} // namespace loftwing

@@ -1,0 +1,29 @@
+/// A main window that only notes what dialogs ask of it.
+#pragma once
+
+#include "programme/main_view.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace loftwing {
+
+class NotedView : public MainView {
+  public:
+    std::vector<std::string> asked; ///< names of the routines, in order
+    std::function<void()> on_clear;
+
+    void affiche() override { asked.emplace_back("affiche"); }
+    void RetraceVues() override { asked.emplace_back("RetraceVues"); }
+    void affclear() override {
+        asked.emplace_back("affclear");
+        if (on_clear) {
+            on_clear();
+        }
+    }
+    void FermeDialogues() override { asked.emplace_back("FermeDialogues"); }
+    void AppliqueLangue() override { asked.emplace_back("AppliqueLangue"); }
+};
+
+} // namespace loftwing

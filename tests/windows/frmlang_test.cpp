@@ -1,0 +1,176 @@
+#include "lang/frmlang.h"
+
+#include "platform/qt_text.h"
+#include "support/noted_view.h"
+#include "support/scripted_platform.h"
+#include "support/temp_folder.h"
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace loftwing {
+namespace {
+
+using Asked = std::vector<std::string>;
+
+class FrmLangTest : public testing::Test {
+  protected:
+    FrmLangTest() {
+        for (const char *name : {"English.lng", "French.lng"}) {
+            std::filesystem::copy_file(std::filesystem::path(LOFTWING_SOURCE_DIR "/resources/lng") /
+                                           name,
+                                       folder.Path(name));
+        }
+        folder.File("notes.txt", "no language");
+    }
+
+    void Speak(const std::string &name) {
+        programme.language.Charge(folder.Path(), name);
+        programme.language.LangueAbsente = false;
+        ASSERT_TRUE(WriteINIFile("Language", "Langue", name, programme.paths.fichier));
+    }
+
+    std::string Noted() const { return GetINIFile("Language", "Langue", programme.paths.fichier); }
+
+    static QComboBox &List(lang &window) { return *window.findChild<QComboBox *>("Combo1"); }
+    static QPushButton &Ok(lang &window) { return *window.findChild<QPushButton *>("ok"); }
+    static void Click(lang &window) { QTest::mouseClick(&Ok(window), Qt::LeftButton); }
+
+    TempFolder folder;
+    ScriptedPlatform platform;
+    Programme programme{Paths{folder.Path(), folder.Path(), folder.Path("Loftwing.ini"), {}},
+                        platform};
+    NotedView view;
+};
+
+TEST_F(FrmLangTest, OpeningClosesDialogsAndClearsTheRib) {
+    const lang window(programme, view, nullptr);
+    EXPECT_EQ(view.asked, (Asked{"FermeDialogues", "affclear"}));
+}
+
+TEST_F(FrmLangTest, ListsTheLanguageFilesWithoutTheirExtension) {
+    lang window(programme, view, nullptr);
+    ASSERT_EQ(List(window).count(), 2);
+    EXPECT_EQ(S(List(window).itemText(0)), "English");
+    EXPECT_EQ(S(List(window).itemText(1)), "French");
+}
+
+TEST_F(FrmLangTest, SpeaksPlainEnglishWhileNoLanguageIsLoaded) {
+    lang window(programme, view, nullptr);
+    EXPECT_EQ(S(window.windowTitle()), "Language");
+    EXPECT_EQ(S(Ok(window).text()), "OK");
+    EXPECT_EQ(List(window).currentIndex(), -1);
+}
+
+TEST_F(FrmLangTest, ShowsTheLanguageThatIsLoaded) {
+    Speak("French");
+    lang window(programme, view, nullptr);
+    EXPECT_EQ(S(window.windowTitle()), "Langue");
+    EXPECT_EQ(S(List(window).currentText()), "French");
+}
+
+TEST_F(FrmLangTest, OkWithoutAChangeJustCloses) {
+    Speak("French");
+    lang window(programme, view, nullptr);
+    window.show();
+    view.asked.clear();
+    Click(window);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_TRUE(view.asked.empty());
+    EXPECT_EQ(Noted(), "French");
+}
+
+TEST_F(FrmLangTest, OkWithNothingChosenLeavesNoLanguage) {
+    lang window(programme, view, nullptr);
+    window.show();
+    Click(window);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(Noted(), "");
+    EXPECT_EQ(programme.language.LangueCourante, "");
+}
+
+TEST_F(FrmLangTest, NewLanguageIsNotedAndAppliedAtOnce) {
+    Speak("English");
+    lang window(programme, view, nullptr);
+    window.show();
+    view.asked.clear();
+    List(window).setFocus();
+    QTest::keyClick(&List(window), Qt::Key_Down);
+    EXPECT_EQ(Noted(), "English");
+    Click(window);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(Noted(), "French");
+    EXPECT_EQ(programme.language.LangueCourante, "French");
+    EXPECT_EQ(programme.language.FichierLng, folder.Path("French.lng"));
+    EXPECT_EQ(programme.Text({"TextButton", "2"}), "Annuler");
+    EXPECT_EQ(view.asked, (Asked{"AppliqueLangue", "RetraceVues", "affiche"}));
+}
+
+TEST_F(FrmLangTest, RowSelectedAgainCountsAsAChange) {
+    Speak("English");
+    lang window(programme, view, nullptr);
+    view.asked.clear();
+    Q_EMIT List(window).activated(0);
+    Click(window);
+    EXPECT_EQ(view.asked, (Asked{"AppliqueLangue", "RetraceVues", "affiche"}));
+}
+
+TEST_F(FrmLangTest, EscapeChangesNothing) {
+    Speak("English");
+    lang window(programme, view, nullptr);
+    window.show();
+    view.asked.clear();
+    QTest::keyClick(&List(window), Qt::Key_Down);
+    QTest::keyClick(&window, Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(Noted(), "English");
+    EXPECT_EQ(programme.language.LangueCourante, "English");
+    EXPECT_TRUE(view.asked.empty());
+}
+
+TEST_F(FrmLangTest, EmptyFolderLeavesTheListEmpty) {
+    programme.paths.langues = folder.Path("gone");
+    lang window(programme, view, nullptr);
+    window.show();
+    EXPECT_EQ(List(window).count(), 0);
+    Click(window);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(Noted(), "");
+}
+
+TEST_F(FrmLangTest, LanguageThatCannotBeReadIsReportedAndTheOldOneKept) {
+    Speak("English");
+    const std::string broken = folder.File("Broken.lng", "");
+    lang window(programme, view, nullptr);
+    std::filesystem::remove(broken);
+    std::filesystem::create_directory(broken);
+    window.show();
+    view.asked.clear();
+    QTest::keyClick(&List(window), Qt::Key_Home);
+    ASSERT_EQ(S(List(window).currentText()), "Broken");
+    platform.Expect(BoxAnswer::ok);
+    Click(window);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(platform.boxes.at(0).title, " GetINIFile");
+    EXPECT_EQ(Noted(), "English");
+    EXPECT_EQ(programme.language.LangueCourante, "English");
+    EXPECT_TRUE(view.asked.empty());
+}
+
+TEST_F(FrmLangTest, ChoiceThatCannotBeKeptIsReportedAndHoldsForThisRun) {
+    programme.paths.fichier = folder.Path("no/such/folder/Loftwing.ini");
+    lang window(programme, view, nullptr);
+    window.show();
+    QTest::keyClick(&List(window), Qt::Key_Down);
+    platform.Expect(BoxAnswer::ok);
+    Click(window);
+    EXPECT_EQ(platform.boxes.at(0).title, " WriteINIFile");
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(programme.language.LangueCourante, "English");
+}
+
+} // namespace
+} // namespace loftwing
