@@ -3,8 +3,8 @@
 
 #include "core/airfoil_reader.h"
 #include "core/contour.h"
-#include "silent_platform.h"
 #include "support/naive_contour.h"
+#include "support/silent_platform.h"
 
 #include <algorithm>
 #include <cmath>

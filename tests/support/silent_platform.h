@@ -1,4 +1,4 @@
-/// A world in which nobody listens.
+/// A world in which nobody listens, for benchmarks and fuzz targets.
 #pragma once
 
 #include "output/printer.h"
