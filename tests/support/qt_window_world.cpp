@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QLabel>
-#include <QTimer>
 
 #include <filesystem>
 
@@ -65,20 +64,6 @@ QAction *WindowWorld::Action(const std::string &name) const {
 
 std::string WindowWorld::Panel(int number) const {
     return Find<QLabel>("StatusBar(" + std::to_string(number) + ")")->text().toStdString();
-}
-
-void InNextDialog(const std::function<void(QDialog &)> &act) {
-    QTimer::singleShot(0, [act] {
-        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        if (dialog == nullptr) {
-            ADD_FAILURE() << "no dialog came up";
-            return;
-        }
-        act(*dialog);
-        if (dialog->isVisible()) {
-            dialog->reject();
-        }
-    });
 }
 
 } // namespace loftwing

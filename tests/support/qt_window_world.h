@@ -2,12 +2,10 @@
 #pragma once
 
 #include "mainwindow/frmmain.h"
+#include "support/qt_modal.h"
 #include "support/scripted_platform.h"
 #include "support/temp_folder.h"
 
-#include <QDialog>
-
-#include <functional>
 #include <memory>
 #include <string>
 
@@ -35,8 +33,5 @@ class WindowWorld {
     }
     std::string Panel(int number) const;
 };
-
-/// Runs `act` on the modal dialog that the next event loop brings up.
-void InNextDialog(const std::function<void(QDialog &)> &act);
 
 } // namespace loftwing
