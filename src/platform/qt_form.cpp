@@ -47,7 +47,9 @@ void FitToContent(QDialog &dialog) {
 
 void CentreOn(QDialog &dialog, const QWidget &window) {
     const QRect space = window.screen()->availableGeometry();
-    QRect place({}, dialog.size());
+    // The dialog has no frame yet; it will be like that of the window.
+    const QSize frame = window.frameGeometry().size() - window.geometry().size();
+    QRect place({}, dialog.size() + frame);
     place.moveCenter(window.frameGeometry().center());
     // A window that reaches beyond the screen must not take its dialogs along.
     place.moveRight(std::min(place.right(), space.right()));
@@ -80,15 +82,18 @@ void NumericField::keyPressEvent(QKeyEvent *event) {
         insert(Admitted(QApplication::clipboard()->text()));
         return;
     }
-    // Keys without a character of their own (backspace, arrows, Return, shortcuts with Ctrl) go on.
+    // Keys without a character of their own (backspace, arrows, Return) and shortcuts go on. Ctrl
+    // and Alt together are the third level of some keyboards and give a character.
     const QString typed = event->text();
     const bool printable = !typed.isEmpty() && typed.front().isPrint();
-    if (!printable || Admitted(typed) == typed) {
+    const Qt::KeyboardModifiers held = event->modifiers();
+    const bool shortcut = (held & (Qt::ControlModifier | Qt::AltModifier)) == Qt::ControlModifier;
+    if (!printable || shortcut || Admitted(typed) == typed) {
         QLineEdit::keyPressEvent(event);
         return;
     }
     // Alt with a letter may still be somebody's access key.
-    event->setAccepted((event->modifiers() & (Qt::AltModifier | Qt::MetaModifier)) == 0);
+    event->setAccepted((held & (Qt::AltModifier | Qt::MetaModifier)) == 0);
 }
 
 void NumericField::inputMethodEvent(QInputMethodEvent *event) {
