@@ -36,7 +36,7 @@ template <class Fields>
 void Prepare(Fields &fields) {
     for (NumericField &field : fields) {
         field.SetKeys(kTouchesEntier);
-        SetTip(field, kBulle);
+        field.setToolTip(Q(kBulle));
         field.setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
         field.setMaximumWidth(field.fontMetrics().horizontalAdvance("0000000"));
     }
