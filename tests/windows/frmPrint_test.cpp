@@ -301,6 +301,20 @@ TEST_F(FrmPrintTest, MoreThan255SheetsFailOnceForEachChange) {
     EXPECT_EQ(platform.boxes.size(), 1U);
 }
 
+TEST_F(FrmPrintTest, AFailureLeavesTheOverlapToBePutRight) {
+    Chord(100000);
+    Use([this](frmPrint &dialog) {
+        ExpectBoxes(1);
+        Paper(dialog, 8);
+        ExpectBoxes(1);
+        Paper(dialog, 0); // steps of 272 mm: 368 sheets
+        EXPECT_TRUE(platform.boxes.back().text.starts_with("Error # 6 in Loftwing\n"));
+        EXPECT_TRUE(Box(dialog, 3).isEnabled());
+        EXPECT_FALSE(Enabled(dialog, "cmdconfigImprim"));
+        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : -");
+    });
+}
+
 TEST_F(FrmPrintTest, AFractionOverNothingFailsAndNeverComesOut) {
     Inches();
     Chord("13", 330.2F);
@@ -442,8 +456,8 @@ TEST_F(FrmPrintTest, APaperThatThereIsntShowsAsTheFirst) {
 
 TEST_F(FrmPrintTest, OkStoresThePageAndWritesIt) {
     Chord(300);
-    programme.rib.Annule = true;
-    const Left left = Use([](frmPrint &dialog) {
+    const Left left = Use([this](frmPrint &dialog) {
+        programme.rib.Annule = true;
         Type(dialog, 0, "60");
         Type(dialog, 1, "12.5");
         Type(dialog, 2, "16");
