@@ -1,0 +1,348 @@
+#include "output/frmPrint.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QScopedValueRollback>
+#include <QVBoxLayout>
+
+namespace loftwing {
+
+namespace {
+
+constexpr int kAide = 31;
+
+void SetBold(QWidget &widget, bool bold) {
+    QFont font; // says nothing but the weight, so that the size goes on following the dialog's
+    font.setBold(bold);
+    widget.setFont(font);
+}
+
+} // namespace
+
+frmPrint::frmPrint(Programme &programme, QWidget *parent)
+    : QDialog(parent), programme_(programme), page_(programme.settings.page) {
+    NameAll();
+    LayOut();
+    Form_Load();
+    ConnectAll();
+}
+
+void frmPrint::Form_Load() {
+    programme_.rib.Annule = false;
+    if (page_.NumIndex >= kPapiers) {
+        page_.NumIndex = 0; // a paper that there isn't; here it can be put right
+    }
+    PoseTextes();
+    RemplitCombo();
+    const TextesPage typed = TextesDe(page_);
+    for (int i = 0; i < kChampsPage; ++i) {
+        At(Text1, i).setText(Q(At(typed, i)));
+    }
+    CalculAuChargement();
+    FormeChargee = true;
+}
+
+void frmPrint::PoseTextes() {
+    const LngIni &language = programme_.language;
+    setWindowTitle(Q(TitrePage(language, programme_.platform.PrinterName())));
+    Frame6.setTitle(Q(programme_.Text({"FrmPrint", "3"})));
+    Frame5.setTitle(Q(programme_.Text({"FrmPrint", "7"})));
+    Frame4.setTitle(Q(programme_.Text({"FrmPrint", "13"})));
+    Frame2.setTitle(Q(programme_.Text({"FrmPrint", "18"})));
+    Option1.setText(Q(programme_.Text({"FrmPrint", "14"})));
+    Option2.setText(Q(programme_.Text({"FrmPrint", "15"})));
+    Label4.setText(Q(programme_.Text({"FrmPrint", "16"})));
+    Label1.setText(Q(programme_.Text({"FrmPrint", "19"})));
+    Label2.setText(Q(programme_.Text({"FrmPrint", "20"})));
+    cmdconfigImprim.setText(Q(programme_.Text({"TextButton", "15"})));
+    SetButtonWord(cmdok, language, SharedWord::ok);
+    SetButtonWord(cmdannuler, language, SharedWord::cancel);
+    SetButtonWord(cmdaide, language, SharedWord::help);
+    Combo1.setAccessibleName(Frame6.title());
+    Text1[kChampYdprint].setAccessibleName(Frame5.title());
+    for (QLabel *unit : {&Label5, &Label6, &Label7, &Label8}) {
+        unit->setText(Q(programme_.settings.Unite));
+    }
+    for (NumericField &field : Text1) {
+        field.SetKeys(
+            TouchesSelonUnite(programme_.settings.Unite, kTouchesPositif, kTouchesFraction));
+    }
+}
+
+void frmPrint::RemplitCombo() {
+    for (int i = 0; i < kPapiers; ++i) {
+        Combo1.addItem(Q(NomFeuille(i, programme_.language)));
+    }
+    Combo1.setCurrentIndex(page_.NumIndex);
+}
+
+/// Runs `action` unless a box that it or another one shows is still open, so that no text which
+/// changes meanwhile starts a second one. A failure is told once; the dialog goes on.
+template <class Action>
+void frmPrint::Seul(const char *label, Action action) {
+    if (EnCalcul) {
+        return;
+    }
+    const QScopedValueRollback<bool> busy(EnCalcul, true);
+    try {
+        action();
+    } catch (const Failure &failure) {
+        Label10.setText(Q(TexteSansPages(programme_.language)));
+        programme_.messages.Report(failure, label);
+    }
+}
+
+/// The first count. Only a missing overlap is worth a box before the user has done anything;
+/// whatever else is wrong shows as a missing count, and is told at the first change or at OK.
+void frmPrint::CalculAuChargement() {
+    const QScopedValueRollback<bool> busy(EnCalcul, true);
+    try {
+        longueur_ = ReprendLongueur(programme_.rib);
+        Label9.setText(Q(TexteLongueur(programme_.rib, programme_.SaisieEnCours())));
+        const Feuilles feuilles = CalculeEtMontre();
+        Avertit(feuilles);
+        ChoisitRecouvrement(feuilles);
+    } catch (const Failure &) {
+        Label10.setText(Q(TexteSansPages(programme_.language)));
+    }
+}
+
+void frmPrint::Combo1_click() {
+    if (!FormeChargee) {
+        return;
+    }
+    Seul(" Print/Combo1", [this] {
+        page_.NumIndex = ToByte(Combo1.currentIndex());
+        if (NommePapierImprimante(S(Combo1.currentText()), programme_.language)) {
+            AnnoncePapierImprimante(programme_.rib, programme_.SaisieEnCours());
+        }
+        const Feuilles feuilles = CalculeEtMontre();
+        if (feuilles == Feuilles::sans_pas) {
+            RefuseSansPas(programme_.messages);
+        }
+        Avertit(feuilles);
+        ChoisitRecouvrement(feuilles);
+    });
+}
+
+void frmPrint::Text1_Change(int index) {
+    if (!FormeChargee) {
+        return;
+    }
+    Seul(" Print/Text1", [this, index] {
+        // The other texts were read when they changed; reading them again would repeat their boxes.
+        PrendTexte(page_, index, S(At(Text1, index).text()), programme_.SaisieEnCours());
+        const Feuilles feuilles = CalculeEtMontre();
+        if (feuilles == Feuilles::sans_pas) {
+            RefuseSansPas(programme_.messages);
+            ChoisitRecouvrement(feuilles);
+        } else if (Avertit(feuilles)) {
+            ChoisitRecouvrement(feuilles);
+        } else if (feuilles == Feuilles::plusieurs && index != kChampRecouvrement) {
+            // Ready to be typed over; selected under the user's hands it would lose every digit.
+            Text1[kChampRecouvrement].selectAll();
+        }
+    });
+}
+
+Feuilles frmPrint::CalculeEtMontre() {
+    Label3.setText(Q(TexteFeuille(page_, programme_.language)));
+    try {
+        const Feuilles feuilles = CalculPages(page_, longueur_);
+        Montre(feuilles);
+        return feuilles;
+    } catch (const Failure &) {
+        Montre(Feuilles::sans_pas); // the overlap must be there to be put right
+        throw;
+    }
+}
+
+/// Where several sheets are wanted the overlap is what the user has to think of.
+void frmPrint::ChoisitRecouvrement(Feuilles feuilles) {
+    if (feuilles == Feuilles::plusieurs || feuilles == Feuilles::sans_pas) {
+        SelectField(Text1[kChampRecouvrement]);
+    }
+}
+
+void frmPrint::Montre(Feuilles feuilles) {
+    const bool tiled = feuilles == Feuilles::plusieurs || feuilles == Feuilles::sans_pas;
+    const bool printers_paper = feuilles == Feuilles::imprimante;
+    NumericField &overlap = Text1[kChampRecouvrement];
+    overlap.setEnabled(tiled);
+    if (!tiled) {
+        overlap.setText(Q(page_.recouvrementAfich));
+    }
+    Label4.setEnabled(!printers_paper);
+    Label5.setEnabled(!printers_paper);
+    SetBold(Label4, feuilles == Feuilles::plusieurs && !longueur_.gabarit);
+    cmdconfigImprim.setEnabled(printers_paper);
+    MontreOptions(printers_paper);
+    const LngIni &language = programme_.language;
+    Label10.setText(
+        Q(feuilles == Feuilles::sans_pas ? TexteSansPages(language) : TextePages(page_, language)));
+}
+
+void frmPrint::MontreOptions(bool une_page) {
+    SetBold(Option1, false);
+    QRadioButton &chosen = une_page ? Option1 : Option2;
+    QRadioButton &other = une_page ? Option2 : Option1;
+    chosen.setEnabled(true);
+    chosen.setChecked(true);
+    other.setEnabled(false);
+}
+
+/// Tells of sheets of a template that don't overlap; true when there was something to tell. A rib
+/// without a template is told at OK only.
+bool frmPrint::Avertit(Feuilles feuilles) {
+    if (feuilles != Feuilles::plusieurs || !longueur_.gabarit || !ManqueRecouvrement(page_)) {
+        return false;
+    }
+    SetBold(Option1, true);
+    AlerteRecouvrement(page_, programme_.messages);
+    return true;
+}
+
+TextesPage frmPrint::TextesTapes() const {
+    TextesPage typed;
+    for (int i = 0; i < kChampsPage; ++i) {
+        At(typed, i) = S(At(Text1, i).text());
+    }
+    return typed;
+}
+
+void frmPrint::cmdok_Click() {
+    Seul(" Print/OK", [this] {
+        programme_.rib.Annule = false;
+        PrendTextes(page_, TextesTapes(), programme_.SaisieEnCours());
+        // Kept even when it is refused below: the user gave his OK to these values.
+        MiseEnPage &kept = programme_.settings.page;
+        kept = page_;
+        EcritMarges(programme_.ReglagesEnCours());
+        switch (ValidePage(kept, longueur_)) {
+        case FinPage::prise:
+            accept();
+            return;
+        case FinPage::sans_pas:
+            RefuseSansPas(programme_.messages);
+            break;
+        case FinPage::sans_recouvrement:
+            SetBold(Option1, true);
+            AlerteRecouvrement(kept, programme_.messages);
+            break;
+        }
+        SelectField(Text1[kChampRecouvrement]);
+    });
+}
+
+void frmPrint::cmdannuler_Click() {
+    programme_.rib.Annule = true;
+    QDialog::reject();
+}
+
+void frmPrint::reject() {
+    cmdannuler_Click();
+}
+
+void frmPrint::cmdconfigImprim_Click() {
+    programme_.platform.ShowPrinterSettings();
+    setWindowTitle(Q(TitrePage(programme_.language, programme_.platform.PrinterName())));
+}
+
+void frmPrint::NameAll() {
+    NameControl(*this, "frmPrint");
+    const std::pair<QObject *, const char *> names[] = {
+        {&Frame6, "Frame6"},   {&Combo1, "Combo1"},
+        {&Label3, "Label3"},   {&cmdconfigImprim, "cmdconfigImprim"},
+        {&Frame2, "Frame2"},   {&Label1, "Label1"},
+        {&Label2, "Label2"},   {&Frame5, "Frame5"},
+        {&Label5, "Label5"},   {&Label6, "Label6"},
+        {&Label7, "Label7"},   {&Label8, "Label8"},
+        {&Frame4, "Frame4"},   {&Option1, "Option1"},
+        {&Option2, "Option2"}, {&Label4, "Label4"},
+        {&Label9, "Label9"},   {&Label10, "Label10"},
+        {&cmdok, "cmdok"},     {&cmdannuler, "cmdannuler"},
+        {&cmdaide, "cmdaide"},
+    };
+    for (const auto &[control, name] : names) {
+        NameControl(*control, name);
+    }
+    NameControls(Text1, "Text1");
+}
+
+void frmPrint::ConnectAll() {
+    connect(&Combo1, &QComboBox::currentIndexChanged, this, &frmPrint::Combo1_click);
+    for (int i = 0; i < kChampsPage; ++i) {
+        connect(&At(Text1, i), &QLineEdit::textChanged, this, [this, i] { Text1_Change(i); });
+    }
+    connect(&cmdok, &QPushButton::clicked, this, &frmPrint::cmdok_Click);
+    connect(&cmdannuler, &QPushButton::clicked, this, &frmPrint::cmdannuler_Click);
+    connect(&cmdconfigImprim, &QPushButton::clicked, this, &frmPrint::cmdconfigImprim_Click);
+    ConnectHelp(*this, cmdaide, programme_.platform, kAide);
+}
+
+void frmPrint::LayOut() {
+    LayOutPaper();
+    LayOutPlace();
+    LayOutPages();
+    auto *place = new QHBoxLayout;
+    place->addWidget(&Frame2, 1);
+    place->addWidget(&Frame5, 1);
+    auto *buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(&cmdok);
+    buttons->addWidget(&cmdannuler);
+    buttons->addWidget(&cmdaide);
+    auto *rows = new QVBoxLayout(this);
+    rows->addWidget(&Frame6);
+    rows->addLayout(place);
+    rows->addWidget(&Frame4);
+    rows->addStretch();
+    rows->addLayout(buttons);
+    cmdok.setDefault(true);
+    cmdconfigImprim.setAutoDefault(false);
+}
+
+void frmPrint::LayOutPaper() {
+    auto *grid = new QGridLayout(&Frame6);
+    grid->addWidget(&Combo1, 0, 0);
+    grid->addWidget(&cmdconfigImprim, 0, 1);
+    grid->addWidget(&Label3, 1, 0, 1, 2);
+    grid->setColumnStretch(0, 1);
+}
+
+void frmPrint::LayOutPlace() {
+    auto *margins = new QGridLayout(&Frame2);
+    margins->addWidget(&Label1, 0, 0);
+    margins->addWidget(&Text1[kChampMargeHaut], 0, 1);
+    margins->addWidget(&Label6, 0, 2);
+    margins->addWidget(&Label2, 1, 0);
+    margins->addWidget(&Text1[kChampMargeBas], 1, 1);
+    margins->addWidget(&Label7, 1, 2);
+    Label1.setBuddy(&Text1[kChampMargeHaut]);
+    Label2.setBuddy(&Text1[kChampMargeBas]);
+    auto *position = new QGridLayout(&Frame5);
+    position->addWidget(&Text1[kChampYdprint], 0, 0);
+    position->addWidget(&Label8, 0, 1);
+    position->setRowStretch(1, 1);
+}
+
+void frmPrint::LayOutPages() {
+    auto *overlap = new QHBoxLayout;
+    overlap->addWidget(&Label4);
+    overlap->addWidget(&Text1[kChampRecouvrement]);
+    overlap->addWidget(&Label5);
+    overlap->addStretch();
+    Label4.setBuddy(&Text1[kChampRecouvrement]);
+    auto *rows = new QVBoxLayout(&Frame4);
+    rows->addWidget(&Option1);
+    rows->addWidget(&Option2);
+    rows->addLayout(overlap);
+    rows->addWidget(&Label9);
+    rows->addWidget(&Label10);
+    for (QLabel *label : {&Label1, &Label2, &Label3, &Label4, &Label5, &Label6, &Label7, &Label8,
+                          &Label9, &Label10}) {
+        label->setTextFormat(Qt::PlainText);
+    }
+}
+
+} // namespace loftwing
