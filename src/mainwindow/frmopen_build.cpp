@@ -5,6 +5,7 @@
 
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -14,6 +15,7 @@ namespace {
 
 constexpr int kHelpOpen = 41;
 constexpr int kTitleLines = 3;
+constexpr double kShareOfScreen = 0.9;
 
 } // namespace
 
@@ -86,6 +88,8 @@ void frmopen::LayOut() {
     rows->addLayout(buttons);
     cmdouvrir.setDefault(true);
     File1.setFocus();
+    // The preview shrinks with the height, so it may have nearly all of a small screen.
+    resize(sizeHint().boundedTo(screen()->availableSize() * kShareOfScreen));
 }
 
 void frmopen::SetWords() {

@@ -732,11 +732,12 @@ TEST_F(FrmOpenTest, LongTitlesAndNamesDoNotStretchTheWindow) {
     File("a.dat");
     File(name + ".dat", std::string(5000, 'W') + "\n1 0\n0 0\n1 0\n");
     Open();
-    const QSize before = window->size();
+    const QSize before = window->sizeHint();
+    const QSize smallest = window->minimumSizeHint();
     ClickFile(name + ".dat");
     EXPECT_EQ(Label("Label1").size(), 5000U);
-    window->adjustSize();
-    EXPECT_EQ(window->size(), before);
+    EXPECT_EQ(window->sizeHint(), before);
+    EXPECT_EQ(window->minimumSizeHint(), smallest);
 }
 
 TEST_F(FrmOpenTest, MemoryIsHiddenUntilACommandShowsIt) {
