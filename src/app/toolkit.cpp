@@ -1,8 +1,23 @@
 #include "app/toolkit.h"
 
 #include <QGuiApplication>
+#include <QString>
+
+#include <iostream>
 
 namespace loftwing {
+
+namespace {
+
+/// A drawing needs no runtime folder, so its absence, as in a cron job, is no word on standard
+/// error.
+void PassMessage(QtMsgType type, const QMessageLogContext &context, const QString &message) {
+    if (!message.startsWith("QStandardPaths:")) {
+        std::cerr << qFormatLogMessage(type, context, message).toStdString() << '\n';
+    }
+}
+
+} // namespace
 
 Toolkit::Toolkit(bool needed) {
     if (!needed) {
@@ -10,12 +25,17 @@ Toolkit::Toolkit(bool needed) {
     }
     // Files come out the same on a machine with a display and on one without.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(PassMessage);
     static int count = 1;
     static char name[] = "loftwing";
     static char *words[] = {name, nullptr};
     application_ = std::make_unique<QGuiApplication>(count, words);
 }
 
-Toolkit::~Toolkit() = default;
+Toolkit::~Toolkit() {
+    if (application_) {
+        qInstallMessageHandler(nullptr);
+    }
+}
 
 } // namespace loftwing

@@ -115,6 +115,15 @@ TEST(Draw, PngHasTheScreensPixels) {
     EXPECT_NEAR(number(16), 210 * 56.7 / 15, 2);
 }
 
+TEST(Draw, WithoutARuntimeFolderStandardErrorStaysEmpty) {
+    const TempFolder folder;
+    const Ran ran = RunShell(
+        "env -u XDG_RUNTIME_DIR " + ShellWord(LOFTWING_BINARY_DIR "/loftwing") + " draw " +
+        ShellWord(Sample("naca2412.dat")) + " --chord 200 -o " + ShellWord(folder.Path("rib.pdf")));
+    EXPECT_EQ(ran.status, 0);
+    EXPECT_EQ(ran.err, "");
+}
+
 TEST(Draw, SeveralFilesGoToAFolderAndARefusedOneStopsNothing) {
     const TempFolder folder;
     const std::string bad = folder.File("bad.dat", "Title\n0.5 0.1\n1.0 0.0\n");
