@@ -11,7 +11,7 @@
 
 namespace {
 
-bool write_file(const std::filesystem::path &path, const std::string &text) {
+bool WriteFile(const std::filesystem::path &path, const std::string &text) {
     std::ofstream file(path, std::ios::binary);
     file << text;
     file.close();
@@ -25,9 +25,9 @@ int main(int argc, char *argv[]) {
         std::cerr << "usage: airfoil_generator FOLDER\n";
         return 2;
     }
-    for (const loftwing::naca::Section &section : loftwing::naca::library) {
-        const auto path = std::filesystem::path(argv[1]) / loftwing::naca::file_name(section);
-        if (!write_file(path, loftwing::naca::file_text(section))) {
+    for (const loftwing::naca::Section &section : loftwing::naca::kLibrary) {
+        const auto path = std::filesystem::path(argv[1]) / loftwing::naca::FileName(section);
+        if (!WriteFile(path, loftwing::naca::FileText(section))) {
             std::cerr << "cannot write " << path.string() << '\n';
             return 1;
         }

@@ -25,7 +25,7 @@ struct Section {
 
 /// What the library holds. The strongly cambered and the blunt ones have more points: the nose
 /// must be over within the few points on either side of it where a contour is followed along y.
-inline constexpr std::array<Section, 22> library{{
+inline constexpr std::array<Section, 22> kLibrary{{
     {"0006", 40},  {"0009", 30},  {"0010", 35},  {"0012", 45},  {"0015", 50},  {"1408", 40},
     {"1412", 45},  {"2409", 50},  {"2412", 45},  {"2415", 54},  {"4409", 57},  {"4412", 57},
     {"4415", 55},  {"6409", 59},  {"6412", 59},  {"21012", 50}, {"23012", 54}, {"23015", 48},
@@ -44,16 +44,17 @@ struct Camber {
 };
 
 /// Half of the thickness at x (0 to 1) of an airfoil that is `thickness` thick in all.
-inline double half_thickness(double thickness, double x) {
+inline double HalfThickness(double thickness, double x) {
     const double polynomial = x * (-0.1260 + x * (-0.3516 + x * (0.2843 - x * 0.1036)));
     return 5.0 * thickness * (0.2969 * std::sqrt(x) + polynomial);
 }
 
 /// Camber line of the four-digit series: two parabolas that meet at their crest. `crest` is the
 /// camber's height, `place` where it lies; a crest of 0 is a symmetrical airfoil, whatever `place`.
-inline Camber four_digit_camber(double crest, double place, double x) {
-    if (crest == 0.0)
+inline Camber FourDigitCamber(double crest, double place, double x) {
+    if (crest == 0.0) {
         return {0.0, 0.0};
+    }
     const double reach = x < place ? place : 1.0 - place;
     const double scale = crest / (reach * reach);
     const double foot = x < place ? 0.0 : 1.0 - 2.0 * place;
@@ -69,7 +70,7 @@ struct MeanLine {
     double tail;
 };
 
-inline constexpr std::array<MeanLine, 9> mean_lines{{
+inline constexpr std::array<MeanLine, 9> kMeanLines{{
     {"210", 0.0580, 361.400, 0.0},
     {"220", 0.1260, 51.640, 0.0},
     {"230", 0.2025, 15.957, 0.0},
@@ -82,7 +83,7 @@ inline constexpr std::array<MeanLine, 9> mean_lines{{
 }};
 
 /// Camber line of the five-digit series at x (0 to 1).
-inline Camber five_digit_camber(const MeanLine &line, double x) {
+inline Camber FiveDigitCamber(const MeanLine &line, double x) {
     const double from_joint = x - line.joint;
     const double joint_cubed = line.joint * line.joint * line.joint;
     const double behind = 1.0 - line.joint;
@@ -94,49 +95,51 @@ inline Camber five_digit_camber(const MeanLine &line, double x) {
 }
 
 /// The mean line with these three digits; throws std::invalid_argument when there is none.
-inline const MeanLine &mean_line(std::string_view digits) {
-    for (const MeanLine &line : mean_lines) {
-        if (line.digits == digits)
+inline const MeanLine &MeanLineOf(std::string_view digits) {
+    for (const MeanLine &line : kMeanLines) {
+        if (line.digits == digits) {
             return line;
+        }
     }
     throw std::invalid_argument("no mean line " + std::string(digits));
 }
 
 /// Height and slope of the camber line of the airfoil with these four or five digits.
-inline Camber camber(std::string_view digits, double x) {
-    if (digits.size() == 5)
-        return five_digit_camber(mean_line(digits.substr(0, 3)), x);
-    return four_digit_camber((digits[0] - '0') / 100.0, (digits[1] - '0') / 10.0, x);
+inline Camber CamberOf(std::string_view digits, double x) {
+    if (digits.size() == 5) {
+        return FiveDigitCamber(MeanLineOf(digits.substr(0, 3)), x);
+    }
+    return FourDigitCamber((digits[0] - '0') / 100.0, (digits[1] - '0') / 10.0, x);
 }
 
 /// The thickness that the last two digits name.
-inline double thickness(std::string_view digits) {
+inline double ThicknessOf(std::string_view digits) {
     const std::size_t tens = digits.size() - 2;
     return ((digits[tens] - '0') * 10 + (digits[tens + 1] - '0')) / 100.0;
 }
 
 /// The point of the airfoil that belongs to x on the camber line; `side` 1 is above it, -1 below.
-inline Point surface_point(std::string_view digits, double x, int side) {
-    const Camber line = camber(digits, x);
+inline Point SurfacePoint(std::string_view digits, double x, int side) {
+    const Camber line = CamberOf(digits, x);
     const double angle = std::atan(line.slope);
-    const double offset = side * half_thickness(thickness(digits), x);
+    const double offset = side * HalfThickness(ThicknessOf(digits), x);
     return {x - offset * std::sin(angle), line.height + offset * std::cos(angle)};
 }
 
 /// The whole outline: from the trailing edge over the upper surface to the leading edge, which is
 /// the middle point, and back below. Cosine spacing: the points crowd at both edges.
-inline std::vector<Point> outline(const Section &section) {
+inline std::vector<Point> Outline(const Section &section) {
     std::vector<Point> points;
     for (int i = -section.intervals; i <= section.intervals; ++i) {
         const double turn = std::numbers::pi * std::abs(i) / section.intervals;
         points.push_back(
-            surface_point(section.digits, 0.5 * (1.0 - std::cos(turn)), i < 0 ? 1 : -1));
+            SurfacePoint(section.digits, 0.5 * (1.0 - std::cos(turn)), i < 0 ? 1 : -1));
     }
     return points;
 }
 
 /// A coordinate in a column of its own: six decimals, and no minus in front of a zero.
-inline std::string column(double value) {
+inline std::string Column(double value) {
     const double rounded = std::round(value * 1e6) / 1e6 + 0.0;
     std::array<char, 32> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), rounded,
@@ -147,15 +150,16 @@ inline std::string column(double value) {
 }
 
 /// The airfoil file: the title line, then one point a line.
-inline std::string file_text(const Section &section) {
+inline std::string FileText(const Section &section) {
     std::string text = "NACA " + std::string(section.digits) + '\n';
-    for (const Point &point : outline(section))
-        text += column(point.x) + column(point.y) + '\n';
+    for (const Point &point : Outline(section)) {
+        text += Column(point.x) + Column(point.y) + '\n';
+    }
     return text;
 }
 
 /// Name of the airfoil file within the library's folder.
-inline std::string file_name(const Section &section) {
+inline std::string FileName(const Section &section) {
     return "naca" + std::string(section.digits) + ".dat";
 }
 
