@@ -15,7 +15,9 @@ namespace {
 namespace fs = std::filesystem;
 
 struct CloseFile {
-    void operator()(std::FILE *file) const { std::fclose(file); }
+    void operator()(std::FILE *file) const {
+        std::fclose(file); // NOLINT(cppcoreguidelines-owning-memory): the handle owns it
+    }
 };
 using FileHandle = std::unique_ptr<std::FILE, CloseFile>;
 

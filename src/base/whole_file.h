@@ -7,7 +7,7 @@
 namespace loftwing {
 
 /// Largest file that the program takes for a text; anything longer is no text of its trade.
-inline constexpr std::size_t kLargestFile = 64U * 1024U * 1024U;
+inline constexpr std::size_t kLargestFile = std::size_t{64} * 1024 * 1024;
 
 /// The bytes of a file. Failure 53 or 76 when file or folder isn't there, 75 when it is no plain
 /// file, 70 when it may not be read, 7 above kLargestFile, 57 when reading breaks off.
