@@ -79,7 +79,6 @@ int RunWindow(int argc, char **argv) {
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName("loftwing");
     QCoreApplication::setApplicationVersion(kVersion);
-    QGuiApplication::setApplicationDisplayName(QString::fromUtf8(kTitre));
     QGuiApplication::setDesktopFileName("loftwing");
     QGuiApplication::setWindowIcon(ProgramIcon());
     QTranslator translator;
