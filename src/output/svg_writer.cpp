@@ -2,6 +2,7 @@
 
 #include "base/failure.h"
 #include "base/text_encoding.h"
+#include "output/line_look.h"
 
 #include <algorithm>
 #include <array>
@@ -12,13 +13,9 @@ namespace loftwing {
 
 namespace {
 
-constexpr double kMargin = 5.0;                                // mm
-constexpr double kLargest = 1'000'000;                         // mm
-constexpr double kAscent = 0.905;                              // of the face, in its size
-constexpr std::array<double, 3> kPenWidth = {0.18, 0.35, 0.5}; // mm
-/// Dashes and gaps in mm, by line style.
-constexpr std::array<const char *, 5> kDashes = {"", "3 1.5", "0.5 1", "3 1 0.5 1",
-                                                 "3 1 0.5 1 0.5 1"};
+constexpr double kMargin = 5.0;        // mm
+constexpr double kLargest = 1'000'000; // mm
+constexpr double kAscent = 0.905;      // of the face, in its size
 
 double Mm(double units) {
     return units / kUnitsPerMm;
@@ -57,11 +54,12 @@ std::string Attribute(const std::string &name, const std::string &value) {
 std::string Stroke(const Pen &pen) {
     const auto width = static_cast<std::size_t>(pen.width - 1);
     std::string text = Attribute("fill", "none") + Attribute("stroke", Hex(pen.colour)) +
-                       Attribute("stroke-width", Number(kPenWidth[width]));
-    if (pen.style != LineStyle::solid) {
-        text += Attribute("stroke-dasharray", kDashes[static_cast<std::size_t>(pen.style)]);
+                       Attribute("stroke-width", Number(kPenWidthsMm[width]));
+    std::string dashes;
+    for (const double mm : DashesMm(pen.style)) {
+        dashes += (dashes.empty() ? "" : " ") + Number(mm);
     }
-    return text;
+    return dashes.empty() ? text : text + Attribute("stroke-dasharray", dashes);
 }
 
 /// Text as XML takes it. Control characters have no place in it, and file names may hold bytes that
