@@ -3,7 +3,7 @@
 #include "base/number_text.h"
 #include "core/airfoil_reader.h"
 #include "core/contour.h"
-#include "support/silent_platform.h"
+#include "programme/console_platform.h"
 #include "support/synthetic_airfoil.h"
 
 #include <benchmark/benchmark.h>
@@ -44,7 +44,8 @@ const std::string &FilePath() {
 }
 
 struct Bench {
-    SilentPlatform platform;
+    std::ostream nowhere{nullptr};
+    ConsolePlatform platform{nowhere, false};
     LngIni language;
     Messages messages{platform, language};
     RibModel rib;

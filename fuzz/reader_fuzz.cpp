@@ -3,8 +3,8 @@
 
 #include "core/airfoil_reader.h"
 #include "core/contour.h"
+#include "programme/console_platform.h"
 #include "support/naive_contour.h"
-#include "support/silent_platform.h"
 
 #include <algorithm>
 #include <cmath>
@@ -88,7 +88,8 @@ void Prepare(RibModel &rib, const Messages &messages) {
 void ReadAndPrepare(const std::uint8_t *data, std::size_t size) {
     std::ofstream(InputPath(), std::ios::binary)
         .write(reinterpret_cast<const char *>(data), static_cast<std::streamsize>(size));
-    static SilentPlatform platform;
+    static std::ostream nowhere(nullptr);
+    static ConsolePlatform platform(nowhere, false);
     static const LngIni language;
     const Messages messages{platform, language};
     RibModel rib;
