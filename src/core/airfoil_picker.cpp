@@ -128,7 +128,7 @@ std::string DossierDepart(const std::string &last) {
     const fs::path current = fs::current_path(error);
     if (!last.empty()) {
         const std::string folder = (current / last).lexically_normal().string();
-        const std::string plain =
+        std::string plain =
             fs::path(folder).has_filename() ? folder : fs::path(folder).parent_path().string();
         if (PeutEtreListe(plain)) {
             return plain;
