@@ -1,7 +1,7 @@
 #include "app/draw_command.h"
 
 #include "app/command_line.h"
-#include "app/console_session.h"
+#include "app/console_program.h"
 #include "app/rib_options.h"
 #include "app/toolkit.h"
 #include "base/whole_file.h"
@@ -67,10 +67,10 @@ std::function<void()> PageOrRefusal(Programme &programme) {
 /// The bytes of one drawing, nothing when anything was refused.
 std::optional<std::string> Draw(const Arguments &arguments, const ExportForm &form,
                                 const std::string &file, bool &complete) {
-    ConsoleSession session(arguments);
-    Programme &programme = session.Owner();
+    ConsoleProgram program(arguments);
+    Programme &programme = program.Owner();
     ApplyPageOptions(arguments, programme);
-    if (!session.Ouvre(file) || !ApplyRibOptions(arguments, programme)) {
+    if (!program.Ouvre(file) || !ApplyRibOptions(arguments, programme)) {
         return std::nullopt;
     }
     const Preparation prepared = PrepareContour(programme.rib, programme.messages);

@@ -1,7 +1,7 @@
 #include "app/info_command.h"
 
 #include "app/command_line.h"
-#include "app/console_session.h"
+#include "app/console_program.h"
 #include "app/json_line.h"
 #include "base/number_text.h"
 #include "core/contour.h"
@@ -69,18 +69,18 @@ void PrintReadable(const RibModel &rib, const Arguments &arguments, const std::s
 
 /// The facts of one file; false when anything about it was refused or failed.
 bool InformOf(const Arguments &arguments, const std::string &file) {
-    ConsoleSession session(arguments);
-    RibModel &rib = session.Owner().rib;
+    ConsoleProgram program(arguments);
+    RibModel &rib = program.Owner().rib;
     Preparation prepared = Preparation::impossible;
-    if (session.Ouvre(file)) {
-        prepared = PrepareContour(rib, session.Owner().messages);
+    if (program.Ouvre(file)) {
+        prepared = PrepareContour(rib, program.Owner().messages);
     }
     const bool json = arguments.Has("--json");
     if (prepared == Preparation::impossible) {
         if (json) {
             JsonLine line;
             line.Add("file", file);
-            line.Add("refused", session.Platform().LastText());
+            line.Add("refused", program.Platform().LastText());
             std::cout << line.Text() << '\n';
         }
         return false;

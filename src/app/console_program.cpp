@@ -1,4 +1,4 @@
-#include "app/console_session.h"
+#include "app/console_program.h"
 
 #include "app/resource_paths.h"
 #include "core/airfoil_reader.h"
@@ -32,14 +32,14 @@ std::vector<OptionRule> CommonOptions() {
             {"--help", nullptr, "show this help"}};
 }
 
-ConsoleSession::ConsoleSession(const Arguments &arguments)
+ConsoleProgram::ConsoleProgram(const Arguments &arguments)
     : platform_(std::cerr, arguments.Has("--yes")),
       programme_(ConsolePaths(arguments.Value("--settings")), platform_) {
     ChargeLangue(arguments);
     ChargeValeurs(arguments);
 }
 
-void ConsoleSession::ChargeLangue(const Arguments &arguments) {
+void ConsoleProgram::ChargeLangue(const Arguments &arguments) {
     const std::string name = arguments.Value("--language", "English");
     const std::vector<std::string> names = LngIni::Languages(programme_.paths.langues);
     if (std::find(names.begin(), names.end(), name) == names.end()) {
@@ -48,7 +48,7 @@ void ConsoleSession::ChargeLangue(const Arguments &arguments) {
     programme_.language.Charge(programme_.paths.langues, name);
 }
 
-void ConsoleSession::ChargeValeurs(const Arguments &arguments) {
+void ConsoleProgram::ChargeValeurs(const Arguments &arguments) {
     const std::string unit = " " + arguments.Value("--unit", "mm");
     if (unit != kUniteMm && unit != kUniteIn) {
         throw UsageError("--unit takes mm or in");
@@ -75,7 +75,7 @@ void ConsoleSession::ChargeValeurs(const Arguments &arguments) {
     ReplaceYdprint(programme_.settings.page, programme_.settings.Unite);
 }
 
-bool ConsoleSession::Ouvre(const std::string &path) {
+bool ConsoleProgram::Ouvre(const std::string &path) {
     RibModel &rib = programme_.rib;
     const Messages &messages = programme_.messages;
     NommeProfil(rib, path);

@@ -15,12 +15,12 @@ namespace loftwing {
 std::vector<OptionRule> CommonOptions();
 
 /// One program for one drawing: every file of a command starts from a fresh state.
-class ConsoleSession {
+class ConsoleProgram {
   public:
     /// Language, settings and unit as the options say. Throws UsageError for a language or a unit
     /// that there isn't, Failure for a settings file that isn't there, Refused for one that can't
     /// be read.
-    explicit ConsoleSession(const Arguments &arguments);
+    explicit ConsoleProgram(const Arguments &arguments);
 
     Programme &Owner() { return programme_; }
     ConsolePlatform &Platform() { return platform_; }
