@@ -11,6 +11,7 @@
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QPrintEngine>
 #include <QPrinter>
 
 #include <algorithm>
@@ -36,18 +37,29 @@ class Sheet : public Recording {
     using Recording::Text;
 };
 
+bool IsNear(double one, double other) {
+    constexpr double kSheetsDiffer = 1; // mm; printers round the measures of their papers
+    return std::abs(one - other) <= kSheetsDiffer;
+}
+
+/// Failure 57 where the device would print on other paper, or the other way round.
 void SetLayout(QPagedPaintDevice &device, const std::optional<QPageSize> &paper,
                Orientation orientation) {
     QPageLayout layout = device.pageLayout();
-    // The origin is the sheet's corner, whatever rim the printer leaves white.
+    // The origin is the sheet's corner, whatever rim the printer leaves white. That rim stays in
+    // the layout: printers refuse one without.
     layout.setMode(QPageLayout::FullPageMode);
-    layout.setMargins({});
     if (paper) {
-        layout.setPageSize(*paper);
+        layout.setPageSize(*paper, layout.minimumMargins());
     }
     layout.setOrientation(orientation == Orientation::landscape ? QPageLayout::Landscape
                                                                 : QPageLayout::Portrait);
-    if (!device.setPageLayout(layout)) {
+    // What the call answers also depends on the rim and the paper's name; only the sheet counts.
+    device.setPageLayout(layout);
+    const QRectF wanted = layout.fullRect(QPageLayout::Millimeter);
+    const QRectF got = device.pageLayout().fullRect(QPageLayout::Millimeter);
+    if (device.pageLayout().mode() != QPageLayout::FullPageMode ||
+        !IsNear(wanted.width(), got.width()) || !IsNear(wanted.height(), got.height())) {
         throw MakeFailure(kDeviceError, S(layout.pageSize().name()));
     }
 }
@@ -173,6 +185,17 @@ class FilePdf : public PdfPrinter {
     std::string path_;
 };
 
+/// Tells the queue not to fit sheets to what the printer can reach: that would shrink them. The
+/// toolkit has no public name for a queue's options; where there is no such queue, this does
+/// nothing.
+void ForbidScaling(QPrinter &printer) {
+    constexpr auto kQueueOptions = static_cast<QPrintEngine::PrintEnginePropertyKey>(0xFE00);
+    QStringList options = printer.printEngine()->property(kQueueOptions).toStringList();
+    options << "print-scaling"
+            << "none";
+    printer.printEngine()->setProperty(kQueueOptions, options);
+}
+
 class SystemPrinter : public SheetPrinter {
   public:
     explicit SystemPrinter(std::unique_ptr<QPrinter> printer)
@@ -181,6 +204,7 @@ class SystemPrinter : public SheetPrinter {
   protected:
     void Send(const std::deque<Sheet> &sheets) override {
         SetUp(*printer_);
+        ForbidScaling(*printer_);
         DrawSheets(*printer_, sheets);
         if (printer_->printerState() == QPrinter::Error) {
             throw MakeFailure(kDeviceError, S(printer_->printerName()));
