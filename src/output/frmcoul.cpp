@@ -17,7 +17,7 @@ constexpr const char *kBulle = " Entre 0 et 3 ";
 constexpr const char *kLargeurFixe = "Non Modifiable";
 /// The row of the grid over which the compared airfoils have a head of their own.
 constexpr int kPremierCompare = 9;
-constexpr int kEcart = 16; // between grid and legend, pixels
+constexpr int kEcart = 8; // pixels that set the legend off
 
 template <class Fields, class Texts>
 void Remplit(Fields &fields, const Texts &texts) {
@@ -195,8 +195,8 @@ void frmcoul::LayOut() {
     left->addLayout(grid);
     left->addStretch();
     auto *above = new QHBoxLayout;
-    above->setSpacing(kEcart);
     above->addLayout(left);
+    above->addSpacing(kEcart);
     above->addWidget(&Picture1, 1);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(&cmdImprtest);
