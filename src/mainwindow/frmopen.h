@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include <array>
 #include <string>
 
 namespace loftwing {
@@ -29,6 +30,7 @@ class frmopen : public QDialog {
 
   public:
     frmopen(Programme &programme, MainView &view, QWidget *parent);
+    ~frmopen() override;
 
     /// For commands that want a second airfoil: shows the check box that sets rib.MemProfil where
     /// `check` says so, and `note` over it where there is one. Both are hidden otherwise.
@@ -75,6 +77,8 @@ class frmopen : public QDialog {
     void LayOut();
     void SetWords();
     void SetTips();
+    /// The controls whose events pass through eventFilter.
+    std::array<QObject *, 5> Surveilles();
     void Connect();
 
     // frmopen.cpp

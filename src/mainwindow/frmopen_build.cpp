@@ -124,10 +124,19 @@ void frmopen::SetTips() {
     txtchemin.setAccessibleName(lbldossier.text());
 }
 
+std::array<QObject *, 5> frmopen::Surveilles() {
+    return {&txtchemin, &Dir1, &File1, &LbMem, File1.viewport()};
+}
+
+frmopen::~frmopen() {
+    // A list that goes loses its focus, and by then half of it is gone.
+    for (QObject *watched : Surveilles()) {
+        watched->removeEventFilter(this);
+    }
+}
+
 void frmopen::Connect() {
-    for (QObject *watched : {static_cast<QObject *>(&txtchemin), static_cast<QObject *>(&Dir1),
-                             static_cast<QObject *>(&File1), static_cast<QObject *>(&LbMem),
-                             static_cast<QObject *>(File1.viewport())}) {
+    for (QObject *watched : Surveilles()) {
         watched->installEventFilter(this);
     }
     selection_.setSingleShot(true);
