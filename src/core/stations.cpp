@@ -39,4 +39,12 @@ double ValeurPourcentBF(const std::string &text, float corde, const Saisie &sais
     return static_cast<double>(corde) - ValeurPourcent(text, corde, saisie);
 }
 
+float PosDepuisBA(const std::string &text, float corde, const Saisie &saisie) {
+    return ToSingle(ValeurPourcent(text, corde, saisie));
+}
+
+float PosDepuisBF(const std::string &text, float corde, const Saisie &saisie) {
+    return ToSingle(ValeurPourcentBF(text, corde, saisie));
+}
+
 } // namespace loftwing

@@ -29,4 +29,10 @@ double ValeurPourcent(const std::string &text, float corde, const Saisie &saisie
 /// The chord less ValeurPourcent.
 double ValeurPourcentBF(const std::string &text, float corde, const Saisie &saisie);
 
+/// Place of a spar or hole in mm from the leading edge, out of its text that counts from the
+/// leading or from the trailing edge, as 32-bit records keep it. An empty text counts as 0.
+/// Failures as VersMm, and 6 for a place beyond 32 bits.
+float PosDepuisBA(const std::string &text, float corde, const Saisie &saisie);
+float PosDepuisBF(const std::string &text, float corde, const Saisie &saisie);
+
 } // namespace loftwing

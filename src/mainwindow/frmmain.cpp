@@ -16,7 +16,19 @@
 #include <QMimeData>
 #include <QUrl>
 
+#include <algorithm>
+#include <string_view>
+
 namespace loftwing {
+
+namespace {
+
+/// What works on the rib that is shown and has nothing to work on once that rib is gone.
+constexpr std::array<std::string_view, 9> kDialoguesNervure = {
+    "frmInput", "frmlongeron", "frmtrou",    "frmTalon", "frmbacarre",
+    "frmbloc",  "frmInstxt",   "frmnervure", "frmdiedre"};
+
+} // namespace
 
 frmmain::frmmain(Programme &programme) : programme_(programme) {
     setObjectName("frmmain");
@@ -107,7 +119,14 @@ void frmmain::ActiveCommandesVue() {
 }
 
 void frmmain::FermeDialogues() {
-    // No dialog that stays open beside the main window exists yet.
+    for (auto *dialog : findChildren<QDialog *>()) {
+        const std::string name = S(dialog->objectName());
+        if (std::find(kDialoguesNervure.begin(), kDialoguesNervure.end(), name) !=
+            kDialoguesNervure.end()) {
+            // done() and not close(): nothing of the rib may be asked for or put back any more.
+            dialog->done(QDialog::Rejected);
+        }
+    }
 }
 
 void frmmain::ViewReset() {

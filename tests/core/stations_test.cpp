@@ -85,6 +85,16 @@ TEST_F(Pourcent, IsTakenFromTheChordWhenItCountsFromTheTrailingEdge) {
     EXPECT_EQ(ValeurPourcentBF("50", 200.0F, mm), 150.0);
 }
 
+TEST_F(Pourcent, PlacesOfRecordsAreRoundedToThirtyTwoBits) {
+    EXPECT_EQ(PosDepuisBA("50%", 300.0F, mm), 150.0F);
+    EXPECT_EQ(PosDepuisBA("", 300.0F, mm), 0.0F);
+    EXPECT_EQ(PosDepuisBA("0.1", 300.0F, mm), 0.1F);
+    EXPECT_EQ(PosDepuisBF("20", 200.0F, mm), 180.0F);
+    EXPECT_EQ(PosDepuisBF("25%", 200.0F, mm), 150.0F);
+    EXPECT_EQ(PosDepuisBF("1/2", 25.4F, in), ToSingle(static_cast<double>(25.4F) - 12.7));
+    EXPECT_EQ(FailureOf([&] { PosDepuisBA("1e39", 200.0F, mm); }), kOverflow);
+}
+
 TEST_F(Pourcent, RefusesWhatTheLengthRefuses) {
     words.platform.Expect(BoxAnswer::ok);
     EXPECT_EQ(ValeurPourcentBF("/8", 200.0F, in), 200.0);
