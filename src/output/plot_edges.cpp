@@ -31,6 +31,29 @@ void EcritHauteur(const Trace &trace, double x, double station, LngKey word) {
                 trace.messages.Text(word) + " = " + LongueurCalculee(height, trace.settings.Unite));
 }
 
+/// The square stick on its corner, as a diamond around its axis.
+void TraceCarreBord(const Trace &trace) {
+    constexpr double kDiagonale = 1.414; // builders' figure for the square root of 2
+    const CarreBord &carre = trace.rib.carre;
+    const PlotState &plot = trace.plot;
+    const double d = Quotient(static_cast<double>(carre.CarreBA), kDiagonale);
+    const double x = static_cast<double>(carre.CarreBAX);
+    const double y = static_cast<double>(carre.CarreBAY);
+    const double echelle = static_cast<double>(plot.Echelle);
+    const double echelle_y = static_cast<double>(plot.EchelleY);
+    const double origine_x = static_cast<double>(plot.OrigineX);
+    const double origine_y = static_cast<double>(plot.OrigineY);
+    const Colour colour = trace.Couleur(Element::ba);
+    trace.EnStyleDe(Element::ba);
+    trace.device.Line(x * echelle + origine_x, origine_y - (d + y) * echelle_y,
+                      (d + x) * echelle + origine_x, origine_y - y * echelle_y, colour);
+    trace.device.LineStep(-d * echelle, d * echelle_y, colour);
+    trace.device.LineStep(-d * echelle, -d * echelle_y, colour);
+    // Upside down the last side goes the wrong way and the diamond stays open, as ever.
+    trace.device.LineStep(d * echelle, -d * echelle, colour);
+    trace.FinDeStyle();
+}
+
 } // namespace
 
 void TraceBordAttaque(const Trace &trace) {
@@ -38,6 +61,7 @@ void TraceBordAttaque(const Trace &trace) {
     PlotState &plot = trace.plot;
     plot.StationBA = kLastStation;
     if (rib.TypeBA != 1) {
+        TraceCarreBord(trace);
         return;
     }
     plot.StationBA = StationDepuisBA(static_cast<double>(rib.EpBA), rib.corde);

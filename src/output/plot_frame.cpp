@@ -11,6 +11,7 @@ namespace loftwing {
 namespace {
 
 constexpr double kTexteEpaisseurAuDessus = 453.6; // 8 mm at any zoom
+constexpr double kTexteAuDessus = 3.0;            // mm that the inserted text lies above its place
 
 /// "12.30 mm" or "1.1/2 in".
 std::string AvecUnite(double mm, const std::string &Unite) {
@@ -63,10 +64,6 @@ void TraceDemiBF(const Trace &trace) {
 
 void PlaceOrigine(const Trace &trace) {
     PlotState &plot = trace.plot;
-    // Without a foam template the rib stands at the plain origin.
-    plot.BlocEp = 0;
-    plot.BlocBA = 0;
-    plot.CoupeRel = 0;
     plot.OrigineX = ToSingle(plot.BlocBA * static_cast<double>(plot.Echelle) +
                              static_cast<double>(plot.OrigineX));
 }
@@ -84,6 +81,20 @@ void TraceTexteEpaisseur(const Trace &trace) {
         static_cast<double>(plot.OrigineY) -
             static_cast<double>(plot.CordeEchelle) * rib.ExtradosMaxi - kTexteEpaisseurAuDessus,
         TexteEpaisseur(trace));
+}
+
+void TraceTexteInsere(const Trace &trace, double rampe) {
+    const TexteInsere &texte = trace.rib.texte;
+    if (texte.InsTextX == 0.0F && texte.InsTextY == 0.0F) {
+        return;
+    }
+    const PlotState &plot = trace.plot;
+    const double echelle = static_cast<double>(plot.Echelle);
+    trace.Ecrit(rampe * echelle + static_cast<double>(plot.OrigineX) +
+                    static_cast<double>(texte.InsTextX) * echelle,
+                static_cast<double>(plot.OrigineY) - static_cast<double>(texte.InsTextY) * echelle -
+                    kTexteAuDessus * echelle,
+                texte.InsTexte);
 }
 
 void TraceContour(const Trace &trace) {

@@ -13,6 +13,21 @@ struct DecalageCoffrage {
     TableStation DecalY{};
 };
 
+/// Where the plot set a spar or a hole: stations of its front edge, its rear edge and its centre,
+/// and the surface heights there in fractions of the chord. Of a hole only the centre is looked up,
+/// since it may poke out of the rib.
+struct PlaceTracee {
+    float kf = 0;
+    float kr = 0;
+    float kc = 0;
+    double Uf = 0; ///< upper surface
+    double Ur = 0;
+    double Uc = 0;
+    double Lf = 0; ///< lower surface
+    double Lr = 0;
+    double Lc = 0;
+};
+
 /// Scale, origin and derived values of the last plot. They live as long as the program: a plot that
 /// computes only some of them reads the others as an earlier one left them, and so does the DXF
 /// writer.
@@ -44,6 +59,9 @@ struct PlotState {
 
     DecalageCoffrage extra; ///< upper surface
     DecalageCoffrage intra; ///< lower surface
+
+    std::array<PlaceTracee, kSlots> longerons; ///< of the slots that the plot reached
+    std::array<PlaceTracee, kSlots> trous;
 };
 
 } // namespace loftwing

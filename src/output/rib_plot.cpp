@@ -6,25 +6,43 @@ namespace loftwing {
 
 namespace {
 
+using Etape = void (*)(const Trace &);
+
+/// A step of an element, whose name a failure carries.
+void Draw(const Trace &trace, Element element, Etape step) {
+    trace.Nomme(DrawingElements()[static_cast<std::size_t>(element)].label, [&] { step(trace); });
+}
+
+/// Everything in the order of the drawing.
 void DrawRib(const Trace &trace) {
+    const RibModel &rib = trace.rib;
     PrepareTrace(trace);
     TraceDemiBF(trace);
+    Draw(trace, Element::bloc, TraceGabarit);
     PlaceOrigine(trace);
+    if (rib.TypeGabarit == kGabaritTalon) {
+        trace.Nomme({"FrmLines", "24"}, [&] { TraceTalon(trace); });
+    }
     TraceTexteEpaisseur(trace);
-    TraceBordAttaque(trace);
-    TraceBordFuite(trace);
-    if (trace.rib.AffTrac) {
-        TraceContour(trace);
+    Draw(trace, Element::ba, TraceBordAttaque);
+    Draw(trace, Element::bf, TraceBordFuite);
+    if (rib.TypeGabarit == kSansGabarit) {
+        TraceTexteInsere(trace);
     }
-    if (trace.rib.EpCoffrage != 0.0F) {
-        TraceCoffrage(trace);
+    if (rib.AffTrac) {
+        Draw(trace, Element::profil, TraceContour);
     }
+    if (rib.EpCoffrage != 0.0F) {
+        Draw(trace, Element::coffrage, TraceCoffrage);
+    }
+    TraceLongerons(trace);
+    TraceTrous(trace);
     trace.FinDeStyle();
-    if (trace.rib.NbRep != 0) {
-        TraceReperes(trace);
+    if (rib.NbRep != 0) {
+        Draw(trace, Element::rep, TraceReperes);
     }
-    if (trace.rib.AffLignRef) {
-        TraceLigneReference(trace);
+    if (rib.AffLignRef) {
+        Draw(trace, Element::axe, TraceLigneReference);
     }
     trace.FinDeStyle();
 }

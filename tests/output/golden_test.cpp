@@ -26,6 +26,43 @@ void ExpectGolden(RibWorld &world, const std::string &name) {
     }
 }
 
+Longeron Spar(const char *place, float width, float depth, std::uint8_t kind) {
+    Longeron spar;
+    spar.PosLongAfich = place;
+    spar.LargLong = width;
+    spar.HautLong = depth;
+    spar.TypeLong = kind;
+    spar.OptLongExt = 1;
+    spar.OptLongInt = 2;
+    return spar;
+}
+
+Trou Hole(const char *place, float width, float height, std::uint8_t kind) {
+    Trou hole;
+    hole.PosTrouAfich = place;
+    hole.DiaTrou = width;
+    hole.HautTrou = height;
+    hole.TypeTrou = kind;
+    hole.ChkCentre = 1;
+    return hole;
+}
+
+/// Three spars of different kinds, three holes, a line of text.
+void Load(RibModel &rib) {
+    rib.NbLongeron = 3;
+    rib.longeron[0] = Spar("12%", 5, 3, 0);
+    rib.longeron[1] = Spar("30%", 8, 4, 1);
+    rib.longeron[2] = Spar("60%", 5, 0, 2);
+    rib.longeron[2].DistLong = 4;
+    rib.NbTrou = 2;
+    rib.trou[0] = Hole("21%", 12, 0, 0);
+    rib.trou[1] = Hole("45%", 24, 10, 1);
+    rib.trou[2] = Hole("70%", 6, 0, 0);
+    rib.texte.InsTexte = "naca4415 Chord : 200";
+    rib.texte.InsTextX = 40;
+    rib.texte.InsTextY = 40;
+}
+
 TEST(Golden, PlainRibWithSheetingToTheTrailingEdge) {
     RibWorld world;
     TakeAirfoil(world, Naca(2412, 25, true));
@@ -57,6 +94,52 @@ TEST(Golden, InvertedRibInInchesAtHalfSize) {
     world.rib.AffHaut = true;
     world.rib.AffEpr = world.rib.AffHautBA = true;
     ExpectGolden(world, "inverted");
+}
+
+TEST(Golden, RibWithFeaturesOnALevellingHeel) {
+    RibWorld world;
+    TakeAirfoil(world, Naca(4415, 25, true));
+    Load(world.rib);
+    world.rib.EpBF = 20;
+    world.rib.TypeBA = 0;
+    world.rib.carre.CarreBA = 8;
+    world.rib.carre.CarreBAX = 4;
+    world.rib.vrillage = -3;
+    world.rib.TypeGabarit = kGabaritTalon;
+    world.rib.talon.TalonIntra = 12;
+    world.rib.talon.TalonBF = 30;
+    world.rib.talon.TalonLong = 150;
+    world.rib.AffTrac = true;
+    ExpectGolden(world, "heel");
+}
+
+TEST(Golden, RibWithFeaturesInAFoamTemplate) {
+    RibWorld world;
+    TakeAirfoil(world, Naca(4415, 25, true));
+    Load(world.rib);
+    world.rib.NbRep = 3;
+    world.rib.vrillage = -3;
+    world.rib.TypeGabarit = kGabaritMousse;
+    world.rib.bloc.HTbasbloc = 20;
+    world.rib.bloc.HTbloc = 60;
+    world.rib.bloc.BAbloc = 15;
+    world.rib.bloc.BFbloc = 25;
+    world.rib.bloc.CoupeBF = 2;
+    ExpectGolden(world, "template");
+}
+
+TEST(Golden, RibWithFeaturesInAFoamTemplateUpsideDown) {
+    RibWorld world;
+    TakeAirfoil(world, Naca(4415, 25, true));
+    Load(world.rib);
+    world.rib.AffHaut = true;
+    world.rib.NbRep = 3;
+    world.rib.TypeGabarit = kGabaritMousse;
+    world.rib.bloc.HTbasbloc = 20;
+    world.rib.bloc.HTbloc = 60;
+    world.rib.bloc.BAbloc = 15;
+    world.rib.bloc.BFbloc = 25;
+    ExpectGolden(world, "template-inverted");
 }
 
 } // namespace

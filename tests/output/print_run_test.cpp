@@ -260,6 +260,12 @@ TEST_F(PrintRun, SheetsShowTheSameDrawingShiftedByTheStep) {
         const naive::Drawing rib = naive::PlotRib(world.rib, world.settings, memory);
         ASSERT_EQ(sheet.size(), rib.drawn.size() + 8);
         for (std::size_t k = 0; k < rib.drawn.size(); ++k) {
+            if (rib.drawn[k].circle) {
+                const auto &hole = std::get<DrawnCircle>(sheet[k]);
+                ASSERT_NEAR(hole.x, rib.drawn[k].x1, 1e-6) << i << " " << k;
+                ASSERT_NEAR(hole.y, rib.drawn[k].y1, 1e-6) << i << " " << k;
+                continue;
+            }
             const auto &line = std::get<DrawnSegment>(sheet[k]);
             ASSERT_NEAR(line.x1, rib.drawn[k].x1, 1e-6) << i << " " << k;
             ASSERT_NEAR(line.x2, rib.drawn[k].x2, 1e-6) << i << " " << k;
@@ -387,6 +393,7 @@ TEST_F(PrintRun, PlotThatFailsDropsTheJobAndIsToldOnce) {
 
 TEST_F(PrintRun, ColourOfTheCrossesBeyondThePaletteIsAFailureOfTheRun) {
     world.rib.AffLignRef = false;
+    world.rib.trou[0].TypeTrou = 2; // a kind without shape, so that no axis is drawn
     world.settings.TraitDe(Element::axe).couleur = 16;
     world.rib.corde = 300;
     ASSERT_TRUE(PrepareWith([this] { Accept(); }));

@@ -187,6 +187,9 @@ TEST(Svg, WholeRibHoldsEverySegmentInOrder) {
     world.rib.NbRep = 3;
     world.rib.AffEpr = true;
     world.rib.EpBF = 15;
+    world.rib.NbTrou = 1;
+    world.rib.trou[0].PosTrouAfich = "30%";
+    world.rib.trou[0].DiaTrou = 8;
     Recording drawing;
     ASSERT_EQ(afficheRib(world.On(drawing)), Affichage::dessine);
     std::size_t next = 0;
@@ -195,6 +198,13 @@ TEST(Svg, WholeRibHoldsEverySegmentInOrder) {
         if (element.name == "text") {
             const auto &text = std::get<DrawnText>(drawing.Operations().at(next++));
             EXPECT_EQ(element.text, text.text);
+            continue;
+        }
+        if (element.name == "circle") {
+            const auto &circle = std::get<DrawnCircle>(drawing.Operations().at(next++));
+            ASSERT_NEAR(element.Number("cx"), circle.x / 56.7, 0.00005001);
+            ASSERT_NEAR(element.Number("cy"), circle.y / 56.7, 0.00005001);
+            ASSERT_NEAR(element.Number("r"), circle.radius / 56.7, 0.00005001);
             continue;
         }
         const auto points = PathPoints(element["d"]);

@@ -10,7 +10,7 @@
 
 namespace loftwing {
 
-/// A recording in the form of the naive computation. Circles don't occur in it.
+/// A recording in the form of the naive computation.
 std::vector<naive::Drawn> Drawn(const Recording &recording);
 
 /// One line for each operation, coordinates in device units with `decimals` decimals.

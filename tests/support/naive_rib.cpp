@@ -1,41 +1,15 @@
-#include "support/naive_rib.h"
-
-#include <charconv>
-#include <cmath>
-#include <cstdlib>
+#include "support/naive_run.h"
 
 namespace loftwing::naive {
 
 namespace {
 
-const unsigned kColours[16] = {0x000000, 0x000080, 0x008000, 0x008080, 0x800000, 0x800080,
-                               0x808000, 0xC0C0C0, 0x808080, 0x0000FF, 0x00FF00, 0x00FFFF,
-                               0xFF0000, 0xFF00FF, 0xFFFF00, 0xFFFFFF};
-
-struct Broken {
-    int number;
-};
-
-double W(float value) {
-    return static_cast<double>(value);
+std::string W2(const char *section, const char *key) {
+    return std::string("<") + section + " " + key + ">";
 }
 
-float F(double value) {
-    const float narrow = static_cast<float>(value);
-    if (std::isnan(narrow) || std::isinf(narrow)) {
-        throw Broken{6};
-    }
-    return narrow;
-}
+} // namespace
 
-double Over(double a, double b) {
-    if (b == 0) {
-        throw Broken{11};
-    }
-    return a / b;
-}
-
-/// To the nearest whole number, halves to the even one.
 long Nearest(double value) {
     const double below = std::floor(value);
     const double rest = value - below;
@@ -45,158 +19,6 @@ long Nearest(double value) {
     }
     return whole;
 }
-
-/// 15 digits of a positive value and the place of the point behind the first `point` of them.
-std::string FifteenDigits(double value, int &point) {
-    char buffer[40];
-    const auto end =
-        std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::scientific, 14).ptr;
-    const std::string text(buffer, end);
-    point = std::atoi(text.c_str() + 17) + 1;
-    return text.substr(0, 1) + text.substr(2, 14);
-}
-
-/// Whole part and decimals of a value, as digits; neither is short.
-void Split(double value, std::string &whole, std::string &decimals) {
-    int point = 0;
-    std::string digits = FifteenDigits(std::abs(value), point);
-    if (value == 0) {
-        digits = "0";
-        point = 1;
-    }
-    while (point <= 0) {
-        digits = "0" + digits;
-        ++point;
-    }
-    digits += std::string(40, '0');
-    whole = digits.substr(0, static_cast<std::size_t>(point));
-    decimals = digits.substr(static_cast<std::size_t>(point), 30);
-}
-
-/// The shortest text of up to 15 digits. `zero`: a 0 before a leading point.
-std::string General(double value, bool zero) {
-    std::string whole;
-    std::string decimals;
-    Split(value, whole, decimals);
-    decimals.resize(15);
-    while (!decimals.empty() && decimals.back() == '0') {
-        decimals.pop_back();
-    }
-    if (whole == "0" && !zero && !decimals.empty()) {
-        whole.clear();
-    }
-    return (value < 0 ? "-" : "") + whole + (decimals.empty() ? "" : "." + decimals);
-}
-
-/// "# ###." and `places` decimals, rounded half up.
-std::string Thousands(double value, unsigned places) {
-    std::string whole;
-    std::string decimals;
-    Split(value, whole, decimals);
-    long long units = std::atoll((whole + decimals.substr(0, places)).c_str());
-    if (decimals[places] >= '5') {
-        units += 1;
-    }
-    std::string digits = std::to_string(units);
-    while (digits.size() <= places) {
-        digits = "0" + digits;
-    }
-    whole = digits.substr(0, digits.size() - places);
-    decimals = digits.substr(digits.size() - places);
-    if (whole == "0") {
-        whole.clear();
-    }
-    const std::size_t head = whole.size() > 3 ? whole.size() - 3 : 0;
-    return (value < 0 ? "-" : "") + whole.substr(0, head) + " " + whole.substr(head) + "." +
-           decimals;
-}
-
-std::string W2(const char *section, const char *key) {
-    return std::string("<") + section + " " + key + ">";
-}
-
-/// One run.
-struct Run {
-    const RibModel &rib;
-    const AppSettings &settings;
-    Memory &m;
-    std::vector<Drawn> drawn;
-
-    // The device.
-    double CurrentX = 0, CurrentY = 0, FontSize = 0;
-    unsigned ForeColor = 0;
-    int DrawWidth = 1, DrawStyle = 0;
-
-    float EchelleValue = 0, CordeEchelleY = 0;
-
-    double corde() const { return W(rib.corde); }
-    double CE() const { return W(m.CordeEchelle); }
-    double OX() const { return W(m.OrigineX); }
-    double OY() const { return W(m.OrigineY); }
-    double X(double k) const { return (400 - k) / 400 * CE() + OX(); }
-    double Y(double h) const { return OY() - W(CordeEchelleY) * h; }
-    static double Table(const TableStation &table, double k) {
-        const long index = Nearest(k);
-        if (index < 0 || index > 400) {
-            throw Broken{9};
-        }
-        return table[static_cast<std::size_t>(index)];
-    }
-    double U(double k) const { return Table(rib.TabExtrados, k); }
-    double L(double k) const { return Table(rib.TabIntrados, k); }
-
-    const Trait &Of(Element element) const {
-        return settings.traits[static_cast<std::size_t>(element)];
-    }
-    unsigned Colour(Element element) const {
-        const int number = Of(element).couleur;
-        if (number < 0 || number > 15) {
-            throw Broken{5};
-        }
-        return kColours[number];
-    }
-    void Style(Element element) {
-        DrawStyle = Of(element).style;
-        DrawWidth = Of(element).epaisseur;
-    }
-    void Plain() {
-        DrawStyle = 0;
-        DrawWidth = 1;
-    }
-    void Line(double x1, double y1, double x2, double y2, unsigned colour) {
-        Drawn line;
-        line.x1 = x1;
-        line.y1 = y1;
-        line.x2 = x2;
-        line.y2 = y2;
-        line.colour = colour;
-        line.width = DrawWidth;
-        line.style = DrawWidth == 1 ? DrawStyle : 0;
-        drawn.push_back(line);
-        CurrentX = x2;
-        CurrentY = y2;
-    }
-    void Print(const std::string &words) {
-        Drawn text;
-        text.text = true;
-        text.x1 = CurrentX;
-        text.y1 = CurrentY;
-        text.words = words;
-        text.size = FontSize;
-        text.colour = ForeColor;
-        drawn.push_back(text);
-    }
-    std::string Length(double mm) const {
-        return settings.Unite == " in" ? InInches(mm) : TwoDecimals(mm);
-    }
-
-    void All();
-    void ThicknessText();
-    void Edges();
-    void Offsets(long k);
-    void Sheeting();
-    void Stations();
-};
 
 void Run::ThicknessText() {
     m.PosEpDev = (400 - rib.PosEpMaxi) / 400 * corde();
@@ -230,6 +52,8 @@ void Run::Edges() {
             CurrentY = OY() - CE() * rib.ExtradosMaxi - 283.5;
             Print(W2("MainTolbar", "15") + " = " + Length(corde() * U(k) - corde() * L(k)));
         }
+    } else {
+        Notch();
     }
     Style(Element::bf);
     m.StationBF = F(std::abs(W(rib.EpBF) / corde() * 400));
@@ -282,8 +106,9 @@ void Run::Sheeting() {
             const std::size_t b = at(k);
             Line(X(dk(k - 1)) + CE() * m.DecalXExtra[a], Y(TE[a] - m.DecalYExtra[a]),
                  X(dk(k)) + CE() * m.DecalXExtra[b], Y(TE[b] - m.DecalYExtra[b]), colour);
-            Line(X(dk(k - 1)) + CE() * m.DecalXIntra[a], Y(TI[a] + m.DecalYExtra[a]),
-                 X(dk(k)) + CE() * m.DecalXIntra[b], Y(TI[b] + m.DecalYExtra[b]), colour);
+            Line(X(dk(k - 1)) + CE() * m.DecalXIntra[a],
+                 Y(TI[a] + m.DecalYExtra[a] - W(m.CoupeRel)), X(dk(k)) + CE() * m.DecalXIntra[b],
+                 Y(TI[b] + m.DecalYExtra[b] - W(m.CoupeRel)), colour);
         }
         return;
     }
@@ -294,15 +119,16 @@ void Run::Sheeting() {
         const std::size_t b = at(k + 1);
         const double up = TE[a] - m.DecalYExtra[a];
         const double lo = m.DecalYIntra[a] + TI[a];
-        if (lo < up) {
+        if (lo - W(m.CoupeRel) < up) {
             Line(X(dk(k)) + CE() * m.DecalXExtra[a], Y(TE[a] - m.DecalYExtra[a]),
                  X(dk(k + 1)) + CE() * m.DecalXExtra[b], Y(TE[b] - m.DecalYExtra[b]), colour);
         } else {
             m.IdxFinCoffr += 1;
         }
-        if (up > lo) {
-            Line(X(dk(k)) + CE() * m.DecalXIntra[a], Y(TI[a] + m.DecalYIntra[a]),
-                 X(dk(k + 1)) + CE() * m.DecalXIntra[b], Y(TI[b] + m.DecalYIntra[b]), colour);
+        if (up + W(m.CoupeRel) > lo) {
+            Line(X(dk(k)) + CE() * m.DecalXIntra[a], Y(TI[a] + m.DecalYIntra[a] - W(m.CoupeRel)),
+                 X(dk(k + 1)) + CE() * m.DecalXIntra[b],
+                 Y(TI[b] + m.DecalYIntra[b] - W(m.CoupeRel)), colour);
         }
     }
     Line(X(m.IdxFinCoffr), Y(TE[at(m.IdxFinCoffr)] - W(m.EpRel)), OX() + CE(),
@@ -318,10 +144,19 @@ void Run::Stations() {
         const double lo = L(k) - 0.015;
         Style(Element::rep);
         const double xs = X(k);
-        if (rib.AffHaut) {
-            Line(xs, CE() * up + OY(), xs, (lo - 0.01) * CE() + OY(), Colour(Element::rep));
+        const unsigned colour = Colour(Element::rep);
+        if (!rib.AffHaut && m.BlocEp == 0) {
+            Line(xs, OY() - CE() * up, xs, OY() - CE() * lo, colour);
+        } else if (!rib.AffHaut) {
+            Line(xs, OY() - CE() * up, xs, m.BlocEp * E() + OY(), colour);
+            CurrentY = (W(rib.bloc.HTbasbloc) - 3.5) * E() + OY();
+            CurrentX = CurrentX + 20;
+        } else if (m.BlocEp == 0) {
+            Line(xs, CE() * up + OY(), xs, (lo - 0.01) * CE() + OY(), colour);
         } else {
-            Line(xs, OY() - CE() * up, xs, OY() - CE() * lo, Colour(Element::rep));
+            Line(xs, CE() * up + OY(), xs, OY() - m.BlocEp * E(), colour);
+            CurrentY = OY() - (W(rib.bloc.HTbasbloc) - 1) * E();
+            CurrentX = CurrentX + 20;
         }
         ForeColor = Colour(Element::rep);
         FontSize = W(rib.Zoom) * 7.2;
@@ -348,8 +183,22 @@ void Run::All() {
         m.DemiBF = (y1 + yn) / 2;
     }
 
+    if (rib.TypeGabarit == 1) {
+        Template();
+    } else {
+        m.BlocEp = 0;
+        m.BlocBA = 0;
+        m.CoupeRel = 0;
+    }
+    m.OrigineX = F(m.BlocBA * E() + OX());
+    if (rib.TypeGabarit == 11) {
+        Heel();
+    }
     ThicknessText();
     Edges();
+    if (rib.TypeGabarit == 0) {
+        Text(0);
+    }
     if (rib.AffTrac) {
         Style(Element::profil);
         for (long i = 2; i <= rib.NbContour; ++i) {
@@ -362,6 +211,8 @@ void Run::All() {
         Sheeting();
         Plain();
     }
+    Spars();
+    Holes();
     Plain();
     if (rib.NbRep != 0) {
         Stations();
@@ -373,52 +224,7 @@ void Run::All() {
     Plain();
 }
 
-} // namespace
-
-std::string TwoDecimals(double value) {
-    return Thousands(value, 2);
-}
-
-std::string InInches(double mm) {
-    const auto number = [](const std::string &digits) {
-        double value = 0;
-        std::from_chars(digits.data(), digits.data() + digits.size(), value);
-        return value;
-    };
-    std::string text = General(mm, true);
-    if (text == "0") {
-        return "0";
-    }
-    text = General(number(text) / 25.4, false);
-    const std::size_t point = text.find('.');
-    std::string shown;
-    if (point != std::string::npos) {
-        const double f = number("0" + text.substr(point));
-        for (int denominator = 2; denominator <= 64 && shown.empty(); denominator *= 2) {
-            const double w = f * denominator;
-            if (w == std::floor(w)) {
-                shown = (point == 0 ? "" : text.substr(0, point + 1)) + General(w, true) + "/" +
-                        std::to_string(denominator);
-            }
-        }
-    }
-    if (shown.empty()) {
-        shown = Thousands(number(text), 3);
-        while (shown.back() == '0') {
-            shown.pop_back();
-        }
-        shown.erase(0, shown.find_first_not_of(' '));
-    }
-    if (shown[0] == '.') {
-        shown = "0" + shown;
-    }
-    if (shown.find('.') == shown.size() - 1) {
-        shown.pop_back();
-    }
-    return shown;
-}
-
-Drawing PlotRib(const RibModel &rib, const AppSettings &settings, Memory &memory) {
+Drawing PlotRib(RibModel &rib, const AppSettings &settings, Memory &memory) {
     Run run{rib, settings, memory, {}};
     Drawing drawing;
     try {
@@ -439,6 +245,9 @@ void PlaceOnScreen(const RibModel &rib, Memory &memory) {
     memory.OrigineX = F(283.5 + rib.DecalX * corde * zoom / 2);
     memory.OrigineY =
         F(-rib.DecalY * corde * zoom / 2 + corde * rib.ExtradosMaxi * 56.7 * zoom + 850.5);
+    if (rib.TypeGabarit == 1) {
+        memory.OrigineY = F(W(memory.OrigineY) + std::abs(W(rib.bloc.HTbloc)) / 2 * 56.7 * zoom);
+    }
 }
 
 } // namespace loftwing::naive

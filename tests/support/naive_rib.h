@@ -10,16 +10,23 @@
 
 namespace loftwing::naive {
 
-/// One thing on the drawing.
+/// One thing on the drawing: a text, a circle or else a line.
 struct Drawn {
-    bool text = false; ///< otherwise a line
+    bool text = false;
+    bool circle = false;
     double x1 = 0, y1 = 0;
     double x2 = 0, y2 = 0; ///< of a line
     unsigned colour = 0;
-    int width = 1; ///< of a line
-    int style = 0; ///< of a line
+    int width = 1; ///< of a line or circle
+    int style = 0;
     std::string words;
-    double size = 0; ///< of a text, points
+    double size = 0; ///< of a text, points; of a circle, its radius
+};
+
+/// Where a spar or hole was set.
+struct Spot {
+    float kf = 0, kr = 0, kc = 0;
+    double Uf = 0, Ur = 0, Uc = 0, Lf = 0, Lr = 0, Lc = 0;
 };
 
 /// What a plot is given and what it leaves to the next.
@@ -28,6 +35,9 @@ struct Memory {
     float EpRel = 0, StationBA = 0, StationBF = 0;
     double DemiBF = 0, PosEpDev = 0;
     int IdxFinCoffr = 0;
+    float CoupeRel = 0, CoupeDev = 0;
+    double BlocEp = 0, BlocBA = 0, BlocYBF = 0;
+    Spot spars[13], holes[13];
     double AngleExtra[401] = {}, DecalXExtra[401] = {}, DecalYExtra[401] = {};
     double AngleIntra[401] = {}, DecalXIntra[401] = {}, DecalYIntra[401] = {};
 };
@@ -38,8 +48,9 @@ struct Drawing {
     int failure = 0;
 };
 
-/// The plot at the scale and origin in `memory`. Words of the language are those of RibWorld.
-Drawing PlotRib(const RibModel &rib, const AppSettings &settings, Memory &memory);
+/// The plot at the scale and origin in `memory`. Places of spars and holes are taken anew. Words of
+/// the language are those of RibWorld.
+Drawing PlotRib(RibModel &rib, const AppSettings &settings, Memory &memory);
 
 /// Scale and origin of the screen.
 void PlaceOnScreen(const RibModel &rib, Memory &memory);

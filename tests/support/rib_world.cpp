@@ -22,6 +22,7 @@ std::string Words() {
         {"TextButton", {"14"}},
         {"MainTolbar", {"11", "13", "15", "21"}},
         {"FrmMainMessage", {"2", "3", "13", "14", "15", "16", "17"}},
+        {"FrmLines", {"5", "6", "7", "8", "9", "10", "11", "12", "13", "24"}},
         {"FrmPrint", {"22", "tailleFeuille(8)", "tailleFeuille(8) "}},
         {"Message", {"20"}}};
     std::string text;

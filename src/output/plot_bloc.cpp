@@ -1,0 +1,116 @@
+// The template for cutting foam.
+
+#include "core/stations.h"
+#include "output/plot_steps.h"
+
+#include <cmath>
+
+namespace loftwing {
+
+namespace {
+
+struct Point {
+    double x, y;
+};
+
+Point operator+(Point a, Point b) {
+    return {a.x + b.x, a.y + b.y};
+}
+
+/// Working copies of the template's measures, and the allowance at the trailing edge.
+void PrendMesures(const Trace &trace) {
+    const RibModel &rib = trace.rib;
+    const Bloc &bloc = rib.bloc;
+    PlotState &plot = trace.plot;
+    plot.CoupeDev = 0;
+    plot.CoupeRel =
+        ToSingle(Quotient(static_cast<double>(bloc.CoupeBF), static_cast<double>(rib.corde)));
+    if (plot.EpRel < plot.CoupeRel) {
+        plot.CoupeDev =
+            ToSingle((static_cast<double>(plot.CoupeRel) - static_cast<double>(plot.EpRel)) *
+                     static_cast<double>(plot.CordeEchelle));
+    }
+    plot.BlocEp = static_cast<double>(bloc.HTbasbloc);
+    plot.BlocHaut = static_cast<double>(bloc.HTbloc) - static_cast<double>(bloc.HTbasbloc);
+    plot.BlocBA = static_cast<double>(bloc.BAbloc);
+    plot.BlocLong = static_cast<double>(bloc.BAbloc) + static_cast<double>(rib.corde) +
+                    static_cast<double>(bloc.BFbloc);
+    plot.VrillageRad = EnRadians(static_cast<double>(rib.vrillage));
+    const auto tail =
+        static_cast<double>(StationDepuisBF(static_cast<double>(bloc.BFbloc), rib.corde));
+    // Another choice than these two leaves the tail of the plot before.
+    if (bloc.Optquebf == 0) {
+        plot.BlocYBF = trace.U(tail);
+    } else if (bloc.Optquebf == 1) {
+        plot.BlocYBF = trace.L(tail);
+    }
+}
+
+/// A template that leans out to the left moves the drawing to the right.
+void EcarteOrigine(const Trace &trace) {
+    PlotState &plot = trace.plot;
+    if (trace.rib.vrillage == 0.0F) {
+        return;
+    }
+    const double origine = static_cast<double>(plot.OrigineX);
+    const double moved =
+        origine - plot.BlocEp * std::sin(plot.VrillageRad) * static_cast<double>(plot.Echelle);
+    if (moved >= origine) {
+        plot.OrigineX = ToSingle(moved);
+    }
+}
+
+void TraceBloc(const Trace &trace) {
+    const PlotState &plot = trace.plot;
+    const double s = std::sin(plot.VrillageRad);
+    const double c = std::cos(plot.VrillageRad);
+    const double echelle = static_cast<double>(plot.Echelle);
+    const double echelle_y = static_cast<double>(plot.EchelleY);
+    const double corde = static_cast<double>(plot.CordeEchelle);
+    const double corde_y = static_cast<double>(plot.CordeEchelleY);
+    const double fuite = static_cast<double>(trace.rib.bloc.BFbloc);
+    const Point p{static_cast<double>(plot.OrigineX), static_cast<double>(plot.OrigineY)};
+    const Point ramp{plot.BlocBA * echelle + p.x, p.y};
+    const Point a = p + Point{plot.BlocEp * s * echelle, plot.BlocEp * c * echelle_y};
+    const Point b = p + Point{-plot.BlocHaut * s * echelle, -plot.BlocHaut * c * echelle_y};
+    const Point d{plot.BlocLong * c * c * echelle, -plot.BlocLong * c * s * echelle_y};
+    // The tail's two lines end at the unsigned, the rib's own line starts at the signed height:
+    // upside down they don't meet, as ever.
+    const Point tail{plot.BlocLong * echelle + p.x, corde * plot.BlocYBF + p.y};
+    const Point tail_signed{tail.x, corde_y * plot.BlocYBF + p.y};
+    const Point edge{(plot.BlocLong - fuite) * echelle + p.x,
+                     p.y - corde_y * plot.DemiBF + static_cast<double>(plot.CoupeDev)};
+    const Colour colour = trace.Couleur(Element::bloc);
+    const auto line = [&](Point from, Point to) {
+        trace.device.Line(from.x, from.y, to.x, to.y, colour);
+    };
+    trace.EnStyleDe(Element::bloc);
+    line(p, ramp);
+    line(p, a);
+    line(p, b);
+    line(b, b + d);
+    line(b + d, tail);
+    TraceTexteInsere(trace, plot.BlocBA);
+    line(a, a + d);
+    line(a + d, tail);
+    line(tail_signed, edge);
+    trace.FinDeStyle();
+}
+
+} // namespace
+
+void TraceGabarit(const Trace &trace) {
+    PlotState &plot = trace.plot;
+    if (trace.rib.TypeGabarit != kGabaritMousse) {
+        // The rib stands at the plain origin.
+        plot.BlocEp = 0;
+        plot.BlocBA = 0;
+        plot.CoupeRel = 0;
+        return;
+    }
+    PrendMesures(trace);
+    EcarteOrigine(trace);
+    TraceBloc(trace);
+}
+
+} // namespace loftwing

@@ -1,0 +1,159 @@
+// Notches for spars.
+
+#include "core/stations.h"
+#include "output/plot_steps.h"
+
+namespace loftwing {
+
+namespace {
+
+constexpr std::uint8_t kDepuisCoffrage = 1; // OptLongExt and OptLongInt
+constexpr std::uint8_t kDepuisContour = 2;
+constexpr std::uint8_t kSuitSurface = 0; // TypeLong
+constexpr std::uint8_t kDroit = 1;
+constexpr std::uint8_t kRond = 2;
+constexpr std::uint8_t kDroitADistance = 3;
+
+/// The heights of one surface at a spar.
+struct Face {
+    double f, r, c; ///< at the front edge, the rear edge and the centre
+    double inward;  ///< 1 on the upper surface: down on the device; -1 on the lower one
+};
+
+/// A spar that cuts into one surface, in device units.
+class Encoche {
+  public:
+    Encoche(const Trace &trace, const Longeron &spar, const PlaceTracee &place, Face face)
+        : trace_(trace), face_(face), echelle_(static_cast<double>(trace.plot.Echelle)),
+          echelle_y_(face.inward * static_cast<double>(trace.plot.EchelleY)),
+          w_(static_cast<double>(spar.LargLong)), h_(static_cast<double>(spar.HautLong)),
+          d_(static_cast<double>(spar.DistLong)), xf_(trace.X(static_cast<double>(place.kf))),
+          xr_(trace.X(static_cast<double>(place.kr))), colour_(trace.Couleur(Element::longeron)),
+          axis_(trace.Couleur(Element::axe)) {}
+
+    void Rond() const;
+    void Droit() const;
+    void SuitSurface() const;
+
+  private:
+    const Trace &trace_;
+    Face face_;
+    double echelle_;
+    double echelle_y_; ///< device units of one mm inward
+    double w_, h_, d_; ///< width, depth, distance from the surface, mm
+    double xf_, xr_;
+    Colour colour_, axis_;
+
+    /// The surface that depths count from: the contour or the inner face of the sheeting.
+    double Y(double height) const {
+        return trace_.Y(height - face_.inward * static_cast<double>(trace_.plot.DecalCoffr));
+    }
+};
+
+void Encoche::Rond() const {
+    const double y = Y(face_.c) + (d_ + h_) * echelle_y_;
+    if (face_.inward > 0) {
+        trace_.device.Line(xf_, y, xr_, y, axis_);
+    } else {
+        // Below, the depth is added instead of taken away, at the front by the unsigned scale: with
+        // a depth the axis misses the centre, as ever.
+        const double near = Y(face_.c) + d_ * echelle_y_;
+        trace_.device.Line(xf_, near + h_ * echelle_, xr_, near - h_ * echelle_y_, axis_);
+    }
+    trace_.device.Circle(xf_ + w_ / 2.0 * echelle_, y, w_ / 2.0 * echelle_, colour_);
+}
+
+void Encoche::Droit() const {
+    const double y = Y(face_.c) + d_ * echelle_y_;
+    trace_.device.Line(xf_, y, xr_, y, colour_);
+    trace_.device.LineStep(0, h_ * echelle_y_, colour_);
+    trace_.device.LineStep(-w_ * echelle_, 0, colour_);
+    trace_.device.LineStep(0, -h_ * echelle_y_, colour_);
+}
+
+void Encoche::SuitSurface() const {
+    const double corde = static_cast<double>(trace_.plot.CordeEchelle);
+    const double corde_y = static_cast<double>(trace_.plot.CordeEchelleY);
+    trace_.device.Line(xf_, Y(face_.f), xr_, Y(face_.r), colour_);
+    const double t = Quotient(face_.inward * (face_.r - face_.f), w_) * h_;
+    trace_.device.LineStep(t * corde, h_ * echelle_y_, colour_);
+    trace_.device.LineStep(-w_ * echelle_, (face_.r - face_.f) * corde_y, colour_);
+    trace_.device.LineStep(-t * corde, -h_ * echelle_y_, colour_);
+}
+
+/// The notch in one surface, where `option` asks for one. Another kind than these has no shape.
+void TraceEncoche(const Trace &trace, const Longeron &spar, const PlaceTracee &place, Face face,
+                  std::uint8_t option) {
+    if (option != kDepuisCoffrage && option != kDepuisContour) {
+        return;
+    }
+    trace.plot.DecalCoffr = option == kDepuisContour ? 0.0F : trace.plot.EpRel;
+    const Encoche notch(trace, spar, place, face);
+    trace.EnStyleDe(Element::longeron);
+    if (spar.TypeLong == kRond) {
+        notch.Rond();
+    } else if (spar.TypeLong == kDroit || spar.TypeLong == kDroitADistance) {
+        notch.Droit();
+    } else if (spar.TypeLong == kSuitSurface) {
+        notch.SuitSurface();
+    }
+    trace.FinDeStyle();
+}
+
+/// Stations of a spar and the surfaces there. Failure 9 where it reaches beyond the chord.
+PlaceTracee PlaceDe(const Trace &trace, const Longeron &spar) {
+    const double centre = static_cast<double>(spar.PosLong);
+    const double half = static_cast<double>(spar.LargLong) / 2.0;
+    PlaceTracee place;
+    place.kr = StationDepuisBA(centre + half, trace.rib.corde);
+    place.kf = StationDepuisBA(centre - half, trace.rib.corde);
+    place.kc = StationDepuisBA(centre, trace.rib.corde);
+    place.Uf = trace.U(static_cast<double>(place.kf));
+    place.Ur = trace.U(static_cast<double>(place.kr));
+    place.Uc = trace.U(static_cast<double>(place.kc));
+    place.Lf = trace.L(static_cast<double>(place.kf));
+    place.Lr = trace.L(static_cast<double>(place.kr));
+    place.Lc = trace.L(static_cast<double>(place.kc));
+    return place;
+}
+
+void TraceAxe(const Trace &trace, const Longeron &spar, const PlaceTracee &place) {
+    const double x =
+        trace.X(static_cast<double>(place.kf)) +
+        static_cast<double>(spar.LargLong) * static_cast<double>(trace.plot.Echelle) / 2.0;
+    PrendStyleSeul(trace.device, trace.settings, Element::axe);
+    trace.device.Line(x, trace.Y(place.Uc), x, trace.Y(place.Lc), trace.Couleur(Element::axe));
+}
+
+/// One slot; false at place 0, behind which no spar is drawn.
+bool TraceLongeron(const Trace &trace, Longeron &spar, PlaceTracee &place) {
+    const RibModel &rib = trace.rib;
+    const auto from_edge = spar.RefLong != 0 ? PosDepuisBF : PosDepuisBA;
+    // Anew each time: a place in percent follows the chord.
+    spar.PosLong = from_edge(spar.PosLongAfich, rib.corde, trace.SaisieEnCours());
+    if (spar.PosLong == 0.0F) {
+        return false;
+    }
+    place = PlaceDe(trace, spar);
+    TraceAxe(trace, spar, place);
+    TraceEncoche(trace, spar, place, {place.Uf, place.Ur, place.Uc, 1}, spar.OptLongExt);
+    TraceEncoche(trace, spar, place, {place.Lf, place.Lr, place.Lc, -1}, spar.OptLongInt);
+    return true;
+}
+
+} // namespace
+
+void TraceLongerons(const Trace &trace) {
+    bool more = true;
+    for (int slot = 0; more && slot <= trace.rib.NbLongeron; ++slot) {
+        trace.Nomme(
+            {"FrmLines", "8"},
+            [&] {
+                more = TraceLongeron(trace, At(trace.rib.longeron, slot),
+                                     At(trace.plot.longerons, slot));
+            },
+            slot + 1);
+    }
+}
+
+} // namespace loftwing

@@ -1,0 +1,101 @@
+// Lightening and tube holes.
+
+#include "core/stations.h"
+#include "output/plot_steps.h"
+
+namespace loftwing {
+
+namespace {
+
+constexpr std::uint8_t kRond = 0; // TypeTrou
+constexpr std::uint8_t kRectangle = 1;
+
+/// A hole in device units.
+struct Percage {
+    double xf, xr, xc;  ///< front edge, rear edge, centre
+    double y;           ///< centre
+    double w;           ///< width
+    double hh;          ///< height in the view's y direction
+    double hh_unsigned; ///< the same whichever way up
+};
+
+/// The two axes, `half` to either side of the centre the vertical one.
+void TraceAxes(const Trace &trace, const Percage &hole, double half) {
+    PrendStyleSeul(trace.device, trace.settings, Element::axe);
+    trace.device.DrawWidth = 1;
+    const Colour colour = trace.Couleur(Element::axe);
+    trace.device.Line(hole.xf, hole.y, hole.xr, hole.y, colour);
+    trace.device.Line(hole.xc, hole.y - half, hole.xc, hole.y + half, colour);
+}
+
+void TraceRectangle(const Trace &trace, const Percage &hole) {
+    constexpr double kAxe = 1.5; // the axis overshoots the rectangle
+    const Colour colour = trace.Couleur(Element::trou);
+    trace.device.Line(hole.xf, hole.y, hole.xf, hole.y - hole.hh / 2.0, colour);
+    trace.device.LineStep(hole.w, 0, colour);
+    trace.device.LineStep(0, hole.hh, colour);
+    trace.device.LineStep(-hole.w, 0, colour);
+    trace.device.LineStep(0, -hole.hh / 2.0, colour);
+    TraceAxes(trace, hole, hole.hh_unsigned / kAxe);
+}
+
+void TraceRond(const Trace &trace, const Percage &hole) {
+    trace.device.Circle(hole.xc, hole.y, hole.w / 2.0, trace.Couleur(Element::trou));
+    TraceAxes(trace, hole, hole.w / 2.0);
+}
+
+/// Stations of a hole. The surfaces are looked up at its centre only: a hole may poke out.
+PlaceTracee PlaceDe(const Trace &trace, const Trou &trou) {
+    const double centre = static_cast<double>(trou.PosTrou);
+    const double half = static_cast<double>(trou.DiaTrou) / 2.0;
+    PlaceTracee place;
+    place.kr = StationDepuisBA(centre + half, trace.rib.corde);
+    place.kf = StationDepuisBA(centre - half, trace.rib.corde);
+    place.kc = StationDepuisBA(centre, trace.rib.corde);
+    place.Uc = trace.U(static_cast<double>(place.kc));
+    place.Lc = trace.L(static_cast<double>(place.kc));
+    return place;
+}
+
+Percage PercageDe(const Trace &trace, const Trou &trou, const PlaceTracee &place) {
+    const PlotState &plot = trace.plot;
+    const double echelle = static_cast<double>(plot.Echelle);
+    const double echelle_y = static_cast<double>(plot.EchelleY);
+    // Midway between the surfaces, or on the reference line.
+    const double base = trou.ChkCentre == 1.0F ? (place.Uc - place.Lc) / 2.0 : place.Uc;
+    Percage hole{};
+    hole.xf = trace.X(static_cast<double>(place.kf));
+    hole.xr = trace.X(static_cast<double>(place.kr));
+    hole.w = static_cast<double>(trou.DiaTrou) * echelle;
+    hole.xc = hole.xf + hole.w / 2.0;
+    hole.y = trace.Y(place.Uc - base) - static_cast<double>(trou.DecalTrou) * echelle_y;
+    hole.hh = static_cast<double>(trou.HautTrou) * echelle_y;
+    hole.hh_unsigned = static_cast<double>(trou.HautTrou) * echelle;
+    return hole;
+}
+
+void TraceTrou(const Trace &trace, Trou &trou, PlaceTracee &place) {
+    const auto from_edge = trou.RefTrou != 0 ? PosDepuisBF : PosDepuisBA;
+    trou.PosTrou = from_edge(trou.PosTrouAfich, trace.rib.corde, trace.SaisieEnCours());
+    place = PlaceDe(trace, trou);
+    const Percage hole = PercageDe(trace, trou, place);
+    trace.EnStyleDe(Element::trou);
+    if (trou.TypeTrou == kRectangle) {
+        TraceRectangle(trace, hole);
+    } else if (trou.TypeTrou == kRond) {
+        TraceRond(trace, hole);
+    }
+}
+
+} // namespace
+
+void TraceTrous(const Trace &trace) {
+    for (int slot = 0; slot <= trace.rib.NbTrou; ++slot) {
+        trace.Nomme(
+            {"FrmLines", "11"},
+            [&] { TraceTrou(trace, At(trace.rib.trou, slot), At(trace.plot.trous, slot)); },
+            slot + 1);
+    }
+}
+
+} // namespace loftwing
