@@ -4,6 +4,7 @@
 //
 // Pictures go to FOLDER, named WINDOW-LANGUAGE-UNIT.png. SCALE is that of the font, 1 if left out.
 
+#include "features/frmInstxt.h"
 #include "lang/frmlang.h"
 #include "mainwindow/frmAbout.h"
 #include "mainwindow/frmInput.h"
@@ -91,6 +92,8 @@ class Pictures {
         Save(page, "frmPrint");
         frmcoul colours(programme_, window_.get());
         Save(colours, "frmcoul");
+        frmInstxt text(programme_, *window_, window_.get());
+        Save(text, "frmInstxt");
         frmAbout about(programme_, window_.get());
         Save(about, "frmAbout");
         frmSplash splash(programme_, window_.get());

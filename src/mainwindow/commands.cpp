@@ -66,7 +66,7 @@ std::vector<Command> ViewMenu() {
             Check("mnu_affhautba", menu, {"MenuAffich", "5"}, kRib, &frmmain::mnu_affhautba_Click)),
         Check("mnu_affhautbf", menu, {"MenuAffich", "6"}, kRib, &frmmain::mnu_affhautbf_Click),
         Check("mnu_affepr", menu, {"MenuAffich", "7"}, kRib, &frmmain::mnu_affepr_Click),
-        Entry("mnu_affInstxt", menu, {"MenuAffich", "8"}, kFile, nullptr),
+        Entry("mnu_affInstxt", menu, {"MenuAffich", "8"}, kFile, &frmmain::mnu_affInstxt_Click),
         Check("mnu_affTrac", menu, {"MenuAffich", "9"}, kRib, &frmmain::mnu_affTrac_Click),
         Check("mnu_afflignRef", menu, {"MenuAffich", "12"}, kRib, &frmmain::mnu_afflignRef_Click),
         Below(Entry("mnu_affclear", menu, {"MenuAffich", "10"}, kAlways,

@@ -57,6 +57,7 @@ class frmmain : public QMainWindow, public MainView {
     void mnu_affhautba_Click();
     void mnu_affhautbf_Click();
     void mnu_affepr_Click();
+    void mnu_affInstxt_Click();
     void mnu_affTrac_Click();
     void mnu_afflignRef_Click();
     void mnu_affclear_Click();
