@@ -60,7 +60,7 @@ std::vector<Command> ViewMenu() {
     return {
         Menu(menu, {"MenuAffich", "1"}),
         Check("mnu_affinver", menu, {"MenuAffich", "2"}, kRib, &frmmain::mnu_affinver_Click),
-        Entry("mnu_affdefaut", menu, {"MenuAffich", "3"}, kRib, nullptr),
+        Entry("mnu_affdefaut", menu, {"MenuAffich", "3"}, kRib, &frmmain::mnu_affdefaut_Click),
         Entry("mnu_affcouleur", menu, {"MenuAffich", "4"}, kAlways, &frmmain::mnu_affcouleur_Click),
         Below(
             Check("mnu_affhautba", menu, {"MenuAffich", "5"}, kRib, &frmmain::mnu_affhautba_Click)),

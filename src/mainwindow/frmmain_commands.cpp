@@ -12,6 +12,7 @@
 #include "output/frmPrint.h"
 #include "output/frmcoul.h"
 #include "output/screen_plot.h"
+#include "persist/frmdefaut.h"
 #include "platform/qt_form.h"
 #include "programme/export.h"
 #include "programme/qt_export_forms.h"
@@ -213,6 +214,12 @@ void frmmain::mnu_helpsearch_Click() {
 void frmmain::mnu_helpAbout_Click() {
     frmAbout dialog(programme_, this);
     ShowModal(dialog);
+}
+
+void frmmain::mnu_affdefaut_Click() {
+    frmdefaut dialog(programme_, *this, this);
+    ShowModal(dialog);
+    affiche();
 }
 
 void frmmain::mnu_affInstxt_Click() {
