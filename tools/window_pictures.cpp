@@ -4,6 +4,7 @@
 //
 // Pictures go to FOLDER, named WINDOW-LANGUAGE-UNIT.png. SCALE is that of the font, 1 if left out.
 
+#include "features/frmInstxt.h"
 #include "lang/frmlang.h"
 #include "mainwindow/frmAbout.h"
 #include "mainwindow/frmInput.h"
@@ -12,6 +13,7 @@
 #include "mainwindow/frmopen.h"
 #include "output/frmPrint.h"
 #include "output/frmcoul.h"
+#include "persist/frmdefaut.h"
 #include "platform/qt_form.h"
 #include "programme/console_platform.h"
 #include "programme/programme.h"
@@ -52,6 +54,9 @@ class Pictures {
             programme_.settings.Unite = kUniteIn;
             programme_.rib.cordeAfich = "8.1/2";
             programme_.rib.corde = 215.9F;
+            programme_.rib.EpCoffrageAfich = "1/16";
+            programme_.rib.EpCoffrage = 1.5875F;
+            EcritDefauts(programme_.ReglagesEnCours());
         }
     }
 
@@ -91,6 +96,10 @@ class Pictures {
         Save(page, "frmPrint");
         frmcoul colours(programme_, window_.get());
         Save(colours, "frmcoul");
+        frmInstxt text(programme_, *window_, window_.get());
+        Save(text, "frmInstxt");
+        frmdefaut defaults(programme_, *window_, window_.get());
+        Save(defaults, "frmdefaut");
         frmAbout about(programme_, window_.get());
         Save(about, "frmAbout");
         frmSplash splash(programme_, window_.get());

@@ -3,9 +3,14 @@
 #include "base/number_text.h"
 #include "base/text_encoding.h"
 
+#include <algorithm>
+#include <array>
+
 namespace loftwing {
 
 namespace {
+
+constexpr std::array<float, 11> kTaillesCourantes = {6, 7, 8, 9, 10, 11, 12, 14, 16, 18, 20};
 
 /// What stands before the chord, and tells a label from a text of the user.
 std::string DebutEtiquette(const RibModel &rib, const Messages &messages) {
@@ -22,6 +27,12 @@ std::string DebutTexte(const std::string &text, std::size_t colon) {
     const std::string before = text.substr(0, colon);
     const std::size_t length = CharacterCount(before);
     return FirstCharacters(before, length > 0 ? length - 1 : 0);
+}
+
+std::string SurUneLigne(std::string text) {
+    std::replace_if(
+        text.begin(), text.end(), [](unsigned char c) { return c < ' ' || c == 0x7F; }, ' ');
+    return text;
 }
 
 } // namespace
@@ -45,6 +56,40 @@ void ActualiseTexte(RibModel &rib, const Messages &messages) {
     rib.texte.TexteUtilisateur =
         !text.empty() && DebutTexte(text, colon) != DebutEtiquette(rib, messages);
     RegenereTexte(rib, messages);
+}
+
+TexteTape TexteAffiche(const RibModel &rib, const Messages &messages) {
+    const TexteInsere &texte = rib.texte;
+    return {texte.TexteUtilisateur ? texte.InsTexte : GeneratedLabel(rib, messages),
+            texte.InsTextXAfich, texte.InsTextYAfich};
+}
+
+void PrendTexteInsere(RibModel &rib, const TexteTape &typed, const Saisie &saisie) {
+    TexteInsere taken = rib.texte;
+    StockeLongueur(typed.x, saisie, taken.InsTextXAfich, taken.InsTextX);
+    StockeLongueur(typed.y, saisie, taken.InsTextYAfich, taken.InsTextY);
+    taken.InsTexte = SurUneLigne(typed.texte);
+    rib.texte = taken;
+    ActualiseTexte(rib, saisie.messages);
+    rib.texte.TexteUtilisateur = true;
+    rib.Modifie = true;
+}
+
+std::vector<std::string> TaillesProposees(float taille) {
+    std::vector<float> sizes(kTaillesCourantes.begin(), kTaillesCourantes.end());
+    const auto place = std::lower_bound(sizes.begin(), sizes.end(), taille);
+    if (place == sizes.end() || *place != taille) {
+        sizes.insert(place, taille);
+    }
+    std::vector<std::string> entries;
+    for (const float size : sizes) {
+        entries.push_back(NumberText(size));
+    }
+    return entries;
+}
+
+float TailleChoisie(const std::string &entry) {
+    return ToSingle(LeadingNumber(entry));
 }
 
 } // namespace loftwing

@@ -3,8 +3,10 @@
 
 #include "core/messages.h"
 #include "core/rib_model.h"
+#include "core/units.h"
 
 #include <string>
+#include <vector>
 
 namespace loftwing {
 
@@ -19,5 +21,28 @@ void RegenereTexte(RibModel &rib, const Messages &messages);
 /// with the chord in force and counts as the program's; so does an empty one. A text with a ":"
 /// that begins otherwise is marked as the user's. A text without ":" changes nothing.
 void ActualiseTexte(RibModel &rib, const Messages &messages);
+
+/// The text and its place as fields hold them.
+struct TexteTape {
+    std::string texte;
+    std::string x; ///< from the leading edge
+    std::string y; ///< from the reference line
+};
+
+/// What the fields start with: the user's own text as it stands, otherwise the label of the rib as
+/// it is now.
+TexteTape TexteAffiche(const RibModel &rib, const Messages &messages);
+
+/// Takes what the fields hold. The text goes through ActualiseTexte and counts as the user's from
+/// then on; line breaks and other control characters that came by the clipboard become blanks,
+/// since a rib carries one line. The rib counts as changed. Failures as VersMm, and 6 for a place
+/// beyond 32 bits; the rib is then what it was.
+void PrendTexteInsere(RibModel &rib, const TexteTape &typed, const Saisie &saisie);
+
+/// The sizes to choose from, ascending, in points. `taille` is among them even if it isn't a common
+/// one, so that a size from a settings file shows.
+std::vector<std::string> TaillesProposees(float taille);
+/// The size that an entry of that list stands for. Failure 6 when it doesn't fit.
+float TailleChoisie(const std::string &entry);
 
 } // namespace loftwing

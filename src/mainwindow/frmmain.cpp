@@ -46,7 +46,7 @@ void frmmain::Form_Load() {
     ChargeReglages(programme_);
     Panel(1, std::string(" V. ") + kVersion);
     Panel(2, "");
-    Panel(3, "unit :" + programme_.settings.Unite);
+    AfficheUnite();
     setWindowTitle(QString::fromUtf8(kTitre));
     SetChecked("mnu_affTrac", true);
     SetChecked("mnu_afflignRef", true);
@@ -76,6 +76,14 @@ void frmmain::Panel(int number, const std::string &text) {
     QLabel *panel = At(panels_, number - 1);
     panel->setText(Q(text));
     panel->setToolTip(number == 2 ? Q(text).toHtmlEscaped() : QString());
+}
+
+void frmmain::AfficheUnite() {
+    Panel(3, "unit :" + programme_.settings.Unite);
+}
+
+void frmmain::AfficheCorde() {
+    Panel(2, programme_.Text({"FrmPrint", "26"}) + " : " + programme_.rib.cordeAfich);
 }
 
 bool frmmain::Checked(const char *name) const {

@@ -42,6 +42,8 @@ class frmmain : public QMainWindow, public MainView {
     void affclear() override;
     void FermeDialogues() override;
     void AppliqueLangue() override;
+    void AfficheUnite() override;
+    void AfficheCorde() override;
 
     // Commands, named after their controls.
     void mnu_fileprofilopen_Click();
@@ -53,10 +55,12 @@ class frmmain : public QMainWindow, public MainView {
     void mnu_fileexit_Click();
     void mnuFileMRU_Click(const std::string &path);
     void mnu_affinver_Click();
+    void mnu_affdefaut_Click();
     void mnu_affcouleur_Click();
     void mnu_affhautba_Click();
     void mnu_affhautbf_Click();
     void mnu_affepr_Click();
+    void mnu_affInstxt_Click();
     void mnu_affTrac_Click();
     void mnu_afflignRef_Click();
     void mnu_affclear_Click();

@@ -3,6 +3,7 @@
 #include "base/version.h"
 #include "base/whole_file.h"
 #include "core/airfoil_reader.h"
+#include "features/frmInstxt.h"
 #include "features/rib_entry.h"
 #include "lang/frmlang.h"
 #include "mainwindow/frmAbout.h"
@@ -11,6 +12,7 @@
 #include "output/frmPrint.h"
 #include "output/frmcoul.h"
 #include "output/screen_plot.h"
+#include "persist/frmdefaut.h"
 #include "platform/qt_form.h"
 #include "programme/export.h"
 #include "programme/qt_export_forms.h"
@@ -212,6 +214,18 @@ void frmmain::mnu_helpsearch_Click() {
 void frmmain::mnu_helpAbout_Click() {
     frmAbout dialog(programme_, this);
     ShowModal(dialog);
+}
+
+void frmmain::mnu_affdefaut_Click() {
+    frmdefaut dialog(programme_, *this, this);
+    ShowModal(dialog);
+    affiche();
+}
+
+void frmmain::mnu_affInstxt_Click() {
+    frmInstxt dialog(programme_, *this, this);
+    ShowModal(dialog);
+    affiche();
 }
 
 } // namespace loftwing

@@ -21,6 +21,10 @@ class MainView {
     virtual void FermeDialogues() = 0;
     /// Sets all texts of the main window from the language file.
     virtual void AppliqueLangue() = 0;
+    /// Shows the unit in force.
+    virtual void AfficheUnite() = 0;
+    /// Shows the chord alone, for a rib that has no drawing. The next redraw replaces it.
+    virtual void AfficheCorde() = 0;
 };
 
 } // namespace loftwing

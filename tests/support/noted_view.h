@@ -24,6 +24,8 @@ class NotedView : public MainView {
     }
     void FermeDialogues() override { asked.emplace_back("FermeDialogues"); }
     void AppliqueLangue() override { asked.emplace_back("AppliqueLangue"); }
+    void AfficheUnite() override { asked.emplace_back("AfficheUnite"); }
+    void AfficheCorde() override { asked.emplace_back("AfficheCorde"); }
 };
 
 } // namespace loftwing

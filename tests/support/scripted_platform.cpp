@@ -57,7 +57,8 @@ std::string ScriptedPlatform::ChooseSaveFile(const FileQuestion &question) {
     return NextFile(question);
 }
 
-std::string ScriptedPlatform::ChooseFolder(const std::string &title, const std::string &) {
+std::string ScriptedPlatform::ChooseFolder(const std::string &title, const std::string &folder) {
+    folder_questions.push_back({title, folder});
     return Next(folders_expected, "folder chooser: " + title);
 }
 

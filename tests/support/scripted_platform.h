@@ -31,6 +31,12 @@ class ScriptedPlatform : public Platform {
     std::deque<std::string> files_expected;
     std::vector<FileQuestion> file_questions;
     std::deque<std::string> folders_expected;
+    /// What a folder chooser was asked with.
+    struct FolderQuestion {
+        std::string title;
+        std::string folder;
+    };
+    std::vector<FolderQuestion> folder_questions;
     std::deque<std::optional<std::string>> texts_expected;
     std::map<std::pair<std::string, std::string>, std::string> store;
     std::vector<std::string> pages_opened;

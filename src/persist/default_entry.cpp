@@ -1,0 +1,146 @@
+#include "persist/default_entry.h"
+
+#include "base/number_text.h"
+#include "features/inserted_text.h"
+#include "lang/ini_file.h"
+
+namespace loftwing {
+
+namespace {
+
+/// All that goes with a unit.
+struct JeuUnite {
+    TextesDefaut lengths;
+    std::string MargeHaut;
+    std::string MargeBas;
+    std::string recouvrement;
+    std::uint8_t NumIndex;
+    std::string Ydprint;
+};
+
+JeuUnite JeuDe(std::string_view Unite) {
+    if (Unite == kUniteIn) {
+        return {{"8", "1/16", "0", "0", "0", "0"}, "1/2", "1/2", "1", 1, "2"};
+    }
+    return {{"200", "1.5", "0", "0", "0", "0"}, "10", "15", "20", 0, "50"};
+}
+
+constexpr std::array<const char *, kChampsDefaut> kCles = {
+    "cordeAfich", "EpCoffrageAfich", "EpBAAfich", "HTblocAfich", "BAblocAfich", "BFblocAfich"};
+
+/// The pair of text and number behind a field.
+struct ChampDefaut {
+    std::string &afich;
+    float &mm;
+};
+
+std::array<ChampDefaut, kChampsDefaut> ChampsDe(RibModel &rib) {
+    Bloc &bloc = rib.bloc;
+    return {{{rib.cordeAfich, rib.corde},
+             {rib.EpCoffrageAfich, rib.EpCoffrage},
+             {rib.EpBAAfich, rib.EpBA},
+             {bloc.HTblocAfich, bloc.HTbloc},
+             {bloc.BAblocAfich, bloc.BAbloc},
+             {bloc.BFblocAfich, bloc.BFbloc}}};
+}
+
+using Longueurs = std::array<float, kChampsDefaut>;
+
+/// The lengths in mm; no more than the chord is read where that is 0.
+Longueurs LitLongueurs(const TextesDefaut &typed, const Saisie &saisie) {
+    Longueurs mm{};
+    for (int i = 0; i < kChampsDefaut; ++i) {
+        At(mm, i) = ToSingle(NombreMm(At(typed, i), saisie));
+        if (mm[kDefautCorde] == 0.0F) {
+            break;
+        }
+    }
+    return mm;
+}
+
+float LongueurBlocPour(const RibModel &rib, const Longueurs &mm) {
+    if (rib.TypeGabarit != kGabaritMousse) {
+        return rib.bloc.LongBloc;
+    }
+    return ToSingle(static_cast<double>(mm[kDefautCorde]) + static_cast<double>(mm[kDefautBAbloc]) +
+                    static_cast<double>(mm[kDefautBFbloc]));
+}
+
+/// Stores texts and numbers; whether that changed a text.
+bool Stocke(RibModel &rib, const TextesDefaut &typed, const Longueurs &mm) {
+    auto fields = ChampsDe(rib);
+    bool changed = false;
+    for (int i = 0; i < kChampsDefaut; ++i) {
+        const ChampDefaut &field = At(fields, i);
+        changed = changed || field.afich != At(typed, i);
+        field.afich = At(typed, i);
+        field.mm = At(mm, i);
+    }
+    return changed;
+}
+
+/// Gives a label the chord in force, even one that counts as the user's since the text dialog.
+void ReprendEtiquette(RibModel &rib, const Messages &messages) {
+    if (rib.texte.TexteUtilisateur) {
+        ActualiseTexte(rib, messages);
+    } else {
+        RegenereTexte(rib, messages);
+    }
+}
+
+} // namespace
+
+TextesDefaut LitTextesDefaut(const std::string &fichier) {
+    const IniFile file = IniFile::Read(fichier);
+    TextesDefaut texts;
+    for (int i = 0; i < kChampsDefaut; ++i) {
+        At(texts, i) = file.Value("Defaut", At(kCles, i));
+    }
+    return texts;
+}
+
+TextesDefaut ChoisitUnite(AppSettings &settings, std::string_view Unite, const Messages &messages) {
+    settings.Unite = Unite;
+    const Saisie saisie{settings.Unite, messages};
+    const JeuUnite set = JeuDe(Unite);
+    MiseEnPage &page = settings.page;
+    StockeLongueur(set.MargeHaut, saisie, page.MargeHautAfich, page.MargeHaut);
+    StockeLongueur(set.MargeBas, saisie, page.MargeBasAfich, page.MargeBas);
+    StockeLongueur(set.recouvrement, saisie, page.recouvrementAfich, page.recouvrement);
+    StockeLongueur(set.Ydprint, saisie, page.YdprintAfich, page.Ydprint);
+    page.NumIndex = set.NumIndex;
+    return set.lengths;
+}
+
+bool ConfirmeUnite(const Messages &messages) {
+    return messages.Confirm(messages.Text({"FrmDefaut", "17"}) + "\n" +
+                                messages.Text({"FrmDefaut", "18"}),
+                            messages.Text({"FrmDefaut", "1"}));
+}
+
+FinDefauts PrendDefauts(RibModel &rib, const TextesDefaut &typed, const Saisie &saisie) {
+    const Messages &messages = saisie.messages;
+    const Longueurs mm = LitLongueurs(typed, saisie);
+    if (mm[kDefautCorde] == 0.0F) {
+        messages.Inform(messages.Text({"FrmPrint", "26"}), messages.Text({"FrmAngle", "10"}));
+        return FinDefauts::sans_corde;
+    }
+    rib.bloc.LongBloc = LongueurBlocPour(rib, mm);
+    const bool changed = Stocke(rib, typed, mm);
+    if (rib.ProfilCharge) {
+        ReprendEtiquette(rib, messages);
+        rib.Modifie = rib.Modifie || changed;
+    }
+    return FinDefauts::prise;
+}
+
+void RangeDossiers(Repertoires &folders, const std::string &profils, const std::string &jeux,
+                   const std::string &fichier, Platform &platform) {
+    folders = {profils, jeux, profils};
+    WriteINIFile("Repertoires", "RepProfil", profils, fichier);
+    WriteINIFile("Repertoires", "RepProfilevol", jeux, fichier);
+    platform.StoreValue("Install", "RepAirfoil", profils);
+    platform.StoreValue("Install", "RepEvol", jeux);
+}
+
+} // namespace loftwing

@@ -1,0 +1,201 @@
+#include "windows/frmdefaut_fixture.h"
+
+namespace loftwing {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+TEST_F(FrmdefautTest, FieldsTakeTheKeysOfTheUnit) {
+    Use([](frmdefaut &dialog) {
+        for (int i = 0; i < kChampsDefaut; ++i) {
+            Type(dialog, i, "a-1/2.5%,");
+            EXPECT_EQ(Box(dialog, i).text(), "12.5");
+        }
+        Click(dialog, "inches");
+        for (int i = 0; i < kChampsDefaut; ++i) {
+            Type(dialog, i, "a-1.1/2%,");
+            EXPECT_EQ(Box(dialog, i).text(), "1.1/2");
+        }
+        Click(dialog, "mm");
+        Type(dialog, 0, "1/2");
+        EXPECT_EQ(Box(dialog, 0).text(), "12");
+        Type(dialog, 0, "");
+        QTest::keyClicks(&Find<QLineEdit>(dialog, "txtdefprof"), "/A b");
+        EXPECT_EQ(S(Find<QLineEdit>(dialog, "txtdefprof").text()), "/home/me/airfoils/A b");
+    });
+}
+
+TEST_F(FrmdefautTest, AUnitBringsItsFixedSetAndNoConversion) {
+    programme.rib.cordeAfich = "200";
+    Use([this](frmdefaut &dialog) {
+        Click(dialog, "inches");
+        EXPECT_EQ(Shown(dialog), kInches);
+        ExpectUnit(dialog, " in");
+        EXPECT_EQ(programme.settings.Unite, " in");
+        EXPECT_EQ(Page().MargeHautAfich, "1/2");
+        EXPECT_EQ(Page().NumIndex, 1);
+        EXPECT_EQ(Page().YdprintAfich, "2");
+        EXPECT_EQ(Rib().cordeAfich, "200");
+        EXPECT_EQ(Rib().corde, 200.0F);
+        Click(dialog, "mm");
+        EXPECT_EQ(Shown(dialog), kMillimetres);
+        ExpectUnit(dialog, " mm");
+        EXPECT_EQ(Page().MargeBasAfich, "15");
+        EXPECT_EQ(Page().recouvrementAfich, "20");
+        EXPECT_EQ(Page().NumIndex, 0);
+    });
+    EXPECT_THAT(view.asked, IsEmpty());
+}
+
+TEST_F(FrmdefautTest, AClickOnTheUnitInForceChangesNothing) {
+    programme.settings.page.MargeHautAfich = "12";
+    Use([this](frmdefaut &dialog) {
+        Type(dialog, 0, "190");
+        Click(dialog, "mm");
+        EXPECT_EQ(S(Box(dialog, 0).text()), "190");
+        EXPECT_EQ(Page().MargeHautAfich, "12");
+    });
+}
+
+TEST_F(FrmdefautTest, TheKeyboardChoosesAUnitToo) {
+    Use([](frmdefaut &dialog) {
+        Find<QRadioButton>(dialog, "mm").setFocus();
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Up);
+        EXPECT_EQ(Shown(dialog), kInches);
+        ExpectUnit(dialog, " in");
+    });
+}
+
+TEST_F(FrmdefautTest, AnotherUnitWithYesClearsTheRib) {
+    platform.Expect(BoxAnswer::yes);
+    std::string unit_on_file_at_clear;
+    view.on_clear = [&] { unit_on_file_at_clear = Stored("Defaut", "unit"); };
+    EXPECT_EQ(Use([](frmdefaut &dialog) {
+                  Click(dialog, "inches");
+                  Click(dialog, "cmdok");
+              }),
+              Left::accepted);
+    EXPECT_THAT(view.asked, ElementsAre("affclear", "AfficheUnite", "AfficheCorde"));
+    EXPECT_EQ(unit_on_file_at_clear, "in");
+    EXPECT_EQ(programme.settings.Unite, " in");
+    EXPECT_THAT(folder.Bytes("Loftwing.ini"), HasSubstr("unit= in\r\n"));
+    // A fraction is kept as typed.
+    EXPECT_EQ(Stored("Defaut", "EpCoffrageAfich"), "1/16");
+    EXPECT_EQ(Stored("Marges", "MargeHaut"), "1/2");
+    EXPECT_EQ(Stored("Marges", "NumIndex"), "1");
+    EXPECT_EQ(Rib().corde, 203.2F);
+    EXPECT_EQ(Rib().EpCoffrage, 1.5875F);
+}
+
+TEST_F(FrmdefautTest, AnotherUnitWithNoLeavesEverythingAsTheDialogFoundIt) {
+    programme.settings.page.MargeHautAfich = "12";
+    programme.settings.page.MargeHaut = 12;
+    const std::string file = folder.Bytes("Loftwing.ini");
+    platform.Expect(BoxAnswer::no);
+    const Left left = Use([this](frmdefaut &dialog) {
+        Click(dialog, "inches");
+        Click(dialog, "cmdok");
+        EXPECT_TRUE(dialog.isVisible());
+        EXPECT_EQ(Shown(dialog), kOnFile);
+        ExpectUnit(dialog, " mm");
+        EXPECT_EQ(programme.settings.Unite, " mm");
+        EXPECT_THAT(view.asked, ElementsAre("AfficheUnite"));
+        Type(dialog, 0, "1/2");
+        EXPECT_EQ(S(Box(dialog, 0).text()), "12");
+    });
+    EXPECT_EQ(left, Left::open);
+    EXPECT_EQ(Page().MargeHautAfich, "12");
+    EXPECT_EQ(Page().MargeHaut, 12.0F);
+    EXPECT_EQ(Page().MargeBasAfich, "15");
+    EXPECT_EQ(Page().NumIndex, 0);
+    EXPECT_EQ(Rib().cordeAfich, "200");
+    EXPECT_EQ(folder.Bytes("Loftwing.ini"), file);
+    EXPECT_EQ(platform.boxes.at(0).fallback, BoxAnswer::no);
+}
+
+TEST_F(FrmdefautTest, AfterANoTheOldUnitCanBeSavedWithoutAQuestion) {
+    platform.Expect(BoxAnswer::no);
+    EXPECT_EQ(Use([](frmdefaut &dialog) {
+                  Click(dialog, "inches");
+                  Click(dialog, "cmdok");
+                  Click(dialog, "cmdok");
+              }),
+              Left::accepted);
+    EXPECT_EQ(Stored("Defaut", "unit"), "mm");
+    EXPECT_EQ(Stored("Defaut", "cordeAfich"), "180");
+    EXPECT_THAT(view.asked, ElementsAre("AfficheUnite", "AfficheUnite", "AfficheCorde"));
+}
+
+TEST_F(FrmdefautTest, AYesHoldsWhileAChordIsTypedAgain) {
+    platform.Expect(BoxAnswer::yes);
+    platform.Expect(BoxAnswer::ok); // no chord
+    EXPECT_EQ(Use([](frmdefaut &dialog) {
+                  Click(dialog, "inches");
+                  Type(dialog, 0, "0");
+                  Click(dialog, "cmdok");
+                  EXPECT_EQ(S(Box(dialog, 0).selectedText()), "0");
+                  QTest::keyClicks(&Box(dialog, 0), "9");
+                  Click(dialog, "cmdok");
+              }),
+              Left::accepted);
+    EXPECT_THAT(view.asked, ElementsAre("affclear", "AfficheUnite", "AfficheCorde"));
+    EXPECT_EQ(Rib().cordeAfich, "9");
+}
+
+TEST_F(FrmdefautTest, AYesIsForgottenWhenTheUnitIsChosenAnew) {
+    platform.Expect(BoxAnswer::yes);
+    platform.Expect(BoxAnswer::ok);
+    platform.Expect(BoxAnswer::no);
+    Use([](frmdefaut &dialog) {
+        Click(dialog, "inches");
+        Type(dialog, 0, "0");
+        Click(dialog, "cmdok");
+        Click(dialog, "mm");
+        Click(dialog, "inches");
+        Click(dialog, "cmdok");
+        ExpectUnit(dialog, " mm");
+    });
+}
+
+TEST_F(FrmdefautTest, ThereAndBackNeedsNoQuestion) {
+    EXPECT_EQ(Use([](frmdefaut &dialog) {
+                  Click(dialog, "inches");
+                  Click(dialog, "mm");
+                  Click(dialog, "cmdok");
+              }),
+              Left::accepted);
+    EXPECT_EQ(Stored("Defaut", "cordeAfich"), "200");
+    EXPECT_THAT(view.asked, ElementsAre("AfficheUnite", "AfficheCorde"));
+}
+
+TEST_F(FrmdefautTest, CancelEscapeAndTheClosingButtonPutBackTheUnitAlone) {
+    const std::function<void(frmdefaut &)> ways[] = {
+        [](frmdefaut &dialog) { Click(dialog, "cmdannuler"); },
+        [](frmdefaut &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); },
+        [](frmdefaut &dialog) { dialog.close(); }};
+    const std::string file = folder.Bytes("Loftwing.ini");
+    for (const auto &leave : ways) {
+        view.asked.clear();
+        programme.settings.page = MiseEnPage{};
+        EXPECT_EQ(Use([&leave](frmdefaut &dialog) {
+                      Click(dialog, "inches");
+                      Find<QLineEdit>(dialog, "txtdefprof").setText("/elsewhere");
+                      leave(dialog);
+                  }),
+                  Left::rejected);
+        EXPECT_EQ(programme.settings.Unite, " mm");
+        EXPECT_THAT(view.asked, ElementsAre("AfficheUnite"));
+        EXPECT_TRUE(Rib().Annule);
+        // The page that the click has set stays until settings are read again.
+        EXPECT_EQ(Page().MargeHautAfich, "1/2");
+        EXPECT_EQ(Page().NumIndex, 1);
+        EXPECT_EQ(Rib().cordeAfich, "200");
+        EXPECT_EQ(programme.settings.repertoires.RepProfil, "/home/me/airfoils");
+        EXPECT_EQ(folder.Bytes("Loftwing.ini"), file);
+    }
+}
+
+} // namespace
+} // namespace loftwing
