@@ -38,6 +38,7 @@ void frmInstxt::Form_Load() {
     infotxt[kPositionX].setText(Q(shown.x));
     infotxt[kPositionY].setText(Q(shown.y));
     const float size = programme_.rib.texte.TailleFont;
+    taille_avant_ = size;
     for (const std::string &entry : TaillesProposees(size)) {
         ComboTaille.addItem(Q(entry));
     }
@@ -80,6 +81,7 @@ void frmInstxt::Applique() {
         {S(infotxt[kTexte].text()), S(infotxt[kPositionX].text()), S(infotxt[kPositionY].text())},
         programme_.SaisieEnCours());
     infotxt[kTexte].setText(Q(programme_.rib.texte.InsTexte));
+    taille_avant_ = programme_.rib.texte.TailleFont;
     Redessine();
 }
 
@@ -108,7 +110,8 @@ void frmInstxt::cmdok_Click() {
 
 void frmInstxt::cmdannuler_Click() {
     programme_.rib.Annule = true;
-    // A size may have been chosen since the last redraw.
+    // A size counts as soon as it is chosen; only Apply and OK make it stay.
+    programme_.rib.texte.TailleFont = taille_avant_;
     Garde(" InsText/Cancel", [this] { Redessine(); });
     QDialog::reject();
 }

@@ -29,6 +29,7 @@ class frmInstxt : public QDialog {
   private:
     Programme &programme_;
     MainView &view_;
+    float taille_avant_ = 0; ///< the size that Cancel puts back, points
 
     std::array<QLabel, 3> Label1; ///< before the fields of the same index
     std::array<NumericField, 3> infotxt;

@@ -41,6 +41,13 @@ std::string GeneratedLabel(const RibModel &rib, const Messages &messages) {
     return DebutEtiquette(rib, messages) + " : " + rib.cordeAfich;
 }
 
+bool EstEtiquette(const RibModel &rib, const Messages &messages) {
+    const std::string &text = rib.texte.InsTexte;
+    const std::size_t colon = text.find(':');
+    return text.empty() ||
+           (colon != std::string::npos && DebutTexte(text, colon) == DebutEtiquette(rib, messages));
+}
+
 void RegenereTexte(RibModel &rib, const Messages &messages) {
     if (!rib.texte.TexteUtilisateur) {
         rib.texte.InsTexte = GeneratedLabel(rib, messages);
@@ -49,12 +56,10 @@ void RegenereTexte(RibModel &rib, const Messages &messages) {
 
 void ActualiseTexte(RibModel &rib, const Messages &messages) {
     const std::string &text = rib.texte.InsTexte;
-    const std::size_t colon = text.find(':');
-    if (colon == std::string::npos && !text.empty()) {
+    if (!text.empty() && text.find(':') == std::string::npos) {
         return;
     }
-    rib.texte.TexteUtilisateur =
-        !text.empty() && DebutTexte(text, colon) != DebutEtiquette(rib, messages);
+    rib.texte.TexteUtilisateur = !EstEtiquette(rib, messages);
     RegenereTexte(rib, messages);
 }
 

@@ -14,6 +14,9 @@ namespace loftwing {
 /// as typed. "e205 Chord : 200", "e205 Washout 2.5° Chord : 200".
 std::string GeneratedLabel(const RibModel &rib, const Messages &messages);
 
+/// Whether InsTexte is empty or still begins like the label of the rib as it is now.
+bool EstEtiquette(const RibModel &rib, const Messages &messages);
+
 /// Makes InsTexte anew, unless it is the user's own.
 void RegenereTexte(RibModel &rib, const Messages &messages);
 

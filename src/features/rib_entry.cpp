@@ -112,13 +112,16 @@ FinSaisie SaisitCorde(RibModel &rib, const std::string &typed, const Saisie &sai
     const float LongBloc = LongueurBloc(rib, corde);
     Talon talon = TalonPour(rib, {corde, rib.EpCoffrage}, saisie);
     talon = AvecMarges(talon, corde, saisie);
+    // A label names the chord, so with a new one it is the program's again even if the user has had
+    // it in hand. Words of his own stay.
+    if (EstEtiquette(rib, saisie.messages)) {
+        rib.texte.TexteUtilisateur = false;
+    }
     rib.cordeAfich = typed;
     rib.corde = corde;
     rib.bloc.LongBloc = LongBloc;
     rib.talon = talon;
     rib.Modifie = !rib.ModeCompare;
-    // A label names the chord, so a new chord makes the text the program's again.
-    rib.texte.TexteUtilisateur = false;
     return FinSaisie::prise;
 }
 

@@ -19,8 +19,8 @@ enum class FinSaisie {
 };
 
 /// Chord. A chord of 0 is refused; its text is stored all the same and the number stays. Else the
-/// heel, the template's length and the inserted text's owner follow. While two airfoils are
-/// compared the rib doesn't count as changed. `titre` is the title of the boxes.
+/// heel, the template's length and a label that stands as the inserted text follow. While two
+/// airfoils are compared the rib doesn't count as changed. `titre` is the title of the boxes.
 FinSaisie SaisitCorde(RibModel &rib, const std::string &typed, const Saisie &saisie,
                       const std::string &titre);
 

@@ -176,13 +176,25 @@ TEST_F(RibEntryTest, TheTemplateIsAsLongAsChordAndRamps) {
     }
 }
 
-TEST_F(RibEntryTest, ANewChordMakesTheTextTheProgramsAgain) {
-    rib.texte.InsTexte = "left wing";
-    rib.texte.TexteUtilisateur = true;
-    Type("corde", "256");
-    EXPECT_FALSE(rib.texte.TexteUtilisateur);
-    MajGabarit(rib, saisie);
-    EXPECT_EQ(rib.texte.InsTexte, "e205 Chord : 256");
+TEST_F(RibEntryTest, ANewChordMakesALabelTheProgramsAgain) {
+    for (const char *label : {"e205 Chord : 200", "e205 Chord : as it was", ""}) {
+        rib.texte.InsTexte = label;
+        rib.texte.TexteUtilisateur = true; // it has been in the text dialog
+        Type("corde", "256");
+        EXPECT_FALSE(rib.texte.TexteUtilisateur) << label;
+        MajGabarit(rib, saisie);
+        EXPECT_EQ(rib.texte.InsTexte, "e205 Chord : 256");
+    }
+}
+
+TEST_F(RibEntryTest, ANewChordLeavesTheUsersOwnWords) {
+    for (const char *words : {"left wing", "left wing : 3", "e205 left : 200"}) {
+        rib.texte.InsTexte = words;
+        rib.texte.TexteUtilisateur = true;
+        Type("corde", "256");
+        MajGabarit(rib, saisie);
+        EXPECT_EQ(rib.texte.InsTexte, words);
+    }
 }
 
 TEST_F(RibEntryTest, InCompareViewANewChordDoesNotMarkTheRib) {

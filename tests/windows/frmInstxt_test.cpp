@@ -243,16 +243,28 @@ TEST_F(FrmInstxtTest, OkByReturnStoresAndKeepsTheSize) {
     EXPECT_THAT(view.asked, ElementsAre("RetraceVues", "affiche"));
 }
 
-TEST_F(FrmInstxtTest, ASizeCountsAtOnceButOnlyOkKeepsItForTheNextRun) {
+TEST_F(FrmInstxtTest, ASizeCountsAtOnceButCancelPutsTheOldOneBack) {
+    Text().TailleFont = 9;
     Use([this](frmInstxt &dialog) {
         Size(dialog, "20");
         EXPECT_EQ(Text().TailleFont, 20.0F);
         EXPECT_THAT(view.asked, IsEmpty());
         Click(dialog, "cmdannuler");
     });
-    EXPECT_EQ(Text().TailleFont, 20.0F);
+    EXPECT_EQ(Text().TailleFont, 9.0F);
     EXPECT_EQ(StoredSize(), "");
     EXPECT_FALSE(programme.rib.Modifie);
+}
+
+TEST_F(FrmInstxtTest, AnAppliedSizeStaysButOnlyOkKeepsItForTheNextRun) {
+    Use([](frmInstxt &dialog) {
+        Size(dialog, "20");
+        Click(dialog, "CmdApply");
+        Size(dialog, "6");
+        Click(dialog, "cmdannuler");
+    });
+    EXPECT_EQ(Text().TailleFont, 20.0F);
+    EXPECT_EQ(StoredSize(), "");
 }
 
 TEST_F(FrmInstxtTest, ASizeOutsideTheListShowsAndSurvives) {
