@@ -5,6 +5,8 @@
 // Pictures go to FOLDER, named WINDOW-LANGUAGE-UNIT.png. SCALE is that of the font, 1 if left out.
 
 #include "features/frmInstxt.h"
+#include "features/frmlongeron.h"
+#include "features/frmtrou.h"
 #include "lang/frmlang.h"
 #include "mainwindow/frmAbout.h"
 #include "mainwindow/frmInput.h"
@@ -100,6 +102,10 @@ class Pictures {
         Save(text, "frmInstxt");
         frmdefaut defaults(programme_, *window_, window_.get());
         Save(defaults, "frmdefaut");
+        frmlongeron spars(programme_, *window_, window_.get());
+        Save(spars, "frmlongeron");
+        frmtrou holes(programme_, *window_, window_.get());
+        Save(holes, "frmtrou");
         frmAbout about(programme_, window_.get());
         Save(about, "frmAbout");
         frmSplash splash(programme_, window_.get());
