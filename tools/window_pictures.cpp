@@ -70,6 +70,7 @@ class Pictures {
         rib.EpBA = 8;
         rib.EpBF = 25;
         rib.NbRep = 3;
+        AddFeatures();
         rib.AffEpr = rib.AffHautBA = rib.AffHautBF = true;
         window_->affiche();
         Save(*window_, "frmmain");
@@ -91,6 +92,25 @@ class Pictures {
     static Paths PathsIn(const std::string &home) {
         const std::string resources = std::string(LOFTWING_SOURCE_DIR) + "/resources";
         return {resources, resources + "/lng", home + "/Loftwing.ini", resources + "/help"};
+    }
+
+    void AddFeatures() {
+        const bool inches = programme_.settings.Unite == kUniteIn;
+        const std::string width = inches ? "3/8" : "10";
+        const std::string depth = inches ? "3/16" : "5";
+        RibModel &rib = programme_.rib;
+        const Saisie typed = programme_.SaisieEnCours();
+        const Refus nobody = [](float) {};
+        StockeLongeron(rib.longeron[0], {{"12%", width, depth, ""}, 2, 2, kLongeronSurface, 0},
+                       rib.corde, typed, nobody);
+        StockeLongeron(rib.longeron[1], {{"30%", depth, "0", depth}, 1, 0, kLongeronRond, 0},
+                       rib.corde, typed, nobody);
+        rib.NbLongeron = 1;
+        StockeTrou(rib.trou[0], {{"50%", width, "0"}, "0", true, 0, kTrouRond}, rib.corde, typed,
+                   nobody);
+        StockeTrou(rib.trou[1], {{"35%", width, depth}, depth, false, 1, kTrouRectangle}, rib.corde,
+                   typed, nobody);
+        rib.NbTrou = 1;
     }
 
     void TakeDialogs() {
