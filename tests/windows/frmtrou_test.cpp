@@ -5,8 +5,9 @@
 namespace loftwing {
 namespace {
 
-constexpr const char *kBad = "The hole shown lacks a size, or lies beyond the chord. "
-                             "Please correct or remove it : Dimensions = ";
+constexpr const char *kBad =
+    "The hole shown lacks a size, or lies beyond the chord. "
+    "Please correct it, or click its number and then Remove : Dimensions = ";
 
 class FrmTrouTest : public SlotsTest<frmtrou> {
   protected:
