@@ -5,6 +5,8 @@
 // Pictures go to FOLDER, named WINDOW-LANGUAGE-UNIT.png. SCALE is that of the font, 1 if left out.
 
 #include "features/frmInstxt.h"
+#include "features/frmlongeron.h"
+#include "features/frmtrou.h"
 #include "lang/frmlang.h"
 #include "mainwindow/frmAbout.h"
 #include "mainwindow/frmInput.h"
@@ -68,6 +70,7 @@ class Pictures {
         rib.EpBA = 8;
         rib.EpBF = 25;
         rib.NbRep = 3;
+        AddFeatures();
         rib.AffEpr = rib.AffHautBA = rib.AffHautBF = true;
         window_->affiche();
         Save(*window_, "frmmain");
@@ -91,6 +94,25 @@ class Pictures {
         return {resources, resources + "/lng", home + "/Loftwing.ini", resources + "/help"};
     }
 
+    void AddFeatures() {
+        const bool inches = programme_.settings.Unite == kUniteIn;
+        const std::string width = inches ? "3/8" : "10";
+        const std::string depth = inches ? "3/16" : "5";
+        RibModel &rib = programme_.rib;
+        const Saisie typed = programme_.SaisieEnCours();
+        const Refus nobody = [](float) {};
+        StockeLongeron(rib.longeron[0], {{"12%", width, depth, ""}, 2, 2, kLongeronSurface, 0},
+                       rib.corde, typed, nobody);
+        StockeLongeron(rib.longeron[1], {{"30%", depth, "0", depth}, 1, 0, kLongeronRond, 0},
+                       rib.corde, typed, nobody);
+        rib.NbLongeron = 1;
+        StockeTrou(rib.trou[0], {{"50%", width, "0"}, "0", true, 0, kTrouRond}, rib.corde, typed,
+                   nobody);
+        StockeTrou(rib.trou[1], {{"35%", width, depth}, depth, false, 1, kTrouRectangle}, rib.corde,
+                   typed, nobody);
+        rib.NbTrou = 1;
+    }
+
     void TakeDialogs() {
         frmPrint page(programme_, window_.get());
         Save(page, "frmPrint");
@@ -100,6 +122,10 @@ class Pictures {
         Save(text, "frmInstxt");
         frmdefaut defaults(programme_, *window_, window_.get());
         Save(defaults, "frmdefaut");
+        frmlongeron spars(programme_, *window_, window_.get());
+        Save(spars, "frmlongeron");
+        frmtrou holes(programme_, *window_, window_.get());
+        Save(holes, "frmtrou");
         frmAbout about(programme_, window_.get());
         Save(about, "frmAbout");
         frmSplash splash(programme_, window_.get());

@@ -68,6 +68,8 @@ class frmmain : public QMainWindow, public MainView {
     void mnu_profilcorde_Click();
     void mnu_profilepcoffrage_Click();
     void mnu_profilbaD_Click();
+    void mnu_profillongeron_Click();
+    void mnu_profiltrou_Click();
     void mnu_profilbf_Click();
     void mnu_paramrep_Click();
     void mnu_calc_Click();

@@ -12,9 +12,15 @@ namespace loftwing {
 class NotedView : public MainView {
   public:
     std::vector<std::string> asked; ///< names of the routines, in order
+    std::function<void()> on_draw;
     std::function<void()> on_clear;
 
-    void affiche() override { asked.emplace_back("affiche"); }
+    void affiche() override {
+        asked.emplace_back("affiche");
+        if (on_draw) {
+            on_draw();
+        }
+    }
     void RetraceVues() override { asked.emplace_back("RetraceVues"); }
     void affclear() override {
         asked.emplace_back("affclear");

@@ -1,0 +1,130 @@
+#include "features/frmtrou.h"
+
+namespace loftwing {
+
+namespace {
+
+constexpr int kAide = 43;
+
+} // namespace
+
+frmtrou::frmtrou(Programme &programme, MainView &view, QWidget *parent)
+    : SlotsDialog(programme, view, parent,
+                  {"frmtrou",
+                   "LblNbtrou",
+                   " Trou",
+                   kAide,
+                   {{"FrmTrou", "4"},
+                    {"FrmTrou", "2"},
+                    {"FrmTrou", "3"},
+                    {"FrmTrou", "2T"},
+                    {"FrmTrou", "5"},
+                    {"FrmTrou", "6"},
+                    {"FrmTrou", "14"},
+                    {"FrmTrou", "14T"},
+                    {"FrmTrou", "15"},
+                    {"FrmTrou", "16"},
+                    {"FrmTrou", "17"},
+                    {"FrmTrou", "18"},
+                    {"FrmTrou", "20"},
+                    {"FrmTrou", "21"}},
+                   programme.rib.NbTrou}) {
+    NameAll();
+    SuitChamps({&Text1[0], &Text1[1], &Text1[2], &Text2});
+    Text2.SetKeys(
+        TouchesSelonUnite(programme_.settings.Unite, kTouchesSigne, kTouchesFractionSigne));
+    LayOut();
+    PoseTextes();
+    connect(&Chkcentr, &QCheckBox::clicked, this, &frmtrou::Chkcentr_Click);
+    connect(&Label4, &ClickLabel::Clicked, &Chkcentr, &QCheckBox::click);
+    for (int i = 0; i < static_cast<int>(OptTrouRec.size()); ++i) {
+        connect(&At(OptTrouRec, i), &QRadioButton::clicked, this,
+                [this, i] { OptTrouRec_Click(i); });
+    }
+    Form_Load();
+}
+
+void frmtrou::PoseTextes() {
+    setWindowTitle(Q(TitreTrou(programme_.rib, SaisieEnCours())));
+    Label4.setText(Q(programme_.Text({"FrmTrou", "13"})));
+    Chkcentr.setAccessibleName(Label4.text());
+    Label5.setText(Q(programme_.Text({"FrmTrou", "19"})));
+    Frame3.setTitle(Q(programme_.Text({"FrmTrou", "7"})));
+    OptTrouRec[kTrouRond].setText(Q(programme_.Text({"FrmTrou", "11"})));
+    OptTrouRec[kTrouRectangle].setText(Q(programme_.Text({"FrmTrou", "12"})));
+}
+
+/// In the middle of the thickness a hole has no distance of its own.
+void frmtrou::Chkcentr_Click() {
+    const bool centred = Chkcentr.isChecked();
+    Text2.setEnabled(!centred);
+    if (centred) {
+        Text2.setText("0");
+    }
+}
+
+void frmtrou::OptTrouRec_Click(int index) {
+    PoseGenre(static_cast<std::uint8_t>(index));
+    SelectionneTexte();
+}
+
+/// A circle has no height; what an earlier rectangle had stays in its field.
+void frmtrou::PoseGenre(std::uint8_t kind) {
+    const bool rectangle = kind == kTrouRectangle;
+    Label2.setText(
+        Q(rectangle ? programme_.Text({"FrmTrou", "8"}) : programme_.Text({"FrmTrou", "10"})));
+    Label3.setText(Q(programme_.Text({"FrmTrou", "9"})));
+    Label3.setVisible(rectangle);
+    Text1[2].setVisible(rectangle);
+    Label6[1].setVisible(rectangle);
+}
+
+ChampsTrou frmtrou::Champs() const {
+    ChampsTrou champs;
+    for (std::size_t i = 0; i < Text1.size(); ++i) {
+        champs.Text1[i] = S(Text1[i].text());
+    }
+    champs.Text2 = S(Text2.text());
+    champs.Chkcentr = Chkcentr.isChecked();
+    champs.OptDistance = Choisi(OptDistance);
+    champs.OptTrouRec = Choisi(OptTrouRec);
+    return champs;
+}
+
+bool frmtrou::StockeTrou(int slot) {
+    RibModel &rib = programme_.rib;
+    return loftwing::StockeTrou(At(rib.trou, slot), Champs(), rib.corde, SaisieEnCours(),
+                                MessageValeur());
+}
+
+bool frmtrou::ControleTrou(int slot) {
+    const CasTrou cas{ListeVideChoisie(), !Text1[2].isHidden()};
+    return loftwing::ControleTrou(At(programme_.rib.trou, slot), cas, MessageValeur());
+}
+
+void frmtrou::AfficheTrou(int slot) {
+    const Trou &shown = At(programme_.rib.trou, slot);
+    Text1[0].setText(Q(shown.PosTrouAfich));
+    Text1[1].setText(Q(shown.DiaTrouAfich));
+    Text1[2].setText(Q(shown.HautTrouAfich));
+    Text2.setText(Q(shown.DecalTrouAfich));
+}
+
+void frmtrou::AfficheOptions(int slot) {
+    const Trou &shown = At(programme_.rib.trou, slot);
+    Chkcentr.setChecked(shown.ChkCentre == 1.0F);
+    Choisit(OptDistance, shown.RefTrou);
+    Choisit(OptTrouRec, shown.TypeTrou);
+    Chkcentr_Click();
+    PoseGenre(Choisi(OptTrouRec));
+}
+
+void frmtrou::Retire(int slot) {
+    RetireTrou(programme_.rib, slot);
+}
+
+std::string frmtrou::TexteRefus(const std::string &valeur) const {
+    return TexteValeurTrou(valeur, programme_.messages);
+}
+
+} // namespace loftwing

@@ -1,0 +1,48 @@
+// Names and places of the hole window's controls.
+
+#include "features/frmtrou.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace loftwing {
+
+void frmtrou::NameAll() {
+    NameControl(Frame3, "Frame3");
+    NameControl(Label4, "Label4");
+    NameControl(Label5, "Label5");
+    NameControl(Text2, "Text2");
+    NameControl(Chkcentr, "Chkcentr");
+    NameControls(Text1, "Text1");
+    NameControls(OptTrouRec, "OptTrouRec");
+}
+
+void frmtrou::LayOut() {
+    auto *middle = new QHBoxLayout;
+    middle->addWidget(&Chkcentr);
+    middle->addWidget(&Label4, 1);
+    LayOutDimensions(Label5)->addLayout(middle, 5, 0, 1, 3);
+    for (QWidget *of_rectangle : std::initializer_list<QWidget *>{&Label3, &Text1[2], &Label6[1]}) {
+        GardePlace(*of_rectangle);
+    }
+    LayOutCommandes();
+    auto *kinds = new QVBoxLayout(&Frame3);
+    for (QRadioButton &kind : OptTrouRec) {
+        kinds->addWidget(&kind);
+    }
+    auto *beside = new QVBoxLayout;
+    beside->addWidget(&Frame6, 1);
+    beside->addWidget(&Frame3);
+    auto *entry = new QHBoxLayout;
+    entry->addWidget(&Frame2, 1);
+    entry->addLayout(beside);
+    auto *rows = new QVBoxLayout(this);
+    rows->addLayout(LigneListe());
+    rows->addLayout(entry);
+    rows->addStretch();
+    rows->addLayout(LigneBoutons());
+    RegleTabulation({&Chkcentr, &OptTrouRec[0], &OptTrouRec[1]});
+}
+
+} // namespace loftwing

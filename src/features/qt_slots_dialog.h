@@ -1,0 +1,167 @@
+/// What the windows of spars and of holes have in common.
+#pragma once
+
+#include "features/qt_numbered_list.h"
+#include "platform/qt_form.h"
+#include "programme/main_view.h"
+#include "programme/programme.h"
+
+#include <QDialog>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace loftwing {
+
+/// Index of the button that is chosen in a group; 0 when none is.
+template <class Group>
+std::uint8_t Choisi(const Group &group) {
+    for (std::size_t i = 0; i < group.size(); ++i) {
+        if (group[i].isChecked()) {
+            return static_cast<std::uint8_t>(i);
+        }
+    }
+    return 0;
+}
+
+/// Chooses a button of a group. An index that there isn't (from a damaged file) is the first, so
+/// that it can be put right here.
+template <class Group>
+void Choisit(Group &group, std::uint8_t index) {
+    group[index < group.size() ? index : 0].setChecked(true);
+}
+
+/// What is hidden keeps its place, so that nothing else moves.
+void GardePlace(QWidget &widget);
+
+/// A table of up to twelve entries that is edited one entry at a time. A row of numbers says which
+/// entry the fields show: a finished one that was clicked (the selection), or else the work slot
+/// behind them. Whatever the fields say is stored before it is checked, and stays.
+class SlotsDialog : public QDialog {
+    Q_OBJECT
+
+  public:
+    /// Escape and the window's own close button do what Close does.
+    void reject() override;
+
+  protected:
+    /// Where the words come from that both windows have.
+    struct Mots {
+        LngKey cadre;              ///< the frame of the dimensions, named in refusals
+        LngKey place_mm, place_in; ///< label of the location, which names the unit
+        LngKey place_tip;
+        LngKey depuis_ba, depuis_bf;
+        LngKey liste, liste_tip;
+        LngKey entree; ///< the frame of the commands
+        LngKey ajout, modif, effac;
+        LngKey plein, sans_choix; ///< told when the list is full, or nothing is selected
+    };
+    /// What tells the two windows apart.
+    struct Genre {
+        const char *fenetre;    ///< name of the window
+        const char *etiquettes; ///< name of the numbers
+        const char *label;      ///< label of its failures, without what was done
+        int aide;               ///< help context
+        Mots mots;
+        std::uint8_t &count; ///< finished entries
+    };
+
+    SlotsDialog(Programme &programme, MainView &view, QWidget *parent, const Genre &genre);
+
+    Programme &programme_;
+    MainView &view_;
+
+    // The frames go first, since what stands in them is destroyed before them.
+    QGroupBox Frame2; ///< dimensions
+    QGroupBox Frame6; ///< commands of the list
+    QLabel LabelListe;
+    NumberedList numeros_;
+    QLabel Label1;                ///< location
+    QLabel Label2;                ///< first size
+    QLabel Label3;                ///< second size
+    std::array<QLabel, 3> Label6; ///< units behind the fields but the location
+    std::array<QRadioButton, 2> OptDistance;
+    QPushButton cmdajout;
+    QPushButton Cmdmodif;
+    QPushButton Cmdeffac;
+    QPushButton CmdApply;
+    QPushButton cmdok;
+    QPushButton Cmdannuler;
+    QPushButton cmdaide;
+
+    // What a window does with one slot. Stocke and Controle tell whether the entry passes.
+    virtual bool Stocke(int slot) = 0;
+    virtual bool Controle(int slot) = 0;
+    virtual void Affiche(int slot) = 0;
+    virtual void AfficheOptions(int slot) = 0;
+    virtual void Retire(int slot) = 0;
+    virtual std::string TexteRefus(const std::string &valeur) const = 0;
+
+    /// The four fields: the location, the two sizes and one more. They get their keys.
+    void SuitChamps(const std::array<NumericField *, 4> &champs);
+    /// Shows the work slot, as the window does when it opens.
+    void Form_Load();
+    // qt_slots_dialog_build.cpp
+    QLayout *LigneListe();
+    QLayout *LigneBoutons();
+    void LayOutCommandes();
+    /// A row each of label, field and unit; `label` is that of the fourth field.
+    QGridLayout *LayOutDimensions(QLabel &label);
+    /// Tab goes from the list through the location to `order` and on to the buttons.
+    void RegleTabulation(const std::vector<QWidget *> &order);
+
+    Saisie SaisieEnCours() const { return programme_.SaisieEnCours(); }
+    /// Hears of refused values: a box, and the location is ready to be typed over.
+    Refus MessageValeur();
+    /// Whether the list has no finished entry and a number has been clicked.
+    bool ListeVideChoisie() const { return genre_.count == 0 && etiquette_; }
+    /// Selects a field's text, with the focus if a field has had it before.
+    void Selectionne(NumericField &field) const;
+    void SelectionneTexte() const;
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+  private:
+    Genre genre_;
+    std::array<NumericField *, 4> champs_{};
+    bool champ_visite_ = false; ///< a field has had the focus
+
+    int choisi_ = 0;         ///< the selected entry
+    bool selection_ = false; ///< whether there is one
+    bool etiquette_ = false; ///< a number was clicked since the last entry was added
+    bool echec_ = false;     ///< the last check failed
+    std::string valeur_;     ///< on this value
+
+    void NameAll(); // qt_slots_dialog_build.cpp
+    void PoseTextes();
+    void ConnectAll();
+
+    void Numero_Click(int index);
+    void cmdajout_Click();
+    void Cmdmodif_Click();
+    void Cmdeffac_Click();
+    void CmdApply_Click();
+    void cmdok_Click();
+    void Cmdannuler_Click();
+
+    void Garde(const char *what, const std::function<void()> &action);
+    void Ajoute();
+    void Modifie();
+    void Efface();
+    void Applique();
+    bool Verifie(bool passes);
+    void FinSelection();
+    void Montre(int slot);
+    void MontreTravail();
+    void DitValeur(const std::string &valeur);
+    void Informe(LngKey key) const;
+};
+
+} // namespace loftwing

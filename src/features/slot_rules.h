@@ -1,0 +1,58 @@
+/// What the lists of spars and of holes have in common.
+#pragma once
+
+#include "core/rib_model.h"
+#include "core/units.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <utility>
+
+namespace loftwing {
+
+/// Slots that the user can reach: numbers 1 to 12 stand for slots 0 to 11.
+inline constexpr int kNumeros = 12;
+
+/// Hears of a value that is refused, in mm.
+using Refus = std::function<void(float mm)>;
+
+/// Place of a spar or hole in mm from the leading edge out of its text, which counts from the
+/// trailing edge when `ref` isn't 0. Failures as PosDepuisBA.
+float PlaceDepuis(const std::string &afich, std::uint8_t ref, float corde, const Saisie &saisie);
+
+/// Whether that place `mm` passes: no percentage and no length counted from the leading edge may
+/// exceed the chord. A length counted from the trailing edge that does is not caught here, since
+/// its place lies before the leading edge and not beyond the chord.
+bool PlaceAdmise(const std::string &afich, std::uint8_t ref, float mm, float corde);
+
+/// The entry in the work slot is finished and the next slot becomes the work slot. False at the
+/// ceiling of twelve: the count stays at 11, and the twelfth entry remains the work slot.
+bool AvanceTravail(std::uint8_t &count);
+
+/// Takes `slot` out of a list: those behind it, up to the work slot, move ahead by `copie(from,
+/// into)`, the old work slot is emptied by `efface` and the count falls by one. With no finished
+/// entry only the slot itself is emptied. Failure 9 for a slot beyond the work slot.
+template <class Slots, class Copie, class Efface>
+void RetireEmplacement(Slots &slots, std::uint8_t &count, int slot, Copie copie, Efface efface) {
+    if (slot < 0 || slot > count) {
+        throw MakeFailure(kSubscriptOutOfRange);
+    }
+    for (int i = slot + 1; i <= count; ++i) {
+        copie(std::as_const(At(slots, i)), At(slots, i - 1));
+    }
+    efface(At(slots, count));
+    if (count > 0) {
+        --count;
+    }
+}
+
+/// Caption of a window that works on the rib's chord: "Spars setup 200  mm".
+std::string TitreAvecCorde(const std::string &titre, const RibModel &rib, const std::string &Unite);
+
+/// The text of a refusal: what is said, the name of the frame that the value stands in, the value.
+std::string TexteValeur(const std::string &words, const std::string &cadre,
+                        const std::string &valeur);
+
+} // namespace loftwing

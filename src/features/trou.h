@@ -1,0 +1,56 @@
+/// Rules of the holes.
+#pragma once
+
+#include "features/slot_rules.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace loftwing {
+
+/// Values of TypeTrou.
+inline constexpr std::uint8_t kTrouRond = 0;
+inline constexpr std::uint8_t kTrouRectangle = 1;
+
+/// What the user typed and chose for one hole.
+struct ChampsTrou {
+    std::array<std::string, 3> Text1; ///< location, diameter or width, height
+    std::string Text2;                ///< distance from the reference line
+    bool Chkcentr = false;            ///< in the middle of the thickness
+    std::uint8_t OptDistance = 0;     ///< edge that the location counts from
+    std::uint8_t OptTrouRec = 0;      ///< kind
+};
+
+/// Stores all of it in a slot and tells whether the location passes; one that doesn't is told to
+/// `MessageValeur` and stored all the same. Failures as VersMm, and 6 beyond 32 bits; what was
+/// converted before stays stored.
+bool StockeTrou(Trou &slot, const ChampsTrou &champs, float corde, const Saisie &saisie,
+                const Refus &MessageValeur);
+
+/// What the checks of a stored hole depend on beside the hole.
+struct CasTrou {
+    bool liste_vide_choisie; ///< no finished hole, and the user has clicked the first number
+    bool hauteur_demandee;   ///< the height is asked for
+};
+
+/// Whether a stored hole has the sizes that it needs; one that is missing is told to
+/// `MessageValeur`. Where the hole ends is held against nothing. In a list without holes whose
+/// first number was clicked everything passes, so that an empty list can be left.
+bool ControleTrou(const Trou &slot, const CasTrou &cas, const Refus &MessageValeur);
+
+/// Back to "0": texts and numbers with the middle of the thickness; the options. Neither touches
+/// the spare text.
+void EffaceTrou(Trou &slot);
+void EffaceOptions(Trou &slot);
+
+/// Takes a hole out of the rib; those behind it move ahead. Place in mm and spare text stay with
+/// their slot. Failure 9 for a slot beyond the work slot.
+void RetireTrou(RibModel &rib, int slot);
+
+/// Caption of the window, which titles its boxes.
+std::string TitreTrou(const RibModel &rib, const Saisie &saisie);
+/// Text of the box about a value that is refused, as shown to the user.
+std::string TexteValeurTrou(const std::string &valeur, const Messages &messages);
+
+} // namespace loftwing

@@ -1,0 +1,253 @@
+// Add, Modify and Remove of the spar window.
+
+#include "windows/frmlongeron_fixture.h"
+
+namespace loftwing {
+namespace {
+
+// Add.
+
+TEST_F(FrmLongeronTest, AddTakesWhatWasTypedAndOffersTheNext) {
+    Use([this](Seen &window) {
+        TypeSpar(window, "50", "10", "5");
+        window.Click("Opte(1)");
+        window.Click("cmdajout");
+        EXPECT_EQ(Count(), 1);
+        EXPECT_EQ(window.Numbers(), "1 [2]");
+        EXPECT_EQ(window.Texts(4), "0|0|0|");
+        EXPECT_TRUE(window.Chosen("Opte(0)"));
+        EXPECT_EQ(window.Focus(), "Text1(0)");
+        EXPECT_TRUE(window.AllSelected(window.Box(0)));
+        QTest::keyClicks(&window.Box(0), "80");
+        window.Type(1, "6");
+        window.Type(2, "3");
+        window.Click("cmdok");
+    });
+    EXPECT_EQ(Count(), 1);
+    EXPECT_EQ(Places(3), "50 80 0");
+    EXPECT_EQ(Slot(0).OptLongExt, 1);
+    EXPECT_EQ(Slot(1).LargLong, 6.0F);
+    EXPECT_TRUE(programme.rib.Modifie);
+}
+
+TEST_F(FrmLongeronTest, AddOfAnEmptyEntryIsRefused) {
+    ExpectBoxes(1);
+    Use([this](Seen &window) {
+        window.Click("cmdajout");
+        EXPECT_EQ(Count(), 0);
+        EXPECT_EQ(window.Focus(), "Text1(0)");
+        EXPECT_TRUE(window.AllSelected(window.Box(0)));
+    });
+    EXPECT_EQ(LastBox(), std::string(kBadSpar) + "0");
+    EXPECT_EQ(platform.boxes.at(0).title, "Spars setup 200  mm");
+}
+
+TEST_F(FrmLongeronTest, AddOfALocationBeyondTheChordIsRefusedAndKeepsItInTheSlot) {
+    ExpectBoxes(1);
+    Use([this](Seen &window) {
+        TypeSpar(window, "210", "10", "5");
+        window.Click("cmdajout");
+        EXPECT_EQ(Count(), 0);
+        EXPECT_EQ(window.Texts(3), "210|10|5");
+    });
+    EXPECT_EQ(LastBox(), std::string(kBadSpar) + "210");
+    EXPECT_EQ(Slot(0).PosLongAfich, "210");
+}
+
+TEST_F(FrmLongeronTest, AddWhileASparIsSelectedShowsAndAddsTheWorkSlot) {
+    Spars(2); // work slot at 40
+    Use([this](Seen &window) {
+        window.ClickNumber(0);
+        window.Type(0, "99");
+        window.Click("cmdajout");
+        EXPECT_EQ(window.Numbers(), "1 2 3 [4]");
+    });
+    EXPECT_EQ(Count(), 3);
+    EXPECT_EQ(Places(4), "20 30 40 0");
+}
+
+TEST_F(FrmLongeronTest, AddKeepsWhatWasTypedAfterTheWorkSlotsOwnNumberWasClicked) {
+    Spars(1);
+    Use([this](Seen &window) {
+        window.ClickNumber(1);
+        window.Type(0, "99");
+        window.Click("cmdajout");
+    });
+    EXPECT_EQ(Places(3), "20 99 0");
+    EXPECT_EQ(Count(), 2);
+}
+
+TEST_F(FrmLongeronTest, ATwelfthAddShowsTheMessageAndTheCountStaysAt11) {
+    ExpectBoxes(2);
+    Use([this](Seen &window) {
+        for (int i = 1; i <= 12; ++i) {
+            TypeSpar(window, std::to_string(10 * i).c_str(), "4", "3");
+            window.Click("cmdajout");
+        }
+        EXPECT_EQ(Count(), 11);
+        EXPECT_EQ(platform.boxes.size(), 1U);
+        EXPECT_EQ(window.Texts(3), "120|4|3");
+        EXPECT_EQ(window.Numbers(), "1 2 3 4 5 6 7 8 9 10 11 [12]");
+        window.Type(0, "125"); // a further Add overwrites the twelfth
+        window.Click("cmdajout");
+        EXPECT_EQ(Count(), 11);
+        EXPECT_EQ(Slot(11).PosLongAfich, "125");
+        window.Click("cmdok");
+    });
+    EXPECT_EQ(Slot(10).PosLongAfich, "110");
+    EXPECT_EQ(Slot(12).PosLongAfich, "0");
+    EXPECT_EQ(LastBox(), "A rib has room for 12 spars. The one shown is the twelfth : it is kept, "
+                         "and can still be changed.");
+    EXPECT_EQ(platform.boxes.at(0).title, "Spars setup 200  mm");
+}
+
+// Modify.
+
+TEST_F(FrmLongeronTest, ModifyChangesTheSelectedSparAndDraws) {
+    Spars(2);
+    Use([this](Seen &window) {
+        window.ClickNumber(1);
+        window.Type(0, "35");
+        window.Click("Cmdmodif");
+        EXPECT_EQ(window.Numbers(), "1 2 [3]");
+        EXPECT_EQ(window.Texts(3), "40|10|5");
+        EXPECT_EQ(Drawn(), 1);
+    });
+    EXPECT_EQ(Places(3), "20 35 40");
+    EXPECT_EQ(Count(), 2);
+    EXPECT_TRUE(programme.rib.Modifie);
+}
+
+TEST_F(FrmLongeronTest, ModifyWithoutASelectionAsksForOne) {
+    Spars(2);
+    ExpectBoxes(1);
+    Use([](Seen &window) {
+        window.Type(0, "35");
+        window.Click("Cmdmodif");
+        EXPECT_EQ(window.Text("Text1(0)"), "35");
+    });
+    EXPECT_EQ(LastBox(), "Please click the number of a spar first.");
+    EXPECT_EQ(Places(3), "20 30 40");
+    EXPECT_FALSE(programme.rib.Modifie);
+}
+
+TEST_F(FrmLongeronTest, TheSelectionIsOverAfterModify) {
+    Spars(2);
+    ExpectBoxes(1);
+    Use([](Seen &window) {
+        window.ClickNumber(0);
+        window.Click("Cmdmodif");
+        window.Click("Cmdmodif");
+    });
+    EXPECT_EQ(LastBox(), "Please click the number of a spar first.");
+}
+
+TEST_F(FrmLongeronTest, AWrongModificationStaysShownAndStored) {
+    Spars(2);
+    ExpectBoxes(1);
+    Use([this](Seen &window) {
+        window.ClickNumber(0);
+        window.Type(1, "60"); // 20 - 30 lies before the leading edge
+        window.Click("Cmdmodif");
+        EXPECT_EQ(window.Numbers(), "[1] 2 3");
+        EXPECT_EQ(window.Texts(3), "20|60|5");
+        EXPECT_EQ(Drawn(), 0);
+    });
+    EXPECT_EQ(LastBox(), std::string(kBadSpar) + "20");
+    EXPECT_EQ(Slot(0).LargLong, 60.0F);
+    EXPECT_EQ(Places(3), "20 30 40");
+}
+
+TEST_F(FrmLongeronTest, AfterAModificationAnEmptyWorkSlotIsRefused) {
+    Spars(1);
+    programme.rib.longeron[1] = Longeron{};
+    ExpectBoxes(1);
+    Use([this](Seen &window) {
+        window.ClickNumber(0);
+        window.Type(0, "25");
+        window.Click("Cmdmodif");
+        EXPECT_EQ(window.Numbers(), "1 [2]");
+    });
+    EXPECT_EQ(LastBox(), std::string(kBadSpar) + "0");
+    EXPECT_EQ(Slot(0).PosLongAfich, "25");
+}
+
+// Remove.
+
+TEST_F(FrmLongeronTest, RemoveClosesTheGapAndDraws) {
+    Spars(3);
+    Use([this](Seen &window) {
+        window.ClickNumber(1);
+        window.Click("Cmdeffac");
+        EXPECT_EQ(window.Numbers(), "1 2 [3]");
+        EXPECT_EQ(window.Texts(3), "50|10|5");
+        EXPECT_EQ(window.Focus(), "Text1(0)");
+        EXPECT_EQ(Drawn(), 1);
+    });
+    EXPECT_EQ(Places(4), "20 40 50 0");
+    EXPECT_EQ(Count(), 2);
+    EXPECT_EQ(Slot(3).LargLong, 0.0F);
+    EXPECT_EQ(Slot(3).OptLongExt, 0);
+    EXPECT_TRUE(programme.rib.Modifie);
+}
+
+TEST_F(FrmLongeronTest, RemoveWithoutASelectionAsksForOne) {
+    Spars(2);
+    ExpectBoxes(1);
+    Use([](Seen &window) { window.Click("Cmdeffac"); });
+    EXPECT_EQ(LastBox(), "Please click the number of a spar first.");
+    EXPECT_EQ(Places(3), "20 30 40");
+    EXPECT_FALSE(programme.rib.Modifie);
+}
+
+TEST_F(FrmLongeronTest, RemoveOfTheOnlySparLeavesAnEmptyListThatIsDrawn) {
+    Spars(0);
+    const Left left = Use([this](Seen &window) {
+        window.ClickNumber(0);
+        window.Click("Cmdeffac");
+        EXPECT_EQ(window.Numbers(), "[1]");
+        EXPECT_EQ(window.Texts(4), "0|0|0|");
+        EXPECT_TRUE(window.Chosen("Opte(0)"));
+        EXPECT_EQ(window.Focus(), "Text1(0)");
+        EXPECT_EQ(Drawn(), 1);
+        window.Click("cmdok");
+    });
+    EXPECT_EQ(left, Left::accepted);
+    EXPECT_EQ(Count(), 0);
+    EXPECT_EQ(Slot(0).LargLong, 0.0F);
+}
+
+TEST_F(FrmLongeronTest, RemoveOfAnEmptyWorkSlotMakesTheLastSparTheWorkSlot) {
+    Spars(1);
+    programme.rib.longeron[1] = Longeron{};
+    const Left left = Use([](Seen &window) {
+        window.ClickNumber(1);
+        window.Click("Cmdeffac");
+        EXPECT_EQ(window.Numbers(), "[1]");
+        EXPECT_EQ(window.Texts(3), "20|10|5");
+        window.Click("cmdok");
+    });
+    EXPECT_EQ(left, Left::accepted);
+    EXPECT_EQ(Count(), 0);
+    EXPECT_EQ(Slot(0).PosLongAfich, "20");
+}
+
+TEST_F(FrmLongeronTest, RemoveFromAFullList) {
+    Spars(11);
+    for (int i = 0; i <= 11; ++i) { // all on the chord
+        Longeron &spar = At(programme.rib.longeron, i);
+        spar.PosLongAfich = std::to_string(15 * (i + 1));
+    }
+    Use([](Seen &window) {
+        window.ClickNumber(0);
+        window.Click("Cmdeffac");
+        EXPECT_EQ(window.Numbers(), "1 2 3 4 5 6 7 8 9 10 [11]");
+        EXPECT_EQ(window.Text("Text1(0)"), "180");
+    });
+    EXPECT_EQ(Count(), 10);
+    EXPECT_EQ(Slot(0).PosLongAfich, "30");
+    EXPECT_EQ(Slot(11).PosLongAfich, "0");
+}
+
+} // namespace
+} // namespace loftwing
