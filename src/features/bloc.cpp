@@ -26,7 +26,7 @@ constexpr std::array<Rampe, 2> kRampes = {{
 
 /// A height with up to three decimals (in inches perhaps a fraction), without the blank that the
 /// picture sets before small numbers and without a point that nothing follows.
-std::string TexteHauteur(double mm, const std::string &Unite) {
+std::string TexteHauteur(float mm, const std::string &Unite) {
     if (Unite == kUniteIn) {
         return DepuisMm(mm, Unite);
     }
@@ -44,9 +44,10 @@ std::string TextePoint(const RibModel &rib, double fraction, const std::string &
     if (!rib.ProfilCharge) {
         return {};
     }
-    const double mm = static_cast<double>(rib.corde) * fraction;
+    // In the 32 bits of the chord, or a fraction of an inch would not be found exact.
+    const float mm = ToSingle(static_cast<double>(rib.corde) * fraction);
     const std::string text = TexteHauteur(std::abs(mm), Unite);
-    return (mm < 0.0 && text != "0" ? "-" : "") + text + Unite;
+    return (mm < 0.0F && text != "0" ? "-" : "") + text + Unite;
 }
 
 void AlerteRampe(const Rampe &rampe, const std::string &value, const RibModel &rib,
