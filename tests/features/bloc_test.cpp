@@ -131,10 +131,10 @@ TEST_F(BlocTest, HeightsWaitForApply) {
 }
 
 TEST_F(BlocTest, AWashoutBeyondTwentyIsTakenBackToTheLimitOfItsSign) {
-    Expect("Too large, the limit is : Washout angle 20°");
+    Expect("Above the limit : Washout angle 20°");
     EXPECT_EQ(Type(kBlocVrillage, "25"), "20");
     EXPECT_EQ(rib.vrillage, 20.0F);
-    Expect("Too small, the limit is : Washout angle -20°");
+    Expect("Below the limit : Washout angle -20°");
     EXPECT_EQ(Type(kBlocVrillage, "-25"), "-20");
     EXPECT_EQ(rib.vrillage, -20.0F);
 }
@@ -150,7 +150,7 @@ TEST_F(BlocTest, AWashoutOfTwentyPasses) {
 
 TEST_F(BlocTest, TheBoxOfAWashoutIsInFrenchToo) {
     Language("French");
-    Expect("Trop grand, la limite est\u00a0: Angle de vrillage 20°");
+    Expect("Au-dessus de la limite\u00a0: Angle de vrillage 20°");
     Type(kBlocVrillage, "21");
 }
 

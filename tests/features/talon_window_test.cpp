@@ -166,7 +166,7 @@ TEST_F(TalonWindowTest, TheTotalInABoxIsInInches) {
 
 TEST_F(TalonWindowTest, AnAngleAboveTwentyIsTakenBackWhicheverItsSign) {
     for (const char *angle : {"25", "-25", "20.01"}) {
-        Expect("Too large, the limit is : Washout angle 20°");
+        Expect("Beyond the limit : Washout angle 20°");
         EXPECT_TRUE(Type(kTalonVrillage, angle));
         EXPECT_EQ(rib.vrillage, -20.0F);
         EXPECT_EQ(TextesDuTalon(rib)[kTalonVrillage], kTexteVrillageMaxi);

@@ -9,7 +9,7 @@ namespace loftwing {
 namespace {
 
 const char *const kTooLong = "The margins together are longer than the chord : 257 mm > 256 mm";
-const char *const kTooLarge = "Too large, the limit is : Washout angle 20°";
+const char *const kTooLarge = "Beyond the limit : Washout angle 20°";
 
 using FrmTalonTest = AddonTest<frmTalon>;
 

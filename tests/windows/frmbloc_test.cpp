@@ -107,13 +107,13 @@ TEST_F(FrmblocTest, TwentyFiveDegreesTurnToTheLimitAtOnce) {
     Use([this](frmbloc &window) {
         Type(window, "txt(5)", "2");
         EXPECT_EQ(programme.rib.vrillage, 2.0F);
-        ExpectBox("Too large, the limit is : Washout angle 20°");
+        ExpectBox("Above the limit : Washout angle 20°");
         QTest::keyClicks(&Box(window, "txt(5)"), "5");
         EXPECT_EQ(Text(window, "txt(5)"), "20");
         EXPECT_EQ(programme.rib.vrillage, 20.0F);
         QTest::keyClicks(&Box(window, "txt(5)"), "-2"); // types over it
         EXPECT_EQ(programme.rib.vrillage, -2.0F);
-        ExpectBox("Too small, the limit is : Washout angle -20°");
+        ExpectBox("Below the limit : Washout angle -20°");
         QTest::keyClicks(&Box(window, "txt(5)"), "5");
         EXPECT_EQ(Text(window, "txt(5)"), "-20");
         EXPECT_EQ(programme.rib.vrillage, -20.0F);
