@@ -101,7 +101,7 @@ TextesBloc TextesDuBloc(const RibModel &rib) {
 }
 
 std::string TitreBloc(const Saisie &saisie) {
-    return saisie.messages.Text({"FrmBloc", "1"}) + " " + saisie.Unite;
+    return saisie.messages.Text({"FrmBloc", "1"}) + saisie.Unite;
 }
 
 std::string TexteLongBloc(const RibModel &rib, const std::string &Unite) {

@@ -39,7 +39,7 @@ TextesCarre TextesDuCarre(const RibModel &rib) {
 }
 
 std::string TitreCarre(const Saisie &saisie) {
-    return saisie.messages.Text({"FrmBacarre", "1"}) + " " + saisie.Unite;
+    return saisie.messages.Text({"FrmBacarre", "1"}) + saisie.Unite;
 }
 
 void ValideCarre(RibModel &rib, TextesCarre &typed, const Saisie &saisie,

@@ -91,13 +91,13 @@ TEST_F(BlocTest, WithoutAnAirfoilThereIsNoHeightToShow) {
 }
 
 TEST_F(BlocTest, CaptionAndLengthAreInTheUnitOfTheUser) {
-    EXPECT_EQ(TitreBloc(saisie), "Template for Foam cutting  mm");
+    EXPECT_EQ(TitreBloc(saisie), "Template for Foam cutting mm");
     rib.bloc.LongBloc = 279.4F;
     EXPECT_EQ(TexteLongBloc(rib, Unite), "279.4 mm");
     Unite = kUniteIn;
     Language("French");
     EXPECT_EQ(TexteLongBloc(rib, Unite), "11 in");
-    EXPECT_EQ(TitreBloc(saisie), "Gabarit de découpe du polystyrène  in");
+    EXPECT_EQ(TitreBloc(saisie), "Gabarit de découpe du polystyrène in");
 }
 
 // Typing.

@@ -130,10 +130,10 @@ TEST_F(CarreBordTest, AfterTheWindowThereIsNoStock) {
 }
 
 TEST_F(CarreBordTest, TheCaptionEndsInTheUnit) {
-    EXPECT_EQ(TitreCarre(saisie), "Leading Edge V-notch square  mm");
+    EXPECT_EQ(TitreCarre(saisie), "Leading Edge V-notch square mm");
     Language("French");
     Unite = kUniteIn;
-    EXPECT_EQ(TitreCarre(saisie), "Baguette carrée de bord d’attaque, encoche en V  in");
+    EXPECT_EQ(TitreCarre(saisie), "Baguette carrée de bord d’attaque, encoche en V in");
 }
 
 } // namespace

@@ -17,7 +17,7 @@ TEST_F(FrmbacarreTest, ShowsItsWordsAndTheStoredTexts) {
     programme.rib.carre.CarreBAXAfich = "4.5";
     programme.rib.carre.CarreBAYAfich = "-1";
     Use([](frmbacarre &window) {
-        EXPECT_EQ(S(window.windowTitle()), "Leading Edge V-notch square  mm");
+        EXPECT_EQ(S(window.windowTitle()), "Leading Edge V-notch square mm");
         EXPECT_EQ(Label(window, "Label1(0)"), "Enter the size of the square");
         EXPECT_EQ(Label(window, "Label1(1)"), "Enter the position of the axe from L.E");
         EXPECT_EQ(Label(window, "Label1(2)"),
@@ -36,7 +36,7 @@ TEST_F(FrmbacarreTest, SpeaksFrenchAndInches) {
     Language("French");
     Inches();
     Use([](frmbacarre &window) {
-        EXPECT_EQ(S(window.windowTitle()), "Baguette carrée de bord d’attaque, encoche en V  in");
+        EXPECT_EQ(S(window.windowTitle()), "Baguette carrée de bord d’attaque, encoche en V in");
         EXPECT_EQ(Label(window, "Label1(0)"), "Entrez le côté du carré");
         EXPECT_EQ(Word(window, "cmdannuler"), "Annuler");
     });

@@ -20,7 +20,7 @@ TEST_F(FrmblocTest, ShowsItsWordsAndTheStoredTexts) {
     bloc.Optquebf = 1;
     programme.rib.vrillage = -2.5F;
     Use([](frmbloc &window) {
-        EXPECT_EQ(S(window.windowTitle()), "Template for Foam cutting  mm");
+        EXPECT_EQ(S(window.windowTitle()), "Template for Foam cutting mm");
         const std::pair<const char *, const char *> captions[] = {
             {"Label1(0)", "Height under the ref. line"},
             {"Label1(1)", "L.E. ramp"},
@@ -59,7 +59,7 @@ TEST_F(FrmblocTest, SpeaksFrenchAndInches) {
     Language("French");
     Inches(); // 8 in: 8 / 16 and 8 / 32
     Use([](frmbloc &window) {
-        EXPECT_EQ(S(window.windowTitle()), "Gabarit de découpe du polystyrène  in");
+        EXPECT_EQ(S(window.windowTitle()), "Gabarit de découpe du polystyrène in");
         EXPECT_EQ(Label(window, "Label1(5)"), "Angle de vrillage");
         EXPECT_EQ(Word(window, "Optquebf(0)"), "Extrados");
         EXPECT_EQ(Label(window, "lbllongb"), "8 in");
