@@ -5,6 +5,9 @@
 // Pictures go to FOLDER, named WINDOW-LANGUAGE-UNIT.png. SCALE is that of the font, 1 if left out.
 
 #include "features/frmInstxt.h"
+#include "features/frmTalon.h"
+#include "features/frmbacarre.h"
+#include "features/frmbloc.h"
 #include "features/frmlongeron.h"
 #include "features/frmtrou.h"
 #include "lang/frmlang.h"
@@ -114,6 +117,7 @@ class Pictures {
     }
 
     void TakeDialogs() {
+        TakeAddons();
         frmPrint page(programme_, window_.get());
         Save(page, "frmPrint");
         frmcoul colours(programme_, window_.get());
@@ -139,6 +143,21 @@ class Pictures {
         // Last, since it clears the rib.
         lang language(programme_, *window_, window_.get());
         Save(language, "lang");
+    }
+
+    void TakeAddons() {
+        for (const bool extra : {false, true}) {
+            programme_.rib.talon.OptTalon = extra ? 1 : 0;
+            frmTalon heel(programme_, *window_, window_.get());
+            Save(heel, extra ? "frmTalon-extra" : "frmTalon-intra");
+        }
+        frmbacarre square(programme_, *window_, window_.get());
+        Save(square, "frmbacarre");
+        for (const bool lower : {false, true}) {
+            programme_.rib.bloc.Optquebf = lower ? 1 : 0;
+            frmbloc foam(programme_, *window_, window_.get());
+            Save(foam, lower ? "frmbloc-lower" : "frmbloc-upper");
+        }
     }
 
     void Save(QWidget &window, const std::string &name) {

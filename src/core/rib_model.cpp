@@ -89,9 +89,13 @@ void RemetVue(RibModel &rib) {
     rib.ModeCompare = false;
 }
 
+float LongueurBloc(const Bloc &bloc, float corde) {
+    return ToSingle(static_cast<double>(corde) + static_cast<double>(bloc.BAbloc) +
+                    static_cast<double>(bloc.BFbloc));
+}
+
 float LongueurBloc(const RibModel &rib, float corde) {
-    return ToSingle(static_cast<double>(corde) + static_cast<double>(rib.bloc.BAbloc) +
-                    static_cast<double>(rib.bloc.BFbloc));
+    return LongueurBloc(rib.bloc, corde);
 }
 
 } // namespace loftwing

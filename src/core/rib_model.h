@@ -127,8 +127,10 @@ void NommeProfil(RibModel &rib, const std::string &path);
 /// What a new airfoil resets in the view: scroll offsets and special views.
 void RemetVue(RibModel &rib);
 
-/// Length of the foam template of a rib of that chord: chord and both ramps, mm. Failure 6 when it
+/// Length of a foam template for a rib of that chord: chord and both ramps, mm. Failure 6 when it
 /// doesn't fit.
+float LongueurBloc(const Bloc &bloc, float corde);
+/// The same of the rib's own template.
 float LongueurBloc(const RibModel &rib, float corde);
 
 } // namespace loftwing

@@ -87,12 +87,13 @@ std::vector<Command> RibMenu() {
               &frmmain::mnu_profilepcoffrage_Click),
         SubMenu(edge, menu, {"MenuProfil", "4"}, kRib),
         Entry("mnu_profilbaD", edge, {"MenuProfil", "5"}, kAlways, &frmmain::mnu_profilbaD_Click),
-        Entry("mnu_profilbaC", edge, {"MenuProfil", "6"}, kAlways, nullptr),
+        Entry("mnu_profilbaC", edge, {"MenuProfil", "6"}, kAlways, &frmmain::mnu_profilbaC_Click),
         Entry("mnu_profillongeron", menu, {"MenuProfil", "7"}, kRib,
               &frmmain::mnu_profillongeron_Click),
         Entry("mnu_profiltrou", menu, {"MenuProfil", "8"}, kRib, &frmmain::mnu_profiltrou_Click),
         Entry("mnu_profilbf", menu, {"MenuProfil", "9"}, kRib, &frmmain::mnu_profilbf_Click),
-        Entry("mnu_profilTalon", menu, {"MenuProfil", "10"}, kFile, nullptr),
+        Entry("mnu_profilTalon", menu, {"MenuProfil", "10"}, kFile,
+              &frmmain::mnu_profilTalon_Click),
     };
 }
 
@@ -101,7 +102,7 @@ std::vector<Command> LayoutMenu() {
     return {
         Menu(menu, {"MenuLayout", "1"}, kWithRib | kDiesOnClear | kNotInView),
         Entry("mnu_paramrep", menu, {"MenuLayout", "2"}, kAlways, &frmmain::mnu_paramrep_Click),
-        Entry("mnu_parambloc", menu, {"MenuLayout", "3"}, kAlways, nullptr),
+        Entry("mnu_parambloc", menu, {"MenuLayout", "3"}, kAlways, &frmmain::mnu_parambloc_Click),
         Entry("mnu_paramvril", menu, {"MenuLayout", "4"}, kAlways, nullptr),
     };
 }

@@ -68,10 +68,13 @@ class frmmain : public QMainWindow, public MainView {
     void mnu_profilcorde_Click();
     void mnu_profilepcoffrage_Click();
     void mnu_profilbaD_Click();
+    void mnu_profilbaC_Click();
     void mnu_profillongeron_Click();
     void mnu_profiltrou_Click();
     void mnu_profilbf_Click();
+    void mnu_profilTalon_Click();
     void mnu_paramrep_Click();
+    void mnu_parambloc_Click();
     void mnu_calc_Click();
     void mnu_helpsearch_Click();
     void mnu_helpAbout_Click();

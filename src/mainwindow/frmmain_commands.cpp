@@ -188,13 +188,6 @@ void frmmain::mnu_paramrep_Click() {
     }
 }
 
-void frmmain::cmdba_Click() {
-    // The V-notch square has no window yet.
-    if (programme_.rib.TypeBA == 1) {
-        mnu_profilbaD_Click();
-    }
-}
-
 void frmmain::mnu_calc_Click() {
     if (programme_.platform.StartProgram("calc")) {
         return;

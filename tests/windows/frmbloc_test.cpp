@@ -1,0 +1,347 @@
+#include "features/frmbloc.h"
+
+#include "support/qt_window_world.h"
+#include "windows/addon_fixture.h"
+
+namespace loftwing {
+namespace {
+
+using FrmblocTest = AddonTest<frmbloc>;
+
+TEST_F(FrmblocTest, ShowsItsWordsAndTheStoredTexts) {
+    Bloc &bloc = programme.rib.bloc;
+    bloc.HTbasblocAfich = "10";
+    bloc.BAblocAfich = "30";
+    bloc.BAbloc = 30;
+    bloc.BFblocAfich = "40";
+    bloc.BFbloc = 40;
+    bloc.CoupeBFAfich = "1";
+    bloc.HTblocAfich = "35";
+    bloc.Optquebf = 1;
+    programme.rib.vrillage = -2.5F;
+    Use([](frmbloc &window) {
+        EXPECT_EQ(S(window.windowTitle()), "Template for Foam cutting mm");
+        const std::pair<const char *, const char *> captions[] = {
+            {"Label1(0)", "Height under the ref. line"},
+            {"Label1(1)", "L.E. ramp"},
+            {"Label1(2)", "T.E. ramp"},
+            {"Label1(3)", "Cutting T.E"},
+            {"Label1(4)", "Total template height"},
+            {"Label1(5)", "Washout angle"},
+            {"LabelLong", "Template length"},
+            {"lbllongb", "326 mm"},
+            {"lblpointhaut", "16 mm"},
+            {"lblpointbas", "-8 mm"},
+        };
+        for (const auto &[name, text] : captions) {
+            EXPECT_EQ(Label(window, name), text);
+        }
+        const std::pair<const char *, const char *> values[] = {
+            {"txt(0)", "10"}, {"txt(1)", "30"}, {"txt(2)", "40"},
+            {"txt(3)", "1"},  {"txt(4)", "35"}, {"txt(5)", "-2.5"}};
+        for (const auto &[name, text] : values) {
+            EXPECT_EQ(Text(window, name), text);
+        }
+        EXPECT_EQ(Word(window, "Optquebf(0)"), "Upper Surface");
+        EXPECT_EQ(Word(window, "Optquebf(1)"), "Lower Surface");
+        EXPECT_TRUE(Chosen(window, "Optquebf(1)"));
+        EXPECT_FALSE(Chosen(window, "Optquebf(0)"));
+        EXPECT_EQ(Tip(window, "txt(1)"), "Leading edge ramp");
+        EXPECT_EQ(Tip(window, "txt(2)"), "Trailing edge ramp");
+        EXPECT_EQ(Word(window, "CmdApply"), "Apply");
+        EXPECT_EQ(Word(window, "cmdok"), "OK");
+        EXPECT_EQ(Word(window, "cmdannuler"), "Cancel");
+        EXPECT_EQ(Word(window, "cmdaide"), "Help");
+    });
+}
+
+TEST_F(FrmblocTest, SpeaksFrenchAndInches) {
+    Language("French");
+    Inches(); // 8 in: 8 / 16 and 8 / 32
+    Use([](frmbloc &window) {
+        EXPECT_EQ(S(window.windowTitle()), "Gabarit de découpe du polystyrène in");
+        EXPECT_EQ(Label(window, "Label1(5)"), "Angle de vrillage");
+        EXPECT_EQ(Word(window, "Optquebf(0)"), "Extrados");
+        EXPECT_EQ(Label(window, "lbllongb"), "8 in");
+        EXPECT_EQ(Label(window, "lblpointhaut"), "1/2 in");
+        EXPECT_EQ(Label(window, "lblpointbas"), "-1/4 in");
+    });
+}
+
+TEST_F(FrmblocTest, FieldsSwallowWhatIsNoLengthOrAngle) {
+    Use([](frmbloc &window) {
+        for (const char *name : {"txt(0)", "txt(1)", "txt(2)", "txt(3)", "txt(4)"}) {
+            Type(window, name, "-a1/2.5%");
+            EXPECT_EQ(Text(window, name), "12.5") << name;
+        }
+        Type(window, "txt(5)", "-a1/.5%");
+        EXPECT_EQ(Text(window, "txt(5)"), "-1.5");
+    });
+}
+
+TEST_F(FrmblocTest, InInchesLengthsTakeASlashAndTheAngleNone) {
+    Inches();
+    Use([](frmbloc &window) {
+        for (const char *name : {"txt(0)", "txt(1)", "txt(2)", "txt(3)", "txt(4)"}) {
+            Type(window, name, "-a1.1/2%");
+            EXPECT_EQ(Text(window, name), "1.1/2") << name;
+        }
+        Type(window, "txt(5)", "-a1/.5%");
+        EXPECT_EQ(Text(window, "txt(5)"), "-1.5");
+    });
+}
+
+TEST_F(FrmblocTest, TheLengthFollowsTheTyping) {
+    Use([this](frmbloc &window) {
+        Type(window, "txt(1)", "30");
+        EXPECT_EQ(Label(window, "lbllongb"), "286 mm");
+        Type(window, "txt(2)", "40.5");
+        EXPECT_EQ(Label(window, "lbllongb"), "326.5 mm");
+        Type(window, "txt(1)", "");
+        EXPECT_EQ(Label(window, "lbllongb"), "296.5 mm");
+        EXPECT_EQ(programme.rib.bloc.BAblocAfich, "0");
+    });
+}
+
+TEST_F(FrmblocTest, TwentyFiveDegreesTurnToTheLimitAtOnce) {
+    Use([this](frmbloc &window) {
+        Type(window, "txt(5)", "2");
+        EXPECT_EQ(programme.rib.vrillage, 2.0F);
+        ExpectBox("Above the limit : Washout angle 20°");
+        QTest::keyClicks(&Box(window, "txt(5)"), "5");
+        EXPECT_EQ(Text(window, "txt(5)"), "20");
+        EXPECT_EQ(programme.rib.vrillage, 20.0F);
+        QTest::keyClicks(&Box(window, "txt(5)"), "-2"); // types over it
+        EXPECT_EQ(programme.rib.vrillage, -2.0F);
+        ExpectBox("Below the limit : Washout angle -20°");
+        QTest::keyClicks(&Box(window, "txt(5)"), "5");
+        EXPECT_EQ(Text(window, "txt(5)"), "-20");
+        EXPECT_EQ(programme.rib.vrillage, -20.0F);
+        EXPECT_EQ(platform.boxes.front().title, S(window.windowTitle()));
+    });
+    EXPECT_EQ(platform.boxes.size(), 2U);
+}
+
+TEST_F(FrmblocTest, ATextThatChangesBehindABoxStartsNoSecondOne) {
+    Use([this](frmbloc &window) {
+        platform.boxes_expected.push_back(
+            {BoxAnswer::ok, [&](const MessageBox &) { Box(window, "txt(5)").setText("99"); }});
+        Type(window, "txt(5)", "25");
+        EXPECT_EQ(Text(window, "txt(5)"), "20");
+    });
+    EXPECT_EQ(platform.boxes.size(), 1U);
+}
+
+TEST_F(FrmblocTest, TheTailIsKeptAtOnce) {
+    Use([this](frmbloc &window) {
+        Click(window, "Optquebf(1)");
+        EXPECT_EQ(programme.rib.bloc.Optquebf, 1);
+        Click(window, "Optquebf(0)");
+        EXPECT_EQ(programme.rib.bloc.Optquebf, 0);
+    });
+}
+
+TEST_F(FrmblocTest, ApplyPutsTheTemplateOnTheRibAndStays) {
+    const Left left = Use([this](frmbloc &window) {
+        QTest::keyClicks(&Box(window, "txt(0)"), "10"); // the first field waits for typing
+        Type(window, "txt(1)", "30");
+        Type(window, "txt(2)", "40");
+        Type(window, "txt(3)", "1.5");
+        Type(window, "txt(4)", "35");
+        Type(window, "txt(5)", "2.50");
+        EXPECT_EQ(programme.rib.TypeGabarit, 0);
+        Click(window, "CmdApply");
+        EXPECT_EQ(Text(window, "txt(5)"), "2.5");
+        EXPECT_EQ(Label(window, "lbllongb"), "326 mm");
+        EXPECT_EQ(Redraws(), 1);
+    });
+    EXPECT_EQ(left, Left::open);
+    const RibModel &rib = programme.rib;
+    EXPECT_EQ(rib.TypeGabarit, kGabaritMousse);
+    EXPECT_EQ(rib.bloc.HTbasbloc, 10.0F);
+    EXPECT_EQ(rib.bloc.CoupeBF, 1.5F);
+    EXPECT_EQ(rib.bloc.HTbloc, 35.0F);
+    EXPECT_EQ(rib.bloc.LongBloc, 326.0F);
+    EXPECT_EQ(rib.vrillage, 2.5F);
+    EXPECT_EQ(rib.texte.InsTexte, "e205 Washout 2.5° Chord : 256");
+    EXPECT_TRUE(rib.Modifie);
+}
+
+TEST_F(FrmblocTest, ReturnIsOk) {
+    const Left left = Use([](frmbloc &window) {
+        Type(window, "txt(4)", "35");
+        QTest::keyClick(&Box(window, "txt(4)"), Qt::Key_Return);
+    });
+    EXPECT_EQ(left, Left::accepted);
+    EXPECT_FALSE(programme.rib.Annule);
+    EXPECT_EQ(programme.rib.bloc.HTbloc, 35.0F);
+    EXPECT_EQ(programme.rib.TypeGabarit, kGabaritMousse);
+    EXPECT_EQ(Redraws(), 1);
+}
+
+TEST_F(FrmblocTest, OkTakesARampAsLongAsTheChord) {
+    const Left left = Use([](frmbloc &window) {
+        Type(window, "txt(2)", "256");
+        Click(window, "cmdok");
+    });
+    EXPECT_EQ(left, Left::accepted);
+    EXPECT_EQ(programme.rib.bloc.BFbloc, 256.0F);
+}
+
+TEST_F(FrmblocTest, OkRefusesALongerRampAndPointsToIt) {
+    const Left left = Use([this](frmbloc &window) {
+        Type(window, "txt(2)", "256.50");
+        Box(window, "txt(0)").setFocus();
+        ExpectBox("Wrong entry : Trailing edge ramp = 256.50 > Chord = 256");
+        Click(window, "cmdok");
+        EXPECT_TRUE(FocusedAndSelected(Box(window, "txt(2)")));
+    });
+    EXPECT_EQ(left, Left::open);
+    EXPECT_EQ(programme.rib.TypeGabarit, 0);
+    EXPECT_FALSE(programme.rib.Modifie);
+    EXPECT_EQ(Redraws(), 0);
+}
+
+TEST_F(FrmblocTest, ApplyCutsALongerRamp) {
+    Use([this](frmbloc &window) {
+        Type(window, "txt(1)", "300");
+        ExpectBox("Wrong entry : Leading edge ramp = 300 > Chord = 256");
+        Click(window, "CmdApply");
+        EXPECT_EQ(Text(window, "txt(1)"), "300");
+    });
+    EXPECT_EQ(programme.rib.bloc.BAbloc, 256.0F);
+    EXPECT_EQ(programme.rib.TypeGabarit, kGabaritMousse);
+}
+
+TEST_F(FrmblocTest, AWashoutOfZeroLeavesTheText) {
+    programme.rib.texte.InsTexte = "old";
+    Use([](frmbloc &window) { Click(window, "CmdApply"); });
+    EXPECT_EQ(programme.rib.texte.InsTexte, "old");
+}
+
+TEST_F(FrmblocTest, AFractionOfZerothsIsToldAndTheWindowGoesOn) {
+    Inches();
+    const Left left = Use([this](frmbloc &window) {
+        platform.Expect(BoxAnswer::ok);
+        Type(window, "txt(1)", "1/0");
+        EXPECT_EQ(platform.boxes.back().title, " Bloc/Txt");
+        platform.Expect(BoxAnswer::ok);
+        Click(window, "cmdok");
+        EXPECT_EQ(platform.boxes.back().title, " Bloc/OK");
+        EXPECT_TRUE(window.isVisible());
+        Type(window, "txt(1)", "1");
+        Click(window, "cmdok");
+    });
+    EXPECT_EQ(left, Left::accepted);
+    EXPECT_EQ(programme.rib.bloc.BAbloc, 25.4F);
+}
+
+TEST_F(FrmblocTest, CancelTakesTheTemplateAwayEvenIfItWasSet) {
+    for (const int way : {0, 1, 2}) {
+        programme.rib.Annule = false;
+        view.asked.clear();
+        const Left left = Use([this, way](frmbloc &window) {
+            Click(window, "CmdApply");
+            EXPECT_EQ(programme.rib.TypeGabarit, kGabaritMousse);
+            if (way == 0) {
+                Click(window, "cmdannuler");
+            } else if (way == 1) {
+                QTest::keyClick(&Box(window, "txt(0)"), Qt::Key_Escape);
+            } else {
+                window.close();
+            }
+        });
+        EXPECT_EQ(left, Left::rejected);
+        EXPECT_TRUE(programme.rib.Annule);
+        EXPECT_EQ(programme.rib.TypeGabarit, 0);
+        EXPECT_EQ(Redraws(), 2);
+    }
+}
+
+TEST_F(FrmblocTest, TabGoesThroughTheFieldsInTheirOrder) {
+    Use([](frmbloc &window) {
+        EXPECT_TRUE(FocusedAndSelected(Box(window, "txt(0)")));
+        ExpectTabs(window, {"txt(1)", "txt(2)", "txt(3)", "txt(4)", "txt(5)", "Optquebf(0)",
+                            "CmdApply", "cmdok", "cmdannuler", "cmdaide", "txt(0)"});
+    });
+}
+
+TEST_F(FrmblocTest, HelpOpensItsPage) {
+    Use([](frmbloc &window) {
+        Click(window, "cmdaide");
+        QTest::keyClick(&Box(window, "txt(0)"), Qt::Key_F1);
+    });
+    EXPECT_EQ(platform.help_contexts, (std::vector<int>{50, 50}));
+}
+
+TEST_F(FrmblocTest, NothingIsCutInAnyLanguageUnitOrSize) {
+    ExpectNothingCutAnywhere();
+}
+
+// The command.
+
+class TemplateCommandTest : public testing::Test {
+  protected:
+    TemplateCommandTest() { world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat")); }
+
+    void Open(const std::function<void(QDialog &)> &user) {
+        InNextDialog(user);
+        world.Action("mnu_parambloc")->trigger();
+    }
+    static void Click(QDialog &dialog, const char *name) {
+        QTest::mouseClick(dialog.findChild<QPushButton *>(name), Qt::LeftButton);
+    }
+    static void Fill(QDialog &dialog, const char *name, const char *text) {
+        dialog.findChild<QLineEdit *>(name)->setText(text);
+    }
+    bool Alive(const char *entry) const { return world.Action(entry)->isEnabled(); }
+    RibModel &Rib() { return world.programme.rib; }
+
+    WindowWorld world;
+};
+
+TEST_F(TemplateCommandTest, OpensWithoutHeelAndWithBothEntriesDead) {
+    Rib().TypeGabarit = kGabaritTalon;
+    Open([this](QDialog &dialog) {
+        EXPECT_EQ(dialog.objectName(), "frmbloc");
+        EXPECT_EQ(Rib().TypeGabarit, 0);
+        EXPECT_FALSE(Alive("mnu_profilTalon"));
+        EXPECT_FALSE(Alive("mnu_parambloc"));
+        Click(dialog, "cmdannuler");
+    });
+    EXPECT_TRUE(Alive("mnu_profilTalon"));
+    EXPECT_TRUE(Alive("mnu_parambloc"));
+    EXPECT_EQ(Rib().TypeGabarit, 0);
+}
+
+TEST_F(TemplateCommandTest, OkMakesTextAndHeelHeightsAnew) {
+    Rib().talon.TalonIntraAfich = "25";
+    Rib().talon.TalonIntra = 25;
+    Rib().IntradosMini = -0.05;
+    Open([](QDialog &dialog) {
+        Fill(dialog, "txt(4)", "40");
+        Click(dialog, "cmdok");
+    });
+    EXPECT_EQ(Rib().TypeGabarit, kGabaritMousse);
+    EXPECT_EQ(Rib().texte.InsTexte, "naca2412 Chord : 200");
+    EXPECT_EQ(Rib().talon.TalonIntraAfich, " 8.50"); // 200 * 0.05 - 1.5
+}
+
+TEST_F(TemplateCommandTest, CancelLeavesTextAndHeelHeights) {
+    Rib().talon.TalonIntraAfich = "25";
+    Rib().texte.InsTexte = "old";
+    Open([](QDialog &dialog) { Click(dialog, "cmdannuler"); });
+    EXPECT_EQ(Rib().talon.TalonIntraAfich, "25");
+    EXPECT_EQ(Rib().texte.InsTexte, "old");
+}
+
+TEST_F(TemplateCommandTest, ARibThatWasClearedMeanwhileIsLeftAlone) {
+    Open([this](QDialog &) { world.window->affclear(); });
+    EXPECT_FALSE(Alive("mnu_profilTalon"));
+    EXPECT_TRUE(Alive("mnu_parambloc")); // in a menu that is dead
+    EXPECT_FALSE(Alive("mnu_param"));
+    EXPECT_FALSE(Rib().Modifie);
+}
+
+} // namespace
+} // namespace loftwing
