@@ -40,7 +40,13 @@ void frmTalon::Form_Load() {
     MontreMarges();
     OptTalon_Click(programme_.rib.talon.OptTalon);
     SelectField(txt[programme_.rib.talon.OptTalon == 0 ? kTalonIntra : kTalonExtra]);
+    Retient();
     FormeChargee = true;
+}
+
+void frmTalon::Retient() {
+    talon_avant_ = programme_.rib.talon;
+    vrillage_avant_ = programme_.rib.vrillage;
 }
 
 void frmTalon::PoseTextes() {
@@ -137,6 +143,7 @@ bool frmTalon::Applique() {
         return false;
     }
     MontreMarges();
+    Retient();
     view_.affiche();
     return true;
 }
@@ -160,13 +167,14 @@ void frmTalon::cmdannuler_Click() {
 void frmTalon::Abandonne() {
     RibModel &rib = programme_.rib;
     AbandonneTalon(rib);
-    // A heel in use whose margins were typed too long since then can't be drawn: the plot would
-    // fail and take the whole rib with it.
-    const bool undrawable = rib.TypeGabarit == kGabaritTalon && MargesTropLongues(rib);
-    if (Echec || undrawable) {
+    if (Echec) {
         RefuseMarges(rib, programme_.SaisieEnCours(), Titre());
         return;
     }
+    // Margins and angle go into the rib while they are typed, the angle even with the sign that
+    // its box has: a heel that is in use must not be drawn by them.
+    rib.talon = talon_avant_;
+    rib.vrillage = vrillage_avant_;
     rib.Annule = true;
     view_.affiche();
     QDialog::reject();

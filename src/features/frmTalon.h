@@ -35,6 +35,8 @@ class frmTalon : public QDialog {
     bool FormeChargee = false;
     bool EnCours = false; ///< a handler is at work, perhaps waiting in a box
     bool Echec = false;   ///< the last Apply was refused
+    Talon talon_avant_;   ///< what Cancel puts back: the heel as loaded or last applied
+    float vrillage_avant_ = 0;
 
     QLabel LabelOpt;
     std::array<QRadioButton, 2> OptTalon;
@@ -62,6 +64,7 @@ class frmTalon : public QDialog {
     void PoseBulles();
 
     void Form_Load();
+    void Retient();
     void OptTalon_Click(int index);
     void txt_Change(int index);
     void CmdApply_Click();

@@ -34,7 +34,13 @@ void frmbloc::Form_Load() {
     Picture1.Montre(rib.bloc.Optquebf);
     lblpointhaut.setText(Q(TextePointHaut(rib, programme_.settings.Unite)));
     lblpointbas.setText(Q(TextePointBas(rib, programme_.settings.Unite)));
+    Retient();
     FormeChargee = true;
+}
+
+void frmbloc::Retient() {
+    bloc_avant_ = programme_.rib.bloc;
+    vrillage_avant_ = programme_.rib.vrillage;
 }
 
 void frmbloc::PoseTextes() {
@@ -126,6 +132,7 @@ void frmbloc::Applique() {
     ValideBloc(programme_.rib, TextesTapes(), programme_.SaisieEnCours(), Titre());
     MontreLongueur();
     txt[kBlocVrillage].setText(Q(TextesDuBloc(programme_.rib)[kBlocVrillage]));
+    Retient();
     view_.affiche();
 }
 
@@ -146,6 +153,9 @@ void frmbloc::cmdok_Click() {
 
 void frmbloc::cmdannuler_Click() {
     Seul(" Bloc/Cancel", [this] {
+        // Ramps and angle go into the rib while they are typed.
+        programme_.rib.bloc = bloc_avant_;
+        programme_.rib.vrillage = vrillage_avant_;
         programme_.rib.TypeGabarit = kSansGabarit;
         programme_.rib.Annule = true;
         view_.affiche();

@@ -34,6 +34,8 @@ class frmbloc : public QDialog {
     MainView &view_;
     bool FormeChargee = false;
     bool EnCours = false; ///< a handler is at work, perhaps waiting in a box
+    Bloc bloc_avant_;     ///< what Cancel puts back: the template as loaded or last applied
+    float vrillage_avant_ = 0;
 
     std::array<QLabel, kChampsBloc> Label1;
     std::array<NumericField, kChampsBloc> txt;
@@ -59,6 +61,7 @@ class frmbloc : public QDialog {
     void PoseBulles();
 
     void Form_Load();
+    void Retient();
     void Optquebf_Click(int index);
     void txt_Change(int index);
     void CmdApply_Click();

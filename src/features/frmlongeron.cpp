@@ -136,4 +136,9 @@ std::string frmlongeron::TexteRefus(const std::string &valeur) const {
     return TexteValeurLongeron(valeur, programme_.messages);
 }
 
+std::function<void()> frmlongeron::Retour(int slot) {
+    Longeron &record = At(programme_.rib.longeron, slot);
+    return [&record, before = record] { record = before; };
+}
+
 } // namespace loftwing

@@ -43,6 +43,7 @@ class frmlongeron : public SlotsDialog {
     void AfficheOptions(int slot) override;
     void Retire(int slot) override;
     std::string TexteRefus(const std::string &valeur) const override;
+    std::function<void()> Retour(int slot) override;
 
     bool StockeLongeron(int slot);
     bool ControleLongeron(int slot);

@@ -127,4 +127,9 @@ std::string frmtrou::TexteRefus(const std::string &valeur) const {
     return TexteValeurTrou(valeur, programme_.messages);
 }
 
+std::function<void()> frmtrou::Retour(int slot) {
+    Trou &record = At(programme_.rib.trou, slot);
+    return [&record, before = record] { record = before; };
+}
+
 } // namespace loftwing

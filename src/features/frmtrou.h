@@ -43,6 +43,7 @@ class frmtrou : public SlotsDialog {
     void AfficheOptions(int slot) override;
     void Retire(int slot) override;
     std::string TexteRefus(const std::string &valeur) const override;
+    std::function<void()> Retour(int slot) override;
 
     bool StockeTrou(int slot);
     bool ControleTrou(int slot);

@@ -120,6 +120,26 @@ bool SlotsDialog::Verifie(bool passes) {
     return passes;
 }
 
+bool SlotsDialog::StockeEtControle(int slot, const std::function<void()> &montre) {
+    refuses_.try_emplace(slot, Retour(slot));
+    if (!Verifie(Stocke(slot))) {
+        return false;
+    }
+    montre();
+    if (!Verifie(Controle(slot))) {
+        return false;
+    }
+    refuses_.erase(slot);
+    return true;
+}
+
+void SlotsDialog::RemetRefuses() {
+    for (const auto &[slot, retour] : refuses_) {
+        retour();
+    }
+    refuses_.clear();
+}
+
 /// Runs a command. A failure ("1/0" inches) is told and counts as a failed check without a value.
 void SlotsDialog::Garde(const char *what, const std::function<void()> &action) {
     try {
@@ -157,11 +177,7 @@ void SlotsDialog::Ajoute() {
     }
     FinSelection();
     numeros_.SansMarque();
-    if (!Verifie(Stocke(genre_.count))) {
-        return;
-    }
-    Affiche(genre_.count);
-    if (!Verifie(Controle(genre_.count))) {
+    if (!StockeEtControle(genre_.count, [this] { Affiche(genre_.count); })) {
         return;
     }
     etiquette_ = false;
@@ -182,7 +198,7 @@ void SlotsDialog::Modifie() {
         return;
     }
     programme_.rib.Modifie = true;
-    if (!Verifie(Stocke(choisi_)) || !Verifie(Controle(choisi_))) {
+    if (!StockeEtControle(choisi_, [] {})) {
         return;
     }
     FinSelection();
@@ -199,6 +215,7 @@ void SlotsDialog::Efface() {
         Informe(genre_.mots.sans_choix);
         return;
     }
+    RemetRefuses(); // before the slots move
     Retire(choisi_);
     FinSelection();
     MontreTravail();
@@ -220,11 +237,8 @@ void SlotsDialog::Applique() {
         Modifie();
         return;
     }
-    if (!Verifie(Stocke(genre_.count))) {
-        return;
-    }
-    Montre(genre_.count);
-    if (Verifie(Controle(genre_.count))) {
+    if (StockeEtControle(genre_.count, [this] { Montre(genre_.count); })) {
+        RemetRefuses();
         view_.affiche();
     }
 }
@@ -241,6 +255,7 @@ void SlotsDialog::cmdok_Click() {
 void SlotsDialog::Cmdannuler_Click() {
     // The first number lets the user go whatever has been refused.
     if (choisi_ == 0 || !echec_) {
+        RemetRefuses();
         QDialog::reject();
         return;
     }

@@ -15,6 +15,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -43,7 +44,8 @@ void GardePlace(QWidget &widget);
 
 /// A table of up to twelve entries that is edited one entry at a time. A row of numbers says which
 /// entry the fields show: a finished one that was clicked (the selection), or else the work slot
-/// behind them. Whatever the fields say is stored before it is checked, and stays.
+/// behind them. Whatever the fields say is stored before it is checked, and stays until the rib is
+/// drawn or the window closes; what was refused by then gives way to what stood there before.
 class SlotsDialog : public QDialog {
     Q_OBJECT
 
@@ -103,6 +105,8 @@ class SlotsDialog : public QDialog {
     virtual void AfficheOptions(int slot) = 0;
     virtual void Retire(int slot) = 0;
     virtual std::string TexteRefus(const std::string &valeur) const = 0;
+    /// What puts a slot back as it is now.
+    virtual std::function<void()> Retour(int slot) = 0;
 
     /// The four fields: the location, the two sizes and one more. They get their keys.
     void SuitChamps(const std::array<NumericField *, 4> &champs);
@@ -138,6 +142,8 @@ class SlotsDialog : public QDialog {
     bool etiquette_ = false; ///< a number was clicked since the last entry was added
     bool echec_ = false;     ///< the last check failed
     std::string valeur_;     ///< on this value
+    /// Slots that hold refused values, and the way back to what they held before.
+    std::map<int, std::function<void()>> refuses_;
 
     void NameAll(); // qt_slots_dialog_build.cpp
     void PoseTextes();
@@ -157,6 +163,10 @@ class SlotsDialog : public QDialog {
     void Efface();
     void Applique();
     bool Verifie(bool passes);
+    /// Stores and checks a slot, which is shown again in between where `montre` says so.
+    bool StockeEtControle(int slot, const std::function<void()> &montre);
+    /// A drawing with refused values could fail, and the rib would be lost: before one they go.
+    void RemetRefuses();
     void FinSelection();
     void Montre(int slot);
     void MontreTravail();

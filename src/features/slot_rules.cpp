@@ -12,7 +12,7 @@ bool PlaceAdmise(const std::string &afich, std::uint8_t ref, float mm, float cor
     if (ref != 0 && afich.ends_with('%')) {
         return static_cast<double>(corde) - static_cast<double>(mm) <= static_cast<double>(corde);
     }
-    return mm <= corde;
+    return mm >= 0.0F && mm <= corde;
 }
 
 bool AvanceTravail(std::uint8_t &count) {

@@ -22,9 +22,8 @@ using Refus = std::function<void(float mm)>;
 /// trailing edge when `ref` isn't 0. Failures as PosDepuisBA.
 float PlaceDepuis(const std::string &afich, std::uint8_t ref, float corde, const Saisie &saisie);
 
-/// Whether that place `mm` passes: no percentage and no length counted from the leading edge may
-/// exceed the chord. A length counted from the trailing edge that does is not caught here, since
-/// its place lies before the leading edge and not beyond the chord.
+/// Whether that place `mm` passes: neither a percentage nor a length, from whichever edge it
+/// counts, may exceed the chord. There is no surface to draw at in front of the leading edge.
 bool PlaceAdmise(const std::string &afich, std::uint8_t ref, float mm, float corde);
 
 /// The entry in the work slot is finished and the next slot becomes the work slot. False at the

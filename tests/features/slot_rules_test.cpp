@@ -47,9 +47,10 @@ TEST_F(Place, FromTheTrailingEdgeAPercentageOfTheWholeChordIsTheLimitAndPasses) 
     EXPECT_FALSE(Passes("101%", 1, 200));
 }
 
-TEST_F(Place, FromTheTrailingEdgeALengthBeyondTheLeadingEdgeIsNotCaughtHere) {
+TEST_F(Place, FromTheTrailingEdgeALengthBeyondTheLeadingEdgeDoesNotPass) {
+    EXPECT_TRUE(Passes("200", 1, 200));
     EXPECT_EQ(Mm("201", 1, 200), -1.0F);
-    EXPECT_TRUE(Passes("201", 1, 200));
+    EXPECT_FALSE(Passes("201", 1, 200));
     EXPECT_FALSE(Passes("-1", 1, 200)); // 201 mm from the leading edge
 }
 

@@ -314,22 +314,27 @@ TEST_F(FrmTalonTest, EscapeAndTheClosingButtonAreCancels) {
     }
 }
 
-TEST_F(FrmTalonTest, AHeelInUseIsNotDrawnWithMarginsThatDoNotFit) {
+TEST_F(FrmTalonTest, CancelPutsBackWhatWasTypedSinceTheLastApply) {
     const Left left = Use([this](frmTalon &window) {
+        Type(window, "txt(0)", "9");
         Type(window, "txt(1)", "157");
+        Type(window, "txt(3)", "3");
         Click(window, "CmdApply");
+        EXPECT_EQ(programme.rib.vrillage, -3.0F);
+        Type(window, "txt(3)", "5");
+        EXPECT_EQ(programme.rib.vrillage, 5.0F); // typed, not yet applied
+        Click(window, "OptTalon(1)");
         Type(window, "txt(2)", "10");
         ExpectBox(kTooLong);
         QTest::keyClicks(&Box(window, "txt(2)"), "0");
-        ExpectBox(kTooLong);
-        Click(window, "cmdannuler");
-        EXPECT_TRUE(window.isVisible());
-        EXPECT_EQ(Redraws(), 1);
-        Type(window, "txt(2)", "9");
         Click(window, "cmdannuler");
     });
     EXPECT_EQ(left, Left::rejected);
     EXPECT_EQ(Redraws(), 2);
+    EXPECT_EQ(programme.rib.TypeGabarit, kGabaritTalon);
+    EXPECT_EQ(programme.rib.vrillage, -3.0F);
+    EXPECT_EQ(programme.rib.talon.OptTalon, 0);
+    EXPECT_EQ(programme.rib.talon.TalonLong, 157.0);
 }
 
 TEST_F(FrmTalonTest, AStoredTextThatIsNoLengthCanBePutRight) {

@@ -258,6 +258,21 @@ TEST_F(FrmblocTest, CancelTakesTheTemplateAwayEvenIfItWasSet) {
     }
 }
 
+TEST_F(FrmblocTest, CancelPutsBackWhatWasTypedSinceTheLastApply) {
+    Use([this](frmbloc &window) {
+        Type(window, "txt(1)", "20");
+        Type(window, "txt(5)", "-3");
+        Click(window, "CmdApply");
+        Type(window, "txt(1)", "35");
+        Type(window, "txt(5)", "4");
+        EXPECT_EQ(programme.rib.bloc.BAbloc, 35.0F);
+        Click(window, "cmdannuler");
+    });
+    EXPECT_EQ(programme.rib.bloc.BAblocAfich, "20");
+    EXPECT_EQ(programme.rib.bloc.BAbloc, 20.0F);
+    EXPECT_EQ(programme.rib.vrillage, -3.0F);
+}
+
 TEST_F(FrmblocTest, TabGoesThroughTheFieldsInTheirOrder) {
     Use([](frmbloc &window) {
         EXPECT_TRUE(FocusedAndSelected(Box(window, "txt(0)")));

@@ -48,6 +48,38 @@ TEST_F(FrmLongeronTest, AWrongSelectionDoesNotGetIntoTheWorkSlot) {
     EXPECT_EQ(Places(3), "250 30 40");
 }
 
+TEST_F(FrmLongeronTest, RefusedValuesAreGoneWhenTheRibIsDrawn) {
+    Spars(2);
+    ExpectBoxes(1);
+    Use([this](Seen &window) {
+        window.ClickNumber(0);
+        window.Type(0, "2"); // its width reaches in front of the leading edge
+        window.Click("Cmdmodif");
+        EXPECT_EQ(Places(3), "2 30 40"); // stored all the same
+        window.ClickNumber(1);
+        window.Type(0, "33");
+        window.Click("Cmdmodif");
+        EXPECT_EQ(Drawn(), 1);
+    });
+    EXPECT_EQ(Places(3), "20 33 40");
+}
+
+TEST_F(FrmLongeronTest, RefusedValuesAreGoneWhenTheWindowCloses) {
+    Spars(2);
+    ExpectBoxes(2);
+    EXPECT_EQ(Use([this](Seen &window) {
+                  window.ClickNumber(0);
+                  window.Type(0, "2");
+                  window.Click("Cmdmodif");
+                  window.Type(0, "3"); // what was there before the first refusal counts
+                  window.Click("Cmdmodif");
+                  EXPECT_EQ(Places(3), "3 30 40");
+                  window.Click("Cmdannuler");
+              }),
+              Left::rejected);
+    EXPECT_EQ(Places(3), "20 30 40");
+}
+
 TEST_F(FrmLongeronTest, OkWithASelectionTakesItAndCloses) {
     Spars(2);
     EXPECT_EQ(Use([](Seen &window) {

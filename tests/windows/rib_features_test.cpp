@@ -172,6 +172,33 @@ TEST_F(RibFeatures, AHoleThatPokesOutIsDrawn) {
     EXPECT_TRUE(world.programme.rib.ProfilCharge);
 }
 
+TEST_F(RibFeatures, ARefusedSparDoesNotCostTheRib) {
+    const std::size_t before = Operations();
+    world.platform.Expect(BoxAnswer::ok);
+    Use(Menu("mnu_profillongeron"), "frmlongeron", [](QDialog &dialog) {
+        TypeSpar(dialog, "2");
+        Press(dialog, "CmdApply");
+        Press(dialog, "Cmdannuler");
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_TRUE(world.programme.rib.ProfilCharge);
+    EXPECT_EQ(Operations(), before);
+}
+
+TEST_F(RibFeatures, AHoleInFrontOfTheLeadingEdgeIsRefused) {
+    const std::size_t before = Operations();
+    world.platform.Expect(BoxAnswer::ok);
+    Use(Menu("mnu_profiltrou"), "frmtrou", [](QDialog &dialog) {
+        Type(dialog, "Text1(0)", "250");
+        Type(dialog, "Text1(1)", "10");
+        Press(dialog, "OptDistance(1)");
+        Press(dialog, "CmdApply");
+        Press(dialog, "Cmdannuler");
+    });
+    EXPECT_TRUE(world.programme.rib.ProfilCharge);
+    EXPECT_EQ(Operations(), before);
+}
+
 TEST_F(RibFeatures, APlotThatFailsInsideApplyClosesTheWindowAndClearsTheRib) {
     for (const char *button : {"CmdApply", "cmdok"}) {
         world.window->OuvreFichier(WindowWorld::Sample("naca2412.dat"));
