@@ -167,7 +167,7 @@ void frmTalon::cmdannuler_Click() {
 void frmTalon::Abandonne() {
     RibModel &rib = programme_.rib;
     AbandonneTalon(rib);
-    if (Echec) {
+    if (Echec && MargesTropLongues(rib)) {
         RefuseMarges(rib, programme_.SaisieEnCours(), Titre());
         return;
     }

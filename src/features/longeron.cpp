@@ -34,7 +34,11 @@ bool ControleLongeron(const Longeron &slot, const CasLongeron &cas, const Refus 
     if (centre - half < 0.0) {
         refuse(slot.PosLong);
     }
-    if (cas.liste_vide_choisie) {
+    // An untouched slot may be left. One that would be cut along the surface without any width may
+    // not: its plot would divide by 0.
+    const bool cut = slot.OptLongExt != 0 || slot.OptLongInt != 0;
+    const bool undrawable = slot.TypeLong == kLongeronSurface && cut && slot.PosLong != 0.0F;
+    if (cas.liste_vide_choisie && !(undrawable && slot.LargLong == 0.0F)) {
         return passes;
     }
     if (slot.LargLong == 0.0F) {

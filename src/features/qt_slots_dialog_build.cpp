@@ -41,7 +41,7 @@ QLayout *SlotsDialog::LigneListe() {
 QLayout *SlotsDialog::LigneBoutons() {
     auto *row = new QHBoxLayout;
     row->addStretch();
-    for (QPushButton *button : {&cmdok, &Cmdannuler, &CmdApply, &cmdaide}) {
+    for (QPushButton *button : {&CmdApply, &cmdok, &Cmdannuler, &cmdaide}) {
         row->addWidget(button);
     }
     cmdok.setDefault(true);

@@ -1,6 +1,7 @@
 #include "mainwindow/frmInput.h"
 
 #include "features/rib_entry.h"
+#include "programme/rib_trial.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -59,9 +60,16 @@ void frmInput::Form_Load() {
 }
 
 void frmInput::cmdok_Click() {
+    const auto back = RetourDuRib(programme_.rib);
     const FinSaisie fin =
         ValideSaisie(mode_, programme_.rib, S(infotxt.text()), programme_.SaisieEnCours());
     if (fin == FinSaisie::refusee) {
+        SelectField(infotxt);
+        return;
+    }
+    // A chord that a spar, hole, heel or template doesn't fit would cost the whole rib.
+    if (mode_.ModeSaisie == "corde" && !RibTracable(programme_, S(windowTitle()))) {
+        back();
         SelectField(infotxt);
         return;
     }

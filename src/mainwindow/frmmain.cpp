@@ -126,14 +126,28 @@ void frmmain::ActiveCommandesVue() {
     EnableGroup(kAliveInView, true);
 }
 
-void frmmain::FermeDialogues() {
+std::vector<QDialog *> frmmain::DialoguesNervure() const {
+    std::vector<QDialog *> open;
     for (auto *dialog : findChildren<QDialog *>()) {
         const std::string name = S(dialog->objectName());
         if (std::find(kDialoguesNervure.begin(), kDialoguesNervure.end(), name) !=
             kDialoguesNervure.end()) {
-            // done() and not close(): nothing of the rib may be asked for or put back any more.
-            dialog->done(QDialog::Rejected);
+            open.push_back(dialog);
         }
+    }
+    return open;
+}
+
+bool frmmain::DialogueNervureOuvert() const {
+    const std::vector<QDialog *> dialogs = DialoguesNervure();
+    return std::any_of(dialogs.begin(), dialogs.end(),
+                       [](const QDialog *dialog) { return dialog->isVisible(); });
+}
+
+void frmmain::FermeDialogues() {
+    for (QDialog *dialog : DialoguesNervure()) {
+        // done() and not close(): nothing of the rib may be asked for or put back any more.
+        dialog->done(QDialog::Rejected);
     }
 }
 

@@ -20,6 +20,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <vector>
 
 namespace loftwing {
 
@@ -126,6 +127,9 @@ class frmmain : public QMainWindow, public MainView {
     void DesactiveCommandes();
     void ActiveCommandesVue();
     void ViewReset();
+    /// The open dialogs that work on the rib that is shown.
+    std::vector<QDialog *> DialoguesNervure() const;
+    bool DialogueNervureOuvert() const;
     /// Whether to go on where changes could be lost.
     bool ConfirmePerte(LngKey text, LngKey title);
     void ClearRib();

@@ -142,6 +142,10 @@ void frmmain::Pic_Drag(const QPoint &pixels) {
 
 void frmmain::Form_Resize() {
     setWindowTitle(QString::fromUtf8(kTitre));
+    // What is typed in a dialog may not fit yet, and a plot that fails costs the rib.
+    if (DialogueNervureOuvert()) {
+        return;
+    }
     RetraceVues();
     affiche();
 }

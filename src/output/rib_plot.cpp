@@ -49,14 +49,21 @@ void DrawRib(const Trace &trace) {
 
 } // namespace
 
-bool PrintSubroutine(const Trace &trace, [[maybe_unused]] double factor) {
+std::optional<Failure> EchecDuTrace(const Trace &trace) {
     try {
         DrawRib(trace);
-        return true;
+        return std::nullopt;
     } catch (const Failure &failure) {
-        trace.messages.ReportPlot(failure, " Main/PrintSubroutine");
-        return false;
+        return failure;
     }
+}
+
+bool PrintSubroutine(const Trace &trace, [[maybe_unused]] double factor) {
+    const auto failure = EchecDuTrace(trace);
+    if (failure) {
+        trace.messages.ReportPlot(*failure, " Main/PrintSubroutine");
+    }
+    return !failure;
 }
 
 } // namespace loftwing

@@ -1,5 +1,9 @@
 #include "persist/frmdefaut.h"
 
+#include "base/number_text.h"
+#include "lang/ini_file.h"
+#include "programme/rib_trial.h"
+
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
@@ -145,11 +149,18 @@ TextesDefaut frmdefaut::TextesTapes() const {
     return typed;
 }
 
+/// Whether the settings file has the unit that was chosen: clearing the rib reads it from there.
+bool frmdefaut::UniteGardee() const {
+    const std::string kept = GetINIFile("Defaut", "unit", programme_.paths.fichier);
+    return Trim(kept) == Trim(programme_.settings.Unite);
+}
+
 void frmdefaut::Enregistre() {
     if (!AccepteUnite()) {
         RemetUnite();
         return;
     }
+    const auto back = RetourDuRib(programme_.rib);
     const FinDefauts fin = PrendDefauts(programme_.rib, TextesTapes(), programme_.SaisieEnCours());
     if (fin == FinDefauts::sans_corde) {
         SelectField(txtdef[kDefautCorde]);
@@ -157,10 +168,17 @@ void frmdefaut::Enregistre() {
     }
     EcritDefauts(programme_.ReglagesEnCours());
     EcritMarges(programme_.ReglagesEnCours());
+    if (unite_acceptee_ && !UniteGardee()) {
+        back();
+        RemetUnite();
+        throw MakeFailure(kPathFileAccess, programme_.paths.fichier);
+    }
     RangeDossiers(programme_.settings.repertoires, S(txtdefprof.text()), S(txtdefprofevol.text()),
                   programme_.paths.fichier, programme_.platform);
     if (unite_acceptee_) {
         view_.affclear();
+    } else if (!RibTracable(programme_, S(windowTitle()))) {
+        back(); // the defaults are for the next rib; this one can't do with them
     }
     view_.AfficheUnite();
     view_.AfficheCorde();

@@ -74,6 +74,7 @@ class frmdefaut : public QDialog {
     void PrendUnite(std::string_view Unite);
     void RemetUnite();
     bool AccepteUnite();
+    bool UniteGardee() const;
     void Enregistre();
     void ChoisitDossier(NumericField &field, std::string &folder);
     TextesDefaut TextesTapes() const;

@@ -286,5 +286,20 @@ TEST_F(LongeronTest, WordsItsRefusals) {
     EXPECT_EQ(TexteValeurLongeron("?", words.messages), "Look at this : Sizes = ?");
 }
 
+TEST(LongeronEmptyList, OnlyWhatCouldBeDrawnMayBeLeftWithoutAWidth) {
+    Longeron spar;
+    int refused = 0;
+    const Refus count = [&](float) { ++refused; };
+    const CasLongeron clicked{200, true, true};
+    EXPECT_TRUE(ControleLongeron(spar, clicked, count));
+    spar.PosLong = 50;
+    EXPECT_TRUE(ControleLongeron(spar, clicked, count)); // its axis alone
+    spar.OptLongInt = 1;
+    EXPECT_FALSE(ControleLongeron(spar, clicked, count));
+    EXPECT_EQ(refused, 1);
+    spar.TypeLong = kLongeronDroit;
+    EXPECT_TRUE(ControleLongeron(spar, clicked, count));
+}
+
 } // namespace
 } // namespace loftwing

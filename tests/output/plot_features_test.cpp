@@ -498,6 +498,19 @@ TEST_F(PlotTemplate, RampBeyondTheChordIsAFailureThatNamesIt) {
     ExpectFailure(9, "Subscript out of range: <FrmLines 13>");
 }
 
+TEST_F(PlotFeatures, ThreeStationsAreFiveLinesFromTheLeadingToTheTrailingEdge) {
+    EXPECT_TRUE(PlotBehindEdges().empty()); // none without stations
+    world.rib.NbRep = 3;
+    device.Clear();
+    world.Place();
+    const std::vector<naive::Drawn> drawn = PlotBehindEdges();
+    ASSERT_EQ(drawn.size(), 10U);
+    for (std::size_t i = 0; i < 5; ++i) {
+        EXPECT_NEAR(drawn[2 * i].x1, 283.5 + 1417.5 * static_cast<double>(i), 1e-3);
+        EXPECT_EQ(drawn[2 * i + 1].words, std::to_string(i));
+    }
+}
+
 TEST_F(PlotFeatures, SquareInAVNotchIsADiamondAroundItsAxis) {
     world.rib.TypeBA = 0;
     world.rib.carre.CarreBA = 14.14F;

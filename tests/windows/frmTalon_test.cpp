@@ -283,6 +283,19 @@ TEST_F(FrmTalonTest, AfterARefusalCancelRepeatsItUntilTheMarginsFit) {
     EXPECT_EQ(programme.rib.TypeGabarit, kGabaritTalon);
 }
 
+TEST_F(FrmTalonTest, AfterARefusalMarginsThatFitAgainCanBeCancelled) {
+    const Left left = Use([this](frmTalon &window) {
+        Type(window, "txt(1)", "257");
+        ExpectBox(kTooLong);
+        Click(window, "CmdApply");
+        Type(window, "txt(1)", "25");
+        Click(window, "cmdannuler");
+    });
+    EXPECT_EQ(left, Left::rejected);
+    EXPECT_EQ(programme.rib.TypeGabarit, 0);
+    EXPECT_EQ(programme.rib.talon.TalonBAAfich, "0");
+}
+
 TEST_F(FrmTalonTest, CancelLeavesTheRibWithoutAHeel) {
     programme.rib.Modifie = true;
     programme.rib.TypeGabarit = kGabaritMousse;

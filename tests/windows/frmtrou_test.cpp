@@ -7,7 +7,7 @@ namespace {
 
 constexpr const char *kBad =
     "The hole shown lacks a size, or lies beyond the chord. "
-    "Please correct it, or click its number and then Remove : Dimensions = ";
+    "Please correct it. To leave it as it was, click number 1 and then Close : Dimensions = ";
 
 class FrmTrouTest : public SlotsTest<frmtrou> {
   protected:

@@ -1,0 +1,17 @@
+/// Trying a value on the rib before it is kept.
+#pragma once
+
+#include "programme/programme.h"
+
+#include <functional>
+
+namespace loftwing {
+
+/// The way back to the rib's dimensions, add-ons and text as they are now.
+std::function<void()> RetourDuRib(RibModel &rib);
+
+/// Whether the rib that is shown can be drawn with the values that it has now. A plot that fails
+/// would clear it; here a box with title `titre` says what doesn't fit, and nothing is drawn.
+bool RibTracable(Programme &programme, const std::string &titre);
+
+} // namespace loftwing
