@@ -28,6 +28,15 @@ struct Messages {
     void Report(const Failure &failure, const std::string &label) const;
     /// The same in the words of the plot and print routines.
     void ReportPlot(const Failure &failure, const std::string &label) const;
+    /// Runs what an event asks for. A failure is told under `label` and goes no further.
+    template <class Action>
+    void Garde(const std::string &label, Action action) const {
+        try {
+            action();
+        } catch (const Failure &failure) {
+            Report(failure, label);
+        }
+    }
 };
 
 } // namespace loftwing

@@ -65,16 +65,6 @@ void frmInstxt::PoseTextes() {
     infotxt[kPositionY].SetKeys(TouchesSelonUnite(Unite, kTouchesSigne, kTouchesFractionSigne));
 }
 
-/// Runs `action`; a failure is told in a box, after which the dialog goes on.
-template <class Action>
-void frmInstxt::Garde(const char *label, Action action) {
-    try {
-        action();
-    } catch (const Failure &failure) {
-        programme_.messages.Report(failure, label);
-    }
-}
-
 void frmInstxt::Applique() {
     PrendTexteInsere(
         programme_.rib,
@@ -92,11 +82,11 @@ void frmInstxt::Redessine() {
 }
 
 void frmInstxt::CmdApply_Click() {
-    Garde(" InsText/Apply", [this] { Applique(); });
+    programme_.messages.Garde(" InsText/Apply", [this] { Applique(); });
 }
 
 void frmInstxt::cmdok_Click() {
-    Garde(" InsText/OK", [this] {
+    programme_.messages.Garde(" InsText/OK", [this] {
         Applique();
         // A redraw that failed has cleared the rib and closed this dialog with it.
         if (!isVisible()) {
@@ -112,7 +102,7 @@ void frmInstxt::cmdannuler_Click() {
     programme_.rib.Annule = true;
     // A size counts as soon as it is chosen; only Apply and OK make it stay.
     programme_.rib.texte.TailleFont = taille_avant_;
-    Garde(" InsText/Cancel", [this] { Redessine(); });
+    programme_.messages.Garde(" InsText/Cancel", [this] { Redessine(); });
     QDialog::reject();
 }
 
@@ -121,7 +111,7 @@ void frmInstxt::reject() {
 }
 
 void frmInstxt::ComboTaille_Click() {
-    Garde(" InsText/ComboTaille", [this] {
+    programme_.messages.Garde(" InsText/ComboTaille", [this] {
         programme_.rib.texte.TailleFont = TailleChoisie(S(ComboTaille.currentText()));
     });
 }

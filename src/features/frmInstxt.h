@@ -51,8 +51,6 @@ class frmInstxt : public QDialog {
     void cmdannuler_Click();
     void ComboTaille_Click();
 
-    template <class Action>
-    void Garde(const char *label, Action action);
     void Applique();
     void Redessine();
 };

@@ -90,11 +90,7 @@ void frmTalon::Seul(const char *label, Action action) {
         return;
     }
     const QScopedValueRollback<bool> busy(EnCours, true);
-    try {
-        action();
-    } catch (const Failure &failure) {
-        programme_.messages.Report(failure, label);
-    }
+    programme_.messages.Garde(label, action);
 }
 
 TextesTalon frmTalon::TextesTapes() const {

@@ -88,11 +88,7 @@ void frmbloc::Seul(const char *label, Action action) {
         return;
     }
     const QScopedValueRollback<bool> busy(EnCours, true);
-    try {
-        action();
-    } catch (const Failure &failure) {
-        programme_.messages.Report(failure, label);
-    }
+    programme_.messages.Garde(label, action);
 }
 
 TextesBloc frmbloc::TextesTapes() const {

@@ -1,6 +1,6 @@
 // Notches for spars.
 
-#include "core/stations.h"
+#include "features/longeron.h"
 #include "output/plot_steps.h"
 
 namespace loftwing {
@@ -9,10 +9,6 @@ namespace {
 
 constexpr std::uint8_t kDepuisCoffrage = 1; // OptLongExt and OptLongInt
 constexpr std::uint8_t kDepuisContour = 2;
-constexpr std::uint8_t kSuitSurface = 0; // TypeLong
-constexpr std::uint8_t kDroit = 1;
-constexpr std::uint8_t kRond = 2;
-constexpr std::uint8_t kDroitADistance = 3;
 
 /// The heights of one surface at a spar.
 struct Face {
@@ -90,30 +86,23 @@ void TraceEncoche(const Trace &trace, const Longeron &spar, const PlaceTracee &p
     trace.plot.DecalCoffr = option == kDepuisContour ? 0.0F : trace.plot.EpRel;
     const Encoche notch(trace, spar, place, face);
     trace.EnStyleDe(Element::longeron);
-    if (spar.TypeLong == kRond) {
+    if (spar.TypeLong == kLongeronRond) {
         notch.Rond();
-    } else if (spar.TypeLong == kDroit || spar.TypeLong == kDroitADistance) {
+    } else if (spar.TypeLong == kLongeronDroit || spar.TypeLong == kLongeronDistance) {
         notch.Droit();
-    } else if (spar.TypeLong == kSuitSurface) {
+    } else if (spar.TypeLong == kLongeronSurface) {
         notch.SuitSurface();
     }
     trace.FinDeStyle();
 }
 
-/// Stations of a spar and the surfaces there. Failure 9 where it reaches beyond the chord.
+/// Where a spar stands. Failure 9 where one of its edges is outside the rib.
 PlaceTracee PlaceDe(const Trace &trace, const Longeron &spar) {
-    const double centre = static_cast<double>(spar.PosLong);
-    const double half = static_cast<double>(spar.LargLong) / 2.0;
-    PlaceTracee place;
-    place.kr = StationDepuisBA(centre + half, trace.rib.corde);
-    place.kf = StationDepuisBA(centre - half, trace.rib.corde);
-    place.kc = StationDepuisBA(centre, trace.rib.corde);
+    PlaceTracee place = trace.PlaceAutour(spar.PosLong, spar.LargLong);
     place.Uf = trace.U(static_cast<double>(place.kf));
     place.Ur = trace.U(static_cast<double>(place.kr));
-    place.Uc = trace.U(static_cast<double>(place.kc));
     place.Lf = trace.L(static_cast<double>(place.kf));
     place.Lr = trace.L(static_cast<double>(place.kr));
-    place.Lc = trace.L(static_cast<double>(place.kc));
     return place;
 }
 
@@ -127,10 +116,9 @@ void TraceAxe(const Trace &trace, const Longeron &spar, const PlaceTracee &place
 
 /// One slot; false at place 0, behind which no spar is drawn.
 bool TraceLongeron(const Trace &trace, Longeron &spar, PlaceTracee &place) {
-    const RibModel &rib = trace.rib;
-    const auto from_edge = spar.RefLong != 0 ? PosDepuisBF : PosDepuisBA;
     // Anew each time: a place in percent follows the chord.
-    spar.PosLong = from_edge(spar.PosLongAfich, rib.corde, trace.SaisieEnCours());
+    spar.PosLong =
+        PlaceDepuis(spar.PosLongAfich, spar.RefLong, trace.rib.corde, trace.SaisieEnCours());
     if (spar.PosLong == 0.0F) {
         return false;
     }

@@ -1,14 +1,11 @@
 // Lightening and tube holes.
 
-#include "core/stations.h"
+#include "features/trou.h"
 #include "output/plot_steps.h"
 
 namespace loftwing {
 
 namespace {
-
-constexpr std::uint8_t kRond = 0; // TypeTrou
-constexpr std::uint8_t kRectangle = 1;
 
 /// A hole in device units.
 struct Percage {
@@ -44,19 +41,6 @@ void TraceRond(const Trace &trace, const Percage &hole) {
     TraceAxes(trace, hole, hole.w / 2.0);
 }
 
-/// Stations of a hole. The surfaces are looked up at its centre only: a hole may poke out.
-PlaceTracee PlaceDe(const Trace &trace, const Trou &trou) {
-    const double centre = static_cast<double>(trou.PosTrou);
-    const double half = static_cast<double>(trou.DiaTrou) / 2.0;
-    PlaceTracee place;
-    place.kr = StationDepuisBA(centre + half, trace.rib.corde);
-    place.kf = StationDepuisBA(centre - half, trace.rib.corde);
-    place.kc = StationDepuisBA(centre, trace.rib.corde);
-    place.Uc = trace.U(static_cast<double>(place.kc));
-    place.Lc = trace.L(static_cast<double>(place.kc));
-    return place;
-}
-
 Percage PercageDe(const Trace &trace, const Trou &trou, const PlaceTracee &place) {
     const PlotState &plot = trace.plot;
     const double echelle = static_cast<double>(plot.Echelle);
@@ -75,14 +59,14 @@ Percage PercageDe(const Trace &trace, const Trou &trou, const PlaceTracee &place
 }
 
 void TraceTrou(const Trace &trace, Trou &trou, PlaceTracee &place) {
-    const auto from_edge = trou.RefTrou != 0 ? PosDepuisBF : PosDepuisBA;
-    trou.PosTrou = from_edge(trou.PosTrouAfich, trace.rib.corde, trace.SaisieEnCours());
-    place = PlaceDe(trace, trou);
+    trou.PosTrou =
+        PlaceDepuis(trou.PosTrouAfich, trou.RefTrou, trace.rib.corde, trace.SaisieEnCours());
+    place = trace.PlaceAutour(trou.PosTrou, trou.DiaTrou);
     const Percage hole = PercageDe(trace, trou, place);
     trace.EnStyleDe(Element::trou);
-    if (trou.TypeTrou == kRectangle) {
+    if (trou.TypeTrou == kTrouRectangle) {
         TraceRectangle(trace, hole);
-    } else if (trou.TypeTrou == kRond) {
+    } else if (trou.TypeTrou == kTrouRond) {
         TraceRond(trace, hole);
     }
 }

@@ -21,6 +21,18 @@ double Trace::L(double station) const {
     return Hauteur(rib.TabIntrados, station);
 }
 
+PlaceTracee Trace::PlaceAutour(float centre, float width) const {
+    const double middle = static_cast<double>(centre);
+    const double half = static_cast<double>(width) / 2.0;
+    PlaceTracee place;
+    place.kr = StationDepuisBA(middle + half, rib.corde);
+    place.kf = StationDepuisBA(middle - half, rib.corde);
+    place.kc = StationDepuisBA(middle, rib.corde);
+    place.Uc = U(static_cast<double>(place.kc));
+    place.Lc = L(static_cast<double>(place.kc));
+    return place;
+}
+
 void Trace::Ecrit(double x, double y, const std::string &text) const {
     device.CurrentX = x;
     device.CurrentY = y;

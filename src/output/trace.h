@@ -28,6 +28,10 @@ struct Trace {
     double U(double station) const;
     double L(double station) const;
 
+    /// Stations of a spar or hole around `centre` mm from the leading edge, and the heights at its
+    /// centre. Failure 9 when that is outside the tables; its edges may be.
+    PlaceTracee PlaceAutour(float centre, float width) const;
+
     Saisie SaisieEnCours() const { return {settings.Unite, messages}; }
     Colour Couleur(Element element) const { return CouleurDe(settings, element); }
     void EnStyleDe(Element element) const { PrendStyle(device, settings, element); }

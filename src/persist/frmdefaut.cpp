@@ -68,16 +68,6 @@ void frmdefaut::PoseTextes() {
     cmdrechercheevol.setAccessibleDescription(Frame4.title());
 }
 
-/// Runs `action`; a failure is told in a box, after which the dialog goes on.
-template <class Action>
-void frmdefaut::Garde(const char *label, Action action) {
-    try {
-        action();
-    } catch (const Failure &failure) {
-        programme_.messages.Report(failure, label);
-    }
-}
-
 void frmdefaut::MontreLongueurs(const TextesDefaut &texts) {
     for (int i = 0; i < kChampsDefaut; ++i) {
         At(txtdef, i).setText(Q(At(texts, i)));
@@ -86,7 +76,8 @@ void frmdefaut::MontreLongueurs(const TextesDefaut &texts) {
 
 /// The lengths on file, not those of the rib, which has its own by now.
 void frmdefaut::MontreFichier() {
-    Garde(" GetINIFile", [this] { MontreLongueurs(LitTextesDefaut(programme_.paths.fichier)); });
+    programme_.messages.Garde(
+        " GetINIFile", [this] { MontreLongueurs(LitTextesDefaut(programme_.paths.fichier)); });
 }
 
 /// Marks the unit in force, here only.
@@ -115,11 +106,11 @@ void frmdefaut::PrendUnite(std::string_view Unite) {
 }
 
 void frmdefaut::mm_Click() {
-    Garde(" Defaut/mm", [this] { PrendUnite(kUniteMm); });
+    programme_.messages.Garde(" Defaut/mm", [this] { PrendUnite(kUniteMm); });
 }
 
 void frmdefaut::inches_Click() {
-    Garde(" Defaut/inches", [this] { PrendUnite(kUniteIn); });
+    programme_.messages.Garde(" Defaut/inches", [this] { PrendUnite(kUniteIn); });
 }
 
 /// After a No: unit, page and fields as the dialog found them.
@@ -186,7 +177,7 @@ void frmdefaut::Enregistre() {
 }
 
 void frmdefaut::cmdok_Click() {
-    Garde(" Defaut/OK", [this] { Enregistre(); });
+    programme_.messages.Garde(" Defaut/OK", [this] { Enregistre(); });
 }
 
 /// Leaves the page that a click on a unit has set: it holds until settings are read again.
@@ -203,7 +194,7 @@ void frmdefaut::reject() {
 
 /// Lets the user choose a folder; it counts at once, a cancelled choice changes nothing.
 void frmdefaut::ChoisitDossier(NumericField &field, std::string &folder) {
-    Garde(" Defaut/Folder", [this, &field, &folder] {
+    programme_.messages.Garde(" Defaut/Folder", [this, &field, &folder] {
         // The chooser opens where the user is already, if that place is there.
         std::string start = S(field.text());
         std::error_code error;

@@ -66,8 +66,6 @@ class frmdefaut : public QDialog {
     void cmdrecherche_Click();
     void cmdrechercheevol_Click();
 
-    template <class Action>
-    void Garde(const char *label, Action action);
     void MontreLongueurs(const TextesDefaut &texts);
     void MontreFichier();
     void MontreUnite();
