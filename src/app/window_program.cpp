@@ -18,6 +18,7 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include <filesystem>
 #include <iostream>
 #include <memory>
 
@@ -68,7 +69,10 @@ int Show(Programme &programme, const std::vector<std::string> &files) {
         FinPremierDemarrage(programme);
     }
     if (!files.empty()) {
-        QTimer::singleShot(0, window.get(), [&] { window->OuvreFichier(files.front()); });
+        // Among the recent files it must be found from everywhere.
+        std::error_code error;
+        const std::string path = std::filesystem::absolute(files.front(), error).string();
+        QTimer::singleShot(0, window.get(), [&window, path] { window->OuvreFichier(path); });
     }
     return QApplication::exec();
 }

@@ -55,6 +55,12 @@ void RazRib(RibModel &rib, float epba_mm) {
     rib.vrillage = 0;
     rib.TypeGabarit = kSansGabarit;
     rib.talon = Talon{};
+    // Height and ramps are the user's defaults, which are read anew.
+    rib.bloc.HTbasbloc = 0;
+    rib.bloc.HTbasblocAfich = "0";
+    rib.bloc.CoupeBF = 0;
+    rib.bloc.CoupeBFAfich = "0";
+    rib.bloc.Optquebf = 0;
     const bool own_words = rib.texte.TexteUtilisateur;
     rib.texte = TexteInsere{};
     rib.texte.TexteUtilisateur = own_words;

@@ -42,17 +42,14 @@ void frmbacarre::LayOut() {
     for (int i = 0; i < kChampsCarre; ++i) {
         AddMeasure(*grid, i, Picture1, {At(letters, i), At(Label1, i), At(infotxt, i), unit});
     }
-    grid->setRowStretch(kChampsCarre, 1);
-    auto *above = new QHBoxLayout;
-    above->addLayout(grid);
-    above->addWidget(&Picture1, 1);
     auto *buttons = new QHBoxLayout;
     buttons->addStretch();
     for (QPushButton *button : {&CmdApply, &cmdok, &cmdannuler, &cmdaide}) {
         buttons->addWidget(button);
     }
     auto *rows = new QVBoxLayout(this);
-    rows->addLayout(above);
+    rows->addLayout(grid);
+    rows->addWidget(&Picture1, 1); // below: the labels are long
     rows->addLayout(buttons);
     cmdok.setDefault(true);
 }

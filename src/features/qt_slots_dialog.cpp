@@ -259,6 +259,10 @@ void SlotsDialog::Cmdannuler_Click() {
         QDialog::reject();
         return;
     }
+    // The entry that is spoken of is shown.
+    if (!refuses_.empty() && choisi_ != refuses_.begin()->first) {
+        Numero_Click(refuses_.begin()->first);
+    }
     DitValeur(valeur_.empty() ? "?" : valeur_);
 }
 

@@ -195,7 +195,10 @@ void MajGabarit(RibModel &rib, const Saisie &saisie) {
         return;
     }
     RegenereTexte(rib, saisie.messages);
-    // Washed out or not: once a command is done the heights are the contour's.
+    // A washed-out heel was set by hand and keeps its heights, as at a new chord.
+    if (rib.vrillage != 0.0F) {
+        return;
+    }
     const MesuresTalon mesures{rib.corde, rib.EpCoffrage};
     Talon talon = rib.talon;
     talon.TalonIntraAfich = TexteTalonIntra(rib, mesures, saisie.Unite);

@@ -64,7 +64,7 @@ FinSaisie ValideSaisie(const ModeEntree &mode, RibModel &rib, const std::string 
                        const Saisie &saisie);
 
 /// Keeps the inserted text and the heel's heights in step with a rib that has changes. The text
-/// that is the user's own stays. Failures as VersMm.
+/// that is the user's own stays, and so do the heights of a washed-out rib. Failures as VersMm.
 void MajGabarit(RibModel &rib, const Saisie &saisie);
 
 } // namespace loftwing

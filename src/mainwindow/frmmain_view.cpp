@@ -7,6 +7,8 @@
 #include "platform/qt_form.h"
 #include "platform/qt_plot_device.h"
 
+#include <QGuiApplication>
+#include <QScreen>
 #include <QSettings>
 #include <QSignalBlocker>
 
@@ -153,7 +155,8 @@ void frmmain::Form_Resize() {
 void frmmain::LitPlace() {
     const QSettings store = PlaceStore();
     if (!restoreGeometry(store.value("geometry").toByteArray())) {
-        resize(1000, 600);
+        const QSize screen = QGuiApplication::primaryScreen()->availableSize();
+        resize(QSize(1000, 600).boundedTo(screen));
     }
 }
 

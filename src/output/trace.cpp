@@ -22,6 +22,10 @@ double Trace::L(double station) const {
 }
 
 PlaceTracee Trace::PlaceAutour(float centre, float width) const {
+    // Behind the trailing edge stations count up again: it would be drawn somewhere in the rib.
+    if (centre > rib.corde) {
+        throw MakeFailure(kSubscriptOutOfRange);
+    }
     const double middle = static_cast<double>(centre);
     const double half = static_cast<double>(width) / 2.0;
     PlaceTracee place;

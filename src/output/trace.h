@@ -29,7 +29,7 @@ struct Trace {
     double L(double station) const;
 
     /// Stations of a spar or hole around `centre` mm from the leading edge, and the heights at its
-    /// centre. Failure 9 when that is outside the tables; its edges may be.
+    /// centre. Failure 9 when that is not on the chord; its edges may be off it.
     PlaceTracee PlaceAutour(float centre, float width) const;
 
     Saisie SaisieEnCours() const { return {settings.Unite, messages}; }

@@ -122,7 +122,9 @@ FinDefauts PrendDefauts(RibModel &rib, const TextesDefaut &typed, const Saisie &
     const Messages &messages = saisie.messages;
     const Longueurs mm = LitLongueurs(typed, saisie);
     if (mm[kDefautCorde] == 0.0F) {
-        messages.Inform(messages.Text({"FrmPrint", "26"}), messages.Text({"FrmAngle", "10"}));
+        messages.Inform(messages.Text({"FrmPrint", "26"}) + " : " +
+                            messages.Text({"FrmAngle", "10"}),
+                        messages.Text({"FrmDefaut", "1"}));
         return FinDefauts::sans_corde;
     }
     rib.bloc.LongBloc = LongueurBlocPour(rib, mm);

@@ -8,6 +8,7 @@
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QLocale>
 #include <QMessageBox>
@@ -93,6 +94,17 @@ std::string WithExtension(const std::string &path, const std::string &extension)
     return path.empty() || has_one || extension.empty() ? path : path + "." + extension;
 }
 
+/// A title bar cuts a title that is wider than its window.
+void WidenForTitle(QMessageBox &dialog) {
+    auto *grid = qobject_cast<QGridLayout *>(dialog.layout());
+    if (grid == nullptr) {
+        return;
+    }
+    const QString with_buttons = dialog.windowTitle() + QString(16, '0');
+    const int width = dialog.fontMetrics().horizontalAdvance(with_buttons);
+    grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 } // namespace
 
 QtPlatform::QtPlatform(const std::string &program_folder) : store_(program_folder + "/airfoils") {}
@@ -109,6 +121,7 @@ BoxAnswer QtPlatform::Show(const MessageBox &box) {
     dialog.setWindowTitle(Q(box.title));
     dialog.setTextFormat(Qt::PlainText);
     dialog.setText(Q(box.text));
+    WidenForTitle(dialog);
     const std::vector<BoxButton> buttons = ButtonsOf(box.buttons);
     for (const BoxButton &button : buttons) {
         QPushButton *push = dialog.addButton(button.button);

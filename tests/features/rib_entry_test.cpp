@@ -421,10 +421,13 @@ TEST_F(RibEntryTest, TextAndHeelAreKeptInStep) {
     rib.cordeAfich = "256";
     rib.corde = 256;
     rib.TypeGabarit = kGabaritMousse;
-    rib.vrillage = 2; // the heights become the contour's all the same
     rib.talon.TalonIntraAfich = "3";
+    rib.vrillage = 2;
     MajGabarit(rib, saisie);
     EXPECT_EQ(rib.texte.InsTexte, "e205 Washout 2° Chord : 256");
+    EXPECT_EQ(rib.talon.TalonIntraAfich, "3"); // a washed-out heel was set by hand
+    rib.vrillage = 0;
+    MajGabarit(rib, saisie);
     EXPECT_EQ(rib.talon.TalonIntraAfich, " 6.50");
     EXPECT_EQ(rib.talon.TalonIntra, 6.5);
     EXPECT_EQ(rib.talon.TalonExtraAfich, " 14.50");

@@ -216,6 +216,18 @@ TEST_F(PlotFeatures, SparBeyondTheChordIsAFailureThatNamesIt) {
     EXPECT_EQ(Drawn(device).size(), 3U);
 }
 
+TEST_F(PlotFeatures, PlaceBehindTheTrailingEdgeIsAFailureThatNamesIt) {
+    world.rib.longeron[0] = Spar("101", 1, 5, 1); // its station would be 4, as that of 99 mm
+    ExpectFailure(9, "Subscript out of range: <FrmLines 8> 1");
+}
+
+TEST_F(PlotFeatures, HoleBehindTheTrailingEdgeIsAFailureThatNamesIt) {
+    world.rib.NbTrou = 1;
+    world.rib.trou[0] = Hole("100", 8, 0, 0);
+    world.rib.trou[1] = Hole("101%", 8, 0, 0);
+    ExpectFailure(9, "Subscript out of range: <FrmLines 11> 2");
+}
+
 TEST_F(PlotFeatures, SparAlongTheSurfaceWithoutWidthIsADivisionByZero) {
     world.rib.longeron[0] = Above(Spar("50", 0, 5, 0));
     ExpectFailure(11, "Division by zero: <FrmLines 8> 1");

@@ -120,8 +120,8 @@ TEST_F(DefaultEntryTest, AChordOfZeroIsRefusedAndLeavesTheRibAsItWas) {
         EXPECT_EQ(rib.cordeAfich, "200");
         EXPECT_EQ(rib.EpCoffrageAfich, "1.5");
     }
-    EXPECT_EQ(platform.boxes[0].text, "Chord length");
-    EXPECT_EQ(platform.boxes[0].title, "Please enter a chord");
+    EXPECT_EQ(platform.boxes[0].text, "Chord length : Please enter a chord");
+    EXPECT_EQ(platform.boxes[0].title, "Template defaults");
     EXPECT_EQ(platform.boxes[0].icon, BoxIcon::information);
 }
 

@@ -206,6 +206,9 @@ bool Run::Spar(int i) {
     if (spar.PosLong == 0) {
         return false;
     }
+    if (W(spar.PosLong) > corde()) {
+        throw Broken{9};
+    }
     const auto station = [&](double x) { return F(std::abs(400 - Over(400 * x, corde()))); };
     Spot at;
     at.kr = station(W(spar.PosLong) + W(spar.LargLong) / 2);
@@ -240,6 +243,9 @@ void Run::Spars() {
 void Run::Hole(int i) {
     Trou &hole = rib.trou[static_cast<std::size_t>(i)];
     hole.PosTrou = Place(hole.PosTrouAfich, hole.RefTrou != 0);
+    if (W(hole.PosTrou) > corde()) {
+        throw Broken{9};
+    }
     const auto station = [&](double x) { return F(std::abs(400 - Over(400 * x, corde()))); };
     Spot at;
     at.kr = station(W(hole.PosTrou) + W(hole.DiaTrou) / 2);

@@ -133,7 +133,7 @@ TEST_F(FrmdefautTest, AChordOfZeroKeepsTheDialogOpenAndStoresNothing) {
                   EXPECT_TRUE(Box(dialog, 0).hasFocus());
               }),
               Left::open);
-    EXPECT_EQ(platform.boxes.at(0).text, "Chord length");
+    EXPECT_EQ(platform.boxes.at(0).text, "Chord length : Please enter a chord");
     EXPECT_EQ(Rib().corde, 200.0F);
     EXPECT_EQ(Rib().EpCoffrageAfich, "1.5");
     EXPECT_EQ(folder.Bytes("Loftwing.ini"), file);

@@ -80,6 +80,20 @@ TEST_F(FrmLongeronTest, RefusedValuesAreGoneWhenTheWindowCloses) {
     EXPECT_EQ(Places(3), "20 30 40");
 }
 
+TEST_F(FrmLongeronTest, CloseThatIsRefusedShowsTheEntryThatItSpeaksOf) {
+    Spars(3);
+    ExpectBoxes(2);
+    Use([](Seen &window) {
+        window.ClickNumber(1);
+        window.Type(0, "250");
+        window.Click("Cmdmodif");
+        window.ClickNumber(2); // which is right
+        window.Click("Cmdannuler");
+        EXPECT_EQ(window.Numbers(), "1 [2] 3 4");
+        EXPECT_EQ(window.Box(0).text().toStdString(), "250");
+    });
+}
+
 TEST_F(FrmLongeronTest, OkWithASelectionTakesItAndCloses) {
     Spars(2);
     EXPECT_EQ(Use([](Seen &window) {

@@ -8,7 +8,7 @@ namespace loftwing {
 
 /// Head of the box about a wrong value.
 inline constexpr const char *kBadSpar =
-    "The spar shown has no width or no depth, or reaches beyond the chord. "
+    "The spar shown has no width or no depth, or reaches beyond the leading or trailing edge. "
     "Please correct it. To leave it as it was, click number 1 and then Close : Dimensions = ";
 
 class FrmLongeronTest : public SlotsTest<frmlongeron> {

@@ -6,7 +6,7 @@ namespace loftwing {
 namespace {
 
 constexpr const char *kBad =
-    "The hole shown lacks a size, or lies beyond the chord. "
+    "The hole shown lacks a size, or does not lie on the chord. "
     "Please correct it. To leave it as it was, click number 1 and then Close : Dimensions = ";
 
 class FrmTrouTest : public SlotsTest<frmtrou> {

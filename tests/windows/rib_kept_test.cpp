@@ -69,7 +69,7 @@ class RibKept : public testing::Test {
 };
 
 TEST_F(RibKept, ResizingTheWindowDrawsNothingOfARefusedSpar) {
-    Box("beyond the chord");
+    Box("leading or trailing edge");
     InNextDialog([this](QDialog &dialog) {
         Type(dialog, "Text1(0)", "2");
         Type(dialog, "Text1(1)", "10");
