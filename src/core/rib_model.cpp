@@ -65,6 +65,7 @@ void RazRib(RibModel &rib, float epba_mm) {
     rib.texte = TexteInsere{};
     rib.texte.TexteUtilisateur = own_words;
     rib.jeu = JeuNervures{};
+    rib.LigneReserve.clear();
 }
 
 void ReprendProfil(RibModel &rib) {
