@@ -77,6 +77,7 @@ void ReprendProfil(RibModel &rib) {
     rib.vrillage = 0;
     rib.Modifie = true;
     rib.NomFichierRib = rib.NomProfil;
+    rib.FichierRibOuvert = false;
 }
 
 void NommeProfil(RibModel &rib, const std::string &path) {
