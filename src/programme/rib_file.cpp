@@ -14,7 +14,10 @@ namespace loftwing {
 
 namespace {
 
-constexpr const char *kLabel = " LireEcrire/newLfw";
+void Rapporte(const Programme &programme, const Failure &failure) {
+    const Messages &messages = programme.messages;
+    messages.Report(failure, messages.Text({"Erreur", "1"}) + " LireEcrire/newLfw");
+}
 
 /// The values of the file; gives the name of its airfoil.
 std::string LitFichier(Programme &programme, const DemandeComposants &demande) {
@@ -40,7 +43,7 @@ void DitIntrouvable(const Programme &programme, const DemandeComposants &demande
         between = " " + messages.Text({"fileopen", "5"}) + " ";
     }
     messages.Inform(text, messages.Text({"fileopen", "2"}));
-    messages.Report(Failure{0, {}}, kLabel);
+    Rapporte(programme, Failure{0, {}});
 }
 
 void NoteOuvert(RibModel &rib, const std::string &path, const Messages &messages) {
@@ -86,7 +89,7 @@ OuvertureComposants OuvreComposants(Programme &programme, const DemandeComposant
             return OuvertureComposants::echec;
         }
     } catch (const Failure &failure) {
-        programme.messages.Report(failure, kLabel);
+        Rapporte(programme, failure);
         return OuvertureComposants::echec;
     }
     return LitProfil(programme, demande);
