@@ -103,7 +103,7 @@ ComponentsText LadenRib(const std::string &kind, bool inches) {
     rib.text = "root rib 2.5° : é";
     rib.text_x = length("60", "2.1/2");
     rib.text_y = length("4", "1/8");
-    rib.chord = length("240", "9.1/2");
+    rib.chord = length("170", "6.1/2");
     rib.edge = "0";
     rib.sheeting = length("1.5", "1/16");
     rib.notch = length("6", "1/4");
@@ -118,9 +118,10 @@ ComponentsText LadenRib(const std::string &kind, bool inches) {
                  {length("100", "4"), w, h, "1", "1", "2", d, "0", "0"},
                  {length("90", "3.1/2"), w, h, "1", "1", "3", d, "1", "0"},
                  ComponentsText::BlankSpar()};
-    rib.holes = {{length("60", "2.3/8"), length("8", "5/16"), "1", "0", "0", "0", "0", "0"},
-                 {"50%", length("10", "3/8"), "1", "1", length("5", "3/16"), "0", "1", "0"},
-                 ComponentsText::BlankHole()};
+    rib.holes = {
+        {length("60", "2.3/8"), length("8", "5/16"), "1", "0", "0", "0", "0", "0"},
+        {"50%", length("10", "3/8"), "1", length("1", "1/32"), length("5", "3/16"), "0", "1", "0"},
+        ComponentsText::BlankHole()};
     rib.heel_front = length("20", "1");
     rib.heel_back = length("30", "1.1/4");
     rib.trailing = length("25", "1");

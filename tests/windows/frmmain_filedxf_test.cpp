@@ -42,7 +42,7 @@ TEST_F(ExportingDxf, WritesTheFormThatIsChosen) {
     }
     EXPECT_TRUE(world.platform.boxes.empty()); // no word at the end
     EXPECT_EQ(world.platform.pointer, Pointer::normal);
-    EXPECT_EQ(Rib().corde, 240.0F);
+    EXPECT_EQ(Rib().corde, 170.0F);
 }
 
 TEST_F(ExportingDxf, TheChooserOffersBothFormsAndANameFromTheFile) {

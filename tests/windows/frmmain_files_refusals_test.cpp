@@ -143,7 +143,7 @@ TEST_F(RibFiles, AnOlderFileIsRewrittenAtOnceAndThenReadByTheCurrentReader) {
     const ComponentsText file = LadenRib("1", false);
     OpenBytes("old.lfw", file.Older());
     EXPECT_EQ(Caption(), "Loftwing Rib : old.lfw Airfoil : naca2412");
-    EXPECT_EQ(Rib().cordeAfich, "240");
+    EXPECT_EQ(Rib().cordeAfich, "170");
     EXPECT_EQ(Rib().NbLongeron, 4);
     EXPECT_NE(Drawing(), nullptr);
     // Its number is taken, its text isn't.

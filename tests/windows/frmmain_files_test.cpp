@@ -91,7 +91,7 @@ TEST_F(RibFiles, EverythingInTheFileIsInThePicture) {
     OpenBytes("laden.lfw", LadenRib("11", false).Current());
     EXPECT_EQ(Rib().NbLongeron, 4);
     EXPECT_EQ(Rib().NbTrou, 2);
-    EXPECT_EQ(Rib().longeron[1].PosLong, 79.2F); // 33 % of 240 mm, which the plot makes
+    EXPECT_EQ(Rib().longeron[1].PosLong, 56.1F); // 33 % of 170 mm, which the plot makes
     const auto &operations = Drawing()->Operations();
     // The round spar above and below, the round hole, and the one being edited.
     EXPECT_EQ(std::count_if(operations.begin(), operations.end(),
@@ -253,8 +253,8 @@ TEST(RibFilesInInches, LengthsAreThoseOfTheUnitInForce) {
     WindowWorld world("English", "in");
     world.folder.File("airfoils/naca2412.dat", ReadWholeFile(WindowWorld::Sample("naca2412.dat")));
     world.Open().OuvreFichier(world.folder.File("rib.lfw", LadenRib("11", true).Current()));
-    EXPECT_EQ(world.programme.rib.corde, 241.3F); // 9.1/2 inches
-    EXPECT_EQ(world.programme.rib.cordeAfich, "9.1/2");
+    EXPECT_EQ(world.programme.rib.corde, 165.1F); // 6.1/2 inches
+    EXPECT_EQ(world.programme.rib.cordeAfich, "6.1/2");
     EXPECT_EQ(world.programme.rib.EpCoffrage, 1.5875F);
     EXPECT_NE(world.Find<PicView>("Pic")->Dessin(), nullptr);
 }
