@@ -23,8 +23,9 @@ enum class FormatComposants {
 
 /// Takes the values of a file into a rib that has been reset before, without its airfoil: NomProfil
 /// and ExtProfil tell which. `nom_cherche` gets the name to search for. Lengths are read in the
-/// unit in force; limits are not checked. A file whose first line isn't the current one's counts as
-/// of the older format, whatever it holds; what that doesn't hold stays as it was.
+/// unit in force; limits are not checked, and only the first text that is no length is told of. A
+/// file whose first line isn't the current one's counts as of the older format, whatever it holds;
+/// what that doesn't hold stays as it was.
 ///
 /// Failure 62 for a file that is too short, 9 for more than 13 spars or holes, 6 for a number that
 /// its field can't hold, and those of VersMm. The rib then has what was read so far.

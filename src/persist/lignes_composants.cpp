@@ -97,13 +97,24 @@ void Lecteur::TalonExtra(Talon &talon) {
     Prend(TexteDuNombre(*height), talon.TalonExtraAfich, talon.TalonExtra);
 }
 
-void Lecteur::Prend(std::string text, std::string &afich, float &mm) const {
-    mm = ToSingle(NombreMm(text, saisie_));
+double Lecteur::Mm(const std::string &text) {
+    if (EstRefusee(text, saisie_.Unite)) {
+        // A damaged file may be full of them, and each would want its box closed.
+        if (refus_dit_) {
+            return 0;
+        }
+        refus_dit_ = true;
+    }
+    return NombreMm(text, saisie_);
+}
+
+void Lecteur::Prend(std::string text, std::string &afich, float &mm) {
+    mm = ToSingle(Mm(text));
     afich = std::move(text);
 }
 
-void Lecteur::Prend(std::string text, std::string &afich, double &mm) const {
-    mm = NombreMm(text, saisie_);
+void Lecteur::Prend(std::string text, std::string &afich, double &mm) {
+    mm = Mm(text);
     afich = std::move(text);
 }
 

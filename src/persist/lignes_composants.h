@@ -74,8 +74,8 @@ class Lecteur {
     void TalonExtra(Talon &talon);
 
     /// Takes a length's text and derives its number.
-    void Prend(std::string text, std::string &afich, float &mm) const;
-    void Prend(std::string text, std::string &afich, double &mm) const;
+    void Prend(std::string text, std::string &afich, float &mm);
+    void Prend(std::string text, std::string &afich, double &mm);
     /// The next line in front of and behind its "#"; no second part without one.
     std::pair<std::string, std::optional<std::string>> Diese();
 
@@ -84,6 +84,9 @@ class Lecteur {
     const Saisie &saisie_;
     std::size_t next_ = 0;
     std::string nom_;
+    bool refus_dit_ = false; ///< a box told of a length that is none
+
+    double Mm(const std::string &text);
 };
 
 } // namespace loftwing

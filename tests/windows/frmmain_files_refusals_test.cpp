@@ -235,5 +235,23 @@ TEST_F(RibFiles, ValuesThatCannotBeDrawnAreReportedByThePlotAndCostTheRib) {
     ExpectAlive();
 }
 
+TEST(RibFilesInInches, LengthsThatAreNoneAreToldInOneBox) {
+    WindowWorld world("English", "in");
+    world.folder.File("airfoils/naca2412.dat", ReadWholeFile(WindowWorld::Sample("naca2412.dat")));
+    ComponentsText file;
+    file.chord = "8";
+    for (std::string *length : {&file.sheeting, &file.edge, &file.notch, &file.ramp, &file.intra}) {
+        *length = "2./8";
+    }
+    world.platform.boxes_expected.push_back(
+        {BoxAnswer::ok, [](const MessageBox &box) { EXPECT_EQ(box.title, "Enter error"); }});
+    world.Open().OuvreFichier(world.folder.File("rib.lfw", file.Current()));
+    EXPECT_EQ(world.platform.boxes.size(), 1U);
+    EXPECT_TRUE(world.programme.rib.ProfilCharge);
+    EXPECT_EQ(world.programme.rib.EpCoffrageAfich, "2./8"); // as it stands in the file
+    EXPECT_EQ(world.programme.rib.EpCoffrage, 0.0F);
+    EXPECT_EQ(world.programme.rib.talon.TalonIntra, 0.0);
+}
+
 } // namespace
 } // namespace loftwing
