@@ -31,7 +31,7 @@ void Arguments::Take(const std::vector<OptionRule> &rules, const std::vector<std
     if (rule == rules.end()) {
         throw UsageError("unknown option " + name);
     }
-    if (options_.contains(name)) {
+    if (options_.contains(name) && !rule->repeatable) {
         throw UsageError("option " + name + " stands twice");
     }
     if (rule->value == nullptr && equals != std::string::npos) {
@@ -46,12 +46,17 @@ void Arguments::Take(const std::vector<OptionRule> &rules, const std::vector<std
         }
         value = words[at];
     }
-    options_[name] = value;
+    options_[name].push_back(value);
 }
 
 std::string Arguments::Value(const std::string &name, const std::string &fallback) const {
     const auto option = options_.find(name);
-    return option == options_.end() ? fallback : option->second;
+    return option == options_.end() ? fallback : option->second.back();
+}
+
+std::vector<std::string> Arguments::Values(const std::string &name) const {
+    const auto option = options_.find(name);
+    return option == options_.end() ? std::vector<std::string>() : option->second;
 }
 
 } // namespace loftwing

@@ -21,6 +21,7 @@ struct OptionRule {
     const char *name;  ///< "--chord"
     const char *value; ///< what it takes, for the help; null for a switch
     const char *help;
+    bool repeatable = false;
 };
 
 /// What stood on the command line.
@@ -34,10 +35,12 @@ class Arguments {
     bool Has(const std::string &name) const { return options_.contains(name); }
     /// The value of an option, `fallback` when it isn't there.
     std::string Value(const std::string &name, const std::string &fallback = {}) const;
+    /// All values of a repeatable option, in their order.
+    std::vector<std::string> Values(const std::string &name) const;
     const std::vector<std::string> &Files() const { return files_; }
 
   private:
-    std::map<std::string, std::string> options_;
+    std::map<std::string, std::vector<std::string>> options_;
     std::vector<std::string> files_;
 
     void Take(const std::vector<OptionRule> &rules, const std::vector<std::string> &words,

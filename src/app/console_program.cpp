@@ -4,6 +4,7 @@
 #include "core/airfoil_reader.h"
 #include "output/page_setup.h"
 #include "output/screen_plot.h"
+#include "programme/rib_file.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -75,7 +76,19 @@ void ConsoleProgram::ChargeValeurs(const Arguments &arguments) {
     ReplaceYdprint(programme_.settings.page, programme_.settings.Unite);
 }
 
-bool ConsoleProgram::Ouvre(const std::string &path) {
+bool ConsoleProgram::Ouvre(const std::string &path, const std::vector<std::string> &dossiers) {
+    if (!EstComposants(path)) {
+        return OuvreProfil(path);
+    }
+    DemandeComposants demande{path, dossiers, false};
+    if (dossiers.empty()) {
+        const std::string folder = std::filesystem::path(path).parent_path().string();
+        demande.dossiers = {folder.empty() ? "." : folder};
+    }
+    return OuvreComposants(programme_, demande) == OuvertureComposants::ouverte;
+}
+
+bool ConsoleProgram::OuvreProfil(const std::string &path) {
     RibModel &rib = programme_.rib;
     const Messages &messages = programme_.messages;
     NommeProfil(rib, path);

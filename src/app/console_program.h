@@ -25,9 +25,11 @@ class ConsoleProgram {
     Programme &Owner() { return programme_; }
     ConsolePlatform &Platform() { return platform_; }
 
-    /// Opens an airfoil as the window's picker does: read, not below 5 points, heel and title's
-    /// chord. False when it was refused; a line on standard error told why.
-    bool Ouvre(const std::string &path);
+    /// Opens an airfoil as the window's picker does (read, not below 5 points, heel and title's
+    /// chord) or a rib components file, which stays as it is on disk whatever its format. The
+    /// airfoil of the latter is searched below `dossiers`, without any in the file's folder. False
+    /// when it was refused; a line on standard error told why.
+    bool Ouvre(const std::string &path, const std::vector<std::string> &dossiers = {});
 
   private:
     ConsolePlatform platform_;
@@ -35,6 +37,7 @@ class ConsoleProgram {
 
     void ChargeLangue(const Arguments &arguments);
     void ChargeValeurs(const Arguments &arguments);
+    bool OuvreProfil(const std::string &path);
 };
 
 } // namespace loftwing

@@ -25,8 +25,13 @@ struct Target {
     bool several = false;
 };
 
-const ExportForm &FormNamed(const std::string &extension) {
-    const ExportForm *form = FindExportForm(extension);
+const ExportForm &FormNamed(const Arguments &arguments, const std::string &extension) {
+    const std::string variant = arguments.Value("--dxf");
+    if (arguments.Has("--dxf") && FindExportForm("dxf", variant) == nullptr) {
+        throw UsageError("--dxf takes plain");
+    }
+    const bool dxf = FindExportForm(extension) == FindExportForm("dxf");
+    const ExportForm *form = FindExportForm(extension, dxf ? variant : std::string());
     if (form == nullptr) {
         throw UsageError("no form \"" + extension + "\"; there are " + ExportExtensions());
     }
@@ -42,16 +47,16 @@ Target TargetOf(const Arguments &arguments) {
         if (!arguments.Has("--to") || arguments.Files().size() != 1) {
             throw UsageError("-o - wants --to EXT and one FILE");
         }
-        return {&FormNamed(arguments.Value("--to")), {}, {}};
+        return {&FormNamed(arguments, arguments.Value("--to")), {}, {}};
     }
     if (arguments.Has("--to")) {
-        return {&FormNamed(arguments.Value("--to")), {}, out, true};
+        return {&FormNamed(arguments, arguments.Value("--to")), {}, out, true};
     }
     if (arguments.Files().size() != 1) {
         throw UsageError("several FILEs want --to EXT -o DIR/");
     }
     const std::string extension = fs::path(out).extension().string();
-    return {&FormNamed(extension.empty() ? extension : extension.substr(1)), out, {}};
+    return {&FormNamed(arguments, extension.empty() ? extension : extension.substr(1)), out, {}};
 }
 
 /// A page for the PDF; the command line can't ask for an overlap, so it must have one.
@@ -70,7 +75,8 @@ std::optional<std::string> Draw(const Arguments &arguments, const ExportForm &fo
     ConsoleProgram program(arguments);
     Programme &programme = program.Owner();
     ApplyPageOptions(arguments, programme);
-    if (!program.Ouvre(file) || !ApplyRibOptions(arguments, programme)) {
+    if (!program.Ouvre(file, arguments.Values("--airfoils")) ||
+        !ApplyRibOptions(arguments, programme)) {
         return std::nullopt;
     }
     const Preparation prepared = PrepareContour(programme.rib, programme.messages);
@@ -116,7 +122,12 @@ std::vector<OptionRule> DrawOptions() {
         {"--output", "OUT",
          "file to write, also -o; its extension chooses the form, - is "
          "standard output"},
-        {"--to", "EXT", "form of several drawings, which go to the folder -o DIR/"}};
+        {"--to", "EXT", "form of several drawings, which go to the folder -o DIR/"},
+        {"--airfoils", "DIR",
+         "where to search for the airfoil of a rib components file (may be repeated; default: the "
+         "file's folder)",
+         true},
+        {"--dxf", "plain", "the clean form of DXF for cutters"}};
     for (const auto &more : {RibOptions(), PageOptions(), CommonOptions()}) {
         rules.insert(rules.end(), more.begin(), more.end());
     }

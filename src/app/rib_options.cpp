@@ -79,6 +79,8 @@ std::vector<OptionRule> PageOptions() {
 }
 
 bool ApplyRibOptions(const Arguments &arguments, Programme &programme) {
+    // A rib components file has a value for everything; an option replaces its own only.
+    const Suite suite = programme.rib.FichierRibOuvert ? Suite::rien : Suite::tout;
     for (const EntryOption &entry : kEntryOptions) {
         if (!arguments.Has(entry.option)) {
             continue;
@@ -87,13 +89,13 @@ bool ApplyRibOptions(const Arguments &arguments, Programme &programme) {
         const std::string typed =
             Typed(arguments, entry.option, count ? kTouchesEntier : LengthKeys(programme));
         // What the value dialog has to say is a refusal to somebody who can't answer it.
-        if (ValideSaisie(ModeDe(entry.mode), programme.rib, typed, programme.SaisieEnCours()) !=
-            FinSaisie::prise) {
+        if (ValideSaisie(ModeDe(entry.mode), programme.rib, typed, programme.SaisieEnCours(),
+                         suite) != FinSaisie::prise) {
             return false;
         }
     }
     RibModel &rib = programme.rib;
-    rib.AffHaut = arguments.Has("--invert");
+    rib.AffHaut = rib.AffHaut || arguments.Has("--invert");
     rib.AffTrac = !arguments.Has("--no-contour");
     rib.AffLignRef = !arguments.Has("--no-reference-line");
     rib.AffEpr = arguments.Has("--chord-thickness");

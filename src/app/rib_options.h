@@ -9,7 +9,8 @@ namespace loftwing {
 std::vector<OptionRule> RibOptions();
 std::vector<OptionRule> PageOptions();
 
-/// Puts the rib options into the rib as the value dialogs do. False when a value was refused.
+/// Puts the rib options into the rib as the value dialogs do; on a rib from a rib components file
+/// each sets its own value only. False when a value was refused.
 /// Throws UsageError for a text that the dialogs' fields wouldn't admit.
 bool ApplyRibOptions(const Arguments &arguments, Programme &programme);
 

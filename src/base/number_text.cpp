@@ -282,6 +282,17 @@ std::string NumberText(float value, ZeroBeforePoint zero) {
     return TextOf(ToDecimal(value, kSingleDigits), kSingleDigits, zero);
 }
 
+std::string ShortestText(float value) {
+    Finite(static_cast<double>(value));
+    if (value == 0.0F) {
+        return "0"; // not "-0"
+    }
+    std::array<char, 64> buffer{};
+    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                      std::chars_format::fixed);
+    return {buffer.data(), result.ptr};
+}
+
 std::string Format(double value, std::string_view picture) {
     return FormatDecimal(ToDecimal(value, kDoubleDigits), picture);
 }

@@ -21,6 +21,10 @@ enum class ZeroBeforePoint { yes, no };
 std::string NumberText(double value, ZeroBeforePoint zero = ZeroBeforePoint::yes);
 std::string NumberText(float value, ZeroBeforePoint zero = ZeroBeforePoint::yes);
 
+/// The shortest text without exponent that reads back to the same 32-bit value. Failure 6 for a
+/// value that is not finite.
+std::string ShortestText(float value);
+
 /// Pictures of Format.
 inline constexpr std::string_view kPictureThreeDecimals = "# ###.###";
 inline constexpr std::string_view kPictureTwoFixed = "# ###.00";

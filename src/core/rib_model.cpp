@@ -65,6 +65,7 @@ void RazRib(RibModel &rib, float epba_mm) {
     rib.texte = TexteInsere{};
     rib.texte.TexteUtilisateur = own_words;
     rib.jeu = JeuNervures{};
+    rib.LigneReserve.clear();
 }
 
 void ReprendProfil(RibModel &rib) {
@@ -76,6 +77,7 @@ void ReprendProfil(RibModel &rib) {
     rib.vrillage = 0;
     rib.Modifie = true;
     rib.NomFichierRib = rib.NomProfil;
+    rib.FichierRibOuvert = false;
 }
 
 void NommeProfil(RibModel &rib, const std::string &path) {

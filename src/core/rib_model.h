@@ -35,6 +35,7 @@ struct RibModel {
     std::string ExtProfil;     ///< last three characters of the file name
     std::string EnteteProfil;  ///< first line of the file, trimmed
     std::string NomFichierRib; ///< name proposed for the rib components file
+    std::string LigneReserve;  ///< spare line of that file; nothing else knows it
     bool ProfilCharge = false;
     bool Modifie = false;
     bool FichierRibOuvert = false; ///< the rib came from a rib components file

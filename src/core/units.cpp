@@ -97,11 +97,15 @@ std::string MmToInches(const std::string &text) {
 
 } // namespace
 
+bool EstRefusee(const std::string &text, const std::string &Unite) {
+    return Unite == kUniteIn && (text.find("./") != std::string::npos || text.starts_with('/'));
+}
+
 std::string VersMm(const std::string &text, const Saisie &saisie) {
     if (text == "0" || saisie.Unite != kUniteIn) {
         return text;
     }
-    if (text.find("./") != std::string::npos || text.starts_with('/')) {
+    if (EstRefusee(text, saisie.Unite)) {
         saisie.messages.Inform(saisie.messages.Text({"Message", "20"}) + "\nxx.yy/zz ou xx.yy",
                                "Enter error");
         return {};

@@ -24,6 +24,9 @@ struct Saisie {
 /// Failure 11 for a fraction with denominator 0, 6 for a number beyond 64 bits.
 std::string VersMm(const std::string &text, const Saisie &saisie);
 
+/// Whether VersMm refuses a text.
+bool EstRefusee(const std::string &text, const std::string &Unite);
+
 /// A text in mm to what is shown in `Unite`: in inches a fraction when the value is a multiple of
 /// 1/64, else up to three decimals. Failure 6 for a number beyond 64 bits.
 std::string DepuisMm(const std::string &text, const std::string &Unite);

@@ -60,6 +60,26 @@ FinSaisie StockeBord(const Bord &bord, const RibModel &rib, const std::string &t
     return fits ? FinDe(lu) : FinSaisie::ramenee;
 }
 
+FinSaisie CordeSeule(RibModel &rib, const std::string &typed, const Saisie &saisie,
+                     const std::string &titre) {
+    const float corde = LitLongueur(typed, saisie).mm;
+    if (corde == 0.0F) {
+        RefuseCorde(typed, saisie, titre);
+        return FinSaisie::refusee;
+    }
+    rib.cordeAfich = typed;
+    rib.corde = corde;
+    return FinSaisie::prise;
+}
+
+FinSaisie CoffrageSeul(RibModel &rib, const std::string &typed, const Saisie &saisie,
+                       const std::string & /*titre*/) {
+    const Lu lu = LitLongueur(typed, saisie);
+    rib.EpCoffrageAfich = typed;
+    rib.EpCoffrage = lu.mm;
+    return FinDe(lu);
+}
+
 constexpr std::array<ModeEntree, 5> kModes = {{
     {"corde",
      {"FrmInput", "1"},
@@ -67,20 +87,23 @@ constexpr std::array<ModeEntree, 5> kModes = {{
      true,
      kAideNervure,
      [](const RibModel &rib) { return rib.cordeAfich; },
-     SaisitCorde},
+     SaisitCorde,
+     CordeSeule},
     {"epcof",
      {"FrmInput", "3"},
      {"FrmInput", "4"},
      true,
      kAideNervure,
      [](const RibModel &rib) { return rib.EpCoffrageAfich; },
-     SaisitCoffrage},
+     SaisitCoffrage,
+     CoffrageSeul},
     {"ba",
      {"FrmInput", "5"},
      {"FrmInput", "6"},
      true,
      kAideNervure,
      [](const RibModel &rib) { return rib.EpBAAfich; },
+     SaisitBordAttaque,
      SaisitBordAttaque},
     {"bf",
      {"FrmInput", "7"},
@@ -88,6 +111,7 @@ constexpr std::array<ModeEntree, 5> kModes = {{
      true,
      kAideNervure,
      [](const RibModel &rib) { return rib.EpBFAfich; },
+     SaisitBordFuite,
      SaisitBordFuite},
     {"rep",
      {"FrmInput", "9"},
@@ -95,6 +119,7 @@ constexpr std::array<ModeEntree, 5> kModes = {{
      false,
      kAideGabarit,
      [](const RibModel &rib) { return std::to_string(rib.NbRep); },
+     SaisitReperes,
      SaisitReperes},
 }};
 
@@ -181,9 +206,10 @@ std::string TitreSaisie(const ModeEntree &mode, const Saisie &saisie) {
 }
 
 FinSaisie ValideSaisie(const ModeEntree &mode, RibModel &rib, const std::string &typed,
-                       const Saisie &saisie) {
+                       const Saisie &saisie, Suite suite) {
     try {
-        return mode.saisit(rib, typed, saisie, TitreSaisie(mode, saisie));
+        const auto take = suite == Suite::tout ? mode.saisit : mode.saisit_seul;
+        return take(rib, typed, saisie, TitreSaisie(mode, saisie));
     } catch (const Failure &failure) {
         saisie.messages.Report(failure, " Input/OK");
         return FinSaisie::refusee;

@@ -50,6 +50,9 @@ struct ModeEntree {
     std::string (*texte)(const RibModel &rib);
     FinSaisie (*saisit)(RibModel &rib, const std::string &typed, const Saisie &saisie,
                         const std::string &titre);
+    /// The same for a rib whose other values are given: nothing follows.
+    FinSaisie (*saisit_seul)(RibModel &rib, const std::string &typed, const Saisie &saisie,
+                             const std::string &titre);
 };
 
 /// The row of "corde", "epcof", "ba", "bf" or "rep". Failure 5 for another text.
@@ -58,10 +61,13 @@ const ModeEntree &ModeDe(std::string_view ModeSaisie);
 /// The caption of the entry window, which titles its boxes too.
 std::string TitreSaisie(const ModeEntree &mode, const Saisie &saisie);
 
+/// What follows a typed value.
+enum class Suite { tout, rien };
+
 /// Takes a typed value: the mode's routine with its failures caught. A number beyond its bounds or
 /// "1/0" inches is reported, counts as refused, and leaves the rib as it was.
 FinSaisie ValideSaisie(const ModeEntree &mode, RibModel &rib, const std::string &typed,
-                       const Saisie &saisie);
+                       const Saisie &saisie, Suite suite = Suite::tout);
 
 /// Keeps the inserted text and the heel's heights in step with a rib that has changes. The text
 /// that is the user's own stays, and so do the heights of a washed-out rib. Failures as VersMm.

@@ -37,11 +37,13 @@ std::vector<Command> FileMenu() {
     const char *menu = "mnu_file";
     return {
         Menu(menu, {"MenuFile", "1"}),
-        Entry("mnu_fileopen", menu, {"MenuFile", "2"}, kAlways, nullptr, "Ctrl+Shift+O"),
+        Entry("mnu_fileopen", menu, {"MenuFile", "2"}, kAlways, &frmmain::mnu_fileopen_Click,
+              "Ctrl+Shift+O"),
         Entry("mnu_fileprofilopen", menu, {"MenuFile", "3"}, kAlways,
               &frmmain::mnu_fileprofilopen_Click, "Ctrl+O"),
-        Entry("mnu_filesaveas", menu, {"MenuFile", "4"}, kFile, nullptr, "Ctrl+Shift+S"),
-        Below(Entry("mnu_filedxf", menu, {"MenuFile", "5"}, kFile, nullptr)),
+        Entry("mnu_filesaveas", menu, {"MenuFile", "4"}, kFile, &frmmain::mnu_filesaveas_Click,
+              "Ctrl+Shift+S"),
+        Below(Entry("mnu_filedxf", menu, {"MenuFile", "5"}, kFile, &frmmain::mnu_filedxf_Click)),
         Entry("mnu_filepdf", menu, {"MenuFile", "11"}, kFile, &frmmain::mnu_filepdf_Click),
         Entry("mnu_filesvg", menu, {"MenuFile", "12"}, kFile, &frmmain::mnu_filesvg_Click),
         Below(Entry("mnu_filepage", menu, {"MenuFile", "6"}, kPaper, &frmmain::mnu_filepage_Click)),
@@ -186,8 +188,8 @@ const std::vector<PushButton> &PushButtons() {
 const std::vector<ToolButton> &ToolButtons() {
     static const std::vector<ToolButton> buttons = {
         {1, {"MainTolbar", "1"}, kAlways, nullptr},
-        {2, {"MainTolbar", "2"}, kAlways, nullptr},
-        {3, {"MainTolbar", "3"}, kFile, nullptr},
+        {2, {"MainTolbar", "2"}, kAlways, &frmmain::mnu_fileopen_Click},
+        {3, {"MainTolbar", "3"}, kFile, &frmmain::mnu_filesaveas_Click},
         {4, {"MainTolbar", "4"}, kAlways, nullptr},
         // Stays alive when the rib is cleared: only its menu entry dies then.
         {5, {"MainTolbar", "5"}, kWithRib | kAliveInView, &frmmain::mnu_filepage_Click},

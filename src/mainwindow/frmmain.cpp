@@ -9,6 +9,7 @@
 #include "platform/qt_form.h"
 #include "programme/export.h"
 #include "programme/load.h"
+#include "programme/rib_file.h"
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
@@ -218,6 +219,14 @@ void frmmain::RecalculProfil() {
 }
 
 void frmmain::OuvreFichier(const std::string &path) {
+    if (EstComposants(path)) {
+        Garde(" LireEcrire/newLfw", [this, &path] {
+            if (ConfirmePerte({"fileopen", "1"}, {"fileopen", "2"})) {
+                newLfw(path);
+            }
+        });
+        return;
+    }
     Garde(" Main/FileMru", [this, &path] { LitEtReprend(path); });
 }
 

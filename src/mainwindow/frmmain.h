@@ -35,7 +35,7 @@ class frmmain : public QMainWindow, public MainView {
     explicit frmmain(Programme &programme);
 
     /// Opens an airfoil that was not chosen in the picker: from the command line, a drop, or the
-    /// recent files.
+    /// recent files. Also a rib components file, before which changes are asked for.
     void OuvreFichier(const std::string &path);
 
     void affiche() override;
@@ -48,6 +48,9 @@ class frmmain : public QMainWindow, public MainView {
 
     // Commands, named after their controls.
     void mnu_fileprofilopen_Click();
+    void mnu_fileopen_Click();
+    void mnu_filesaveas_Click();
+    void mnu_filedxf_Click();
     void mnu_filepdf_Click();
     void mnu_filesvg_Click();
     void mnu_filepage_Click();
@@ -140,8 +143,14 @@ class frmmain : public QMainWindow, public MainView {
     /// Asks for one value; true unless it was cancelled.
     bool Saisit(const std::string &ModeSaisie);
     Impression ImpressionEnCours();
-    void Exporte(const ExportForm &form);
     bool QuestionFin();
+
+    // frmmain_files.cpp
+    /// Opens a rib components file with the airfoil that it names.
+    void newLfw(const std::string &path);
+    void EnregistreComposants();
+    void ExporteVersDxf();
+    void Exporte(const ExportForm &form);
 
     // frmmain_view.cpp
     void Redessine();

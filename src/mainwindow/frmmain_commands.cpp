@@ -1,7 +1,6 @@
 // The commands of the main window.
 
 #include "base/version.h"
-#include "base/whole_file.h"
 #include "core/airfoil_reader.h"
 #include "features/frmInstxt.h"
 #include "features/rib_entry.h"
@@ -15,7 +14,6 @@
 #include "persist/frmdefaut.h"
 #include "platform/qt_form.h"
 #include "programme/export.h"
-#include "programme/qt_export_forms.h"
 
 #include <filesystem>
 
@@ -39,33 +37,6 @@ void frmmain::mnuFileMRU_Click(const std::string &path) {
     if (std::filesystem::exists(path, error)) {
         OuvreFichier(path);
     }
-}
-
-void frmmain::Exporte(const ExportForm &form) {
-    const Exported exported = form.Export(programme_, [this] { mnu_filepage_Click(); });
-    if (exported.failed) {
-        affclear();
-    }
-    if (!exported.bytes) {
-        return;
-    }
-    FileQuestion question;
-    question.title = form.filter_text;
-    question.name = programme_.rib.NomProfil + "." + form.extension;
-    question.filter_text = form.filter_text;
-    question.default_extension = form.extension;
-    const std::string path = programme_.platform.ChooseSaveFile(question);
-    if (!path.empty() && !ReplaceFile(path, *exported.bytes)) {
-        throw MakeFailure(kPathFileAccess, path);
-    }
-}
-
-void frmmain::mnu_filepdf_Click() {
-    Exporte(*FindExportForm("pdf"));
-}
-
-void frmmain::mnu_filesvg_Click() {
-    Exporte(*FindExportForm("svg"));
 }
 
 void frmmain::mnu_filepage_Click() {

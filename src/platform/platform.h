@@ -33,6 +33,12 @@ struct FileQuestion {
     std::string default_extension; ///< without its point; added to a name that has none
 };
 
+/// The file that a chooser of several forms was left with.
+struct FormAnswer {
+    std::string path; ///< empty: cancelled
+    int form = 0;     ///< 0 the question's own filter, then the further ones
+};
+
 /// What a print run wants to know of the sheet before it opens the printer.
 struct PrintQuestion {
     std::string document;     ///< name of the job in the queue
@@ -67,6 +73,9 @@ class Platform {
     virtual std::string ChooseOpenFile(const FileQuestion &question) = 0;
     /// Asks before a file that exists is replaced.
     virtual std::string ChooseSaveFile(const FileQuestion &question) = 0;
+    /// The same where a file may have one of several forms: further filters beside the question's.
+    virtual FormAnswer ChooseSaveForm(const FileQuestion &question,
+                                      const std::vector<std::string> &more_filters) = 0;
     virtual std::string ChooseFolder(const std::string &title, const std::string &folder) = 0;
 
     virtual void SetPointer(Pointer pointer) = 0;

@@ -15,6 +15,8 @@
 #include <QPushButton>
 #include <QUrl>
 
+#include <algorithm>
+
 namespace loftwing {
 
 namespace {
@@ -68,13 +70,18 @@ std::vector<BoxButton> ButtonsOf(BoxButtons buttons) {
     return {kOk};
 }
 
-void Prepare(QFileDialog &dialog, const FileQuestion &question) {
+void Prepare(QFileDialog &dialog, const FileQuestion &question,
+             const std::vector<std::string> &more_filters = {}) {
     dialog.setWindowTitle(Q(question.title));
     if (!question.folder.empty()) {
         dialog.setDirectory(Q(question.folder));
     }
     if (!question.filter_text.empty()) {
-        dialog.setNameFilter(Q(question.filter_text));
+        QStringList filters{Q(question.filter_text)};
+        for (const std::string &filter : more_filters) {
+            filters += Q(filter);
+        }
+        dialog.setNameFilters(filters);
     }
     if (!question.name.empty()) {
         dialog.selectFile(Q(question.name));
@@ -168,19 +175,31 @@ std::string QtPlatform::ChooseOpenFile(const FileQuestion &question) {
     return Chosen(dialog);
 }
 
-// The dialog's own question would come before the extension is added.
 std::string QtPlatform::ChooseSaveFile(const FileQuestion &question) {
+    return ChooseSaveForm(question, {}).path;
+}
+
+// The dialog's own question would come before the extension is added.
+FormAnswer QtPlatform::ChooseSaveForm(const FileQuestion &question,
+                                      const std::vector<std::string> &more_filters) {
     FileQuestion next = question;
+    int form = 0;
     while (true) {
         QFileDialog dialog(Asker());
         dialog.setAcceptMode(QFileDialog::AcceptSave);
         dialog.setFileMode(QFileDialog::AnyFile);
         dialog.setOption(QFileDialog::DontConfirmOverwrite);
-        Prepare(dialog, next);
+        Prepare(dialog, next, more_filters);
+        const QStringList filters = dialog.nameFilters();
+        if (form < filters.size()) {
+            dialog.selectNameFilter(filters[form]);
+        }
         const std::string path = WithExtension(Chosen(dialog), question.default_extension);
+        form =
+            static_cast<int>(std::max<qsizetype>(filters.indexOf(dialog.selectedNameFilter()), 0));
         const QFileInfo file(Q(path));
         if (path.empty() || !file.exists() || MayReplace(path, question.title)) {
-            return path;
+            return {path, form};
         }
         next.folder = S(file.path());
         next.name = S(file.fileName());

@@ -26,6 +26,8 @@ class QtPlatform : public Platform {
                                    const std::string &proposed) override;
     std::string ChooseOpenFile(const FileQuestion &question) override;
     std::string ChooseSaveFile(const FileQuestion &question) override;
+    FormAnswer ChooseSaveForm(const FileQuestion &question,
+                              const std::vector<std::string> &more_filters) override;
     std::string ChooseFolder(const std::string &title, const std::string &folder) override;
     void SetPointer(Pointer pointer) override;
     void ProcessEvents() override;

@@ -34,6 +34,10 @@ std::string ConsolePlatform::ChooseSaveFile(const FileQuestion &) {
     return {};
 }
 
+FormAnswer ConsolePlatform::ChooseSaveForm(const FileQuestion &, const std::vector<std::string> &) {
+    return {};
+}
+
 std::string ConsolePlatform::ChooseFolder(const std::string &, const std::string &) {
     return {};
 }

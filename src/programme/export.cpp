@@ -1,5 +1,7 @@
 #include "programme/export.h"
 
+#include "base/version.h"
+#include "output/dxf.h"
 #include "output/rib_plot.h"
 #include "output/screen_plot.h"
 #include "output/svg_writer.h"
@@ -53,6 +55,19 @@ Impression ImpressionDuRib(Programme &programme, PlotState &plot) {
             [&rib, &settings, &messages, &plot](PlotDevice &device) {
                 return PrintSubroutine({device, rib, settings, plot, messages}, 1.0);
             }};
+}
+
+bool ExporteDxf(Programme &programme, std::string &out) {
+    if (programme.rib.AffHaut) {
+        programme.messages.Inform(programme.Text({"filedxf", "1"}), kTitre);
+        return false;
+    }
+    EcritDxf({programme.rib, programme.plot, programme.settings.Unite}, out);
+    return true;
+}
+
+std::string ExporteDxfSimple(Programme &programme) {
+    return EcritDxfSimple({programme.rib, programme.plot, programme.settings.Unite});
 }
 
 std::string ExporteSvg(Programme &programme, bool &failed) {

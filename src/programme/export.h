@@ -20,6 +20,13 @@ std::unique_ptr<Recording> DessineRib(Programme &programme, bool &failed,
 /// A print run of the rib. It works on the plot state given, and the view is that of paper.
 Impression ImpressionDuRib(Programme &programme, PlotState &plot);
 
+/// The rib as it was last plotted, in the interchange form of DXF, appended to `out`. An inverted
+/// view has no such form: false, and a box tells so. Failures as EntitesDxf; `out` then holds what
+/// came before.
+bool ExporteDxf(Programme &programme, std::string &out);
+/// The rib as it was last plotted, as clean DXF for cutters. Failures as EntitesDxf.
+std::string ExporteDxfSimple(Programme &programme);
+
 /// The rib as SVG; empty as DessineRib.
 std::string ExporteSvg(Programme &programme, bool &failed);
 

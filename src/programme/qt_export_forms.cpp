@@ -3,6 +3,7 @@
 #include "output/print_run.h"
 #include "output/qt_export.h"
 #include "output/screen_plot.h"
+#include "persist/LireEcrire.h"
 #include "platform/qt_plot_device.h"
 #include "platform/qt_printer.h"
 #include "programme/export.h"
@@ -50,29 +51,65 @@ Exported AsPdf(Programme &programme, const std::function<void()> &set_up_page) {
     return {std::nullopt, end == FinImpression::trace_echec};
 }
 
+/// Plots the rib as the screen does at 100 %, for the forms that show what the last plot left.
+bool PlotFirst(Programme &programme, Exported &exported) {
+    Recording recording;
+    const Affichage end = afficheRib(programme.TraceSur(recording));
+    exported.failed = end == Affichage::echec;
+    return end == Affichage::dessine;
+}
+
+Exported AsDxf(Programme &programme, const std::function<void()> &) {
+    Exported exported;
+    std::string bytes;
+    if (PlotFirst(programme, exported) && ExporteDxf(programme, bytes)) {
+        exported.bytes = bytes;
+    }
+    return exported;
+}
+
+Exported AsDxfSimple(Programme &programme, const std::function<void()> &) {
+    Exported exported;
+    if (PlotFirst(programme, exported)) {
+        exported.bytes = ExporteDxfSimple(programme);
+    }
+    return exported;
+}
+
+Exported AsComposants(Programme &programme, const std::function<void()> &) {
+    return {EcritComposants(programme.rib), false};
+}
+
 } // namespace
 
 const std::vector<ExportForm> &ExportForms() {
-    static const std::vector<ExportForm> forms = {{"svg", "SVG (*.svg)", false, AsSvg},
-                                                  {"png", "PNG (*.png)", true, AsPng},
-                                                  {"pdf", "PDF (*.pdf)", true, AsPdf}};
+    static const std::vector<ExportForm> forms = {
+        {"svg", "", "SVG (*.svg)", false, AsSvg},
+        {"png", "", "PNG (*.png)", true, AsPng},
+        {"pdf", "", "PDF (*.pdf)", true, AsPdf},
+        {"dxf", "", "DXF (*.dxf)", false, AsDxf},
+        {"dxf", "plain", "DXF (*.dxf)", false, AsDxfSimple},
+        {"lfw", "", "Loftwing (*.lfw)", false, AsComposants}};
     return forms;
 }
 
-const ExportForm *FindExportForm(const std::string &extension) {
+const ExportForm *FindExportForm(const std::string &extension, const std::string &variant) {
     std::string lower = extension;
     std::transform(lower.begin(), lower.end(), lower.begin(),
                    [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
     const auto &forms = ExportForms();
-    const auto form = std::find_if(forms.begin(), forms.end(),
-                                   [&](const ExportForm &each) { return each.extension == lower; });
+    const auto form = std::find_if(forms.begin(), forms.end(), [&](const ExportForm &each) {
+        return each.extension == lower && each.variant == variant;
+    });
     return form == forms.end() ? nullptr : &*form;
 }
 
 std::string ExportExtensions() {
     std::string names;
     for (const ExportForm &form : ExportForms()) {
-        names += (names.empty() ? "" : ", ") + form.extension;
+        if (form.variant.empty()) {
+            names += (names.empty() ? "" : ", ") + form.extension;
+        }
     }
     return names;
 }

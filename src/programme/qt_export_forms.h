@@ -19,6 +19,7 @@ struct Exported {
 
 struct ExportForm {
     std::string extension;   ///< without its point
+    std::string variant;     ///< tells forms of one extension apart; empty for the usual one
     std::string filter_text; ///< "PDF (*.pdf)"
     bool needs_toolkit;      ///< drawn with the toolkit's fonts, so its application must run
     /// Makes the bytes of a file. `set_up_page` is called where a print run asks for a page; it
@@ -28,8 +29,8 @@ struct ExportForm {
 
 const std::vector<ExportForm> &ExportForms();
 /// The form of an extension, case ignored; null for one that there isn't.
-const ExportForm *FindExportForm(const std::string &extension);
-/// "svg, png, pdf".
+const ExportForm *FindExportForm(const std::string &extension, const std::string &variant = {});
+/// "svg, png, ...".
 std::string ExportExtensions();
 
 } // namespace loftwing

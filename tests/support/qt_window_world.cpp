@@ -3,7 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QLabel>
+#include <QMimeData>
+#include <QTest>
+#include <QUrl>
 
 #include <filesystem>
 
@@ -64,6 +69,20 @@ QAction *WindowWorld::Action(const std::string &name) const {
 
 std::string WindowWorld::Panel(int number) const {
     return Find<QLabel>("StatusBar(" + std::to_string(number) + ")")->text().toStdString();
+}
+
+void WindowWorld::Drop(const std::string &path) {
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QString::fromStdString(path))});
+    const QPoint place(50, 50);
+    // The toolkit passes a drop on only where the file was dragged in before.
+    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(place), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &drop);
+    EXPECT_TRUE(drop.isAccepted());
+    QTest::qWait(1); // it opens after the drop is over
 }
 
 } // namespace loftwing

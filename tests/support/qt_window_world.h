@@ -32,6 +32,8 @@ class WindowWorld {
         return window->findChild<Widget *>(QString::fromStdString(name));
     }
     std::string Panel(int number) const;
+    /// Drops a file on the window and lets it open.
+    void Drop(const std::string &path);
 };
 
 } // namespace loftwing

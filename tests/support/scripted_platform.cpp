@@ -57,6 +57,12 @@ std::string ScriptedPlatform::ChooseSaveFile(const FileQuestion &question) {
     return NextFile(question);
 }
 
+FormAnswer ScriptedPlatform::ChooseSaveForm(const FileQuestion &question,
+                                            const std::vector<std::string> &more_filters) {
+    filters_offered = more_filters;
+    return {NextFile(question), form_chosen};
+}
+
 std::string ScriptedPlatform::ChooseFolder(const std::string &title, const std::string &folder) {
     folder_questions.push_back({title, folder});
     return Next(folders_expected, "folder chooser: " + title);

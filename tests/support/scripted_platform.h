@@ -30,6 +30,8 @@ class ScriptedPlatform : public Platform {
     std::vector<MessageBox> boxes; ///< every box that appeared, in order
     std::deque<std::string> files_expected;
     std::vector<FileQuestion> file_questions;
+    int form_chosen = 0;                      ///< in a chooser of several forms
+    std::vector<std::string> filters_offered; ///< by the last such chooser
     std::deque<std::string> folders_expected;
     /// What a folder chooser was asked with.
     struct FolderQuestion {
@@ -59,6 +61,8 @@ class ScriptedPlatform : public Platform {
                                    const std::string &proposed) override;
     std::string ChooseOpenFile(const FileQuestion &question) override;
     std::string ChooseSaveFile(const FileQuestion &question) override;
+    FormAnswer ChooseSaveForm(const FileQuestion &question,
+                              const std::vector<std::string> &more_filters) override;
     std::string ChooseFolder(const std::string &title, const std::string &folder) override;
     void SetPointer(Pointer shape) override { pointer = shape; }
     void ProcessEvents() override {}

@@ -11,7 +11,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMimeData>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTest>
@@ -524,12 +523,8 @@ TEST(MainWindow, NoShortcutStandsForTwoCommands) {
 TEST(MainWindow, AFileDroppedOnItOpens) {
     WindowWorld world;
     world.Open();
-    QMimeData data;
-    data.setUrls(
-        {QUrl::fromLocalFile(QString::fromStdString(WindowWorld::Sample("naca4412.dat")))});
-    QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(world.window.get(), &drop);
-    QTRY_COMPARE(world.programme.rib.NomProfil, std::string("naca4412"));
+    world.Drop(WindowWorld::Sample("naca4412.dat"));
+    EXPECT_EQ(world.programme.rib.NomProfil, "naca4412");
 }
 
 TEST(MainWindow, ShowsTheUnitInInches) {

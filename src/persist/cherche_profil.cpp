@@ -1,0 +1,96 @@
+// The search for the airfoil that a rib components file names.
+
+#include "persist/LireEcrire.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <set>
+
+namespace loftwing {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// One walk through a folder and all below it.
+class Recherche {
+  public:
+    Recherche(const std::string &nom, const std::function<void()> &pause)
+        : nom_(nom), pause_(pause) {}
+
+    /// The last hit below `folder`, its own file first.
+    std::string Dans(const fs::path &folder) {
+        found_.clear();
+        seen_.clear();
+        Parcourt(folder);
+        return found_;
+    }
+
+  private:
+    const std::string &nom_;
+    const std::function<void()> &pause_;
+    std::string found_;
+    std::set<fs::path> seen_; ///< real places, so that links can't lead in a circle
+
+    void Parcourt(const fs::path &folder) {
+        // A list of its own instead of the call stack: folders may be nested deeply.
+        std::vector<fs::path> ahead{folder};
+        while (!ahead.empty()) {
+            const fs::path here = ahead.back();
+            ahead.pop_back();
+            if (!Neuf(here)) {
+                continue;
+            }
+            pause_();
+            std::error_code error;
+            if (fs::is_regular_file(here / nom_, error)) {
+                found_ = (here / nom_).string();
+            }
+            std::vector<fs::path> below = DossiersDe(here);
+            std::sort(below.rbegin(), below.rend()); // the first one is taken first
+            ahead.insert(ahead.end(), below.begin(), below.end());
+        }
+    }
+
+    bool Neuf(const fs::path &folder) {
+        std::error_code error;
+        const fs::path real = fs::canonical(folder, error);
+        return !error && seen_.insert(real).second;
+    }
+
+    static std::vector<fs::path> DossiersDe(const fs::path &folder) {
+        std::vector<fs::path> folders;
+        std::error_code error;
+        fs::directory_iterator entry(folder, error);
+        while (!error && entry != fs::directory_iterator()) {
+            std::error_code unknown;
+            if (entry->is_directory(unknown)) {
+                folders.push_back(entry->path());
+            }
+            entry.increment(error);
+        }
+        return folders;
+    }
+};
+
+} // namespace
+
+std::string ChercheProfil(const std::vector<std::string> &dossiers, const std::string &nom,
+                          const std::function<void()> &pause) {
+    const bool plain = !nom.empty() && nom != "." && nom != ".." &&
+                       nom.find_first_of("/\\") == std::string::npos &&
+                       nom.find('\0') == std::string::npos;
+    if (!plain) {
+        return {};
+    }
+    Recherche search(nom, pause);
+    for (const std::string &folder : dossiers) {
+        std::string path = search.Dans(folder);
+        if (!path.empty()) {
+            return path;
+        }
+    }
+    return {};
+}
+
+} // namespace loftwing

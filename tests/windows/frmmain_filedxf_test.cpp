@@ -1,0 +1,191 @@
+// Exporting DXF from the main window.
+
+#include "support/ordinary_user.h"
+#include "windows/frmmain_files_fixture.h"
+
+#include <gmock/gmock.h>
+
+namespace loftwing {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+namespace fs = std::filesystem;
+
+constexpr int kInterchange = 0;
+constexpr int kPlain = 1;
+
+class ExportingDxf : public RibFiles {
+  protected:
+    void Export(int form, const std::string &path) {
+        world.platform.form_chosen = form;
+        Choose("mnu_filedxf", path);
+    }
+    std::string Out(const char *name = "rib.dxf") const { return world.folder.Path(name); }
+};
+
+TEST_F(ExportingDxf, WritesTheFormThatIsChosen) {
+    OpenBytes("laden.lfw", LadenRib("11", false).Current());
+    Export(kInterchange, Out("interchange.dxf"));
+    Export(kPlain, Out("plain.dxf"));
+    const std::string interchange = world.folder.Bytes("interchange.dxf");
+    const std::string plain = world.folder.Bytes("plain.dxf");
+    EXPECT_THAT(interchange, HasSubstr("9\r\n$ACADVER\r\n1\r\nAC1004\r\n"));
+    EXPECT_THAT(interchange, HasSubstr("0\r\nPOLYLINE\r\n"));
+    EXPECT_THAT(plain, HasSubstr("9\r\n$ACADVER\r\n1\r\nAC1009\r\n"));
+    EXPECT_THAT(plain, HasSubstr("0\r\nLINE\r\n"));
+    EXPECT_THAT(plain, Not(HasSubstr("POLYLINE")));
+    for (const std::string &text : {interchange, plain}) {
+        EXPECT_TRUE(text.ends_with("0\r\nENDSEC\r\n0\r\nEOF\r\n"));
+    }
+    EXPECT_TRUE(world.platform.boxes.empty()); // no word at the end
+    EXPECT_EQ(world.platform.pointer, Pointer::normal);
+    EXPECT_EQ(Rib().corde, 170.0F);
+}
+
+TEST_F(ExportingDxf, TheChooserOffersBothFormsAndANameFromTheFile) {
+    world.window->OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    Export(kInterchange, "");
+    EXPECT_EQ(LastQuestion().title, "Export as DXF");
+    EXPECT_EQ(LastQuestion().filter_text, "DXF Files (*.dxf)");
+    EXPECT_EQ(world.platform.filters_offered, std::vector<std::string>{"DXF for cutters (*.dxf)"});
+    EXPECT_EQ(LastQuestion().default_extension, "dxf");
+    EXPECT_EQ(LastQuestion().name, "naca2412.dxf");
+    EXPECT_EQ(LastQuestion().folder, world.folder.Path("sets")); // none was exported yet
+    EXPECT_EQ(Setting("RepDxf"), "");
+    Rib().Modifie = false;
+    OpenBytes("root v1.2.lfw", ComponentsText{}.Current());
+    Export(kInterchange, world.folder.Path("ribs/out.dxf"));
+    EXPECT_EQ(LastQuestion().name, "root v1.2.dxf");
+    EXPECT_EQ(Setting("RepDxf"), world.folder.Path("ribs"));
+    Export(kPlain, "");
+    EXPECT_EQ(LastQuestion().folder, world.folder.Path("ribs"));
+}
+
+TEST_F(ExportingDxf, ACancelledChooserWritesNothing) {
+    OpenBytes("rib.lfw", ComponentsText{}.Current());
+    for (const int form : {kInterchange, kPlain}) {
+        Export(form, "");
+    }
+    EXPECT_TRUE(world.platform.boxes.empty());
+    EXPECT_EQ(std::distance(fs::directory_iterator(world.folder.Path("ribs")), {}), 1);
+    EXPECT_EQ(world.platform.pointer, Pointer::normal);
+}
+
+TEST_F(ExportingDxf, AnInvertedRibGoesToTheFormForCuttersOnly) {
+    ComponentsText file = LadenRib("1", false);
+    file.inverted = "1";
+    OpenBytes("inverted.lfw", file.Current());
+    ExpectBox(BoxAnswer::ok,
+              "An inverted rib cannot be exported as DXF. Turn it back with View / Invert "
+              "Airfoil, or choose DXF for cutters.",
+              "Loftwing");
+    Export(kInterchange, Out("interchange.dxf"));
+    EXPECT_FALSE(Exists("interchange.dxf"));
+    EXPECT_EQ(world.platform.pointer, Pointer::normal);
+    Export(kPlain, Out("plain.dxf"));
+    EXPECT_THAT(world.folder.Bytes("plain.dxf"), HasSubstr("0\r\nLINE\r\n"));
+}
+
+TEST_F(ExportingDxf, ARefusedExportLeavesTheFileThatWasThere) {
+    ComponentsText file;
+    file.inverted = "1";
+    OpenBytes("inverted.lfw", file.Current());
+    world.folder.File("kept.dxf", "of old");
+    world.platform.Expect(BoxAnswer::ok);
+    Export(kInterchange, Out("kept.dxf"));
+    EXPECT_EQ(world.folder.Bytes("kept.dxf"), "of old");
+}
+
+TEST_F(ExportingDxf, TurnedRoundTheFormForCuttersIsMirrored) {
+    ComponentsText file;
+    OpenBytes("rib.lfw", file.Current());
+    Export(kPlain, Out("upright.dxf"));
+    world.Action("mnu_affinver")->trigger();
+    Export(kPlain, Out("inverted.dxf"));
+    const auto extent = [this](const char *name, const std::string &variable) {
+        const std::string text = world.folder.Bytes(name);
+        const std::string mark = variable + "\r\n10\r\n";
+        const std::size_t y = text.find("20\r\n", text.find(mark) + mark.size());
+        return std::stod(text.substr(y + 4));
+    };
+    EXPECT_NEAR(extent("inverted.dxf", "$EXTMIN"), -extent("upright.dxf", "$EXTMAX"), 1e-6);
+    EXPECT_NEAR(extent("inverted.dxf", "$EXTMAX"), -extent("upright.dxf", "$EXTMIN"), 1e-6);
+    EXPECT_GT(extent("upright.dxf", "$EXTMAX"), 10.0); // the upper surface of this airfoil
+}
+
+TEST_F(ExportingDxf, TheZoomAndTheScrollOfTheScreenDoNotCount) {
+    OpenBytes("laden.lfw", LadenRib("1", false).Current());
+    Export(kInterchange, Out("1.dxf"));
+    Export(kPlain, Out("1p.dxf"));
+    Q_EMIT world.Find<QComboBox>("Combo1")->activated(0);
+    EXPECT_EQ(Rib().Zoom, 3.0F);
+    Rib().DecalX = 40;
+    world.window->affiche();
+    Export(kPlain, Out("2p.dxf"));
+    EXPECT_EQ(world.folder.Bytes("2p.dxf"), world.folder.Bytes("1p.dxf"));
+    Export(kInterchange, Out("2.dxf"));
+    EXPECT_EQ(world.folder.Bytes("2.dxf").substr(0, 4000),
+              world.folder.Bytes("1.dxf").substr(0, 4000));
+}
+
+TEST_F(ExportingDxf, TheExportLeavesThePictureAsItIs) {
+    OpenBytes("laden.lfw", LadenRib("11", false).Current());
+    world.window->affiche();
+    const std::vector<Operation> before = Drawing()->Operations();
+    Export(kInterchange, Out());
+    Export(kPlain, Out());
+    world.window->affiche();
+    EXPECT_TRUE(Drawing()->Operations() == before);
+}
+
+TEST_F(ExportingDxf, AnotherDecimalSeparatorIsWarnedOfAndTheExportGoesOnWithPoints) {
+    OpenBytes("rib.lfw", ComponentsText{}.Current());
+    world.platform.decimal_separator = ',';
+    const auto &programme = world.programme;
+    for (const int form : {kInterchange, kPlain}) {
+        for (const BoxAnswer answer : {BoxAnswer::ok, BoxAnswer::cancel}) {
+            world.platform.boxes_expected.push_back(
+                {answer, [&](const MessageBox &box) {
+                     EXPECT_THAT(box.text, StartsWith(programme.Text({"Message", "11"}) + "\n"));
+                     EXPECT_THAT(box.text, HasSubstr(" : Export as DXF file\n"));
+                     EXPECT_EQ(box.title, "Decimal separator");
+                 }});
+            fs::remove(Out());
+            Export(form, Out());
+            ASSERT_TRUE(Exists("rib.dxf"));
+            EXPECT_THAT(world.folder.Bytes("rib.dxf"), HasSubstr("10\r\n200.0\r\n"));
+            EXPECT_THAT(world.folder.Bytes("rib.dxf"), Not(HasSubstr(",0")));
+        }
+    }
+}
+
+TEST_F(ExportingDxf, ARefusedWriteIsReported) {
+    OpenBytes("rib.lfw", ComponentsText{}.Current());
+    for (const int form : {kInterchange, kPlain}) {
+        ExpectBox(BoxAnswer::ok,
+                  "Error # 75 in Loftwing\nPath/file access error: " + Out("none/rib.dxf"),
+                  " Main/Mnu_DXF");
+        Export(form, Out("none/rib.dxf"));
+    }
+    EXPECT_TRUE(Rib().ProfilCharge);
+    EXPECT_NE(Drawing(), nullptr);
+    EXPECT_EQ(world.platform.pointer, Pointer::normal);
+}
+
+TEST_F(ExportingDxf, FilesAreInTheUnitOfTheDisplay) {
+    WindowWorld inches("English", "in");
+    inches.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    for (const int form : {kInterchange, kPlain}) {
+        inches.platform.form_chosen = form;
+        inches.platform.files_expected = {inches.folder.Path("rib.dxf")};
+        inches.Action("mnu_filedxf")->trigger();
+        EXPECT_THAT(inches.folder.Bytes("rib.dxf"), HasSubstr("\r\n8.0\r\n")); // the chord
+        EXPECT_THAT(inches.folder.Bytes("rib.dxf"), Not(HasSubstr("\r\n203.2\r\n")));
+    }
+}
+
+} // namespace
+} // namespace loftwing
