@@ -4,6 +4,8 @@
 #include "base/text_encoding.h"
 #include "persist/lignes_composants.h"
 
+#include <algorithm>
+
 namespace loftwing {
 
 namespace {
@@ -187,6 +189,16 @@ void LignesAnciennes(RibModel &rib, Lecteur &lecteur) {
     GabaritAncien(lecteur, rib);
 }
 
+/// The lines of a file. A stray carriage return counts as the blank that it is written as, so that
+/// a number is the same before and after.
+std::vector<std::string> LignesDe(const std::string &bytes) {
+    std::vector<std::string> lines = SplitLines(ToUtf8(bytes));
+    for (std::string &line : lines) {
+        std::replace(line.begin(), line.end(), '\r', ' ');
+    }
+    return lines;
+}
+
 void LitAncien(const std::vector<std::string> &lines, RibModel &rib, const Saisie &saisie) {
     Lecteur lecteur(lines, saisie);
     while (!lecteur.Fini()) {
@@ -204,7 +216,7 @@ std::string EcritComposants(const RibModel &rib) {
 
 FormatComposants LitComposants(const std::string &bytes, RibModel &rib, const Saisie &saisie,
                                std::string &nom_cherche) {
-    const std::vector<std::string> lines = SplitLines(ToUtf8(bytes));
+    const std::vector<std::string> lines = LignesDe(bytes);
     Lecteur lecteur(lines, saisie);
     while (!lecteur.Fini()) {
         if (!lecteur.Devant().starts_with(kDebutMagie)) {
