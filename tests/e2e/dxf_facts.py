@@ -69,6 +69,7 @@ def say_facts(path):
     say_header(document.header)
     for layer in document.layers:
         say("layer", layer.dxf.name)
+        say("linetype-of-" + layer.dxf.name, layer.dxf.linetype)
     for line_type in document.linetypes:
         say("linetype", line_type.dxf.name)
     space = document.modelspace()

@@ -121,6 +121,8 @@ TEST_F(DxfRead, ThePlainFormPassesTheAuditWithNothingRepairedAndNothingLost) {
         EXPECT_EQ(facts.Count("TEXT"), 1);
         EXPECT_GT(facts.Count("LINE"), 800); // contour and sheeting
         EXPECT_EQ(facts.Count("POLYLINE"), 0);
+        EXPECT_EQ(RecordsIn(path, "SECTION"), 4);
+        EXPECT_THAT(ReadWholeFile(path), testing::HasSubstr("\r\n2\r\nBLOCKS\r\n"));
     }
 }
 
@@ -172,6 +174,9 @@ TEST_F(DxfRead, ThePlainFormHasALayerForEachKindOfThing) {
                                                               "LONG", "TROU", "STATIONS", "TEXT"));
     EXPECT_THAT(facts.All("layer"), IsSupersetOf(facts.All("used-layer")));
     EXPECT_THAT(facts.All("linetype"), IsSupersetOf({"CONTINUOUS", "CENTER"}));
+    for (const std::string &layer : facts.All("used-layer")) {
+        EXPECT_EQ(facts.One("linetype-of-" + layer), layer == "AXIS" ? "CENTER" : "CONTINUOUS");
+    }
 }
 
 TEST_F(DxfRead, TheInterchangeFormLoadsWithEveryRecord) {
