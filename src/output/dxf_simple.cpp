@@ -139,13 +139,14 @@ void Dessin::Reperes() {
     }
 }
 
-/// A cutter's programs know R12 texts in ASCII: a degree sign has its own code, the rest a number.
-std::string EnAscii(const std::string &text) {
-    std::string ascii;
+/// R12 texts are in the code page that the header names: a degree sign has its own code, Latin
+/// letters are one byte, the rest is told by its number.
+std::string EnPageDeCode(const std::string &text) {
+    std::string texte;
     for (std::size_t i = 0; i < text.size();) {
         const auto lead = static_cast<unsigned char>(text[i]);
         if (lead < 0x80) {
-            ascii += lead < ' ' ? ' ' : text[i];
+            texte += lead < ' ' ? ' ' : text[i];
             ++i;
             continue;
         }
@@ -156,16 +157,18 @@ std::string EnAscii(const std::string &text) {
         }
         i += length;
         if (code == 0xB0) {
-            ascii += "%%d";
+            texte += "%%d";
+        } else if (code >= 0xA0 && code <= 0xFF) {
+            texte += static_cast<char>(code);
         } else if (code <= 0xFFFF) {
             std::array<char, 8> number{};
             std::snprintf(number.data(), number.size(), "\\U+%04lX", code);
-            ascii += number.data();
+            texte += number.data();
         } else {
-            ascii += '?';
+            texte += '?';
         }
     }
-    return ascii;
+    return texte;
 }
 
 /// The inserted text as high as on paper; it stands upright whichever way up the rib is.
@@ -185,7 +188,7 @@ void Dessin::TexteInsere() {
         kUnitsPerMm;
     const DxfPoint place{Mm(x), Mm(top - size * kLigneDeBase)};
     const double height = Mm(size * kCapitales);
-    textes_.push_back({EnAscii(texte.InsTexte), place, height, Mm(width)});
+    textes_.push_back({EnPageDeCode(texte.InsTexte), place, height, Mm(width)});
     etendue_.Prend(place);
     etendue_.Prend({place.x + Mm(width), place.y + height});
 }

@@ -303,7 +303,7 @@ TEST_F(SimpleDxf, InsertedTextStandsUprightOnItsLayer) {
         EXPECT_EQ(Kinds(entities)["TEXT"], 1);
         // 9 points are 180 units, 3.174603 mm: the top at 8 mm, the base line 0.905 of it below.
         EXPECT_TRUE(Text(entities).ends_with("0 TEXT\n8 TEXT\n10 10.0\n20 5.126984\n30 0.0\n"
-                                             "40 2.273016\n1 Vrillage 2%%d \\U+2013 \\U+00E9\n"))
+                                             "40 2.273016\n1 Vrillage 2%%d \\U+2013 \xE9\n"))
             << Text(entities).substr(Text(entities).size() - 120);
     }
 }
