@@ -79,7 +79,8 @@ class Platform {
     virtual std::string ChooseFolder(const std::string &title, const std::string &folder) = 0;
 
     virtual void SetPointer(Pointer pointer) = 0;
-    /// Lets pending window events through, for work that takes longer than a moment.
+    /// Lets pending window events through, for work that takes longer than a moment. Keys and
+    /// clicks wait until it is done.
     virtual void ProcessEvents() = 0;
 
     /// First character of the locale's decimal separator.

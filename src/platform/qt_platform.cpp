@@ -228,7 +228,9 @@ void QtPlatform::SetPointer(Pointer pointer) {
 }
 
 void QtPlatform::ProcessEvents() {
-    QCoreApplication::processEvents();
+    // The window stays alive; what the user clicks meanwhile waits, for it could start the same
+    // work a second time or close the window under it.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 char QtPlatform::DecimalSeparator() {
