@@ -27,6 +27,7 @@ struct Ink {
 /// The same in a picture of grey bytes.
 Ink InkOf(const std::string &pgm) {
     std::istringstream head(pgm);
+    head.imbue(std::locale::classic());
     std::string magic;
     std::size_t width = 0;
     std::size_t height = 0;

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <filesystem>
 
 namespace loftwing {
 namespace {
@@ -462,75 +461,6 @@ TEST_F(OlderComponents, AnyOtherTextIsTakenForOneAndFails) {
         million += "5\n";
     }
     EXPECT_NE(FailureOf([&] { ReadBytes(million); }), 0);
-}
-
-/// Folders with airfoils.
-class AirfoilSearch : public testing::Test {
-  protected:
-    std::string Put(const std::string &path) {
-        std::filesystem::create_directories(std::filesystem::path(folder.Path(path)).parent_path());
-        return folder.File(path, "airfoil");
-    }
-    std::string Search(const std::vector<std::string> &below, const std::string &name) {
-        std::vector<std::string> folders;
-        for (const std::string &each : below) {
-            folders.push_back(folder.Path(each));
-        }
-        return ChercheProfil(folders, name, [this] { ++pauses; });
-    }
-
-    TempFolder folder;
-    int pauses = 0;
-};
-
-TEST_F(AirfoilSearch, LastVisitedOfTwoSubfoldersWins) {
-    Put("one/a/e205.dat");
-    const std::string last = Put("one/b/e205.dat");
-    Put("one/e205.dat");
-    EXPECT_EQ(Search({"one"}, "e205.dat"), last);
-    EXPECT_EQ(pauses, 3);
-}
-
-TEST_F(AirfoilSearch, DeeperFoldersOfAnEarlierOneComeBeforeALaterOne) {
-    Put("one/a/z/e205.dat");
-    const std::string last = Put("one/b/e205.dat");
-    EXPECT_EQ(Search({"one"}, "e205.dat"), last);
-}
-
-TEST_F(AirfoilSearch, HitInTheFirstFolderLeavesTheSecondOut) {
-    const std::string first = Put("one/e205.dat");
-    Put("two/e205.dat");
-    EXPECT_EQ(Search({"one", "two"}, "e205.dat"), first);
-    EXPECT_EQ(pauses, 1);
-    const std::string other = Put("two/mh32.dat");
-    EXPECT_EQ(Search({"one", "two"}, "mh32.dat"), other);
-}
-
-TEST_F(AirfoilSearch, NothingIsFoundWhereNothingIs) {
-    Put("one/e205.dat");
-    EXPECT_EQ(Search({"one"}, "E205x.dat"), "");
-    EXPECT_EQ(Search({"nowhere"}, "e205.dat"), "");
-    EXPECT_EQ(Search({}, "e205.dat"), "");
-    Put("one/folder.dat/x");
-    EXPECT_EQ(Search({"one"}, "folder.dat"), ""); // a folder is no airfoil
-}
-
-TEST_F(AirfoilSearch, NameIsNeverAPath) {
-    Put("one/e205.dat");
-    Put("one/sub/mh32.dat");
-    for (const std::string &name :
-         {std::string("sub/mh32.dat"), std::string("../one/e205.dat"), folder.Path("one/e205.dat"),
-          std::string("sub\\mh32.dat"), std::string(""), std::string("."), std::string("..")}) {
-        EXPECT_EQ(Search({"one"}, name), "") << name;
-    }
-}
-
-TEST_F(AirfoilSearch, LinksDoNotLeadInACircle) {
-    const std::string file = Put("one/a/e205.dat");
-    std::filesystem::create_directory_symlink(folder.Path("one"), folder.Path("one/a/back"));
-    std::filesystem::create_directory_symlink(folder.Path("one/a"), folder.Path("one/b"));
-    EXPECT_EQ(Search({"one"}, "e205.dat"), file);
-    EXPECT_EQ(pauses, 2);
 }
 
 } // namespace
