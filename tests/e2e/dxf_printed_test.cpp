@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <regex>
 #include <sstream>
 
 namespace loftwing {
@@ -101,14 +100,16 @@ class DxfPrinted : public LadenFiles {
     /// Width and height of a sheet, mm.
     static std::pair<double, double> PageOf(const std::string &pdf) {
         const Ran ran = RunShell("LC_ALL=C pdfinfo " + ShellWord(pdf));
-        std::smatch size;
-        if (!std::regex_search(ran.out, size,
-                               std::regex("Page size: +([0-9]+)[.0-9]* x ([0-9]+)"))) {
+        const std::string label = "Page size:";
+        const std::size_t at = ran.out.find(label);
+        const std::size_t by = at == std::string::npos ? at : ran.out.find(" x ", at);
+        if (by == std::string::npos) {
             ADD_FAILURE() << "no page in " << pdf << ": " << ran.out;
             return {0, 0};
         }
         constexpr double kMmPerPoint = 25.4 / 72;
-        return {std::stoi(size[1]) * kMmPerPoint, std::stoi(size[2]) * kMmPerPoint};
+        return {std::stoi(ran.out.substr(at + label.size())) * kMmPerPoint,
+                std::stoi(ran.out.substr(by + 3)) * kMmPerPoint};
     }
 
     /// What a drawing claims as its extent, mm.
