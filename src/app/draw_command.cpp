@@ -98,9 +98,7 @@ bool Deliver(const Target &target, const std::string &file, const ExportForm &fo
             ? (fs::path(target.folder) / (fs::path(file).stem().string() + "." + form.extension))
                   .string()
             : target.file;
-    if (!ReplaceFile(name, bytes)) {
-        throw MakeFailure(kPathFileAccess, name);
-    }
+    WriteWholeFile(name, bytes);
     return true;
 }
 

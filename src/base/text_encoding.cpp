@@ -100,6 +100,22 @@ std::string ToUtf8(std::string_view bytes) {
     return IsUtf8(bytes) ? std::string(bytes) : FromWindows1252(bytes);
 }
 
+std::u32string CodePoints(std::string_view text) {
+    std::u32string points;
+    for (std::size_t at = 0; at < text.size();) {
+        // A byte that begins no sequence stands for itself, so that the walk always goes on.
+        const std::size_t length = std::max<std::size_t>(SequenceLength(text, at), 1);
+        const auto lead = static_cast<unsigned char>(text[at]);
+        char32_t code = length == 1 ? lead : lead & (0xFFU >> (length + 1));
+        for (std::size_t i = 1; i < length; ++i) {
+            code = code << 6U | (static_cast<unsigned char>(text[at + i]) & 0x3FU);
+        }
+        points += code;
+        at += length;
+    }
+    return points;
+}
+
 std::vector<std::string> SplitLines(std::string_view text) {
     std::vector<std::string> lines;
     while (!text.empty()) {

@@ -14,6 +14,9 @@ bool IsUtf8(std::string_view bytes);
 /// mark is skipped.
 std::string ToUtf8(std::string_view bytes);
 
+/// The code points of a valid UTF-8 text.
+std::u32string CodePoints(std::string_view text);
+
 /// The lines of `text`. CR LF and LF both end a line; a last line needs no end.
 std::vector<std::string> SplitLines(std::string_view text);
 

@@ -138,4 +138,10 @@ bool ReplaceFile(const std::string &path, std::string_view bytes) {
     return true;
 }
 
+void WriteWholeFile(const std::string &path, std::string_view bytes) {
+    if (!ReplaceFile(path, bytes)) {
+        throw MakeFailure(kPathFileAccess, path);
+    }
+}
+
 } // namespace loftwing

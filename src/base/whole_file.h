@@ -21,4 +21,7 @@ std::string ReadWholeFileIfThere(const std::string &path);
 /// nothing left behind, when any step is refused, `path` is no plain file or is write-protected.
 bool ReplaceFile(const std::string &path, std::string_view bytes);
 
+/// The same for a file that must be written: failure 75 instead of false.
+void WriteWholeFile(const std::string &path, std::string_view bytes);
+
 } // namespace loftwing

@@ -21,6 +21,9 @@ inline constexpr std::uint8_t kSansGabarit = 0;
 inline constexpr std::uint8_t kGabaritMousse = 1;
 inline constexpr std::uint8_t kGabaritTalon = 11;
 
+/// Largest washout either way, degrees.
+inline constexpr float kVrillageMaxi = 20;
+
 /// The rib on which the whole program works. There is one for the life of the process; it is passed
 /// by reference and never copied. Lengths are in mm, airfoil coordinates in fractions of the chord.
 /// Point lists run from the trailing edge over the upper surface to the leading edge and back.

@@ -9,8 +9,6 @@ namespace loftwing {
 
 namespace {
 
-constexpr float kVrillageMaxi = 20;
-
 /// One of the two ramps of a template.
 struct Rampe {
     int champ;

@@ -148,15 +148,10 @@ void frmInstxt::LayOut() {
     grid->addWidget(&Label2, 4, 0);
     grid->addWidget(&ComboTaille, 4, 1);
     grid->setColumnStretch(0, 1);
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    for (QPushButton *button : {&CmdApply, &cmdok, &cmdannuler, &cmdaide}) {
-        buttons->addWidget(button);
-    }
     auto *rows = new QVBoxLayout(this);
     rows->addLayout(grid);
     rows->addStretch();
-    rows->addLayout(buttons);
+    rows->addLayout(ButtonRow({&CmdApply, &cmdok, &cmdannuler, &cmdaide}));
     for (int i = 0; i < static_cast<int>(Label1.size()); ++i) {
         At(Label1, i).setTextFormat(Qt::PlainText);
         At(Label1, i).setBuddy(&At(infotxt, i));

@@ -38,14 +38,9 @@ void frmTalon::LayOut() {
     auto *above = new QHBoxLayout;
     above->addLayout(grid);
     above->addWidget(&Picture1, 1);
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    for (QPushButton *button : {&CmdApply, &cmdok, &cmdannuler, &cmdaide}) {
-        buttons->addWidget(button);
-    }
     auto *rows = new QVBoxLayout(this);
     rows->addLayout(above);
-    rows->addLayout(buttons);
+    rows->addLayout(ButtonRow({&CmdApply, &cmdok, &cmdannuler, &cmdaide}));
     for (QLabel *label :
          {&LabelOpt, &LabelHaut, &LabelAvant, &Label2, &Label3, &LabelLong, &lbllongb}) {
         label->setTextFormat(Qt::PlainText);

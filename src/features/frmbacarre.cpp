@@ -42,15 +42,10 @@ void frmbacarre::LayOut() {
     for (int i = 0; i < kChampsCarre; ++i) {
         AddMeasure(*grid, i, Picture1, {At(letters, i), At(Label1, i), At(infotxt, i), unit});
     }
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    for (QPushButton *button : {&CmdApply, &cmdok, &cmdannuler, &cmdaide}) {
-        buttons->addWidget(button);
-    }
     auto *rows = new QVBoxLayout(this);
     rows->addLayout(grid);
     rows->addWidget(&Picture1, 1); // below: the labels are long
-    rows->addLayout(buttons);
+    rows->addLayout(ButtonRow({&CmdApply, &cmdok, &cmdannuler, &cmdaide}));
     cmdok.setDefault(true);
 }
 

@@ -37,14 +37,9 @@ void frmbloc::LayOut() {
     auto *above = new QHBoxLayout;
     above->addLayout(grid);
     above->addWidget(&Picture1, 1);
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    for (QPushButton *button : {&CmdApply, &cmdok, &cmdannuler, &cmdaide}) {
-        buttons->addWidget(button);
-    }
     auto *rows = new QVBoxLayout(this);
     rows->addLayout(above);
-    rows->addLayout(buttons);
+    rows->addLayout(ButtonRow({&CmdApply, &cmdok, &cmdannuler, &cmdaide}));
     for (QLabel *label : {&LabelPointHaut, &lblpointhaut, &LabelPointBas, &lblpointbas, &LabelLong,
                           &lbllongb, &LabelQueue}) {
         label->setTextFormat(Qt::PlainText);

@@ -15,6 +15,10 @@ inline constexpr std::uint8_t kLongeronDroit = 1;    ///< square to the chord at
 inline constexpr std::uint8_t kLongeronRond = 2;     ///< round
 inline constexpr std::uint8_t kLongeronDistance = 3; ///< square, at a distance from the surface
 
+/// Values of OptLongExt and OptLongInt; 0 and any other: no notch.
+inline constexpr std::uint8_t kEncocheCoffrage = 1; ///< from the inner face of the sheeting
+inline constexpr std::uint8_t kEncocheContour = 2;  ///< from the contour
+
 /// What the user typed and chose for one spar.
 struct ChampsLongeron {
     std::array<std::string, 4> Text1; ///< location, width or diameter, depth, distance

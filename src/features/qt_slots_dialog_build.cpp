@@ -39,13 +39,8 @@ QLayout *SlotsDialog::LigneListe() {
 }
 
 QLayout *SlotsDialog::LigneBoutons() {
-    auto *row = new QHBoxLayout;
-    row->addStretch();
-    for (QPushButton *button : {&CmdApply, &cmdok, &Cmdannuler, &cmdaide}) {
-        row->addWidget(button);
-    }
     cmdok.setDefault(true);
-    return row;
+    return ButtonRow({&CmdApply, &cmdok, &Cmdannuler, &cmdaide});
 }
 
 void SlotsDialog::LayOutCommandes() {

@@ -14,8 +14,6 @@ std::string TexteHauteur(double mm, const std::string &Unite) {
     return FormatAffiche(DepuisMm(mm, Unite), kPictureTwoFixed);
 }
 
-constexpr float kVrillageMaxi = 20;
-
 double SansCoffrage(MesuresTalon mesures, double fraction) {
     return static_cast<double>(mesures.corde) * fraction - static_cast<double>(mesures.EpCoffrage);
 }
@@ -89,6 +87,16 @@ Talon TalonPour(const RibModel &rib, MesuresTalon mesures, const Saisie &saisie)
         talon.TalonExtraAfich = TexteTalonExtra(rib, mesures, saisie.Unite);
     }
     return AvecHauteurs(talon, saisie);
+}
+
+double HauteurTalon(const Talon &talon) {
+    return talon.OptTalon != 0 ? talon.TalonExtra : talon.TalonIntra;
+}
+
+double FaceTalon(const RibModel &rib, float EpRel, double station) {
+    const double sheeting = static_cast<double>(EpRel);
+    return rib.talon.OptTalon != 0 ? Hauteur(rib.TabExtrados, station) - sheeting
+                                   : Hauteur(rib.TabIntrados, station) + sheeting;
 }
 
 Talon AvecMarges(Talon talon, float corde, const Saisie &saisie) {

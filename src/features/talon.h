@@ -29,6 +29,12 @@ Talon AvecHauteurs(Talon talon, const Saisie &saisie);
 /// washed-out rib keeps what was typed. The rib stays as it is. Failures of VersMm.
 Talon TalonPour(const RibModel &rib, MesuresTalon mesures, const Saisie &saisie);
 
+/// Height of the heel in use, mm, as it is kept for its side.
+double HauteurTalon(const Talon &talon);
+/// The rib's inner face on the heel's side at a station, in fractions of the chord; `EpRel` is the
+/// sheeting in the same. Failure 9 outside the tables.
+double FaceTalon(const RibModel &rib, float EpRel, double station);
+
 /// The heel with its margins taken from their texts for a chord in mm, and their sum.
 Talon AvecMarges(Talon talon, float corde, const Saisie &saisie);
 

@@ -29,16 +29,11 @@ void frmInput::NameAll() {
 }
 
 void frmInput::LayOut() {
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(&cmdok);
-    buttons->addWidget(&cmdannuler);
-    buttons->addWidget(&cmdaide);
     auto *rows = new QVBoxLayout(this);
     rows->addWidget(&msgtxt);
     rows->addWidget(&infotxt);
     rows->addStretch();
-    rows->addLayout(buttons);
+    rows->addLayout(ButtonRow({&cmdok, &cmdannuler, &cmdaide}));
     msgtxt.setTextFormat(Qt::PlainText);
     msgtxt.setBuddy(&infotxt);
     cmdok.setDefault(true);

@@ -6,6 +6,7 @@
 #include "mainwindow/frmInput.h"
 #include "mainwindow/tool_icons.h"
 #include "output/screen_plot.h"
+#include "platform/busy_pointer.h"
 #include "platform/qt_form.h"
 #include "programme/export.h"
 #include "programme/load.h"
@@ -167,13 +168,8 @@ bool frmmain::ConfirmePerte(LngKey text, LngKey title) {
 }
 
 void frmmain::affclear() {
-    programme_.platform.SetPointer(Pointer::busy);
-    try {
-        ClearRib();
-    } catch (const Failure &failure) {
-        programme_.messages.Report(failure, " Main/AffichClear");
-    }
-    programme_.platform.SetPointer(Pointer::normal);
+    const Sablier sablier(programme_.platform);
+    programme_.messages.Garde(" Main/AffichClear", [this] { ClearRib(); });
 }
 
 void frmmain::ClearRib() {
@@ -200,12 +196,11 @@ void frmmain::ClearRib() {
 
 void frmmain::RepriseProfil() {
     setWindowTitle(Q(TitreFenetre(programme_.rib, programme_.messages)));
-    programme_.platform.SetPointer(Pointer::busy);
+    const Sablier sablier(programme_.platform);
     EntreProfil(programme_);
     AfficheFichiersRecents();
     CordeDuTitre(programme_.rib, programme_.SaisieEnCours());
     RecalculProfil();
-    programme_.platform.SetPointer(Pointer::normal);
 }
 
 void frmmain::RecalculProfil() {

@@ -5,6 +5,7 @@
 #include "lang/ini_file.h"
 #include "mainwindow/frmmain.h"
 #include "persist/LireEcrire.h"
+#include "platform/busy_pointer.h"
 #include "platform/qt_text.h"
 #include "programme/export.h"
 #include "programme/qt_export_forms.h"
@@ -31,12 +32,6 @@ void RetientDossier(const Programme &programme, const char *key, const std::stri
                  programme.paths.fichier);
 }
 
-void EcritFichier(const std::string &path, const std::string &bytes) {
-    if (!ReplaceFile(path, bytes)) {
-        throw MakeFailure(kPathFileAccess, path);
-    }
-}
-
 /// What the choosers of rib components files have in common.
 FileQuestion QuestionComposants(const Programme &programme, const std::string &titre) {
     FileQuestion question;
@@ -49,20 +44,6 @@ FileQuestion QuestionComposants(const Programme &programme, const std::string &t
     return question;
 }
 
-/// Busy as long as it lives, however it ends.
-class Occupe {
-  public:
-    explicit Occupe(Platform &platform) : platform_(platform) {
-        platform_.SetPointer(Pointer::busy);
-    }
-    ~Occupe() { platform_.SetPointer(Pointer::normal); }
-    Occupe(const Occupe &) = delete;
-    Occupe &operator=(const Occupe &) = delete;
-
-  private:
-    Platform &platform_;
-};
-
 /// The interchange form. A failure leaves the file as far as it was written.
 void EcritEchangeDxf(Programme &programme, const std::string &path) {
     std::string bytes;
@@ -71,10 +52,10 @@ void EcritEchangeDxf(Programme &programme, const std::string &path) {
             return;
         }
     } catch (const Failure &) {
-        EcritFichier(path, bytes);
+        WriteWholeFile(path, bytes);
         throw;
     }
-    EcritFichier(path, bytes);
+    WriteWholeFile(path, bytes);
 }
 
 /// The rib file's name without its extension where the rib has one, else the airfoil's.
@@ -102,7 +83,7 @@ void frmmain::newLfw(const std::string &path) {
     const Repertoires &folders = programme_.settings.repertoires;
     OuvertureComposants end{};
     {
-        const Occupe busy(programme_.platform);
+        const Sablier sablier(programme_.platform);
         end = OuvreComposants(programme_, {path, {folders.RepProfil, folders.RepProfilevol}});
     }
     if (end == OuvertureComposants::ouverte) {
@@ -129,7 +110,7 @@ void frmmain::EnregistreComposants() {
         return;
     }
     RetientDossier(programme_, "LastOpenLfw", path);
-    EcritFichier(path, EcritComposants(rib));
+    WriteWholeFile(path, EcritComposants(rib));
     rib.NomFichierRib = fs::path(path).filename().string();
     rib.Modifie = false;
     setWindowTitle(Q(TitreComposants(programme_, "  ")));
@@ -155,11 +136,11 @@ void frmmain::ExporteVersDxf() {
         return;
     }
     RetientDossier(programme_, "RepDxf", answer.path);
-    const Occupe busy(programme_.platform);
+    const Sablier sablier(programme_.platform);
     if (answer.form == 0) {
         EcritEchangeDxf(programme_, answer.path);
     } else {
-        EcritFichier(answer.path, ExporteDxfSimple(programme_));
+        WriteWholeFile(answer.path, ExporteDxfSimple(programme_));
     }
 }
 
@@ -177,8 +158,8 @@ void frmmain::Exporte(const ExportForm &form) {
     question.filter_text = form.filter_text;
     question.default_extension = form.extension;
     const std::string path = programme_.platform.ChooseSaveFile(question);
-    if (!path.empty() && !ReplaceFile(path, *exported.bytes)) {
-        throw MakeFailure(kPathFileAccess, path);
+    if (!path.empty()) {
+        WriteWholeFile(path, *exported.bytes);
     }
 }
 

@@ -78,14 +78,9 @@ void frmopen::LayOut() {
     auto *upper = new QHBoxLayout;
     upper->addLayout(LayOutLists(), 1);
     upper->addLayout(LayOutPreview(), 1);
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(&cmdouvrir);
-    buttons->addWidget(&cmdannuler);
-    buttons->addWidget(&cmdaide);
     auto *rows = new QVBoxLayout(this);
     rows->addLayout(upper, 1);
-    rows->addLayout(buttons);
+    rows->addLayout(ButtonRow({&cmdouvrir, &cmdannuler, &cmdaide}));
     cmdouvrir.setDefault(true);
     File1.setFocus();
     // The preview shrinks with the height, so it may have nearly all of a small screen.

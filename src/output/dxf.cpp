@@ -6,7 +6,6 @@
 #include "output/dxf_text.h"
 
 #include <array>
-#include <cmath>
 
 namespace loftwing {
 
@@ -77,17 +76,7 @@ void LineTypes(DxfText &dxf, double diviseur) {
     Table(dxf, "LTYPE", "50");
     for (const LineType &type : types) {
         Record(dxf, "LTYPE", type.handle, "AcDbLinetypeTableRecord", type.name);
-        dxf.Texte(3, type.description);
-        dxf.Entier(72, 65);
-        dxf.Entier(73, static_cast<int>(type.dashes.size()));
-        double length = 0;
-        for (const double dash : type.dashes) {
-            length += std::abs(dash) / diviseur;
-        }
-        dxf.Reel(40, length);
-        for (const double dash : type.dashes) {
-            dxf.Reel(49, dash / diviseur);
-        }
+        dxf.Trait(type.description, type.dashes, diviseur);
     }
     dxf.Texte(0, "ENDTAB");
 }

@@ -1,6 +1,7 @@
 // Foam template and levelling heel of the DXF drawing.
 
 #include "core/stations.h"
+#include "features/talon.h"
 #include "output/dxf_trace.h"
 
 #include <cmath>
@@ -54,15 +55,13 @@ void DxfTalon(const DxfTrace &trace) {
     const bool extra = talon.OptTalon != 0;
     const double s = std::sin(plot.VrillageRad);
     const double c = std::cos(plot.VrillageRad);
-    const double sheeting = static_cast<double>(plot.EpRel);
-    const double height = trace.Longueur(extra ? talon.TalonExtra : talon.TalonIntra);
+    const double height = trace.Longueur(HauteurTalon(talon));
     const DxfPoint q{s * height + trace.Ox(), trace.Oy() - c * height};
     const auto foot = [&](double distance) {
         return q + DxfPoint{distance * c * c, distance * c * s};
     };
     const auto face = [&](double margin) {
-        const double k = static_cast<double>(StationDepuisBF(margin, rib.corde));
-        return extra ? trace.U(k) - sheeting : trace.L(k) + sheeting;
+        return FaceTalon(rib, plot.EpRel, static_cast<double>(StationDepuisBF(margin, rib.corde)));
     };
     trace.Polyligne(extra ? kDxfAxe : kDxfForme, kCalqueTalon, {foot(0), foot(trace.corde)});
     const double rear = trace.corde - trace.Longueur(talon.TalonBF);

@@ -1,6 +1,7 @@
 #include "output/dxf_entities.h"
 
 #include "output/dxf_trace.h"
+#include "output/rib_measures.h"
 
 namespace loftwing {
 
@@ -28,8 +29,7 @@ void BordAttaque(const DxfTrace &trace) {
                         {{trace.X(k), trace.Y(trace.U(k))}, {trace.X(k), trace.Y(trace.L(k))}});
         return;
     }
-    constexpr double kDiagonale = 1.414; // builders' figure for the square root of 2
-    const double d = trace.Longueur(rib.carre.CarreBA) / kDiagonale;
+    const double d = trace.Longueur(rib.carre.CarreBA) / kDiagonaleCarre;
     const double x = trace.Ox() + trace.Longueur(rib.carre.CarreBAX);
     const double y = trace.Oy() + trace.Longueur(rib.carre.CarreBAY);
     trace.recoit(DxfPolyligne{

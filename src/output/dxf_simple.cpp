@@ -6,6 +6,7 @@
 #include "core/stations.h"
 #include "output/dxf_text.h"
 #include "output/recording.h"
+#include "output/rib_measures.h"
 
 #include <algorithm>
 #include <array>
@@ -18,11 +19,7 @@ namespace {
 
 constexpr std::string_view kCalqueReperes = "STATIONS";
 constexpr std::string_view kCalqueTexte = "TEXT";
-constexpr double kCapitales = 0.716;          // height of Arial's capitals, parts of the font size
-constexpr double kLigneDeBase = 0.905;        // from the top of the text to its base line, likewise
-constexpr double kTexteAuDessus = 3.0;        // mm that the text lies above its place
-constexpr double kSousLeProfil = 0.015;       // overshoot of station lines, parts of the chord
-constexpr double kSousLeProfilInverse = 0.01; // and more upside down
+constexpr double kCapitales = 0.716; // height of Arial's capitals, parts of the font size
 
 struct Segment {
     std::string_view calque;
@@ -143,26 +140,17 @@ void Dessin::Reperes() {
 /// letters are one byte, the rest is told by its number.
 std::string EnPageDeCode(const std::string &text) {
     std::string texte;
-    for (std::size_t i = 0; i < text.size();) {
-        const auto lead = static_cast<unsigned char>(text[i]);
-        if (lead < 0x80) {
-            texte += lead < ' ' ? ' ' : text[i];
-            ++i;
-            continue;
-        }
-        const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-        unsigned long code = lead & (0xFFU >> (length + 1));
-        for (std::size_t k = 1; k < length && i + k < text.size(); ++k) {
-            code = code << 6U | (static_cast<unsigned char>(text[i + k]) & 0x3FU);
-        }
-        i += length;
-        if (code == 0xB0) {
+    for (const char32_t code : CodePoints(text)) {
+        if (code < 0x80) {
+            texte += code < ' ' ? ' ' : static_cast<char>(code);
+        } else if (code == 0xB0) {
             texte += "%%d";
         } else if (code >= 0xA0 && code <= 0xFF) {
             texte += static_cast<char>(code);
         } else if (code <= 0xFFFF) {
             std::array<char, 8> number{};
-            std::snprintf(number.data(), number.size(), "\\U+%04lX", code);
+            std::snprintf(number.data(), number.size(), "\\U+%04lX",
+                          static_cast<unsigned long>(code));
             texte += number.data();
         } else {
             texte += '?';
@@ -186,7 +174,7 @@ void Dessin::TexteInsere() {
     const double width =
         MeasuredAdvance(texte.InsTexte, {"Arial", static_cast<double>(texte.TailleFont)}) /
         kUnitsPerMm;
-    const DxfPoint place{Mm(x), Mm(top - size * kLigneDeBase)};
+    const DxfPoint place{Mm(x), Mm(top - size * kAscent)};
     const double height = Mm(size * kCapitales);
     textes_.push_back({EnPageDeCode(texte.InsTexte), place, height, Mm(width)});
     etendue_.Prend(place);
@@ -219,20 +207,10 @@ void Dessin::Entete(DxfText &dxf) const {
 
 void LineType(DxfText &dxf, std::string_view name, std::string_view description,
               const std::vector<double> &dashes, double scale) {
-    double length = 0;
-    for (const double dash : dashes) {
-        length += std::abs(dash) / scale;
-    }
     dxf.Texte(0, "LTYPE");
     dxf.Texte(2, name);
     dxf.Entier(70, 0);
-    dxf.Texte(3, description);
-    dxf.Entier(72, 65);
-    dxf.Entier(73, static_cast<int>(dashes.size()));
-    dxf.Reel(40, length);
-    for (const double dash : dashes) {
-        dxf.Reel(49, dash / scale);
-    }
+    dxf.Trait(description, dashes, scale);
 }
 
 struct Calque {

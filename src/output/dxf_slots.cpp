@@ -1,5 +1,7 @@
 // Spars and holes of the DXF drawing.
 
+#include "features/longeron.h"
+#include "features/trou.h"
 #include "output/dxf_trace.h"
 
 #include <cmath>
@@ -61,16 +63,17 @@ class DxfEncoche {
 
 void Encoche(const DxfTrace &trace, const Longeron &spar, const PlaceTracee &place, Face face,
              std::uint8_t option) {
-    if (option != 1 && option != 2) {
+    if (option != kEncocheCoffrage && option != kEncocheContour) {
         return;
     }
-    const double decal = option == 2 ? 0.0 : static_cast<double>(trace.source.plot.EpRel);
+    const double decal =
+        option == kEncocheContour ? 0.0 : static_cast<double>(trace.source.plot.EpRel);
     const DxfEncoche notch(trace, spar, place, face, decal);
-    if (spar.TypeLong == 2) {
+    if (spar.TypeLong == kLongeronRond) {
         notch.Rond();
-    } else if (spar.TypeLong == 0) {
+    } else if (spar.TypeLong == kLongeronSurface) {
         notch.SuitSurface();
-    } else if (spar.TypeLong == 1 || spar.TypeLong == 3) {
+    } else if (spar.TypeLong == kLongeronDroit || spar.TypeLong == kLongeronDistance) {
         notch.Droit();
     }
 }
@@ -143,9 +146,9 @@ void DxfTrous(const DxfTrace &trace) {
     for (int slot = 0; slot <= rib.NbTrou; ++slot) {
         const Trou &trou = At(rib.trou, slot);
         const DxfPercage hole = PercageDe(trace, trou, At(trace.source.plot.trous, slot));
-        if (trou.TypeTrou == 0) {
+        if (trou.TypeTrou == kTrouRond) {
             Rond(trace, hole);
-        } else if (trou.TypeTrou == 1) {
+        } else if (trou.TypeTrou == kTrouRectangle) {
             Rectangle(trace, hole);
         }
     }

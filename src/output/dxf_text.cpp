@@ -2,6 +2,8 @@
 
 #include "base/number_text.h"
 
+#include <cmath>
+
 namespace loftwing {
 
 namespace {
@@ -23,6 +25,22 @@ void DxfText::Entier(int code, int value) {
 
 void DxfText::Reel(int code, double value) {
     Texte(code, Format(value, kPictureReal));
+}
+
+void DxfText::Trait(std::string_view description, const std::vector<double> &dashes,
+                    double diviseur) {
+    constexpr int kAlignement = 65; // the one that there is
+    double length = 0;
+    for (const double dash : dashes) {
+        length += std::abs(dash) / diviseur;
+    }
+    Texte(3, description);
+    Entier(72, kAlignement);
+    Entier(73, static_cast<int>(dashes.size()));
+    Reel(40, length);
+    for (const double dash : dashes) {
+        Reel(49, dash / diviseur);
+    }
 }
 
 void DxfText::Point(int code, double x, double y) {

@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace loftwing {
 
@@ -15,6 +16,9 @@ class DxfText {
     void Entier(int code, int value);
     /// At least one digit on either side of the point, at most six behind it.
     void Reel(int code, double value);
+    /// The description and the dashes of a line type; gaps are negative. Lengths are divided by
+    /// `diviseur`.
+    void Trait(std::string_view description, const std::vector<double> &dashes, double diviseur);
     /// Two coordinates: groups `code` and `code` + 10.
     void Point(int code, double x, double y);
 

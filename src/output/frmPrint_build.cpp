@@ -36,17 +36,12 @@ void frmPrint::LayOut() {
     auto *place = new QHBoxLayout;
     place->addWidget(&Frame2, 1);
     place->addWidget(&Frame5, 1);
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    buttons->addWidget(&cmdok);
-    buttons->addWidget(&cmdannuler);
-    buttons->addWidget(&cmdaide);
     auto *rows = new QVBoxLayout(this);
     rows->addWidget(&Frame6);
     rows->addLayout(place);
     rows->addWidget(&Frame4);
     rows->addStretch();
-    rows->addLayout(buttons);
+    rows->addLayout(ButtonRow({&cmdok, &cmdannuler, &cmdaide}));
     cmdok.setDefault(true);
     cmdconfigImprim.setAutoDefault(false);
 }

@@ -198,12 +198,8 @@ void frmcoul::LayOut() {
     above->addLayout(left);
     above->addSpacing(kEcart);
     above->addWidget(&Picture1, 1);
-    auto *buttons = new QHBoxLayout;
-    buttons->addWidget(&cmdImprtest);
-    buttons->addStretch();
-    buttons->addWidget(&cmdok);
-    buttons->addWidget(&cmdannuler);
-    buttons->addWidget(&cmdaide);
+    auto *buttons = ButtonRow({&cmdok, &cmdannuler, &cmdaide});
+    buttons->insertWidget(0, &cmdImprtest);
     auto *rows = new QVBoxLayout(this);
     rows->addLayout(above, 1);
     rows->addLayout(buttons);

@@ -2,6 +2,7 @@
 
 #include "core/stations.h"
 #include "output/plot_steps.h"
+#include "output/rib_measures.h"
 
 #include <cmath>
 
@@ -33,10 +34,9 @@ void EcritHauteur(const Trace &trace, double x, double station, LngKey word) {
 
 /// The square stick on its corner, as a diamond around its axis.
 void TraceCarreBord(const Trace &trace) {
-    constexpr double kDiagonale = 1.414; // builders' figure for the square root of 2
     const CarreBord &carre = trace.rib.carre;
     const PlotState &plot = trace.plot;
-    const double d = Quotient(static_cast<double>(carre.CarreBA), kDiagonale);
+    const double d = Quotient(static_cast<double>(carre.CarreBA), kDiagonaleCarre);
     const double x = static_cast<double>(carre.CarreBAX);
     const double y = static_cast<double>(carre.CarreBAY);
     const double echelle = static_cast<double>(plot.Echelle);

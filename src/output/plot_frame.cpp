@@ -3,6 +3,7 @@
 #include "base/number_text.h"
 #include "core/stations.h"
 #include "output/plot_steps.h"
+#include "output/rib_measures.h"
 
 #include <cmath>
 
@@ -11,7 +12,6 @@ namespace loftwing {
 namespace {
 
 constexpr double kTexteEpaisseurAuDessus = 453.6; // 8 mm at any zoom
-constexpr double kTexteAuDessus = 3.0;            // mm that the inserted text lies above its place
 
 /// "12.30 mm" or "1.1/2 in".
 std::string AvecUnite(double mm, const std::string &Unite) {

@@ -7,9 +7,6 @@ namespace loftwing {
 
 namespace {
 
-constexpr std::uint8_t kDepuisCoffrage = 1; // OptLongExt and OptLongInt
-constexpr std::uint8_t kDepuisContour = 2;
-
 /// The heights of one surface at a spar.
 struct Face {
     double f, r, c; ///< at the front edge, the rear edge and the centre
@@ -80,10 +77,10 @@ void Encoche::SuitSurface() const {
 /// The notch in one surface, where `option` asks for one. Another kind than these has no shape.
 void TraceEncoche(const Trace &trace, const Longeron &spar, const PlaceTracee &place, Face face,
                   std::uint8_t option) {
-    if (option != kDepuisCoffrage && option != kDepuisContour) {
+    if (option != kEncocheCoffrage && option != kEncocheContour) {
         return;
     }
-    trace.plot.DecalCoffr = option == kDepuisContour ? 0.0F : trace.plot.EpRel;
+    trace.plot.DecalCoffr = option == kEncocheContour ? 0.0F : trace.plot.EpRel;
     const Encoche notch(trace, spar, place, face);
     trace.EnStyleDe(Element::longeron);
     if (spar.TypeLong == kLongeronRond) {

@@ -2,14 +2,13 @@
 
 #include "core/stations.h"
 #include "output/plot_steps.h"
+#include "output/rib_measures.h"
 
 namespace loftwing {
 
 namespace {
 
-constexpr double kSousLeProfil = 0.015;       // the line overshoots the lower surface, in chords
-constexpr double kSousLeProfilInverse = 0.01; // and a little more in the inverted view
-constexpr double kTailleNumero = 7.2;         // points
+constexpr double kTailleNumero = 7.2; // points
 
 constexpr double kAuDessusDuFond = 3.5;        // mm from the template's bottom to the number
 constexpr double kAuDessusDuFondInverse = 1.0; // the same in the inverted view

@@ -1,6 +1,7 @@
 // The levelling heel.
 
 #include "core/stations.h"
+#include "features/talon.h"
 #include "output/plot_steps.h"
 
 #include <cmath>
@@ -29,13 +30,6 @@ class Pied {
     double x_, y_;
 };
 
-/// The rib's inner face on the heel's side at a station, in fractions of the chord.
-double FaceInterne(const Trace &trace, double station) {
-    const double sheeting = static_cast<double>(trace.plot.EpRel);
-    return trace.rib.talon.OptTalon != 0 ? trace.U(station) - sheeting
-                                         : trace.L(station) + sheeting;
-}
-
 } // namespace
 
 void TraceTalon(const Trace &trace) {
@@ -47,10 +41,10 @@ void TraceTalon(const Trace &trace) {
     const double echelle = static_cast<double>(plot.Echelle);
     const double origine = static_cast<double>(plot.OrigineX);
     const double rear =
-        FaceInterne(trace, static_cast<double>(StationDepuisBF(talon.TalonBF, rib.corde)));
-    const double front =
-        FaceInterne(trace, static_cast<double>(StationDepuisBF(talon.TalonLong, rib.corde)));
-    const Pied pied(trace, talon.OptTalon != 0 ? talon.TalonExtra : talon.TalonIntra);
+        FaceTalon(rib, plot.EpRel, static_cast<double>(StationDepuisBF(talon.TalonBF, rib.corde)));
+    const double front = FaceTalon(
+        rib, plot.EpRel, static_cast<double>(StationDepuisBF(talon.TalonLong, rib.corde)));
+    const Pied pied(trace, HauteurTalon(talon));
     trace.EnStyleDe(Element::bloc);
     trace.device.Line(pied.X(0), pied.Y(0), pied.X(corde), pied.Y(corde),
                       trace.Couleur(Element::axe));

@@ -2,6 +2,7 @@
 
 #include "output/page_entry.h"
 #include "output/styles.h"
+#include "platform/busy_pointer.h"
 
 namespace loftwing {
 
@@ -13,20 +14,6 @@ constexpr double kTailleTexte = 10.0;
 double Wide(float value) {
     return static_cast<double>(value);
 }
-
-/// Busy for as long as it lives.
-class Sablier {
-  public:
-    explicit Sablier(Platform &platform) : platform_(platform) {
-        platform_.SetPointer(Pointer::busy);
-    }
-    Sablier(const Sablier &) = delete;
-    Sablier &operator=(const Sablier &) = delete;
-    ~Sablier() { platform_.SetPointer(Pointer::normal); }
-
-  private:
-    Platform &platform_;
-};
 
 void PrepareImprimante(const Impression &run, Printer &printer, const Papier &paper) {
     printer.SetOrientation(Orientation::landscape);

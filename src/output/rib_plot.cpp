@@ -13,7 +13,8 @@ void Draw(const Trace &trace, Element element, Etape step) {
     trace.Nomme(DrawingElements()[static_cast<std::size_t>(element)].label, [&] { step(trace); });
 }
 
-/// Everything in the order of the drawing.
+} // namespace
+
 void DrawRib(const Trace &trace) {
     const RibModel &rib = trace.rib;
     PrepareTrace(trace);
@@ -47,23 +48,14 @@ void DrawRib(const Trace &trace) {
     trace.FinDeStyle();
 }
 
-} // namespace
-
-std::optional<Failure> EchecDuTrace(const Trace &trace) {
+bool PrintSubroutine(const Trace &trace, [[maybe_unused]] double factor) {
     try {
         DrawRib(trace);
-        return std::nullopt;
     } catch (const Failure &failure) {
-        return failure;
+        trace.messages.ReportPlot(failure, " Main/PrintSubroutine");
+        return false;
     }
-}
-
-bool PrintSubroutine(const Trace &trace, [[maybe_unused]] double factor) {
-    const auto failure = EchecDuTrace(trace);
-    if (failure) {
-        trace.messages.ReportPlot(*failure, " Main/PrintSubroutine");
-    }
-    return !failure;
+    return true;
 }
 
 } // namespace loftwing

@@ -3,8 +3,6 @@
 
 #include "output/trace.h"
 
-#include <optional>
-
 namespace loftwing {
 
 /// Draws the rib at the scale and origin that the caller has set in rib.Zoom and trace.plot
@@ -12,7 +10,7 @@ namespace loftwing {
 /// alike. A failure abandons the drawing, is reported under " Main/PrintSubroutine" and gives
 /// false; the caller then clears the rib.
 bool PrintSubroutine(const Trace &trace, double factor);
-/// The same, but a failure is given back instead of being reported.
-std::optional<Failure> EchecDuTrace(const Trace &trace);
+/// The same, but a failure passes on.
+void DrawRib(const Trace &trace);
 
 } // namespace loftwing

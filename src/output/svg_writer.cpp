@@ -3,6 +3,7 @@
 #include "base/failure.h"
 #include "base/text_encoding.h"
 #include "output/line_look.h"
+#include "output/rib_measures.h"
 
 #include <algorithm>
 #include <array>
@@ -15,7 +16,6 @@ namespace {
 
 constexpr double kMargin = 5.0;        // mm
 constexpr double kLargest = 1'000'000; // mm
-constexpr double kAscent = 0.905;      // of the face, in its size
 
 double Mm(double units) {
     return units / kUnitsPerMm;

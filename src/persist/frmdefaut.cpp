@@ -289,12 +289,7 @@ void frmdefaut::LayOut() {
     rows->addWidget(&Frame3);
     rows->addWidget(&Frame4);
     rows->addStretch();
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
-    for (QPushButton *button : {&cmdok, &cmdannuler, &cmdaide}) {
-        buttons->addWidget(button);
-    }
-    rows->addLayout(buttons);
+    rows->addLayout(ButtonRow({&cmdok, &cmdannuler, &cmdaide}));
     cmdok.setDefault(true);
 }
 

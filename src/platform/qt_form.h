@@ -7,12 +7,15 @@
 #include <QLineEdit>
 
 #include <cstddef>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 #include <type_traits>
 
 class QAbstractButton;
 class QDialog;
+class QHBoxLayout;
+class QPushButton;
 
 namespace loftwing {
 
@@ -55,6 +58,9 @@ enum class SharedWord { ok, cancel, help, apply, close };
 
 std::string ButtonWord(const LngIni &language, SharedWord word);
 void SetButtonWord(QAbstractButton &button, const LngIni &language, SharedWord word);
+
+/// The row of buttons below a dialog, at its right end.
+QHBoxLayout *ButtonRow(std::initializer_list<QPushButton *> buttons);
 
 /// Gives a widget a tool tip, shown as it stands even when it looks like markup.
 void SetTip(QWidget &widget, const std::string &tip);

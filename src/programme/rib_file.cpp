@@ -24,9 +24,8 @@ std::string LitFichier(Programme &programme, const DemandeComposants &demande) {
     std::string name;
     const FormatComposants format =
         LitComposants(ReadWholeFile(demande.path), programme.rib, programme.SaisieEnCours(), name);
-    if (format == FormatComposants::ancien && demande.reecrit &&
-        !ReplaceFile(demande.path, EcritComposants(programme.rib))) {
-        throw MakeFailure(kPathFileAccess, demande.path);
+    if (format == FormatComposants::ancien && demande.reecrit) {
+        WriteWholeFile(demande.path, EcritComposants(programme.rib));
     }
     return name;
 }

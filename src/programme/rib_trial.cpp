@@ -37,17 +37,17 @@ bool RibTracable(Programme &programme, const std::string &titre) {
     if (!RibVisible(rib) || rib.NbContour == 0) {
         return true;
     }
-    Recording nowhere;
-    PlotState apart = programme.plot;
-    apart.CordeEchelle = static_cast<float>(static_cast<double>(rib.corde) * kUnitsPerMm);
-    const auto failure =
-        EchecDuTrace({nowhere, programme.rib, programme.settings, apart, programme.messages});
-    if (!failure) {
-        return true;
+    try {
+        Recording nowhere;
+        PlotState apart = programme.plot;
+        apart.CordeEchelle = ToSingle(static_cast<double>(rib.corde) * kUnitsPerMm);
+        DrawRib({nowhere, programme.rib, programme.settings, apart, programme.messages});
+    } catch (const Failure &failure) {
+        programme.messages.Inform(
+            programme.Text({"FrmMainMessage", "18"}) + "\n" + failure.description, titre);
+        return false;
     }
-    programme.messages.Inform(
-        programme.Text({"FrmMainMessage", "18"}) + "\n" + failure->description, titre);
-    return false;
+    return true;
 }
 
 } // namespace loftwing

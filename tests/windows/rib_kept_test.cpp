@@ -122,6 +122,14 @@ TEST_F(RibKept, ChordThatASparDoesNotFitIsRefusedAndNamesIt) {
     EXPECT_TRUE(Chord("210"));
 }
 
+TEST_F(RibKept, ChordThatNoDrawingCanHoldIsRefused) {
+    // It fits into 32 bits as mm, but not as device units.
+    Box("Overflow");
+    EXPECT_FALSE(Chord(std::string(38, '9').c_str()));
+    EXPECT_EQ(Rib().cordeAfich, "200");
+    EXPECT_TRUE(Chord("210"));
+}
+
 TEST_F(RibKept, ChordShorterThanTheHeelsMarginsIsRefused) {
     Heel(160);
     Box("Levelling heel");
