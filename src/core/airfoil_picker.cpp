@@ -81,6 +81,10 @@ void ProfilPrecedent::Rend(RibModel &rib) const {
     rib.ProfilCharge = charge_;
 }
 
+ProfilChoisi ProfilDuRib(const RibModel &rib) {
+    return {rib.NomProfil, rib.ProfilX, rib.ProfilY, rib.NbPoints};
+}
+
 std::string CheminAbrege(const std::string &folder) {
     if (CharacterCount(folder) <= kCheminEntier) {
         return folder;

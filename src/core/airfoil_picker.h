@@ -4,6 +4,7 @@
 #include "core/messages.h"
 #include "core/rib_model.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,6 +26,17 @@ class ProfilPrecedent {
     std::string extension_;
     bool charge_;
 };
+
+/// An airfoil as the picker hands it to a tool: the points of its file, whose contour isn't made.
+struct ProfilChoisi {
+    std::string NomProfil;
+    PointList ProfilX;
+    PointList ProfilY;
+    std::int16_t NbPoints = 0;
+};
+
+/// The airfoil that the rib holds.
+ProfilChoisi ProfilDuRib(const RibModel &rib);
 
 /// A folder as a label shows it: whole up to 30 characters, otherwise its first 12, "..." and its
 /// last 10.

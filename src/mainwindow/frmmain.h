@@ -41,6 +41,7 @@ class frmmain : public QMainWindow, public MainView {
     void affiche() override;
     void RetraceVues() override;
     void affclear() override;
+    std::optional<ProfilChoisi> ChoisitProfil(const std::string &titre) override;
     void FermeDialogues() override;
     void AppliqueLangue() override;
     void AfficheUnite() override;
@@ -67,7 +68,7 @@ class frmmain : public QMainWindow, public MainView {
     void mnu_affInstxt_Click();
     void mnu_affTrac_Click();
     void mnu_afflignRef_Click();
-    void mnu_affclear_Click();
+    void mnu_affclear_Click() override;
     void mnu_affLang_Click();
     void mnu_profilcorde_Click();
     void mnu_profilepcoffrage_Click();

@@ -39,7 +39,7 @@ FileQuestion QuestionComposants(const Programme &programme, const std::string &t
     question.folder =
         DossierRetenu(programme, "LastOpenLfw", programme.settings.repertoires.RepProfil);
     question.name = programme.rib.NomFichierRib;
-    question.filter_text = programme.Text({"MainTolbar", "25"}) + " " + kTitre + " (*.lfw)";
+    question.filter_text = programme.Text({"fileopen", "6"}) + " " + kTitre + " (*.lfw)";
     question.default_extension = "lfw";
     return question;
 }

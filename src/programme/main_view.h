@@ -1,6 +1,11 @@
 /// What dialogs ask of the main window.
 #pragma once
 
+#include "core/airfoil_picker.h"
+
+#include <optional>
+#include <string>
+
 namespace loftwing {
 
 /// The main window as its dialogs see it.
@@ -17,6 +22,11 @@ class MainView {
     virtual void RetraceVues() = 0;
     /// Clears everything: rib, view and commands.
     virtual void affclear() = 0;
+    /// The same as the user's command, which asks before changes are lost.
+    virtual void mnu_affclear_Click() = 0;
+    /// Lets the user pick an airfoil for a tool; `titre` is the title of the picker and its boxes.
+    /// The rib stays as it was. Nothing when the picker is cancelled.
+    virtual std::optional<ProfilChoisi> ChoisitProfil(const std::string &titre) = 0;
     /// Closes the dialogs that may stay open beside the main window.
     virtual void FermeDialogues() = 0;
     /// Sets all texts of the main window from the language file.

@@ -96,7 +96,7 @@ OuvertureComposants OuvreComposants(Programme &programme, const DemandeComposant
 
 std::string TitreComposants(const Programme &programme, const std::string &ecart) {
     const Messages &messages = programme.messages;
-    return std::string(kTitre) + " " + messages.Text({"MainTolbar", "26"}) + " : " +
+    return std::string(kTitre) + " " + messages.Text({"MainTolbar", "25"}) + " : " +
            programme.rib.NomFichierRib + ecart + messages.Text({"MainTolbar", "11"}) + " : " +
            programme.rib.NomProfil;
 }

@@ -11,7 +11,8 @@ namespace loftwing {
 
 class NotedView : public MainView {
   public:
-    std::vector<std::string> asked; ///< names of the routines, in order
+    std::vector<std::string> asked;     ///< names of the routines, in order
+    std::optional<ProfilChoisi> picked; ///< what the picker gives
     std::function<void()> on_draw;
     std::function<void()> on_clear;
 
@@ -27,6 +28,11 @@ class NotedView : public MainView {
         if (on_clear) {
             on_clear();
         }
+    }
+    void mnu_affclear_Click() override { asked.emplace_back("mnu_affclear_Click"); }
+    std::optional<ProfilChoisi> ChoisitProfil(const std::string &titre) override {
+        asked.emplace_back("ChoisitProfil " + titre);
+        return picked;
     }
     void FermeDialogues() override { asked.emplace_back("FermeDialogues"); }
     void AppliqueLangue() override { asked.emplace_back("AppliqueLangue"); }
