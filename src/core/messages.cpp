@@ -31,9 +31,10 @@ void Messages::Report(const Failure &failure, const std::string &label) const {
     Inform(FailureText(Text({"Erreur", "1"}), Text({"Erreur", "2"}), failure), label);
 }
 
-void Messages::ReportPlot(const Failure &failure, const std::string &label) const {
+void Messages::ReportPlot(const Failure &failure, const std::string &label,
+                          const std::string &window) const {
     Inform(FailureText(Text({"Erreur", "3"}), Text({"Erreur", "2"}), failure),
-           Text({"Erreur", "1"}) + label);
+           window + Text({"Erreur", "1"}) + label);
 }
 
 } // namespace loftwing
