@@ -1,7 +1,9 @@
 #include "app/command_line.h"
 
+#include "app/dihedral_command.h"
 #include "app/draw_command.h"
 #include "app/info_command.h"
+#include "app/table_command.h"
 #include "base/failure.h"
 #include "base/version.h"
 
@@ -21,10 +23,14 @@ struct Verb {
     int (*run)(const Arguments &arguments);
 };
 
-constexpr std::array<Verb, 2> kVerbs = {{
+constexpr std::array<Verb, 4> kVerbs = {{
     {"draw", "draw FILE... -o OUT", "a rib drawing (or several: --to EXT -o DIR/)", DrawOptions,
      RunDraw},
     {"info", "info FILE... [--json]", "what the program knows of an airfoil", InfoOptions, RunInfo},
+    {"table", "table --chords A B --count N", "chords and spar places of a tapered panel",
+     TableOptions, RunTable},
+    {"dihedral", "dihedral ...", "angle, length, height: two of them give the third",
+     DihedralOptions, RunDihedral},
 }};
 
 std::string Padded(std::string text, std::size_t width) {

@@ -20,19 +20,6 @@ constexpr EntryOption kEntryOptions[] = {{"--chord", "corde"},
                                          {"--te", "bf"},
                                          {"--stations", "rep"}};
 
-/// The value of an option, whose characters a numeric field must admit.
-std::string Typed(const Arguments &arguments, const char *option, std::string_view keys) {
-    const std::string value = arguments.Value(option);
-    if (value.empty() || value.find_first_not_of(keys) != std::string::npos) {
-        throw UsageError(std::string(option) + " doesn't take \"" + value + "\"");
-    }
-    return value;
-}
-
-std::string_view LengthKeys(const Programme &programme) {
-    return TouchesSelonUnite(programme.settings.Unite, kTouchesPositif, kTouchesFraction);
-}
-
 void SetPageLength(const Arguments &arguments, Programme &programme, const char *option,
                    std::string &text, float &number) {
     if (arguments.Has(option)) {
@@ -53,6 +40,18 @@ std::uint8_t PaperNamed(const std::string &name) {
 }
 
 } // namespace
+
+std::string Typed(const Arguments &arguments, const char *option, std::string_view keys) {
+    const std::string value = arguments.Value(option);
+    if (value.empty() || value.find_first_not_of(keys) != std::string::npos) {
+        throw UsageError(std::string(option) + " doesn't take \"" + value + "\"");
+    }
+    return value;
+}
+
+std::string_view LengthKeys(const Programme &programme) {
+    return TouchesSelonUnite(programme.settings.Unite, kTouchesPositif, kTouchesFraction);
+}
 
 std::vector<OptionRule> RibOptions() {
     return {{"--chord", "LENGTH", "chord"},
