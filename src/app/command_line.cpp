@@ -2,6 +2,7 @@
 
 #include "app/draw_command.h"
 #include "app/info_command.h"
+#include "app/ribs_command.h"
 #include "base/failure.h"
 #include "base/version.h"
 
@@ -21,11 +22,14 @@ struct Verb {
     int (*run)(const Arguments &arguments);
 };
 
-constexpr std::array<Verb, 2> kVerbs = {{
-    {"draw", "draw FILE... -o OUT", "a rib drawing (or several: --to EXT -o DIR/)", DrawOptions,
-     RunDraw},
-    {"info", "info FILE... [--json]", "what the program knows of an airfoil", InfoOptions, RunInfo},
-}};
+constexpr std::array kVerbs = {
+    Verb{"draw", "draw FILE... -o OUT", "a rib drawing (or several: --to EXT -o DIR/)", DrawOptions,
+         RunDraw},
+    Verb{"info", "info FILE... [--json]", "what the program knows of an airfoil", InfoOptions,
+         RunInfo},
+    Verb{"ribs", "ribs ROOT TIP ... -o DIR", "a full set of ribs between two airfoils", RibsOptions,
+         RunRibs},
+};
 
 std::string Padded(std::string text, std::size_t width) {
     text.resize(std::max(text.size() + 1, width), ' ');
