@@ -3,6 +3,7 @@
 #include "app/dihedral_command.h"
 #include "app/draw_command.h"
 #include "app/info_command.h"
+#include "app/ribs_command.h"
 #include "app/table_command.h"
 #include "base/failure.h"
 #include "base/version.h"
@@ -23,15 +24,18 @@ struct Verb {
     int (*run)(const Arguments &arguments);
 };
 
-constexpr std::array<Verb, 4> kVerbs = {{
-    {"draw", "draw FILE... -o OUT", "a rib drawing (or several: --to EXT -o DIR/)", DrawOptions,
-     RunDraw},
-    {"info", "info FILE... [--json]", "what the program knows of an airfoil", InfoOptions, RunInfo},
-    {"table", "table --chords A B --count N", "chords and spar places of a tapered panel",
-     TableOptions, RunTable},
-    {"dihedral", "dihedral ...", "angle, length, height: two of them give the third",
-     DihedralOptions, RunDihedral},
-}};
+constexpr std::array kVerbs = {
+    Verb{"draw", "draw FILE... -o OUT", "a rib drawing (or several: --to EXT -o DIR/)", DrawOptions,
+         RunDraw},
+    Verb{"info", "info FILE... [--json]", "what the program knows of an airfoil", InfoOptions,
+         RunInfo},
+    Verb{"ribs", "ribs ROOT TIP ... -o DIR", "a full set of ribs between two airfoils", RibsOptions,
+         RunRibs},
+    Verb{"table", "table --chords A B --count N", "chords and spar places of a tapered panel",
+         TableOptions, RunTable},
+    Verb{"dihedral", "dihedral ...", "angle, length, height: two of them give the third",
+         DihedralOptions, RunDihedral},
+};
 
 std::string Padded(std::string text, std::size_t width) {
     text.resize(std::max(text.size() + 1, width), ' ');

@@ -1,5 +1,6 @@
 #include "app/rib_options.h"
 
+#include "app/typed_value.h"
 #include "features/rib_entry.h"
 #include "output/page_setup.h"
 
@@ -40,18 +41,6 @@ std::uint8_t PaperNamed(const std::string &name) {
 }
 
 } // namespace
-
-std::string Typed(const Arguments &arguments, const char *option, std::string_view keys) {
-    const std::string value = arguments.Value(option);
-    if (value.empty() || value.find_first_not_of(keys) != std::string::npos) {
-        throw UsageError(std::string(option) + " doesn't take \"" + value + "\"");
-    }
-    return value;
-}
-
-std::string_view LengthKeys(const Programme &programme) {
-    return TouchesSelonUnite(programme.settings.Unite, kTouchesPositif, kTouchesFraction);
-}
 
 std::vector<OptionRule> RibOptions() {
     return {{"--chord", "LENGTH", "chord"},

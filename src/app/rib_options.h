@@ -6,12 +6,6 @@
 
 namespace loftwing {
 
-/// The value of an option, as typed in a field that admits these characters. Throws UsageError for
-/// an empty one or another character.
-std::string Typed(const Arguments &arguments, const char *option, std::string_view keys);
-/// The characters that a length may have.
-std::string_view LengthKeys(const Programme &programme);
-
 std::vector<OptionRule> RibOptions();
 std::vector<OptionRule> PageOptions();
 

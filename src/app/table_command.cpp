@@ -2,8 +2,7 @@
 
 #include "app/command_line.h"
 #include "app/console_program.h"
-#include "app/rib_options.h"
-#include "app/typed_lengths.h"
+#include "app/typed_value.h"
 #include "base/number_text.h"
 #include "utilities/nervure.h"
 

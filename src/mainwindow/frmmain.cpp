@@ -26,16 +26,28 @@ namespace loftwing {
 
 namespace {
 
-/// What works on the rib that is shown and has nothing to work on once that rib is gone.
-constexpr std::array<std::string_view, 7> kDialoguesNervure = {
-    "frmInput", "frmlongeron", "frmtrou", "frmTalon", "frmbacarre", "frmbloc", "frmInstxt"};
-/// Calculators beside the main window. They work on no rib, but their lengths are in the unit that
-/// was in force when they were opened, and a new rib or a clear may bring another.
-constexpr std::array<std::string_view, 2> kCalculettes = {"frmnervure", "frmdiedre"};
+/// What closes with the rib.
+struct DialogueFerme {
+    std::string_view nom;
+    /// Works on the rib that is shown. The calculators work on none, but their lengths are in the
+    /// unit that was in force when they were opened, and a clear may bring another.
+    bool sur_nervure;
+};
+constexpr std::array<DialogueFerme, 9> kDialogues = {{{"frmInput", true},
+                                                      {"frmlongeron", true},
+                                                      {"frmtrou", true},
+                                                      {"frmTalon", true},
+                                                      {"frmbacarre", true},
+                                                      {"frmbloc", true},
+                                                      {"frmInstxt", true},
+                                                      {"frmnervure", false},
+                                                      {"frmdiedre", false}}};
 
-template <std::size_t kCount>
-bool IsOneOf(const QDialog &dialog, const std::array<std::string_view, kCount> &names) {
-    return std::find(names.begin(), names.end(), S(dialog.objectName())) != names.end();
+const DialogueFerme *EntreeDe(const QDialog &dialog) {
+    const auto *entry =
+        std::find_if(kDialogues.begin(), kDialogues.end(),
+                     [&](const DialogueFerme &each) { return each.nom == S(dialog.objectName()); });
+    return entry == kDialogues.end() ? nullptr : entry;
 }
 
 } // namespace
@@ -139,13 +151,14 @@ void frmmain::ActiveCommandesVue() {
 bool frmmain::DialogueNervureOuvert() const {
     const QList<QDialog *> dialogs = findChildren<QDialog *>();
     return std::any_of(dialogs.begin(), dialogs.end(), [](const QDialog *dialog) {
-        return dialog->isVisible() && IsOneOf(*dialog, kDialoguesNervure);
+        const DialogueFerme *entry = EntreeDe(*dialog);
+        return entry != nullptr && entry->sur_nervure && dialog->isVisible();
     });
 }
 
 void frmmain::FermeDialogues() {
     for (QDialog *dialog : findChildren<QDialog *>()) {
-        if (IsOneOf(*dialog, kDialoguesNervure) || IsOneOf(*dialog, kCalculettes)) {
+        if (EntreeDe(*dialog) != nullptr) {
             // done() and not close(): nothing of the rib may be asked for or put back any more.
             dialog->done(QDialog::Rejected);
         }
