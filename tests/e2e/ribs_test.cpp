@@ -95,19 +95,17 @@ TEST(Ribs, WrongUsageIsTold) {
 
 TEST(Ribs, StationOutsideTheOtherAirfoilNamesBothAndWritesNothing) {
     const TempFolder folder;
-    // Behind its first point this one begins anew at 0.9, so that 0.95 finds no pair.
-    const std::string odd = folder.File(
-        "odd.dat", "odd\n1.0 0.0\n1.0 0.01\n0.5 0.1\n0.0 0.0\n0.5 -0.1\n0.9 -0.02\n1.0 0.0\n");
-    const std::string few =
-        folder.File("few.dat", "few\n1.0 0.0\n0.0 0.0\n0.2 0.1\n0.5 -0.1\n1.0 0.0\n");
+    // The root's nose lies before the tip's, which ends in two points above each other.
+    const std::string root =
+        folder.File("root.dat", "root\n1 0\n0.5 0.1\n-0.001 0\n0.2 -0.1\n0.5 -0.1\n1 0\n");
+    const std::string tip = folder.File("tip.dat", "tip\n1 0\n0.5 0.05\n0 0.01\n0 -0.01\n1 0\n");
     const std::string out = folder.Path("out");
     std::filesystem::create_directory(out);
     const Ran ran =
-        RunLoftwing({"ribs", odd, few, "--chords", "200", "100", "--count", "1", "-o", out});
-    if (ran.status != 0) {
-        EXPECT_THAT(ran.err, HasSubstr("odd, few"));
-        EXPECT_TRUE(std::filesystem::is_empty(out));
-    }
+        RunLoftwing({"ribs", root, tip, "--chords", "200", "100", "--count", "1", "-o", out});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err, HasSubstr("x = -0.001, root, tip"));
+    EXPECT_TRUE(std::filesystem::is_empty(out));
 }
 
 } // namespace
