@@ -6,6 +6,8 @@
 
 #include <gmock/gmock.h>
 
+#include <charconv>
+
 namespace loftwing {
 namespace {
 
@@ -137,7 +139,9 @@ TEST_F(NervureTest, AgreesWithStepsTakenOneByOne) {
         for (int i = 1; i <= count; ++i) {
             const double chord = major - (major - minor) / (count + 1) * i;
             const std::string shown = RangDe(panneau, i + 1, Unite).corde;
-            EXPECT_NEAR(std::stod(shown), chord, 0.00501) << count << " " << i;
+            double read = 0;
+            std::from_chars(shown.data() + 1, shown.data() + shown.size(), read);
+            EXPECT_NEAR(read, chord, 0.00501) << count << " " << i;
         }
     }
 }
