@@ -23,7 +23,9 @@
 #include "programme/console_platform.h"
 #include "programme/programme.h"
 #include "utilities/frmCoord.h"
+#include "utilities/frmangle.h"
 #include "utilities/frmdiedre.h"
+#include "utilities/frminclinaison.h"
 #include "utilities/frmnervure.h"
 
 #include <QApplication>
@@ -134,6 +136,10 @@ class Pictures {
         Save(spars, "frmlongeron");
         frmtrou holes(programme_, *window_, window_.get());
         Save(holes, "frmtrou");
+        frmangle oblique(programme_, *window_, window_.get());
+        Save(oblique, "frmangle");
+        frminclinaison inclined(programme_, *window_, window_.get());
+        Save(inclined, "frminclinaison");
         frmAbout about(programme_, window_.get());
         Save(about, "frmAbout");
         frmSplash splash(programme_, window_.get());

@@ -1,5 +1,6 @@
 #include "app/command_line.h"
 
+#include "app/angle_command.h"
 #include "app/dihedral_command.h"
 #include "app/draw_command.h"
 #include "app/info_command.h"
@@ -35,6 +36,10 @@ constexpr std::array kVerbs = {
          TableOptions, RunTable},
     Verb{"dihedral", "dihedral ...", "angle, length, height: two of them give the third",
          DihedralOptions, RunDihedral},
+    Verb{"oblique", "oblique FILE ... -o OUT.dat", "a rib that crosses the panel at an angle",
+         ObliqueOptions, RunOblique},
+    Verb{"incline", "incline FILE ... -o OUT.dat", "a rib inclined by the dihedral", InclineOptions,
+         RunIncline},
 };
 
 std::string Padded(std::string text, std::size_t width) {

@@ -83,6 +83,8 @@ class frmmain : public QMainWindow, public MainView {
     void mnu_outilnervinter_Click();
     void mnu_OutlilDiedre_Click();
     void mnu_Outilcoord_Click();
+    void mnu_outilAngle_Click();
+    void mnu_outilInclinaison_Click();
     void mnu_calc_Click();
     void mnu_helpsearch_Click();
     void mnu_helpAbout_Click();

@@ -5,7 +5,9 @@
 #include "platform/qt_form.h"
 #include "programme/startup.h"
 #include "utilities/frmCoord.h"
+#include "utilities/frmangle.h"
 #include "utilities/frmdiedre.h"
+#include "utilities/frminclinaison.h"
 #include "utilities/frmnervure.h"
 
 namespace loftwing {
@@ -63,6 +65,20 @@ void frmmain::mnu_OutlilDiedre_Click() {
 void frmmain::mnu_Outilcoord_Click() {
     if (ControleSeparateurCommande(programme_, {"MenuOutils", "11t"})) {
         ShowBeside<frmCoord>(*this, programme_);
+    }
+}
+
+void frmmain::mnu_outilAngle_Click() {
+    if (ControleSeparateurCommande(programme_, {"MenuOutils", "6t"})) {
+        frmangle dialog(programme_, *this, this);
+        ShowModal(dialog);
+    }
+}
+
+void frmmain::mnu_outilInclinaison_Click() {
+    if (ControleSeparateurCommande(programme_, {"MenuOutils", "7t"})) {
+        frminclinaison dialog(programme_, *this, this);
+        ShowModal(dialog);
     }
 }
 
