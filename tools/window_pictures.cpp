@@ -27,6 +27,8 @@
 #include "utilities/frmdiedre.h"
 #include "utilities/frminclinaison.h"
 #include "utilities/frmnervure.h"
+#include "utilities/frmribevol.h"
+#include "utilities/frmribevol2.h"
 
 #include <QApplication>
 #include <QDir>
@@ -140,6 +142,7 @@ class Pictures {
         Save(oblique, "frmangle");
         frminclinaison inclined(programme_, *window_, window_.get());
         Save(inclined, "frminclinaison");
+        TakeSets();
         frmAbout about(programme_, window_.get());
         Save(about, "frmAbout");
         frmSplash splash(programme_, window_.get());
@@ -153,6 +156,15 @@ class Pictures {
         // Last, since it clears the rib.
         lang language(programme_, *window_, window_.get());
         Save(language, "lang");
+    }
+
+    void TakeSets() {
+        frmribevol even(programme_, *window_, window_.get());
+        Save(even, "frmribevol");
+        programme_.rib.jeu.NbNervInter = 12;
+        frmribevol2 variable(programme_, *window_, window_.get());
+        variable.findChild<QWidget *>("FrameDimensions")->show(); // as after a click on a gap
+        Save(variable, "frmribevol2");
     }
 
     void TakeAddons() {

@@ -83,6 +83,8 @@ class frmmain : public QMainWindow, public MainView {
     void mnu_outilnervinter_Click();
     void mnu_OutlilDiedre_Click();
     void mnu_Outilcoord_Click();
+    void mnu_outilevolut_Click();
+    void mnu_outilevolut2_Click();
     void mnu_outilAngle_Click();
     void mnu_outilInclinaison_Click();
     void mnu_calc_Click();
@@ -151,6 +153,12 @@ class frmmain : public QMainWindow, public MainView {
     bool Saisit(const std::string &ModeSaisie);
     Impression ImpressionEnCours();
     bool QuestionFin();
+
+    // frmmain_tools.cpp
+    /// Clears the rib for a set of ribs; false when the user keeps it.
+    bool FaitPlaceAuJeu();
+    /// The number of intermediate ribs; 0 when the user gives up.
+    int DemandeNombre();
 
     // frmmain_files.cpp
     /// Opens a rib components file with the airfoil that it names.

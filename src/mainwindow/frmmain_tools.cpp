@@ -9,6 +9,8 @@
 #include "utilities/frmdiedre.h"
 #include "utilities/frminclinaison.h"
 #include "utilities/frmnervure.h"
+#include "utilities/frmribevol.h"
+#include "utilities/frmribevol2.h"
 
 namespace loftwing {
 
@@ -65,6 +67,45 @@ void frmmain::mnu_OutlilDiedre_Click() {
 void frmmain::mnu_Outilcoord_Click() {
     if (ControleSeparateurCommande(programme_, {"MenuOutils", "11t"})) {
         ShowBeside<frmCoord>(*this, programme_);
+    }
+}
+
+bool frmmain::FaitPlaceAuJeu() {
+    if (!programme_.rib.ProfilCharge) {
+        return true;
+    }
+    if (!ConfirmePerte({"FrmMainMessage", "11"}, {"FrmMainMessage", "12"})) {
+        return false;
+    }
+    affclear();
+    return true;
+}
+
+void frmmain::mnu_outilevolut_Click() {
+    if (ControleSeparateurCommande(programme_, {"MenuOutils", "4t"}) && FaitPlaceAuJeu()) {
+        frmribevol dialog(programme_, *this, this);
+        ShowModal(dialog);
+    }
+}
+
+int frmmain::DemandeNombre() {
+    int count = 1;
+    do {
+        const auto answer = programme_.platform.Ask(QuestionNombre(count, programme_.messages),
+                                                    S(windowTitle()), "");
+        count = NombreVariable(answer.value_or(""));
+    } while (count < 0 || count > kNervuresVariables);
+    return count;
+}
+
+void frmmain::mnu_outilevolut2_Click() {
+    if (!ControleSeparateurCommande(programme_, {"MenuOutils", "4at"}) || !FaitPlaceAuJeu()) {
+        return;
+    }
+    if (const int count = DemandeNombre(); count != 0) {
+        programme_.rib.jeu.NbNervInter = ToInt16(count);
+        frmribevol2 dialog(programme_, *this, this);
+        ShowModal(dialog);
     }
 }
 

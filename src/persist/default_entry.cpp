@@ -4,6 +4,8 @@
 #include "features/inserted_text.h"
 #include "lang/ini_file.h"
 
+#include <filesystem>
+
 namespace loftwing {
 
 namespace {
@@ -140,9 +142,23 @@ void RangeDossiers(Repertoires &folders, const std::string &profils, const std::
                    const std::string &fichier, Platform &platform) {
     folders = {profils, jeux, profils};
     WriteINIFile("Repertoires", "RepProfil", profils, fichier);
-    WriteINIFile("Repertoires", "RepProfilevol", jeux, fichier);
     platform.StoreValue("Install", "RepAirfoil", profils);
+    RangeDossierJeux(folders, jeux, fichier, platform);
+}
+
+void RangeDossierJeux(Repertoires &folders, const std::string &jeux, const std::string &fichier,
+                      Platform &platform) {
+    folders.RepProfilevol = jeux;
+    WriteINIFile("Repertoires", "RepProfilevol", jeux, fichier);
     platform.StoreValue("Install", "RepEvol", jeux);
+}
+
+std::string ChoisitDossier(std::string shown, const Messages &messages) {
+    std::error_code error;
+    if (!std::filesystem::is_directory(shown, error)) {
+        shown.clear();
+    }
+    return messages.platform.ChooseFolder(messages.Text({"FrmDefaut", "16"}) + " :", shown);
 }
 
 } // namespace loftwing

@@ -48,4 +48,12 @@ FinDefauts PrendDefauts(RibModel &rib, const TextesDefaut &typed, const Saisie &
 void RangeDossiers(Repertoires &folders, const std::string &profils, const std::string &jeux,
                    const std::string &fichier, Platform &platform);
 
+/// The folder of rib sets alone.
+void RangeDossierJeux(Repertoires &folders, const std::string &jeux, const std::string &fichier,
+                      Platform &platform);
+
+/// Lets the user choose a folder. The chooser opens on `shown`, where the user is already, if that
+/// place is there. Empty when it is cancelled.
+std::string ChoisitDossier(std::string shown, const Messages &messages);
+
 } // namespace loftwing

@@ -10,7 +10,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <filesystem>
 
 namespace loftwing {
 
@@ -195,14 +194,7 @@ void frmdefaut::reject() {
 /// Lets the user choose a folder; it counts at once, a cancelled choice changes nothing.
 void frmdefaut::ChoisitDossier(NumericField &field, std::string &folder) {
     programme_.messages.Garde(" Defaut/Folder", [this, &field, &folder] {
-        // The chooser opens where the user is already, if that place is there.
-        std::string start = S(field.text());
-        std::error_code error;
-        if (!std::filesystem::is_directory(start, error)) {
-            start.clear();
-        }
-        const std::string chosen =
-            programme_.platform.ChooseFolder(programme_.Text({"FrmDefaut", "16"}) + " :", start);
+        const std::string chosen = loftwing::ChoisitDossier(S(field.text()), programme_.messages);
         if (!chosen.empty()) {
             field.setText(Q(chosen));
             folder = chosen;

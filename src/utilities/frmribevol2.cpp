@@ -1,0 +1,133 @@
+#include "utilities/frmribevol2.h"
+
+#include <QEvent>
+
+namespace loftwing {
+
+namespace {
+
+constexpr int kAide = 610;
+
+/// Blue that can be read on the window's ground.
+QColor Bleu(const QPalette &palette) {
+    const bool dark = palette.color(QPalette::Window).lightness() < 128;
+    return dark ? QColor(120, 170, 255) : QColor(0, 0, 255);
+}
+
+constexpr const char *kBleu = "bleu";
+
+} // namespace
+
+frmribevol2::frmribevol2(Programme &programme, MainView &view, QWidget *parent)
+    : RibSetDialog(programme, view, kAide, parent), jeu_(programme.rib.jeu) {
+    NameAll();
+    LayOut();
+    PoseTextes();
+    Form_Load();
+    ConnectAll();
+}
+
+void frmribevol2::Form_Load() {
+    // Texts of an earlier set are shown again, but each gap wants its Apply, which sums the panel.
+    jeu_.EcartNerv = {};
+    FrameDimensions.hide();
+    cmdouvrir[0].setFocus();
+}
+
+void frmribevol2::ConnectAll() {
+    for (int k = 1; k <= DernierEcart(); ++k) {
+        connect(&At(LblNoNervInterm, k - 1), &ClickLabel::Clicked, this,
+                [this, k] { Essaie([this, k] { LblNoNervInterm_Click(k); }); });
+    }
+    connect(&CmdApply, &QPushButton::clicked, this,
+            [this] { Essaie([this] { CmdApply_Click(); }); });
+}
+
+QLineEdit *frmribevol2::Champ(ChampJeu champ) {
+    switch (champ) {
+    case ChampJeu::corde_max:
+        return &txtcorde[0];
+    case ChampJeu::corde_min:
+        return &txtcorde[1];
+    case ChampJeu::epaisseur_max:
+        return &txtEpR0;
+    case ChampJeu::epaisseur_min:
+        return &txtEpR13;
+    default:
+        return nullptr;
+    }
+}
+
+bool frmribevol2::Valide() {
+    const SaisieRibevol2 typed{{Profil(0), Profil(1)},
+                               {S(txtcorde[0].text()), S(txtcorde[1].text())},
+                               {S(txtEpR0.text()), S(txtEpR13.text())}};
+    return !Refuse(ValideRibevol2(typed, programme_.SaisieEnCours(), jeu_, set_));
+}
+
+/// Blue says that a gap has been shown.
+void frmribevol2::Bleuit(QLabel &label) {
+    QPalette colours = label.palette();
+    colours.setColor(QPalette::WindowText, Bleu(palette()));
+    label.setPalette(colours);
+    label.setProperty(kBleu, true);
+}
+
+void frmribevol2::changeEvent(QEvent *event) {
+    RibSetDialog::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange) {
+        return;
+    }
+    for (ClickLabel &label : LblNoNervInterm) {
+        if (label.property(kBleu).toBool()) {
+            Bleuit(label);
+        }
+    }
+}
+
+void frmribevol2::LblNoNervInterm_Click(int k) {
+    set_.NervCourante = ToInt16(k);
+    if (!Valide()) {
+        return;
+    }
+    FrameDimensions.show();
+    Bleuit(At(LblNoNervInterm, k - 1));
+    MontreEcart();
+}
+
+void frmribevol2::MontreEcart() {
+    const int k = set_.NervCourante;
+    const auto rib = [this](int number) {
+        return Q(programme_.Text({"FrmRibevol2", "9"}) + " " + std::to_string(number));
+    };
+    // The first rib is the root's, whose thickness stands in its own frame.
+    const bool root = k == 1;
+    Label3[0].setText(root ? Frame1[0].title() : rib(k - 1));
+    Label3[1].setText(k == DernierEcart() ? Frame1[1].title() : rib(k));
+    LblEprNervure.setEnabled(!root);
+    TextEprNevure.setEnabled(!root);
+    TextEprNevure.setText(Q(At(jeu_.EprNervAfich, k - 1)));
+    TextEcartNevure.setText(Q(At(jeu_.EcartNervAfich, k)));
+    SelectField(root ? TextEcartNevure : TextEprNevure);
+}
+
+void frmribevol2::CmdApply_Click() {
+    AppliqueEcart(S(TextEprNevure.text()), S(TextEcartNevure.text()), programme_.SaisieEnCours(),
+                  jeu_, set_);
+    ClickLabel &label = At(LblNoNervInterm, set_.NervCourante - 1);
+    Bleuit(label);
+    label.setFrameStyle(static_cast<int>(QFrame::Box) | static_cast<int>(QFrame::Plain));
+    LblLongTotAffich.setText(Q(set_.LongTotaleAfich));
+}
+
+void frmribevol2::Calcule() {
+    if (!Valide() || Refuse(VerifieEcarts(jeu_, programme_.messages))) {
+        return;
+    }
+    CalculeRibevol2(jeu_, set_);
+    const JeuDeNervures files =
+        ComposeRibevol2(jeu_, set_, Profils(), Dossier(), programme_.SaisieEnCours());
+    Ecrit(files, ResultatRibevol2(files, programme_.messages));
+}
+
+} // namespace loftwing
