@@ -36,9 +36,10 @@ void Print(const Nervures &panel, const std::string &unit) {
     std::cout << "spacing " << TexteEcart(panel, unit) << '\n';
     for (int number = 1; number <= NombreNervures(panel); ++number) {
         const RangNervure row = RangDe(panel, number, unit);
-        std::cout << TrimLeft(row.numero) << '\t' << row.corde;
+        // A typed text has a blank behind it in the list, which sets nothing off here.
+        std::cout << TrimLeft(row.numero) << '\t' << TrimRight(row.corde);
         if (!SansLongeron(panel)) {
-            std::cout << '\t' << row.longeron;
+            std::cout << '\t' << TrimRight(row.longeron);
         }
         std::cout << '\n';
     }

@@ -1,7 +1,7 @@
 #include "utilities/ribevol2.h"
 
 #include "base/number_text.h"
-#include "base/text_encoding.h"
+#include "output/text_lines.h"
 
 #include <algorithm>
 
@@ -65,12 +65,6 @@ void Somme(const JeuNervures &jeu, Ribevol2 &set) {
     set.LongTotale = ToSingle(half(0) + Wide(set.LongNerv) + half(kNervureMin));
 }
 
-/// Goes to the next print zone: columns are counted from 0, and each zone has this many.
-void Tabule(std::string &line) {
-    constexpr std::size_t kZone = 14;
-    line.append(kZone - CharacterCount(line) % kZone, ' ');
-}
-
 class Resume {
   public:
     Resume(const JeuNervures &jeu, const JeuDeNervures &files, const Saisie &saisie)
@@ -92,9 +86,8 @@ class Resume {
 
 std::string Resume::Nervure(int number, float epaisseur) const {
     const Messages &messages = saisie_.messages;
-    std::string line = LigneResume(files_, number, messages);
-    Tabule(line);
-    return line + messages.Text({"FrmRibevol2", "12"}) + " =" + Longueur(epaisseur);
+    return UpToNextZone(LigneResume(files_, number, messages)) +
+           messages.Text({"FrmRibevol2", "12"}) + " =" + Longueur(epaisseur);
 }
 
 std::string Resume::Ecart(int gap) const {
