@@ -2,6 +2,7 @@
 
 #include "app/draw_command.h"
 #include "app/info_command.h"
+#include "app/view_commands.h"
 #include "base/failure.h"
 #include "base/version.h"
 
@@ -21,10 +22,13 @@ struct Verb {
     int (*run)(const Arguments &arguments);
 };
 
-constexpr std::array<Verb, 2> kVerbs = {{
+constexpr std::array<Verb, 4> kVerbs = {{
     {"draw", "draw FILE... -o OUT", "a rib drawing (or several: --to EXT -o DIR/)", DrawOptions,
      RunDraw},
     {"info", "info FILE... [--json]", "what the program knows of an airfoil", InfoOptions, RunInfo},
+    {"plot", "plot FILE -o OUT", "the simple plot of the raw points", PlotOptions, RunPlot},
+    {"compare", "compare FILE1 FILE2 -o OUT", "two airfoils over each other", CompareOptions,
+     RunCompare},
 }};
 
 std::string Padded(std::string text, std::size_t width) {

@@ -88,7 +88,7 @@ bool ConsoleProgram::Ouvre(const std::string &path, const std::vector<std::strin
     return OuvreComposants(programme_, demande) == OuvertureComposants::ouverte;
 }
 
-bool ConsoleProgram::OuvreProfil(const std::string &path) {
+bool ConsoleProgram::LitProfil(const std::string &path) {
     RibModel &rib = programme_.rib;
     const Messages &messages = programme_.messages;
     NommeProfil(rib, path);
@@ -100,6 +100,18 @@ bool ConsoleProgram::OuvreProfil(const std::string &path) {
         messages.Inform(RefusTropCourt(messages), title);
         return false;
     }
+    return true;
+}
+
+std::optional<ProfilChoisi> ConsoleProgram::ChoisitProfil(const std::string &path) {
+    return LitProfil(path) ? std::optional(ProfilDuRib(programme_.rib)) : std::nullopt;
+}
+
+bool ConsoleProgram::OuvreProfil(const std::string &path) {
+    if (!LitProfil(path)) {
+        return false;
+    }
+    RibModel &rib = programme_.rib;
     rib.ProfilCharge = true;
     ReprendProfil(rib);
     CordeDuTitre(rib, programme_.SaisieEnCours());

@@ -2,10 +2,12 @@
 #pragma once
 
 #include "app/arguments.h"
+#include "core/airfoil_picker.h"
 #include "programme/console_platform.h"
 #include "programme/programme.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,12 +33,17 @@ class ConsoleProgram {
     /// when it was refused; a line on standard error told why.
     bool Ouvre(const std::string &path, const std::vector<std::string> &dossiers = {});
 
+    /// Reads an airfoil for a tool, which wants its points and nothing of the rib. Nothing when it
+    /// was refused; a line on standard error told why.
+    std::optional<ProfilChoisi> ChoisitProfil(const std::string &path);
+
   private:
     ConsolePlatform platform_;
     Programme programme_;
 
     void ChargeLangue(const Arguments &arguments);
     void ChargeValeurs(const Arguments &arguments);
+    bool LitProfil(const std::string &path);
     bool OuvreProfil(const std::string &path);
 };
 

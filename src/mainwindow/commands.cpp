@@ -44,8 +44,8 @@ std::vector<Command> FileMenu() {
         Entry("mnu_filesaveas", menu, {"MenuFile", "4"}, kFile, &frmmain::mnu_filesaveas_Click,
               "Ctrl+Shift+S"),
         Below(Entry("mnu_filedxf", menu, {"MenuFile", "5"}, kFile, &frmmain::mnu_filedxf_Click)),
-        Entry("mnu_filepdf", menu, {"MenuFile", "11"}, kFile, &frmmain::mnu_filepdf_Click),
-        Entry("mnu_filesvg", menu, {"MenuFile", "12"}, kFile, &frmmain::mnu_filesvg_Click),
+        Entry("mnu_filepdf", menu, {"MenuFile", "11"}, kPaper, &frmmain::mnu_filepdf_Click),
+        Entry("mnu_filesvg", menu, {"MenuFile", "12"}, kPaper, &frmmain::mnu_filesvg_Click),
         Below(Entry("mnu_filepage", menu, {"MenuFile", "6"}, kPaper, &frmmain::mnu_filepage_Click)),
         Entry("mnu_fileprinterconfig", menu, {"MenuFile", "7"}, kPaper,
               &frmmain::mnu_fileprinterconfig_Click),
@@ -113,7 +113,8 @@ std::vector<Command> ToolsMenu() {
     const char *menu = "mnu_outil";
     return {
         Menu(menu, {"MenuOutils", "1"}),
-        Entry("mnu_OutilCompare", menu, {"MenuOutils", "2"}, kAlways, nullptr),
+        Entry("mnu_OutilCompare", menu, {"MenuOutils", "2"}, kAlways,
+              &frmmain::mnu_OutilCompare_Click),
         Entry("mnu_outilnervinter", menu, {"MenuOutils", "3"}, kAlways, nullptr),
         Entry("mnu_outilevolut", menu, {"MenuOutils", "4"}, kAlways, nullptr),
         Entry("mnu_outilevolut2", menu, {"MenuOutils", "4a"}, kAlways, nullptr),
@@ -122,7 +123,8 @@ std::vector<Command> ToolsMenu() {
         Entry("mnu_outilInclinaison", menu, {"MenuOutils", "7"}, kAlways, nullptr),
         Entry("mnu_OutlilDiedre", menu, {"MenuOutils", "10"}, kAlways, nullptr),
         Entry("mnu_Outilcoord", menu, {"MenuOutils", "11"}, kWithRib, nullptr),
-        Entry("mnu_Outilcoupl", menu, {"MenuOutils", "12"}, kAlways, nullptr),
+        Entry("mnu_Outilcoupl", menu, {"MenuOutils", "12"}, kAlways,
+              &frmmain::mnu_Outilcoupl_Click),
         Below(Entry("mnu_calc", menu, {"MenuOutils", "13"}, kAlways, &frmmain::mnu_calc_Click)),
     };
 }

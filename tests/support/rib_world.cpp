@@ -65,8 +65,12 @@ RibWorld::RibWorld() {
 }
 
 Impression RibWorld::Run() {
-    return {rib, settings, plot, messages,
-            [this](PlotDevice &device) { return PrintSubroutine(On(device), 1.0); }};
+    return {rib,
+            settings,
+            plot,
+            messages,
+            [this](PlotDevice &device) { return PrintSubroutine(On(device), 1.0); },
+            rib.NomProfil};
 }
 
 void RibWorld::Place(float x, float y) {
