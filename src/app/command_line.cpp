@@ -2,6 +2,8 @@
 
 #include "app/draw_command.h"
 #include "app/info_command.h"
+#include "app/modify_command.h"
+#include "app/ribs_command.h"
 #include "app/view_commands.h"
 #include "base/failure.h"
 #include "base/version.h"
@@ -22,14 +24,19 @@ struct Verb {
     int (*run)(const Arguments &arguments);
 };
 
-constexpr std::array<Verb, 4> kVerbs = {{
-    {"draw", "draw FILE... -o OUT", "a rib drawing (or several: --to EXT -o DIR/)", DrawOptions,
-     RunDraw},
-    {"info", "info FILE... [--json]", "what the program knows of an airfoil", InfoOptions, RunInfo},
-    {"plot", "plot FILE -o OUT", "the simple plot of the raw points", PlotOptions, RunPlot},
-    {"compare", "compare FILE1 FILE2 -o OUT", "two airfoils over each other", CompareOptions,
-     RunCompare},
-}};
+constexpr std::array kVerbs = {
+    Verb{"draw", "draw FILE... -o OUT", "a rib drawing (or several: --to EXT -o DIR/)", DrawOptions,
+         RunDraw},
+    Verb{"info", "info FILE... [--json]", "what the program knows of an airfoil", InfoOptions,
+         RunInfo},
+    Verb{"ribs", "ribs ROOT TIP ... -o DIR", "a full set of ribs between two airfoils", RibsOptions,
+         RunRibs},
+    Verb{"plot", "plot FILE -o OUT", "the simple plot of the raw points", PlotOptions, RunPlot},
+    Verb{"compare", "compare FILE1 FILE2 -o OUT", "two airfoils over each other", CompareOptions,
+         RunCompare},
+    Verb{"modify", "modify FILE ... -o OUT.dat", "other thickness and camber", ModifyOptions,
+         RunModify},
+};
 
 std::string Padded(std::string text, std::size_t width) {
     text.resize(std::max(text.size() + 1, width), ' ');

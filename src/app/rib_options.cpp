@@ -1,5 +1,6 @@
 #include "app/rib_options.h"
 
+#include "app/typed_value.h"
 #include "features/rib_entry.h"
 #include "output/page_setup.h"
 
@@ -19,19 +20,6 @@ constexpr EntryOption kEntryOptions[] = {{"--chord", "corde"},
                                          {"--le", "ba"},
                                          {"--te", "bf"},
                                          {"--stations", "rep"}};
-
-/// The value of an option, whose characters a numeric field must admit.
-std::string Typed(const Arguments &arguments, const char *option, std::string_view keys) {
-    const std::string value = arguments.Value(option);
-    if (value.empty() || value.find_first_not_of(keys) != std::string::npos) {
-        throw UsageError(std::string(option) + " doesn't take \"" + value + "\"");
-    }
-    return value;
-}
-
-std::string_view LengthKeys(const Programme &programme) {
-    return TouchesSelonUnite(programme.settings.Unite, kTouchesPositif, kTouchesFraction);
-}
 
 void SetPageLength(const Arguments &arguments, Programme &programme, const char *option,
                    std::string &text, float &number) {

@@ -94,10 +94,20 @@ struct TexteInsere {
     bool TexteUtilisateur = false; ///< the user's own words, never made anew
 };
 
-/// Rib and gap widths of a variable-spacing set, slots 0 to 13.
+/// Slot of the rib at the tip in a set with variable spacing, whatever the number of ribs.
+inline constexpr int kNervureMin = 13;
+inline constexpr int kNervuresJeu = kNervureMin + 1;
+
+/// Ribs and gaps of a set with variable spacing, mm. Slot 0 is the rib at the root, 1 to
+/// NbNervInter are the intermediate ones, kNervureMin is the tip's; gap i lies before rib i, the
+/// last one before the tip's.
 struct JeuNervures {
-    std::array<std::string, 14> EcartAfich;
-    std::array<std::string, 14> EpaisseurAfich;
+    std::int16_t NbNervInter = 0; ///< 1 to 12
+    std::array<float, kNervuresJeu> CordeNerv{};
+    std::array<float, kNervuresJeu> EprNerv{}; ///< thickness of the ribs
+    std::array<std::string, kNervuresJeu> EprNervAfich;
+    std::array<float, kNervuresJeu> EcartNerv{}; ///< clear width of the gaps
+    std::array<std::string, kNervuresJeu> EcartNervAfich;
 };
 
 } // namespace loftwing

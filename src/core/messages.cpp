@@ -27,8 +27,12 @@ bool Messages::Confirm(const std::string &text, const std::string &title) const 
                                     BoxAnswer::no}) == BoxAnswer::yes;
 }
 
+std::string Messages::TexteEchec(const Failure &failure) const {
+    return FailureText(Text({"Erreur", "1"}), Text({"Erreur", "2"}), failure);
+}
+
 void Messages::Report(const Failure &failure, const std::string &label) const {
-    Inform(FailureText(Text({"Erreur", "1"}), Text({"Erreur", "2"}), failure), label);
+    Inform(TexteEchec(failure), label);
 }
 
 void Messages::ReportPlot(const Failure &failure, const std::string &label) const {

@@ -23,6 +23,8 @@ struct Messages {
     /// A question with Yes and No, No as default; true for Yes.
     bool Confirm(const std::string &text, const std::string &title) const;
 
+    /// The text of a failure's standard box.
+    std::string TexteEchec(const Failure &failure) const;
     /// The standard box of a run-time failure. `label` is the label of the routine that failed,
     /// with its leading blank, such as " Calcul/Alocate".
     void Report(const Failure &failure, const std::string &label) const;

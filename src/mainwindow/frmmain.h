@@ -86,6 +86,7 @@ class frmmain : public QMainWindow, public MainView {
     void mnu_paramrep_Click();
     void mnu_parambloc_Click();
     void mnu_OutilCompare_Click();
+    void mnu_outilEpCourb_Click();
     void mnu_Outilcoupl_Click();
     void mnu_calc_Click();
     void mnu_helpsearch_Click();

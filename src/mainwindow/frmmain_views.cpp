@@ -9,6 +9,7 @@
 #include "programme/load.h"
 #include "programme/special_views.h"
 #include "programme/startup.h"
+#include "utilities/frmEpCourb.h"
 
 namespace loftwing {
 
@@ -96,7 +97,7 @@ bool frmmain::DemandeProfil1() {
     Pic->Montre(nullptr);
     RegleDefilement();
     setWindowTitle(QString::fromUtf8(kTitre));
-    NoteProfilRecent(programme_);
+    NoteRecent(programme_, rib.CheminProfil);
     AfficheFichiersRecents();
     if (PrendProfil1(programme_) == Preparation::impossible) {
         affclear();
@@ -130,13 +131,41 @@ void frmmain::DemandeProfil2(std::optional<double> haut1) {
     // An airfoil 1 that was kept may have come to a window full of a rib's commands.
     DesactiveCommandes();
     ActiveCommandesVue();
-    NoteProfilRecent(programme_);
+    NoteRecent(programme_, rib.CheminProfil);
     AfficheFichiersRecents();
     if (PrendProfil2(programme_, haut1) == Preparation::impossible) {
         affclear();
         return;
     }
     afficheCompare();
+}
+
+void frmmain::mnu_outilEpCourb_Click() {
+    if (!ControleSeparateurCommande(programme_, {"MenuOutils", "5t"})) {
+        return;
+    }
+    RibModel &rib = programme_.rib;
+    if (rib.ProfilCharge && !ConfirmePerte({"FrmMainMessage", "9"}, {"FrmMainMessage", "10"})) {
+        return;
+    }
+    mnu_fileprofilopen_Click();
+    if (rib.Annule || !rib.ProfilCharge) {
+        return;
+    }
+    rib.NouvExtrados.fill(0);
+    rib.NouvIntrados.fill(0);
+    RazRib(rib, ToSingle(NombreMm(rib.EpBAAfich, programme_.SaisieEnCours())));
+    afficheEpcourb();
+    if (!rib.ProfilCharge) {
+        return; // the drawing failed
+    }
+    frmEpCourb dialog(programme_, *this, this);
+    if (ShowModal(dialog) != QDialog::Accepted) {
+        return;
+    }
+    NoteRecent(programme_, dialog.Fichier());
+    AfficheFichiersRecents();
+    mnuFileMRU_Click(dialog.Fichier());
 }
 
 void frmmain::mnu_Outilcoupl_Click() {

@@ -15,7 +15,8 @@ enum class BoxIcon { none, information, question, warning, stop };
 enum class BoxButtons { ok, ok_cancel, yes_no, retry_cancel };
 enum class BoxAnswer { ok, cancel, yes, no, retry };
 
-/// A message box. `text` is plain text, its lines end with a line feed.
+/// A message box. `text` is plain text, its lines end with a line feed; a carriage return is
+/// not shown.
 struct MessageBox {
     std::string text;
     std::string title;

@@ -127,7 +127,7 @@ BoxAnswer QtPlatform::Show(const MessageBox &box) {
     dialog.setIcon(IconOf(box.icon));
     dialog.setWindowTitle(Q(box.title));
     dialog.setTextFormat(Qt::PlainText);
-    dialog.setText(Q(box.text));
+    dialog.setText(Q(box.text).remove('\r'));
     WidenForTitle(dialog);
     const std::vector<BoxButton> buttons = ButtonsOf(box.buttons);
     for (const BoxButton &button : buttons) {

@@ -9,6 +9,7 @@ namespace loftwing {
 namespace {
 
 std::string OnOneLine(std::string text) {
+    std::erase(text, '\r');
     std::replace(text.begin(), text.end(), '\n', ' ');
     return text;
 }

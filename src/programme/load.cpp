@@ -46,15 +46,14 @@ void FinPremierDemarrage(Programme &programme) {
     programme.PremierDemarrage = false;
 }
 
-void NoteProfilRecent(Programme &programme) {
-    programme.messages.Garde(kLabelRecents, [&programme] {
-        NoteFichierRecent(programme.rib.CheminProfil, programme.paths.fichier);
-    });
+void NoteRecent(Programme &programme, const std::string &path) {
+    programme.messages.Garde(
+        kLabelRecents, [&programme, &path] { NoteFichierRecent(path, programme.paths.fichier); });
 }
 
 void EntreProfil(Programme &programme) {
     ReprendProfil(programme.rib);
-    NoteProfilRecent(programme);
+    NoteRecent(programme, programme.rib.CheminProfil);
 }
 
 FichiersRecents FichiersRecentsConnus(Programme &programme) {

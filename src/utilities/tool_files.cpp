@@ -2,8 +2,10 @@
 
 #include "base/number_text.h"
 #include "base/version.h"
+#include "base/whole_file.h"
 
 #include <algorithm>
+#include <filesystem>
 
 namespace loftwing {
 
@@ -32,6 +34,26 @@ std::string TexteDeLignes(const std::vector<std::string> &lignes) {
 std::string NomDeFichier(std::string text) {
     std::replace(text.begin(), text.end(), '/', '-');
     return text;
+}
+
+void EcritFichier(const std::string &path, const std::string &text) {
+    std::error_code error;
+    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
+    if (!folder.empty() && !std::filesystem::is_directory(folder, error)) {
+        throw MakeFailure(kPathNotFound, path);
+    }
+    WriteWholeFile(path, text);
+}
+
+void RapporteEcriture(const Messages &messages, const Failure &failure, const std::string &label) {
+    const std::string title = messages.Text({"Erreur", "1"}) + label;
+    if (failure.number != kPathNotFound) {
+        messages.Inform(messages.TexteEchec(failure), title);
+        return;
+    }
+    messages.Inform(messages.Text({"FrmDefaut", "15"}) + " " + messages.Text({"Message", "2"}) +
+                        "\n" + messages.Text({"Message", "3"}) + "\n" + failure.description,
+                    title);
 }
 
 void RapporteAngle(const Messages &messages, const Failure &failure) {

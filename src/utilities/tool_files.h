@@ -21,6 +21,14 @@ std::string TexteDeLignes(const std::vector<std::string> &lignes);
 /// The degree sign, as titles of files have it.
 inline constexpr const char *kDegre = "\u00B0";
 
+/// Writes a file whole. Failure 76 when its folder isn't there, 75 when it is refused otherwise;
+/// the description names the file.
+void EcritFichier(const std::string &path, const std::string &text);
+
+/// The box of a tool that couldn't write its files; `label` as Messages::Report has it. A missing
+/// folder is told in words of its own. The file at which it stopped is named either way.
+void RapporteEcriture(const Messages &messages, const Failure &failure, const std::string &label);
+
 /// A name that may stand as one: the slash of a length such as 7.1/2 would lead to a folder.
 std::string NomDeFichier(std::string text);
 

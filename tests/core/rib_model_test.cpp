@@ -68,7 +68,7 @@ TEST(RazRib, ClearsTheFeatures) {
     rib.texte.InsTextX = 3;
     rib.texte.InsTextXAfich = "3";
     rib.texte.TailleFont = 20;
-    rib.jeu.EcartAfich[13] = "50";
+    rib.jeu.EcartNervAfich[13] = "50";
     RazRib(rib, 0.0F);
     EXPECT_EQ(rib.NbLongeron, 0);
     EXPECT_EQ(rib.NbTrou, 0);
@@ -93,7 +93,7 @@ TEST(RazRib, ClearsTheFeatures) {
     EXPECT_EQ(rib.texte.InsTextX, 0.0F);
     EXPECT_EQ(rib.texte.InsTextXAfich, "0");
     EXPECT_EQ(rib.texte.TailleFont, 9.0F);
-    EXPECT_EQ(rib.jeu.EcartAfich[13], "");
+    EXPECT_EQ(rib.jeu.EcartNervAfich[13], "");
 }
 
 TEST(RazRib, KeepsTheAirfoilTheChordAndTheLeadingEdgeStock) {
