@@ -227,6 +227,9 @@ void frmEpCourb::LayOut() {
         shown->setReadOnly(true);
         shown->setFocusPolicy(Qt::NoFocus);
         shown->setFrame(false);
+        QPalette on_window;
+        on_window.setColor(QPalette::Base, Qt::transparent);
+        shown->setPalette(on_window);
     }
     for (QLabel *label : {&Label3[0], &Label3[1], &Label4, &Label5}) {
         label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
