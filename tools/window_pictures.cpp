@@ -23,7 +23,10 @@
 #include "programme/console_platform.h"
 #include "programme/programme.h"
 #include "programme/special_views.h"
+#include "utilities/frmCoord.h"
 #include "utilities/frmEpCourb.h"
+#include "utilities/frmdiedre.h"
+#include "utilities/frmnervure.h"
 
 #include <QApplication>
 #include <QDir>
@@ -120,6 +123,7 @@ class Pictures {
 
     void TakeDialogs() {
         TakeAddons();
+        TakeCalculators();
         frmPrint page(programme_, window_.get());
         Save(page, "frmPrint");
         frmcoul colours(programme_, window_.get());
@@ -188,6 +192,45 @@ class Pictures {
             frmbloc foam(programme_, *window_, window_.get());
             Save(foam, lower ? "frmbloc-lower" : "frmbloc-upper");
         }
+    }
+
+    static void Fill(QDialog &window, const char *name, const char *text) {
+        window.findChild<QLineEdit *>(name)->setText(text);
+    }
+    static void Press(QDialog &window, const char *name) {
+        window.findChild<QPushButton *>(name)->click();
+    }
+
+    void TakeCalculators() {
+        const bool inches = programme_.settings.Unite == kUniteIn;
+        frmnervure ribs(programme_, window_.get());
+        Save(ribs, "frmnervure-empty");
+        const char *mm_values[] = {"240", "160", "14", "1200", "72", "48", "2"};
+        const char *in_values[] = {"10", "6.1/2", "14", "48", "3", "2", "1/16"};
+        for (int i = 0; i < 7; ++i) {
+            const std::string field = "txtnerv(" + std::to_string(i) + ")";
+            Fill(ribs, field.c_str(), inches ? in_values[i] : mm_values[i]);
+        }
+        Press(ribs, "cmdcalcul");
+        Save(ribs, "frmnervure");
+        frmdiedre dihedral(programme_, window_.get());
+        Fill(dihedral, "txt(0)", " 5.71");
+        Fill(dihedral, "txt(1)", "50");
+        Fill(dihedral, "txt(2)", "5");
+        Save(dihedral, "frmdiedre");
+        frmCoord editor(programme_, window_.get());
+        Fill(editor, "txt(0)", "mine");
+        Fill(editor, "txt(1)", "My own airfoil");
+        Fill(editor, "txt(2)", "1000");
+        const char *points[][2] = {
+            {"1000", "0"}, {"500", "62.5"}, {"0", "0"}, {"500", "-31.25"}, {"1000", "0"}};
+        for (const auto &[x, y] : points) {
+            Fill(editor, "txtinX", x);
+            Fill(editor, "txtinY", y);
+            Press(editor, "cmdentre");
+        }
+        editor.findChild<QListWidget *>()->setCurrentRow(3);
+        Save(editor, "frmCoord");
     }
 
     void Save(QWidget &window, const std::string &name) {

@@ -1,9 +1,11 @@
 #include "app/command_line.h"
 
+#include "app/dihedral_command.h"
 #include "app/draw_command.h"
 #include "app/info_command.h"
 #include "app/modify_command.h"
 #include "app/ribs_command.h"
+#include "app/table_command.h"
 #include "app/view_commands.h"
 #include "base/failure.h"
 #include "base/version.h"
@@ -36,6 +38,10 @@ constexpr std::array kVerbs = {
          RunCompare},
     Verb{"modify", "modify FILE ... -o OUT.dat", "other thickness and camber", ModifyOptions,
          RunModify},
+    Verb{"table", "table --chords A B --count N", "chords and spar places of a tapered panel",
+         TableOptions, RunTable},
+    Verb{"dihedral", "dihedral ...", "angle, length, height: two of them give the third",
+         DihedralOptions, RunDihedral},
 };
 
 std::string Padded(std::string text, std::size_t width) {

@@ -17,4 +17,23 @@ std::string_view LengthKeys(const Programme &programme) {
     return TouchesSelonUnite(programme.settings.Unite, kTouchesPositif, kTouchesFraction);
 }
 
+std::vector<std::string> TypedLengths(const Arguments &arguments, const char *option,
+                                      const Programme &programme) {
+    std::vector<std::string> values = arguments.Values(option);
+    for (const std::string &value : values) {
+        Typed(value, option, LengthKeys(programme));
+        if (EstRefusee(value, programme.settings.Unite)) {
+            NombreMm(value, programme.SaisieEnCours()); // says why
+            throw Refused{};
+        }
+    }
+    return values;
+}
+
+std::string TypedLength(const Arguments &arguments, const char *option,
+                        const Programme &programme) {
+    const std::vector<std::string> values = TypedLengths(arguments, option, programme);
+    return values.empty() ? std::string() : values.front();
+}
+
 } // namespace loftwing

@@ -6,6 +6,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace loftwing {
 
@@ -17,5 +18,12 @@ std::string Typed(const Arguments &arguments, const char *option, std::string_vi
 
 /// The keys of a length in the unit in force.
 std::string_view LengthKeys(const Programme &programme);
+
+/// All values of an option, each a length. One that is no length in inches is told, and Refused
+/// thrown.
+std::vector<std::string> TypedLengths(const Arguments &arguments, const char *option,
+                                      const Programme &programme);
+/// The only one, empty when the option isn't there.
+std::string TypedLength(const Arguments &arguments, const char *option, const Programme &programme);
 
 } // namespace loftwing

@@ -35,9 +35,10 @@ void Messages::Report(const Failure &failure, const std::string &label) const {
     Inform(TexteEchec(failure), label);
 }
 
-void Messages::ReportPlot(const Failure &failure, const std::string &label) const {
+void Messages::ReportPlot(const Failure &failure, const std::string &label,
+                          const std::string &window) const {
     Inform(FailureText(Text({"Erreur", "3"}), Text({"Erreur", "2"}), failure),
-           Text({"Erreur", "1"}) + label);
+           window + Text({"Erreur", "1"}) + label);
 }
 
 } // namespace loftwing

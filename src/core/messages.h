@@ -28,8 +28,9 @@ struct Messages {
     /// The standard box of a run-time failure. `label` is the label of the routine that failed,
     /// with its leading blank, such as " Calcul/Alocate".
     void Report(const Failure &failure, const std::string &label) const;
-    /// The same in the words of the plot and print routines.
-    void ReportPlot(const Failure &failure, const std::string &label) const;
+    /// The same in the words of the plot and print routines. `window` stands in front of the title.
+    void ReportPlot(const Failure &failure, const std::string &label,
+                    const std::string &window = {}) const;
     /// Runs what an event asks for. A failure is told under `label` and goes no further.
     template <class Action>
     void Garde(const std::string &label, Action action) const {

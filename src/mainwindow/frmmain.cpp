@@ -11,6 +11,7 @@
 #include "programme/export.h"
 #include "programme/load.h"
 #include "programme/rib_file.h"
+#include "utilities/frmCoord.h"
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
@@ -25,10 +26,29 @@ namespace loftwing {
 
 namespace {
 
-/// What works on the rib that is shown and has nothing to work on once that rib is gone.
-constexpr std::array<std::string_view, 9> kDialoguesNervure = {
-    "frmInput", "frmlongeron", "frmtrou",    "frmTalon", "frmbacarre",
-    "frmbloc",  "frmInstxt",   "frmnervure", "frmdiedre"};
+/// What closes with the rib.
+struct DialogueFerme {
+    std::string_view nom;
+    /// Works on the rib that is shown. The calculators work on none, but their lengths are in the
+    /// unit that was in force when they were opened, and a clear may bring another.
+    bool sur_nervure;
+};
+constexpr std::array<DialogueFerme, 9> kDialogues = {{{"frmInput", true},
+                                                      {"frmlongeron", true},
+                                                      {"frmtrou", true},
+                                                      {"frmTalon", true},
+                                                      {"frmbacarre", true},
+                                                      {"frmbloc", true},
+                                                      {"frmInstxt", true},
+                                                      {"frmnervure", false},
+                                                      {"frmdiedre", false}}};
+
+const DialogueFerme *EntreeDe(const QDialog &dialog) {
+    const auto *entry =
+        std::find_if(kDialogues.begin(), kDialogues.end(),
+                     [&](const DialogueFerme &each) { return each.nom == S(dialog.objectName()); });
+    return entry == kDialogues.end() ? nullptr : entry;
+}
 
 } // namespace
 
@@ -128,29 +148,27 @@ void frmmain::ActiveCommandesVue() {
     EnableGroup(kAliveInView, true);
 }
 
-std::vector<QDialog *> frmmain::DialoguesNervure() const {
-    std::vector<QDialog *> open;
-    for (auto *dialog : findChildren<QDialog *>()) {
-        const std::string name = S(dialog->objectName());
-        if (std::find(kDialoguesNervure.begin(), kDialoguesNervure.end(), name) !=
-            kDialoguesNervure.end()) {
-            open.push_back(dialog);
-        }
-    }
-    return open;
-}
-
 bool frmmain::DialogueNervureOuvert() const {
-    const std::vector<QDialog *> dialogs = DialoguesNervure();
-    return std::any_of(dialogs.begin(), dialogs.end(),
-                       [](const QDialog *dialog) { return dialog->isVisible(); });
+    const QList<QDialog *> dialogs = findChildren<QDialog *>();
+    return std::any_of(dialogs.begin(), dialogs.end(), [](const QDialog *dialog) {
+        const DialogueFerme *entry = EntreeDe(*dialog);
+        return entry != nullptr && entry->sur_nervure && dialog->isVisible();
+    });
 }
 
 void frmmain::FermeDialogues() {
-    for (QDialog *dialog : DialoguesNervure()) {
-        // done() and not close(): nothing of the rib may be asked for or put back any more.
-        dialog->done(QDialog::Rejected);
+    for (QDialog *dialog : findChildren<QDialog *>()) {
+        if (EntreeDe(*dialog) != nullptr) {
+            // done() and not close(): nothing of the rib may be asked for or put back any more.
+            dialog->done(QDialog::Rejected);
+        }
     }
+}
+
+bool frmmain::FermeCoordonnees() {
+    const QList<frmCoord *> editors = findChildren<frmCoord *>();
+    return std::all_of(editors.begin(), editors.end(),
+                       [](frmCoord *editor) { return !editor->isVisible() || editor->close(); });
 }
 
 void frmmain::ViewReset() {
@@ -292,8 +310,8 @@ void frmmain::AppliqueLangue() {
     }
     programme_.platform.SetButtonWords(
         {programme_.Text({"TextButton", "1"}), programme_.Text({"TextButton", "2"}),
-         programme_.Text({"TextButton", "18"}), programme_.Text({"TextButton", "19"}),
-         programme_.Text({"TextButton", "20"})});
+         programme_.Text({"TextButton", "30"}), programme_.Text({"TextButton", "31"}),
+         programme_.Text({"TextButton", "32"})});
     Combo1->setToolTip(tools_.at(8)->toolTip());
     Combo1->setAccessibleName(tools_.at(8)->toolTip());
 }
@@ -308,7 +326,8 @@ bool frmmain::QuestionFin() {
 }
 
 void frmmain::closeEvent(QCloseEvent *event) {
-    if (!QuestionFin()) {
+    // The program's own question first: a No to it leaves everything open.
+    if (!QuestionFin() || !FermeCoordonnees()) {
         event->ignore();
         return;
     }

@@ -88,6 +88,9 @@ class frmmain : public QMainWindow, public MainView {
     void mnu_OutilCompare_Click();
     void mnu_outilEpCourb_Click();
     void mnu_Outilcoupl_Click();
+    void mnu_outilnervinter_Click();
+    void mnu_OutlilDiedre_Click();
+    void mnu_Outilcoord_Click();
     void mnu_calc_Click();
     void mnu_helpsearch_Click();
     void mnu_helpAbout_Click();
@@ -139,9 +142,10 @@ class frmmain : public QMainWindow, public MainView {
     void DesactiveCommandes();
     void ActiveCommandesVue();
     void ViewReset();
-    /// The open dialogs that work on the rib that is shown.
-    std::vector<QDialog *> DialoguesNervure() const;
+    /// Whether a dialog is open that works on the rib that is shown.
     bool DialogueNervureOuvert() const;
+    /// Closes the coordinate editor; false when the user stays there for lines that aren't saved.
+    bool FermeCoordonnees();
     /// Whether to go on where changes could be lost.
     bool ConfirmePerte(LngKey text, LngKey title);
     void ClearRib();

@@ -3,8 +3,33 @@
 #include "mainwindow/frmmain.h"
 #include "mainwindow/frmopen.h"
 #include "platform/qt_form.h"
+#include "programme/startup.h"
+#include "utilities/frmCoord.h"
+#include "utilities/frmdiedre.h"
+#include "utilities/frmnervure.h"
 
 namespace loftwing {
+
+namespace {
+
+/// Shows a window that stays open beside the main one. There is one of each kind: a second command
+/// brings it to the front.
+template <class Window>
+void ShowBeside(QWidget &parent, Programme &programme) {
+    for (Window *open : parent.findChildren<Window *>()) {
+        if (open->isVisible()) {
+            open->setWindowState(open->windowState() & ~Qt::WindowMinimized);
+            open->raise();
+            open->activateWindow();
+            return;
+        }
+    }
+    auto *window = new Window(programme, &parent);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->show();
+}
+
+} // namespace
 
 std::optional<ProfilChoisi> frmmain::ChoisitProfil(const std::string &titre) {
     RibModel &rib = programme_.rib;
@@ -19,6 +44,24 @@ std::optional<ProfilChoisi> frmmain::ChoisitProfil(const std::string &titre) {
     before.Rend(rib);
     RendPoints(rib, points);
     return rib.Annule ? std::nullopt : std::optional(chosen);
+}
+
+void frmmain::mnu_outilnervinter_Click() {
+    if (ControleSeparateurCommande(programme_, {"MenuOutils", "3t"})) {
+        ShowBeside<frmnervure>(*this, programme_);
+    }
+}
+
+void frmmain::mnu_OutlilDiedre_Click() {
+    if (ControleSeparateurCommande(programme_, {"MenuOutils", "10t"})) {
+        ShowBeside<frmdiedre>(*this, programme_);
+    }
+}
+
+void frmmain::mnu_Outilcoord_Click() {
+    if (ControleSeparateurCommande(programme_, {"MenuOutils", "11t"})) {
+        ShowBeside<frmCoord>(*this, programme_);
+    }
 }
 
 } // namespace loftwing

@@ -32,6 +32,7 @@ struct FileQuestion {
     std::string name;              ///< proposed name, may be empty
     std::string filter_text;       ///< "PDF (*.pdf)"
     std::string default_extension; ///< without its point; added to a name that has none
+    std::vector<std::string> more_filters = {}; ///< of a file to open, beside the first one
 };
 
 /// The file that a chooser of several forms was left with.

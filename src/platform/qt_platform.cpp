@@ -171,7 +171,7 @@ std::optional<std::string> QtPlatform::Ask(const std::string &text, const std::s
 std::string QtPlatform::ChooseOpenFile(const FileQuestion &question) {
     QFileDialog dialog(Asker());
     dialog.setFileMode(QFileDialog::ExistingFile);
-    Prepare(dialog, question);
+    Prepare(dialog, question, question.more_filters);
     return Chosen(dialog);
 }
 

@@ -2,6 +2,8 @@
 #include "features/qt_carre_sketch.h"
 #include "features/qt_talon_sketch.h"
 #include "support/qt_nothing_cut.h"
+#include "utilities/qt_diedre_sketch.h"
+#include "utilities/qt_panneau_sketch.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -45,7 +47,9 @@ std::vector<Kind> Kinds() {
             {heel, [] { return Heel(1); }},
             {{"A", "B", "C", "B.A."}, [] { return std::make_unique<CarreSketch>(); }},
             {foam, [] { return Foam(0); }},
-            {foam, [] { return Foam(1); }}};
+            {foam, [] { return Foam(1); }},
+            {{"A", "B", "C", "D", "E", "F", "G"}, [] { return std::make_unique<PanneauSketch>(); }},
+            {{"A", "B", "C"}, [] { return std::make_unique<DiedreSketch>(); }}};
 }
 
 /// Paints the sketch at that size and gives its picture.

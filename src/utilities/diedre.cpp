@@ -1,0 +1,77 @@
+#include "utilities/diedre.h"
+
+#include "base/number_text.h"
+#include "utilities/tool_texts.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace loftwing {
+
+namespace {
+
+constexpr double kAngleMaxi = 89.0;
+
+double ConvDegRad(double degrees) {
+    return degrees * std::numbers::pi / 180.0;
+}
+
+std::string TexteLongueur(double mm, const Saisie &saisie) {
+    return LongueurSousImage(mm, saisie.Unite, kPictureThreeDecimals);
+}
+
+void LimiteAngle(TextesDiedre &textes, double angle, const Saisie &saisie,
+                 const std::string &titre) {
+    if (angle > kAngleMaxi) {
+        saisie.messages.Inform(saisie.messages.Text({"FrmDiedre", "3"}) + " " + "  89°", titre);
+        textes[kDiedreAngle] = "89";
+    }
+}
+
+bool CalculeHauteur(TextesDiedre &textes, const Saisie &saisie, const std::string &titre) {
+    const double length = NombreMm(textes[kDiedreLongueur], saisie);
+    const double angle = LeadingNumber(textes[kDiedreAngle]);
+    const std::string height = TexteLongueur(Finite(std::tan(ConvDegRad(angle)) * length), saisie);
+    LimiteAngle(textes, angle, saisie, titre);
+    textes[kDiedreHauteur] = height;
+    return true;
+}
+
+bool CalculeLongueur(TextesDiedre &textes, const Saisie &saisie, const std::string &titre) {
+    const double height = NombreMm(textes[kDiedreHauteur], saisie);
+    const double angle = LeadingNumber(textes[kDiedreAngle]);
+    if (angle == 0.0 || height == 0.0) {
+        return false;
+    }
+    const std::string length = TexteLongueur(Quotient(height, std::tan(ConvDegRad(angle))), saisie);
+    LimiteAngle(textes, angle, saisie, titre);
+    textes[kDiedreLongueur] = length;
+    return true;
+}
+
+bool CalculeAngle(TextesDiedre &textes, const Saisie &saisie) {
+    const double length = NombreMm(textes[kDiedreLongueur], saisie);
+    const double height = NombreMm(textes[kDiedreHauteur], saisie);
+    if (length == 0.0 || height == 0.0) {
+        return false;
+    }
+    const double angle = std::atan(Quotient(height, length)) * 180.0 / std::numbers::pi;
+    textes[kDiedreAngle] = Format(angle, "# ###0.00");
+    return true;
+}
+
+} // namespace
+
+bool CalculeDiedre(TextesDiedre &textes, int champ, const Saisie &saisie,
+                   const std::string &titre) {
+    switch (champ) {
+    case kDiedreHauteur:
+        return CalculeHauteur(textes, saisie, titre);
+    case kDiedreLongueur:
+        return CalculeLongueur(textes, saisie, titre);
+    default:
+        return CalculeAngle(textes, saisie);
+    }
+}
+
+} // namespace loftwing

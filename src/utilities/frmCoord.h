@@ -1,0 +1,92 @@
+/// The coordinate editor.
+#pragma once
+
+#include "platform/qt_form.h"
+#include "programme/programme.h"
+#include "utilities/coord.h"
+
+#include <QDialog>
+#include <QGridLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <array>
+#include <vector>
+
+namespace loftwing {
+
+/// Points typed by hand become lines of text, and these an airfoil file. Stays open beside the main
+/// window; nothing of it has to do with the rib. Closing it asks when lines aren't saved;
+/// rib.Annule tells that the user stayed.
+class frmCoord : public QDialog {
+    Q_OBJECT
+
+  public:
+    frmCoord(Programme &programme, QWidget *parent);
+
+    /// Escape and the window's own close button do what Close does.
+    void reject() override;
+
+  protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+  private:
+    static constexpr int kNom = 0;
+    static constexpr int kTitreFichier = 1;
+    static constexpr int kDiviseur = 2;
+
+    Programme &programme_;
+    std::int16_t NbLignes = 0; ///< of the list at the last entry, load or clearing
+    bool Sauve = false;        ///< the list is as it was saved or loaded
+    bool EnChangement = false; ///< the divisor is being put into its form
+
+    std::array<QLabel, 3> Label1; ///< of the boxes below
+    std::array<NumericField, 3> txt;
+    QLabel Label2;
+    NumericField txtinX;
+    NumericField txtinY;
+    QListWidget Liste_Valeurs;
+    QPushButton cmdentre;
+    QPushButton cmdajouter;
+    QPushButton cmdeffaceligne;
+    QPushButton cmdeffacetout;
+    QPushButton cmdouvrir;
+    QPushButton cmdsave;
+    QPushButton cmdfermer;
+    QPushButton cmdaide;
+
+    void NameAll();
+    void LayOut();
+    QGridLayout *LayOutEntries();
+    QVBoxLayout *LayOutCommands();
+    void ConnectAll();
+    void PoseTextes();
+
+    void Form_Load();
+    bool Form_Unload();
+    void txt_Change();
+    void cmdentre_Click();
+    void cmdajouter_Click();
+    void cmdeffaceligne_Click();
+    void cmdeffacetout_Click();
+    void cmdouvrir_Click();
+    void cmdsave_Click();
+    void cmdfermer_Click();
+    void Liste_Valeurs_DblClick();
+
+    void Entre();
+    void Ajoute();
+    void Modifie();
+    void Ouvre();
+    void Enregistre();
+    void VideSaisie();
+    std::vector<int> LignesChoisies() const;
+    std::string LigneChoisie() const;
+    bool APerdre() const { return !Sauve && NbLignes != 0; }
+    std::string Texte(int index) const { return S(At(txt, index).text()); }
+    std::string Titre() const { return S(windowTitle()); }
+};
+
+} // namespace loftwing

@@ -1,0 +1,45 @@
+/// The dihedral calculator.
+#pragma once
+
+#include "platform/qt_form.h"
+#include "programme/programme.h"
+#include "utilities/diedre.h"
+#include "utilities/qt_diedre_sketch.h"
+
+#include <QDialog>
+#include <QLabel>
+#include <QPushButton>
+
+#include <array>
+
+namespace loftwing {
+
+/// Angle, length and height; a double click into one of the fields computes it from the other two.
+/// Stays open beside the main window and has nothing to do with the rib.
+class frmdiedre : public QDialog {
+    Q_OBJECT
+
+  public:
+    frmdiedre(Programme &programme, QWidget *parent);
+
+  protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+  private:
+    Programme &programme_;
+    std::array<NumericField, kChampsDiedre> txt;
+    QLabel Label1;
+    QLabel Label2;
+    QLabel Label3;
+    DiedreSketch Image1;
+    QPushButton cmdok;
+    QPushButton cmdaide;
+
+    void NameAll();
+    void LayOut();
+    void Form_Load();
+    void cmdok_Click();
+    void txt_dblClick(int index);
+};
+
+} // namespace loftwing

@@ -1,0 +1,115 @@
+#include "utilities/frmdiedre.h"
+
+#include "windows/beside_fixture.h"
+
+namespace loftwing {
+namespace {
+
+class FrmDiedreTest : public BesideTest<frmdiedre> {
+  protected:
+    void DoubleClick(const char *name) const { QTest::mouseDClick(&Box(name), Qt::LeftButton); }
+};
+
+TEST_F(FrmDiedreTest, OpensEmptyWithItsWords) {
+    Open();
+    EXPECT_EQ(Titre(), "Compute the dihedral  mm");
+    EXPECT_EQ(Label("Label1"), "Angle in degrees");
+    for (const char *name : {"txt(0)", "txt(1)", "txt(2)"}) {
+        EXPECT_EQ(Text(name), "");
+        EXPECT_EQ(Tip(name), "Double click for result");
+    }
+    EXPECT_TRUE(Box("txt(0)").hasFocus());
+    ExpectTabs({"txt(1)", "txt(2)", "cmdok", "cmdaide", "txt(0)"});
+}
+
+TEST_F(FrmDiedreTest, ADoubleClickComputesTheFieldThatIsClicked) {
+    Open();
+    Type("txt(1)", "100");
+    Type("txt(2)", "100");
+    DoubleClick("txt(0)");
+    EXPECT_EQ(Text("txt(0)"), " 45.00");
+    Type("txt(0)", "30");
+    // Nothing is computed again by itself.
+    EXPECT_EQ(Text("txt(2)"), "100");
+    DoubleClick("txt(2)");
+    EXPECT_EQ(Text("txt(2)"), " 57.735");
+    Type("txt(2)", "57.735");
+    DoubleClick("txt(1)");
+    EXPECT_EQ(Text("txt(1)"), " 100."); // 57.735 * sqrt(3) = 99.99995
+    EXPECT_TRUE(FocusedAndSelected("txt(1)"));
+}
+
+TEST_F(FrmDiedreTest, AnAngleBeyondTheLimitIsToldAndStillCounts) {
+    Open();
+    Type("txt(0)", "89.5");
+    Type("txt(1)", "100");
+    ExpectBox("The angle is limited to   89°", BoxIcon::information);
+    DoubleClick("txt(2)");
+    EXPECT_EQ(Text("txt(0)"), "89");
+    EXPECT_EQ(Text("txt(2)"), "11 458.865");
+    DoubleClick("txt(2)");
+    EXPECT_EQ(Text("txt(2)"), "5 728.996");
+}
+
+TEST_F(FrmDiedreTest, WithoutTheOthersNothingHappens) {
+    Open();
+    DoubleClick("txt(0)");
+    DoubleClick("txt(1)");
+    EXPECT_EQ(Text("txt(0)"), "");
+    EXPECT_EQ(Text("txt(1)"), "");
+    DoubleClick("txt(2)");
+    EXPECT_EQ(Text("txt(2)"), "0");
+}
+
+TEST_F(FrmDiedreTest, FieldsSwallowWhatIsNoNumber) {
+    Open();
+    Type("txt(1)", "a-1/2.5%");
+    EXPECT_EQ(Text("txt(1)"), "12.5");
+    Inches();
+    Open();
+    EXPECT_EQ(Titre(), "Compute the dihedral  in");
+    Type("txt(1)", "a-1.1/2%");
+    EXPECT_EQ(Text("txt(1)"), "1.1/2");
+}
+
+TEST_F(FrmDiedreTest, AZeroDenominatorIsToldAndNothingChanges) {
+    Inches();
+    Open();
+    Type("txt(1)", "1/0");
+    Type("txt(2)", "3");
+    platform.Expect(BoxAnswer::ok);
+    DoubleClick("txt(0)");
+    EXPECT_EQ(platform.boxes.front().title, " Diedre/txt");
+    EXPECT_EQ(Text("txt(0)"), "");
+    EXPECT_EQ(Text("txt(1)"), "1/0");
+}
+
+TEST_F(FrmDiedreTest, OkAndEscapeClose) {
+    Open();
+    Click("cmdok");
+    EXPECT_FALSE(window->isVisible());
+    Open();
+    QTest::keyClick(window.get(), Qt::Key_Escape);
+    EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(FrmDiedreTest, HelpOpensItsTopic) {
+    Open();
+    Click("cmdaide");
+    QTest::keyClick(window.get(), Qt::Key_F1);
+    EXPECT_EQ(platform.help_contexts, (std::vector<int>{60, 60}));
+}
+
+TEST_F(FrmDiedreTest, SpeaksFrench) {
+    Language("French");
+    Open();
+    EXPECT_EQ(Titre(), "Calcul du dièdre  mm");
+    EXPECT_EQ(Label("Label1"), "Angle en degrés");
+}
+
+TEST_F(FrmDiedreTest, NothingIsCut) {
+    ExpectNothingCutAnywhere();
+}
+
+} // namespace
+} // namespace loftwing
