@@ -22,7 +22,9 @@
 #include "platform/qt_form.h"
 #include "programme/console_platform.h"
 #include "programme/programme.h"
+#include "programme/special_views.h"
 #include "utilities/frmCoord.h"
+#include "utilities/frmEpCourb.h"
 #include "utilities/frmangle.h"
 #include "utilities/frmdiedre.h"
 #include "utilities/frminclinaison.h"
@@ -153,6 +155,8 @@ class Pictures {
             files->setCurrentRow(3);
         }
         Save(picker, "frmopen");
+        picker.reject();
+        TakeViews();
         // Last, since it clears the rib.
         lang language(programme_, *window_, window_.get());
         Save(language, "lang");
@@ -165,6 +169,31 @@ class Pictures {
         frmribevol2 variable(programme_, *window_, window_.get());
         variable.findChild<QWidget *>("FrameDimensions")->show(); // as after a click on a gap
         Save(variable, "frmribevol2");
+    }
+    /// The views that stand in the rib's place; what was added to the rib doesn't come back.
+    void TakeViews() {
+        RibModel &rib = programme_.rib;
+        window_->OuvreFichier(programme_.settings.repertoires.RepProfil + "/naca2412.dat");
+        rib.NouvEpaisseur = 0;
+        frmEpCourb section(programme_, *window_, window_.get());
+        Save(section, "frmEpCourb-opened");
+        section.findChild<QLineEdit *>("txtEpR")->setText("9");
+        section.findChild<QLineEdit *>("txtCourbure")->setText("3.5");
+        section.findChild<QPushButton *>("CmdApply")->click();
+        Save(section, "frmEpCourb");
+        Save(*window_, "frmmain-EpCourb");
+        section.hide();
+        PrendProfil1(programme_);
+        const double haut1 = rib.ExtradosMaxi;
+        window_->OuvreFichier(programme_.settings.repertoires.RepProfil + "/naca6409.dat");
+        PrendProfil2(programme_, haut1);
+        rib.ModeCompare = true;
+        window_->RetraceVues();
+        Save(*window_, "frmmain-compare");
+        rib.ModeCompare = false;
+        rib.ModeCouple = true;
+        window_->RetraceVues();
+        Save(*window_, "frmmain-simple");
     }
 
     void TakeAddons() {

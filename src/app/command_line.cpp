@@ -4,8 +4,10 @@
 #include "app/dihedral_command.h"
 #include "app/draw_command.h"
 #include "app/info_command.h"
+#include "app/modify_command.h"
 #include "app/ribs_command.h"
 #include "app/table_command.h"
+#include "app/view_commands.h"
 #include "base/failure.h"
 #include "base/version.h"
 
@@ -32,6 +34,11 @@ constexpr std::array kVerbs = {
          RunInfo},
     Verb{"ribs", "ribs ROOT TIP ... -o DIR", "a full set of ribs between two airfoils", RibsOptions,
          RunRibs},
+    Verb{"plot", "plot FILE -o OUT", "the simple plot of the raw points", PlotOptions, RunPlot},
+    Verb{"compare", "compare FILE1 FILE2 -o OUT", "two airfoils over each other", CompareOptions,
+         RunCompare},
+    Verb{"modify", "modify FILE ... -o OUT.dat", "other thickness and camber", ModifyOptions,
+         RunModify},
     Verb{"table", "table --chords A B --count N", "chords and spar places of a tapered panel",
          TableOptions, RunTable},
     Verb{"dihedral", "dihedral ...", "angle, length, height: two of them give the third",

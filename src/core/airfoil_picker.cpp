@@ -85,6 +85,12 @@ ProfilChoisi ProfilDuRib(const RibModel &rib) {
     return {rib.NomProfil, rib.ProfilX, rib.ProfilY, rib.NbPoints};
 }
 
+void RendPoints(RibModel &rib, const ProfilChoisi &profil) {
+    rib.ProfilX = profil.ProfilX;
+    rib.ProfilY = profil.ProfilY;
+    rib.NbPoints = profil.NbPoints;
+}
+
 std::string CheminAbrege(const std::string &folder) {
     if (CharacterCount(folder) <= kCheminEntier) {
         return folder;

@@ -38,6 +38,9 @@ struct ProfilChoisi {
 /// The airfoil that the rib holds.
 ProfilChoisi ProfilDuRib(const RibModel &rib);
 
+/// Gives the rib the points back that reading another file has replaced.
+void RendPoints(RibModel &rib, const ProfilChoisi &profil);
+
 /// A folder as a label shows it: whole up to 30 characters, otherwise its first 12, "..." and its
 /// last 10.
 std::string CheminAbrege(const std::string &folder);

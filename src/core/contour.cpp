@@ -232,7 +232,7 @@ void CalculCambrure(RibModel &rib) {
     }
 }
 
-Preparation PrepareContour(RibModel &rib, const Messages &messages) {
+Preparation PrepareContourSeul(RibModel &rib, const Messages &messages) {
     Preparation result = Preparation::complete;
     try {
         Alocate(rib);
@@ -247,6 +247,14 @@ Preparation PrepareContour(RibModel &rib, const Messages &messages) {
     } catch (const Failure &failure) {
         messages.Report(failure, " Calcul/MiniX");
         return Preparation::impossible;
+    }
+    return result;
+}
+
+Preparation PrepareContour(RibModel &rib, const Messages &messages) {
+    const Preparation result = PrepareContourSeul(rib, messages);
+    if (result == Preparation::impossible) {
+        return result;
     }
     SepareIntrados(rib);
     TableStations(rib);

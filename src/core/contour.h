@@ -41,6 +41,10 @@ enum class Preparation {
     impossible  ///< reported; the caller clears the rib
 };
 
+/// The dense contour and its extremes, from Alocate to CalculIntradosMini, each failure reported
+/// under its routine's label.
+Preparation PrepareContourSeul(RibModel &rib, const Messages &messages);
+
 /// Everything from Alocate to CalculCambrure, each failure reported under its routine's label.
 Preparation PrepareContour(RibModel &rib, const Messages &messages);
 

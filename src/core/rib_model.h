@@ -66,6 +66,12 @@ struct RibModel {
     double ExtradosMaxi = 0; ///< top of the upper surface, never below 0
     double IntradosMini = 0; ///< bottom of the lower surface, never above 0
 
+    // The same section with another thickness and camber, in fractions of the chord.
+    TableStation NouvExtrados{};
+    TableStation NouvIntrados{};
+    double NouvEpaisseur = 0; ///< 0 while none has been applied
+    double NouvCambrure = 0;
+
     // Dimensions.
     float corde = 200;
     std::string cordeAfich = "200";

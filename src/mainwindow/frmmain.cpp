@@ -247,6 +247,8 @@ void frmmain::LitEtReprend(const std::string &path) {
     RibModel &rib = programme_.rib;
     const std::string old_path = rib.CheminProfil;
     const std::string old_title = rib.EnteteProfil;
+    const bool was_simple = rib.ModeCouple;
+    const ProfilChoisi points = ProfilDuRib(rib);
     rib.ModeCouple = false;
     rib.SansApercu = true;
     rib.CheminProfil = path;
@@ -261,6 +263,8 @@ void frmmain::LitEtReprend(const std::string &path) {
         // The rib on the screen is still the one that was there.
         rib.CheminProfil = old_path;
         rib.EnteteProfil = old_title;
+        rib.ModeCouple = was_simple;
+        RendPoints(rib, points);
         return;
     }
     NommeProfil(rib, path);

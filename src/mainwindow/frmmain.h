@@ -5,6 +5,7 @@
 #include "mainwindow/commands.h"
 #include "mainwindow/pic_view.h"
 #include "output/print_run.h"
+#include "output/screen_plot.h"
 #include "programme/main_view.h"
 #include "programme/programme.h"
 
@@ -19,6 +20,7 @@
 #include <array>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -40,6 +42,9 @@ class frmmain : public QMainWindow, public MainView {
 
     void affiche() override;
     void RetraceVues() override;
+    void afficheCompare();
+    void afficheEpcourb() override;
+    void afficheCouple();
     void affclear() override;
     std::optional<ProfilChoisi> ChoisitProfil(const std::string &titre) override;
     void FermeDialogues() override;
@@ -56,7 +61,7 @@ class frmmain : public QMainWindow, public MainView {
     void mnu_filesvg_Click();
     void mnu_filepage_Click();
     void mnu_fileprinterconfig_Click();
-    void mnu_fileprint_Click();
+    void mnu_fileprint_Click() override;
     void mnu_fileexit_Click();
     void mnuFileMRU_Click(const std::string &path);
     void mnu_affinver_Click();
@@ -80,6 +85,9 @@ class frmmain : public QMainWindow, public MainView {
     void mnu_profilTalon_Click();
     void mnu_paramrep_Click();
     void mnu_parambloc_Click();
+    void mnu_OutilCompare_Click();
+    void mnu_outilEpCourb_Click();
+    void mnu_Outilcoupl_Click();
     void mnu_outilnervinter_Click();
     void mnu_OutlilDiedre_Click();
     void mnu_Outilcoord_Click();
@@ -168,7 +176,9 @@ class frmmain : public QMainWindow, public MainView {
     void Exporte(const ExportForm &form);
 
     // frmmain_view.cpp
-    void Redessine();
+    /// Draws on a new recording and shows that. False when there is nothing new to be seen; after a
+    /// failure, which has been reported, the rib is cleared.
+    bool Dessine(const std::function<Affichage(const Trace &)> &draw);
     double UniteDefilement() const;
     void RegleDefilement();
     void RemetDefilement();
@@ -181,6 +191,11 @@ class frmmain : public QMainWindow, public MainView {
     void Form_Resize();
     void LitPlace();
     void EcritPlace();
+
+    // frmmain_views.cpp
+    /// The chord and airfoil 1 of a comparison; false when it ends here.
+    bool DemandeProfil1();
+    void DemandeProfil2(std::optional<double> haut1);
 };
 
 } // namespace loftwing

@@ -21,6 +21,8 @@ namespace loftwing {
 
 void frmmain::mnu_fileprofilopen_Click() {
     RibModel &rib = programme_.rib;
+    const bool was_simple = rib.ModeCouple;
+    const ProfilChoisi points = ProfilDuRib(rib);
     rib.MemProfil = false;
     rib.ModeCouple = false;
     rib.Annule = false;
@@ -29,6 +31,10 @@ void frmmain::mnu_fileprofilopen_Click() {
     ShowModal(picker);
     if (!rib.Annule) {
         RepriseProfil();
+    } else if (was_simple) {
+        // The plot of the bare points is still what is shown.
+        RendPoints(rib, points);
+        rib.ModeCouple = true;
     }
 }
 
@@ -49,12 +55,13 @@ void frmmain::mnu_fileprinterconfig_Click() {
 }
 
 Impression frmmain::ImpressionEnCours() {
-    return ImpressionDuRib(programme_, programme_.plot);
+    return ImpressionDeVue(programme_, programme_.plot);
 }
 
 void frmmain::mnu_fileprint_Click() {
     const Messages &messages = programme_.messages;
-    if (!messages.Confirm(QuestionImpression(programme_.rib, messages), kTitre)) {
+    if (!messages.Confirm(QuestionImpression(programme_.rib, programme_.compare, messages),
+                          kTitre)) {
         return;
     }
     const float zoom = programme_.rib.Zoom;
@@ -79,7 +86,11 @@ void frmmain::mnu_fileexit_Click() {
 
 void frmmain::mnu_affinver_Click() {
     programme_.rib.AffHaut = Checked("mnu_affinver");
-    affiche();
+    if (programme_.rib.ModeCouple) {
+        afficheCouple();
+    } else {
+        affiche();
+    }
 }
 
 void frmmain::mnu_affcouleur_Click() {
@@ -112,6 +123,10 @@ void frmmain::mnu_affTrac_Click() {
 void frmmain::mnu_afflignRef_Click() {
     programme_.rib.AffLignRef = Checked("mnu_afflignRef");
     affiche();
+    // A fixed oddity: the entry is dead in the compare view, and this is what it does there.
+    if (programme_.rib.ModeCompare) {
+        afficheEpcourb();
+    }
 }
 
 void frmmain::mnu_affclear_Click() {

@@ -4,6 +4,7 @@
 #include "base/whole_file.h"
 #include "lang/ini_file.h"
 #include "mainwindow/frmmain.h"
+#include "output/view_screen.h"
 #include "persist/LireEcrire.h"
 #include "platform/busy_pointer.h"
 #include "platform/qt_text.h"
@@ -154,7 +155,7 @@ void frmmain::Exporte(const ExportForm &form) {
     }
     FileQuestion question;
     question.title = form.filter_text;
-    question.name = programme_.rib.NomProfil + "." + form.extension;
+    question.name = NomDuDessin(programme_.rib, programme_.compare) + "." + form.extension;
     question.filter_text = form.filter_text;
     question.default_extension = form.extension;
     const std::string path = programme_.platform.ChooseSaveFile(question);

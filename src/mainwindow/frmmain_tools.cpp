@@ -46,9 +46,7 @@ std::optional<ProfilChoisi> frmmain::ChoisitProfil(const std::string &titre) {
     ShowModal(picker);
     const ProfilChoisi chosen = ProfilDuRib(rib);
     before.Rend(rib);
-    rib.ProfilX = points.ProfilX;
-    rib.ProfilY = points.ProfilY;
-    rib.NbPoints = points.NbPoints;
+    RendPoints(rib, points);
     return rib.Annule ? std::nullopt : std::optional(chosen);
 }
 

@@ -2,8 +2,8 @@
 
 #include "base/version.h"
 #include "mainwindow/frmmain.h"
-#include "output/screen_plot.h"
 #include "output/scroll_range.h"
+#include "output/view_screen.h"
 #include "platform/qt_form.h"
 #include "platform/qt_plot_device.h"
 
@@ -30,28 +30,26 @@ void frmmain::affiche() {
     if (drawing_) {
         return;
     }
-    Redessine();
+    if (Dessine([](const Trace &trace) { return afficheRib(trace); })) {
+        Panel(2, TexteEtat(programme_.rib, programme_.settings, programme_.messages));
+    }
     RegleDefilement();
 }
 
-void frmmain::Redessine() {
+bool frmmain::Dessine(const std::function<Affichage(const Trace &)> &draw) {
     drawing_ = true;
     auto recording = std::make_unique<Recording>(ScreenAdvance);
-    const Affichage result = afficheRib(programme_.TraceSur(*recording));
+    const Affichage result = draw(programme_.TraceSur(*recording));
     drawing_ = false;
     if (result == Affichage::echec) {
         affclear();
     }
     if (result != Affichage::dessine) {
-        return;
+        return false;
     }
     Pic->Montre(std::move(recording));
     Panel(1, kVersion);
-    Panel(2, TexteEtat(programme_.rib, programme_.settings, programme_.messages));
-}
-
-void frmmain::RetraceVues() {
-    // The views that replace the rib have nothing to show yet.
+    return true;
 }
 
 double frmmain::UniteDefilement() const {
@@ -70,7 +68,9 @@ void frmmain::RegleDefilement() {
         const double x = rib.DecalX * unit;
         const double y = -rib.DecalY * unit;
         across = RangeOver(seen.left - x, seen.right - x, Pic->width() * kUnitsPerPixel, unit);
-        down = RangeOver(seen.top - y, seen.bottom - y, Pic->height() * kUnitsPerPixel, unit);
+        if (DefileEnHauteur(rib)) {
+            down = RangeOver(seen.top - y, seen.bottom - y, Pic->height() * kUnitsPerPixel, unit);
+        }
     }
     const auto set = [](QScrollBar *bar, const ScrollRange &range, int lowest, int highest) {
         bar->setRange(lowest, highest);

@@ -67,8 +67,15 @@ void Croix(PlotDevice &device, double x, double y, Colour colour) {
 
 } // namespace
 
-std::string QuestionImpression(const RibModel &rib, const Messages &messages) {
-    return messages.Text({"TextButton", "14"}) + " " + rib.NomProfil;
+std::string QuestionImpression(const RibModel &rib, const Comparaison &compare,
+                               const Messages &messages) {
+    const std::string verb = messages.Text({"TextButton", "14"}) + " ";
+    if (!rib.ModeCompare) {
+        return verb + rib.NomProfil;
+    }
+    const std::string word = messages.Text({"MainTolbar", "11"});
+    return verb + word + " #1 :  " + compare.CompareNom1 + " / " + word +
+           " #2 :  " + compare.CompareNom2;
 }
 
 namespace {
@@ -116,10 +123,10 @@ bool PrepareFeuilles(const Impression &run, const std::function<void()> &set_up_
 PrintQuestion DemandeImprimante(const Impression &run) {
     const Papier &paper = PapierDe(run.settings.page);
     PrintQuestion question;
-    question.document = run.rib.NomProfil;
+    question.document = run.nom;
     question.long_side_mm = paper.tailleFeuille;
     question.short_side_mm = paper.largeur;
-    question.proposed_pdf = run.rib.NomProfil + ".pdf";
+    question.proposed_pdf = run.nom + ".pdf";
     return question;
 }
 

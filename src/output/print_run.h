@@ -1,6 +1,7 @@
 /// The print run: one rib over as many sheets as it takes.
 #pragma once
 
+#include "core/comparaison.h"
 #include "output/page_setup.h"
 #include "output/printer.h"
 #include "output/trace.h"
@@ -19,6 +20,7 @@ struct Impression {
     /// Draws the current view on the printer at the scale and origin set; false after a failure
     /// that it has reported.
     std::function<bool(PlotDevice &)> plot_routine;
+    std::string nom; ///< of the drawing
 };
 
 /// How a print run ended.
@@ -29,8 +31,9 @@ enum class FinImpression {
     trace_echec ///< the plot failed and reported it; the caller clears the rib
 };
 
-/// The question before a print run.
-std::string QuestionImpression(const RibModel &rib, const Messages &messages);
+/// The question before a print run. A comparison names both airfoils.
+std::string QuestionImpression(const RibModel &rib, const Comparaison &compare,
+                               const Messages &messages);
 
 /// Decides about the sheets before the printer is opened: one that fits sets the overlap to 0;
 /// tiling without overlap or page count lets the user set up the page (`set_up_page`, which sets

@@ -12,9 +12,6 @@ namespace loftwing {
 
 namespace {
 
-constexpr double kMargeGauche = 283.5; // 5 mm
-constexpr double kMargeHaute = 850.5;  // 15 mm
-
 double Wide(float value) {
     return static_cast<double>(value);
 }
@@ -24,19 +21,24 @@ void MetAEchelle(const RibModel &rib, PlotState &plot) {
     plot.CordeEchelle = ToSingle(Wide(rib.corde) * kUnitsPerMm * Wide(rib.Zoom));
 }
 
-void PlaceSurEcran(const RibModel &rib, PlotState &plot) {
-    const double corde = Wide(rib.corde);
-    const double zoom = Wide(rib.Zoom);
-    plot.OrigineX = ToSingle(kMargeGauche + rib.DecalX * corde * zoom / 2.0);
-    plot.OrigineY = ToSingle(-rib.DecalY * corde * zoom / 2.0 +
-                             corde * rib.ExtradosMaxi * kUnitsPerMm * zoom + kMargeHaute);
+/// A foam template reaches beyond the rib.
+void BaissePourGabarit(const RibModel &rib, PlotState &plot) {
     if (rib.TypeGabarit == kGabaritMousse) {
         const double half = std::abs(Wide(rib.bloc.HTbloc)) / 2.0;
-        plot.OrigineY = ToSingle(Wide(plot.OrigineY) + half * kUnitsPerMm * zoom);
+        plot.OrigineY = ToSingle(Wide(plot.OrigineY) + half * kUnitsPerMm * Wide(rib.Zoom));
     }
 }
 
 } // namespace
+
+void PlaceSurEcran(const RibModel &rib, PlotState &plot) {
+    const double corde = Wide(rib.corde);
+    const double zoom = Wide(rib.Zoom);
+    MetAEchelle(rib, plot);
+    plot.OrigineX = ToSingle(kMargeGauche + rib.DecalX * corde * zoom / 2.0);
+    plot.OrigineY = ToSingle(-rib.DecalY * corde * zoom / 2.0 +
+                             corde * rib.ExtradosMaxi * kUnitsPerMm * zoom + kMargeHaute);
+}
 
 float FacteurZoom(const std::string &row) {
     const std::string number = FirstCharacters(LastCharacters(row, 5), 3);
@@ -66,6 +68,7 @@ Affichage afficheRib(const Trace &trace) {
             return Affichage::refuse;
         }
         PlaceSurEcran(trace.rib, trace.plot);
+        BaissePourGabarit(trace.rib, trace.plot);
     } catch (const Failure &failure) {
         trace.messages.ReportPlot(failure, " Main/PrintSubroutine");
         return Affichage::echec;

@@ -18,6 +18,14 @@ inline constexpr int kZoomRow100 = 3;
 /// The factor that a row's text names: 3 for "Zoom 300 %".
 float FacteurZoom(const std::string &row);
 
+/// From the left and the upper edge of the picture to the drawing: 5 and 15 mm.
+inline constexpr double kMargeGauche = 283.5;
+inline constexpr double kMargeHaute = 850.5;
+
+/// Sets CordeEchelle, and OrigineX and OrigineY so that the upper surface's highest point keeps the
+/// margin before scrolling. Failure 6 beyond 32 bits.
+void PlaceSurEcran(const RibModel &rib, PlotState &plot);
+
 /// How a redraw ended.
 enum class Affichage {
     rien,   ///< no rib is shown, or a special view is up

@@ -2,9 +2,8 @@
 
 #include "base/version.h"
 #include "output/dxf.h"
-#include "output/rib_plot.h"
-#include "output/screen_plot.h"
 #include "output/svg_writer.h"
+#include "output/view_screen.h"
 
 namespace loftwing {
 
@@ -32,7 +31,7 @@ class VueGardee {
 
 } // namespace
 
-std::unique_ptr<Recording> DessineRib(Programme &programme, bool &failed,
+std::unique_ptr<Recording> DessineVue(Programme &programme, bool &failed,
                                       Recording::Measure measure) {
     RibModel &rib = programme.rib;
     const VueGardee view(rib);
@@ -41,20 +40,25 @@ std::unique_ptr<Recording> DessineRib(Programme &programme, bool &failed,
     rib.DecalY = 0;
     auto recording = std::make_unique<Recording>(std::move(measure));
     PlotState fresh;
-    const Affichage result =
-        afficheRib({*recording, rib, programme.settings, fresh, programme.messages});
+    const Affichage result = afficheVue(
+        {*recording, rib, programme.settings, fresh, programme.messages}, programme.compare);
     failed = result == Affichage::echec;
     return result == Affichage::dessine ? std::move(recording) : nullptr;
 }
 
-Impression ImpressionDuRib(Programme &programme, PlotState &plot) {
+Impression ImpressionDeVue(Programme &programme, PlotState &plot) {
     RibModel &rib = programme.rib;
     const AppSettings &settings = programme.settings;
     const Messages &messages = programme.messages;
-    return {rib, programme.settings, plot, messages,
-            [&rib, &settings, &messages, &plot](PlotDevice &device) {
-                return PrintSubroutine({device, rib, settings, plot, messages}, 1.0);
-            }};
+    const Comparaison &compare = programme.compare;
+    return {rib,
+            programme.settings,
+            plot,
+            messages,
+            [&rib, &settings, &messages, &plot, &compare](PlotDevice &device) {
+                return TraceVue({device, rib, settings, plot, messages}, compare);
+            },
+            NomDuDessin(rib, compare)};
 }
 
 bool ExporteDxf(Programme &programme, std::string &out) {
@@ -71,8 +75,9 @@ std::string ExporteDxfSimple(Programme &programme) {
 }
 
 std::string ExporteSvg(Programme &programme, bool &failed) {
-    const auto recording = DessineRib(programme, failed);
-    return recording ? WriteSvg(*recording, programme.rib.NomProfil) : std::string();
+    const auto recording = DessineVue(programme, failed);
+    return recording ? WriteSvg(*recording, NomDuDessin(programme.rib, programme.compare))
+                     : std::string();
 }
 
 } // namespace loftwing

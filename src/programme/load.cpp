@@ -7,7 +7,6 @@ namespace loftwing {
 
 namespace {
 
-/// An airfoil can be worked on although the list of recent ones can't be kept.
 constexpr const char *kLabelRecents = " Main/FileMru";
 
 void LitOuEcrit(Programme &programme) {
@@ -47,13 +46,14 @@ void FinPremierDemarrage(Programme &programme) {
     programme.PremierDemarrage = false;
 }
 
+void NoteRecent(Programme &programme, const std::string &path) {
+    programme.messages.Garde(
+        kLabelRecents, [&programme, &path] { NoteFichierRecent(path, programme.paths.fichier); });
+}
+
 void EntreProfil(Programme &programme) {
     ReprendProfil(programme.rib);
-    try {
-        NoteFichierRecent(programme.rib.CheminProfil, programme.paths.fichier);
-    } catch (const Failure &failure) {
-        programme.messages.Report(failure, kLabelRecents);
-    }
+    NoteRecent(programme, programme.rib.CheminProfil);
 }
 
 FichiersRecents FichiersRecentsConnus(Programme &programme) {

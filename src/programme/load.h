@@ -13,6 +13,10 @@ void ChargeReglages(Programme &programme);
 /// Marks the first run as over.
 void FinPremierDemarrage(Programme &programme);
 
+/// Notes a file among the recent ones. A failure is reported: an airfoil can be worked on although
+/// the list can't be kept.
+void NoteRecent(Programme &programme, const std::string &path);
+
 /// A new airfoil takes over the rib: heel and washout reset, the file noted among the recent ones.
 void EntreProfil(Programme &programme);
 

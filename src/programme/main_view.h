@@ -20,6 +20,10 @@ class MainView {
     virtual void affiche() = 0;
     /// Redraws the special view that is up, if any.
     virtual void RetraceVues() = 0;
+    /// Shows the airfoil with its new thickness and camber in the rib's place.
+    virtual void afficheEpcourb() = 0;
+    /// Prints the view that is up, as the user's command, which asks before.
+    virtual void mnu_fileprint_Click() = 0;
     /// Clears everything: rib, view and commands.
     virtual void affclear() = 0;
     /// The same as the user's command, which asks before changes are lost.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/app_settings.h"
+#include "core/comparaison.h"
 #include "core/messages.h"
 #include "core/rib_model.h"
 #include "lang/LngIni.h"
@@ -28,6 +29,7 @@ struct Programme {
     Programme(Paths where, Platform &world) : paths(std::move(where)), platform(world) {}
 
     RibModel rib;
+    Comparaison compare;
     AppSettings settings;
     PlotState plot;
     LngIni language;

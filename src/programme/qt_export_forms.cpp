@@ -2,7 +2,7 @@
 
 #include "output/print_run.h"
 #include "output/qt_export.h"
-#include "output/screen_plot.h"
+#include "output/view_screen.h"
 #include "persist/LireEcrire.h"
 #include "platform/qt_plot_device.h"
 #include "platform/qt_printer.h"
@@ -26,7 +26,7 @@ Exported AsSvg(Programme &programme, const std::function<void()> &) {
 
 Exported AsPng(Programme &programme, const std::function<void()> &) {
     Exported exported;
-    const auto drawing = DessineRib(programme, exported.failed, ScreenAdvance);
+    const auto drawing = DessineVue(programme, exported.failed, ScreenAdvance);
     if (drawing) {
         exported.bytes = PngOf(*drawing);
     }
@@ -34,16 +34,17 @@ Exported AsPng(Programme &programme, const std::function<void()> &) {
 }
 
 Exported AsPdf(Programme &programme, const std::function<void()> &set_up_page) {
-    if (!StocksTiennent(programme.rib, programme.messages)) {
+    const bool of_rib = RibVisible(programme.rib);
+    if (of_rib && !StocksTiennent(programme.rib, programme.messages)) {
         return {};
     }
     PlotState fresh;
-    const Impression run = ImpressionDuRib(programme, fresh);
+    const Impression run = ImpressionDeVue(programme, fresh);
     if (!PrepareFeuilles(run, set_up_page)) {
         return {};
     }
     std::string bytes;
-    const auto printer = MakePdfPrinter(bytes, programme.rib.NomProfil);
+    const auto printer = MakePdfPrinter(bytes, run.nom);
     const FinImpression end = Imprime(run, *printer);
     if (end == FinImpression::imprime) {
         return {bytes, false};
@@ -51,10 +52,10 @@ Exported AsPdf(Programme &programme, const std::function<void()> &set_up_page) {
     return {std::nullopt, end == FinImpression::trace_echec};
 }
 
-/// Plots the rib as the screen does at 100 %, for the forms that show what the last plot left.
+/// Plots the view as the screen does at 100 %, for the forms that show what the last plot left.
 bool PlotFirst(Programme &programme, Exported &exported) {
     Recording recording;
-    const Affichage end = afficheRib(programme.TraceSur(recording));
+    const Affichage end = afficheVue(programme.TraceSur(recording), programme.compare);
     exported.failed = end == Affichage::echec;
     return end == Affichage::dessine;
 }
@@ -102,16 +103,6 @@ const ExportForm *FindExportForm(const std::string &extension, const std::string
         return each.extension == lower && each.variant == variant;
     });
     return form == forms.end() ? nullptr : &*form;
-}
-
-std::string ExportExtensions() {
-    std::string names;
-    for (const ExportForm &form : ExportForms()) {
-        if (form.variant.empty()) {
-            names += (names.empty() ? "" : ", ") + form.extension;
-        }
-    }
-    return names;
 }
 
 } // namespace loftwing

@@ -30,7 +30,5 @@ struct ExportForm {
 const std::vector<ExportForm> &ExportForms();
 /// The form of an extension, case ignored; null for one that there isn't.
 const ExportForm *FindExportForm(const std::string &extension, const std::string &variant = {});
-/// "svg, png, ...".
-std::string ExportExtensions();
 
 } // namespace loftwing

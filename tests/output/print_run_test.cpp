@@ -59,7 +59,8 @@ class PrintRun : public testing::Test {
 };
 
 TEST_F(PrintRun, QuestionNamesTheAirfoil) {
-    EXPECT_EQ(QuestionImpression(world.rib, world.messages), "<TextButton 14> naca2412");
+    EXPECT_EQ(QuestionImpression(world.rib, Comparaison{}, world.messages),
+              "<TextButton 14> naca2412");
 }
 
 TEST_F(PrintRun, ChordOf200OnA4IsOneSheetWithoutOverlap) {

@@ -23,6 +23,8 @@ class NotedView : public MainView {
         }
     }
     void RetraceVues() override { asked.emplace_back("RetraceVues"); }
+    void afficheEpcourb() override { asked.emplace_back("afficheEpcourb"); }
+    void mnu_fileprint_Click() override { asked.emplace_back("mnu_fileprint_Click"); }
     void affclear() override {
         asked.emplace_back("affclear");
         if (on_clear) {

@@ -24,6 +24,8 @@ std::string Words() {
         {"FrmMainMessage", {"2", "3", "13", "14", "15", "16", "17"}},
         {"FrmLines", {"5", "6", "7", "8", "9", "10", "11", "12", "13", "24"}},
         {"FrmPrint", {"22", "tailleFeuille(8)", "tailleFeuille(8) "}},
+        {"FrmEpCourb", {"1", "10", "11", "12", "17", "18"}},
+        {"OutilCompare", {"5", "6"}},
         {"Message", {"20"}}};
     std::string text;
     for (const auto &[section, names] : keys) {
@@ -65,8 +67,12 @@ RibWorld::RibWorld() {
 }
 
 Impression RibWorld::Run() {
-    return {rib, settings, plot, messages,
-            [this](PlotDevice &device) { return PrintSubroutine(On(device), 1.0); }};
+    return {rib,
+            settings,
+            plot,
+            messages,
+            [this](PlotDevice &device) { return PrintSubroutine(On(device), 1.0); },
+            rib.NomProfil};
 }
 
 void RibWorld::Place(float x, float y) {

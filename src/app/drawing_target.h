@@ -1,0 +1,51 @@
+/// Where the drawings of a command go, and in which form.
+#pragma once
+
+#include "app/arguments.h"
+#include "programme/qt_export_forms.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace loftwing {
+
+struct DrawingTarget {
+    const ExportForm *form = nullptr;
+    std::string file;   ///< empty: standard output
+    std::string folder; ///< for several files
+    bool several = false;
+};
+
+/// What a verb that draws can do.
+struct DrawingVerb {
+    const char *name;
+    std::vector<std::string> forms; ///< extensions
+    std::size_t files_each;         ///< FILEs of one drawing
+    const char *wants;              ///< "a FILE", for the message of wrong usage
+};
+
+/// The options --output, --to and --airfoils, and --dxf where the verb has that form.
+std::vector<OptionRule> DrawingOptions(const DrawingVerb &verb);
+
+/// Throws UsageError for words that name no place, no form, or one that the verb doesn't have.
+DrawingTarget TargetOf(const Arguments &arguments, const DrawingVerb &verb);
+
+/// Writes a drawing whole; in a folder it is named after `file`. Failure 75 when it is refused.
+/// False when standard output is.
+bool Deliver(const DrawingTarget &target, const std::string &file, const std::string &bytes);
+
+/// A page for the PDF; the command line can't ask for an overlap, so it must have one.
+std::function<void()> PageOrRefusal(Programme &programme);
+
+/// The bytes of a drawing, nothing when anything was refused; `complete` says whether nothing was
+/// amiss on the way.
+using Draw = std::function<std::optional<std::string>(
+    const DrawingTarget &target, const std::vector<std::string> &files, bool &complete)>;
+
+/// Draws all that the command line names and gives the exit status. A refused drawing stops no
+/// other one, and leaves nothing under its name.
+int DrawAll(const Arguments &arguments, const DrawingVerb &verb, const Draw &draw);
+
+} // namespace loftwing

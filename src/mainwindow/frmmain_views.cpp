@@ -1,0 +1,203 @@
+// The views of the main window that stand in the rib's place, and the commands that bring them up.
+
+#include "base/version.h"
+#include "mainwindow/frmmain.h"
+#include "mainwindow/frmopen.h"
+#include "output/view_screen.h"
+#include "platform/busy_pointer.h"
+#include "platform/qt_form.h"
+#include "programme/load.h"
+#include "programme/special_views.h"
+#include "programme/startup.h"
+#include "utilities/frmEpCourb.h"
+
+namespace loftwing {
+
+void frmmain::RetraceVues() {
+    const RibModel &rib = programme_.rib;
+    if (rib.ModeCompare) {
+        afficheCompare();
+    } else if (rib.ModeEpCourb) {
+        afficheEpcourb();
+    } else if (rib.ModeCouple) {
+        afficheCouple();
+    }
+}
+
+void frmmain::afficheCompare() {
+    if (drawing_) {
+        return;
+    }
+    const Comparaison &compare = programme_.compare;
+    const auto draw = [&compare](const Trace &trace) {
+        return loftwing::afficheCompare(trace, compare);
+    };
+    if (Dessine(draw)) {
+        setWindowTitle(Q(TitreCompare(compare, programme_.messages)));
+        Panel(2, EtatCompare(programme_.rib, compare, programme_.SaisieEnCours()));
+    }
+    RegleDefilement();
+}
+
+void frmmain::afficheEpcourb() {
+    if (drawing_) {
+        return;
+    }
+    if (Dessine([](const Trace &trace) { return loftwing::afficheEpcourb(trace); })) {
+        Panel(2, EtatEpCourb(programme_.rib, programme_.SaisieEnCours()));
+    }
+    RegleDefilement();
+}
+
+void frmmain::afficheCouple() {
+    if (drawing_) {
+        return;
+    }
+    if (Dessine([](const Trace &trace) { return loftwing::afficheCouple(trace); })) {
+        Panel(2, TexteEtat(programme_.rib, programme_.settings, programme_.messages));
+    }
+    RegleDefilement();
+}
+
+void frmmain::mnu_OutilCompare_Click() {
+    if (!ControleSeparateurCommande(programme_, {"MenuOutils", "2t"})) {
+        return;
+    }
+    RibModel &rib = programme_.rib;
+    if (rib.ProfilCharge && !ConfirmePerte({"OutilCompare", "1"}, {"OutilCompare", "2"})) {
+        return;
+    }
+    rib.ModeCouple = false;
+    FermeDialogues();
+    rib.Annule = false;
+    rib.ModeCompare = true;
+    if (rib.MemProfil) {
+        DemandeProfil2(std::nullopt);
+    } else if (DemandeProfil1()) {
+        DemandeProfil2(rib.ExtradosMaxi);
+    }
+}
+
+bool frmmain::DemandeProfil1() {
+    RibModel &rib = programme_.rib;
+    if (!Saisit("corde")) {
+        return false;
+    }
+    frmopen picker(programme_, *this, this);
+    picker.setWindowTitle(Q(programme_.Text({"OutilCompare", "3"}) + "  #1"));
+    picker.MontreMemoire(true, {});
+    ShowModal(picker);
+    if (rib.Annule) {
+        return false;
+    }
+    const Sablier sablier(programme_.platform);
+    rib.ModeCompare = true; // a file that couldn't be read in the picker has cleared everything
+    DesactiveCommandes();
+    ActiveCommandesVue();
+    Pic->Montre(nullptr);
+    RegleDefilement();
+    setWindowTitle(QString::fromUtf8(kTitre));
+    NoteRecent(programme_, rib.CheminProfil);
+    AfficheFichiersRecents();
+    if (PrendProfil1(programme_) == Preparation::impossible) {
+        affclear();
+        return false;
+    }
+    Panel(1, kVersion);
+    Panel(2, EtatProfil1(rib, programme_.compare, programme_.SaisieEnCours()));
+    return true;
+}
+
+void frmmain::DemandeProfil2(std::optional<double> haut1) {
+    RibModel &rib = programme_.rib;
+    const Comparaison &compare = programme_.compare;
+    Panel(2, EtatNom1(compare, programme_.messages));
+    rib.Annule = false;
+    {
+        frmopen picker(programme_, *this, this);
+        picker.setWindowTitle(Q(programme_.Text({"OutilCompare", "3"}) + " #2"));
+        picker.MontreMemoire(false, programme_.Text({"MainTolbar", "11"}) +
+                                        " #1 = " + compare.CompareNom1);
+        ShowModal(picker);
+    }
+    if (rib.Annule) {
+        rib.ModeCompare = false;
+        Panel(2, "");
+        affclear();
+        return;
+    }
+    const Sablier sablier(programme_.platform);
+    rib.ModeCompare = true;
+    // An airfoil 1 that was kept may have come to a window full of a rib's commands.
+    DesactiveCommandes();
+    ActiveCommandesVue();
+    NoteRecent(programme_, rib.CheminProfil);
+    AfficheFichiersRecents();
+    if (PrendProfil2(programme_, haut1) == Preparation::impossible) {
+        affclear();
+        return;
+    }
+    afficheCompare();
+}
+
+void frmmain::mnu_outilEpCourb_Click() {
+    if (!ControleSeparateurCommande(programme_, {"MenuOutils", "5t"})) {
+        return;
+    }
+    RibModel &rib = programme_.rib;
+    if (rib.ProfilCharge && !ConfirmePerte({"FrmMainMessage", "9"}, {"FrmMainMessage", "10"})) {
+        return;
+    }
+    mnu_fileprofilopen_Click();
+    if (rib.Annule || !rib.ProfilCharge) {
+        return;
+    }
+    rib.NouvExtrados.fill(0);
+    rib.NouvIntrados.fill(0);
+    RazRib(rib, ToSingle(NombreMm(rib.EpBAAfich, programme_.SaisieEnCours())));
+    afficheEpcourb();
+    if (!rib.ProfilCharge) {
+        return; // the drawing failed
+    }
+    frmEpCourb dialog(programme_, *this, this);
+    if (ShowModal(dialog) != QDialog::Accepted) {
+        return;
+    }
+    NoteRecent(programme_, dialog.Fichier());
+    AfficheFichiersRecents();
+    mnuFileMRU_Click(dialog.Fichier());
+}
+
+void frmmain::mnu_Outilcoupl_Click() {
+    RibModel &rib = programme_.rib;
+    mnu_affclear_Click();
+    if (rib.ProfilCharge) {
+        return; // the user keeps the rib
+    }
+    const auto enable = [this] {
+        ActiveCommandesVue();
+        for (const char *name : {"mnu_affinver", "mnu_affInstxt", "mnu_filedxf"}) {
+            actions_.at(name)->setEnabled(true);
+        }
+    };
+    rib.ModeCouple = true;
+    enable();
+    frmopen picker(programme_, *this, this);
+    picker.setWindowTitle(Q(programme_.Text({"frmopen", "35"})));
+    ShowModal(picker);
+    if (rib.Annule) {
+        // Nothing to print or save: the commands are those of a cleared rib.
+        DesactiveCommandes();
+        EnableGroup(kAliveAfterClear, true);
+        return;
+    }
+    const Sablier sablier(programme_.platform);
+    rib.ModeCouple = true; // a file that couldn't be read in the picker has cleared everything
+    enable();
+    rib.NomFichierRib = rib.NomProfil;
+    setWindowTitle(Q(TitreCouple(rib)));
+    PrepareTraceSimple(programme_);
+    afficheCouple();
+}
+
+} // namespace loftwing

@@ -1,0 +1,135 @@
+#include "output/view_screen.h"
+
+#include "base/version.h"
+
+#include <cmath>
+
+namespace loftwing {
+
+namespace {
+
+constexpr int kStationHaute = 300; // where a section is about at its thickest
+
+double Wide(float value) {
+    return static_cast<double>(value);
+}
+
+std::string MotProfil(const Messages &messages) {
+    return messages.Text({"MainTolbar", "11"});
+}
+
+/// "Chord : 200 mm".
+std::string MotsCorde(const RibModel &rib, const Saisie &saisie) {
+    return saisie.messages.Text({"MainTolbar", "13"}) + " : " + rib.cordeAfich + saisie.Unite;
+}
+
+void PlaceEpCourb(const Trace &trace) {
+    const RibModel &rib = trace.rib;
+    PlaceSurEcran(rib, trace.plot);
+    // The new section may rise over the old one.
+    const double above = std::abs(rib.ExtradosMaxi - At(rib.NouvExtrados, kStationHaute));
+    trace.plot.OrigineY = ToSingle(
+        (above + rib.ExtradosMaxi) * Wide(rib.corde) * kUnitsPerMm * Wide(rib.Zoom) + kMargeHaute);
+}
+
+void PlaceCouple(const Trace &trace) {
+    const RibModel &rib = trace.rib;
+    PlaceSurEcran(rib, trace.plot);
+    if (rib.AffHaut) { // the lower surface is on top
+        trace.plot.OrigineY = ToSingle(
+            Wide(rib.corde) * -rib.IntradosMini * kUnitsPerMm * Wide(rib.Zoom) + kMargeHaute);
+    }
+}
+
+/// Sets the place, then draws; a failure of either is told under the routine's label.
+template <class Place, class Routine>
+Affichage Affiche(const Trace &trace, const char *label, Place place, Routine routine) {
+    try {
+        place();
+    } catch (const Failure &failure) {
+        trace.messages.ReportPlot(failure, label);
+        return Affichage::echec;
+    }
+    return routine() ? Affichage::dessine : Affichage::echec;
+}
+
+} // namespace
+
+Affichage afficheCompare(const Trace &trace, const Comparaison &compare) {
+    if (!compare.Complete()) {
+        return Affichage::rien;
+    }
+    return Affiche(
+        trace, " Main/PrintRoutine2", [&] { PlaceSurEcran(trace.rib, trace.plot); },
+        [&] { return PrintRoutine2(trace, compare, 1.0); });
+}
+
+Affichage afficheEpcourb(const Trace &trace) {
+    if (!trace.rib.ProfilCharge) {
+        return Affichage::rien;
+    }
+    return Affiche(
+        trace, " Main/PrintRoutineEpcourb", [&] { PlaceEpCourb(trace); },
+        [&] { return PrintRoutineEpcourb(trace, 1.0); });
+}
+
+Affichage afficheCouple(const Trace &trace) {
+    if (!trace.rib.ProfilCharge) {
+        return Affichage::rien;
+    }
+    return Affiche(
+        trace, " Main/PrintRoutineCouple", [&] { PlaceCouple(trace); },
+        [&] { return PrintRoutineCouple(trace, 1.0); });
+}
+
+Affichage afficheVue(const Trace &trace, const Comparaison &compare) {
+    const RibModel &rib = trace.rib;
+    if (rib.ModeCompare) {
+        return afficheCompare(trace, compare);
+    }
+    if (rib.ModeEpCourb) {
+        return afficheEpcourb(trace);
+    }
+    return rib.ModeCouple ? afficheCouple(trace) : afficheRib(trace);
+}
+
+bool DefileEnHauteur(const RibModel &rib) {
+    if (rib.ModeCompare) {
+        return true;
+    }
+    return !rib.ModeEpCourb && !(rib.ModeCouple && rib.AffHaut);
+}
+
+std::string TitreCompare(const Comparaison &compare, const Messages &messages) {
+    return kTitre + messages.Text({"OutilCompare", "5"}) + " " + compare.CompareNom1 + " " +
+           messages.Text({"OutilCompare", "6"}) + " " + compare.CompareNom2;
+}
+
+std::string EtatCompare(const RibModel &rib, const Comparaison &compare, const Saisie &saisie) {
+    return EtatNom1(compare, saisie.messages) + MotProfil(saisie.messages) +
+           " #2 :  " + compare.CompareNom2 + MotsCorde(rib, saisie);
+}
+
+std::string EtatEpCourb(const RibModel &rib, const Saisie &saisie) {
+    return MotProfil(saisie.messages) + " : " + rib.NomProfil + " + " +
+           NomNouveau(rib, saisie.messages) + MotsCorde(rib, saisie);
+}
+
+std::string EtatProfil1(const RibModel &rib, const Comparaison &compare, const Saisie &saisie) {
+    return EtatNom1(compare, saisie.messages) + " " + saisie.messages.Text({"MainTolbar", "13"}) +
+           rib.cordeAfich + saisie.Unite;
+}
+
+std::string EtatNom1(const Comparaison &compare, const Messages &messages) {
+    return MotProfil(messages) + " #1 :  " + compare.CompareNom1;
+}
+
+std::string TitreCouple(const RibModel &rib) {
+    return std::string(kTitre) + " : " + rib.NomProfil;
+}
+
+std::string NomDuDessin(const RibModel &rib, const Comparaison &compare) {
+    return rib.ModeCompare ? compare.CompareNom1 + " - " + compare.CompareNom2 : rib.NomProfil;
+}
+
+} // namespace loftwing

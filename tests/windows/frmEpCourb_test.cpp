@@ -1,0 +1,315 @@
+#include "utilities/frmEpCourb.h"
+
+#include "support/qt_nothing_cut.h"
+#include "windows/views_fixture.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace loftwing {
+namespace {
+
+using testing::HasSubstr;
+
+class FrmEpCourbTest : public Views {
+  protected:
+    /// Opens the dialog on naca2412 and acts in it.
+    void Use(const Act &act) {
+        Run("mnu_outilEpCourb", {PickSample("naca2412.dat"), [&act](QDialog &dialog) {
+                                     ASSERT_EQ(dialog.objectName(), "frmEpCourb");
+                                     act(dialog);
+                                 }});
+    }
+    static std::string Label(QDialog &dialog, const char *name) {
+        return dialog.findChild<QLabel *>(name)->text().toStdString();
+    }
+    static void Values(QDialog &dialog, const char *thickness, const char *camber) {
+        Type(dialog, "txtEpR", thickness);
+        Type(dialog, "txtCourbure", camber);
+    }
+    void Saves(const std::string &path) { world.platform.files_expected.push_back(path); }
+    void ExpectWarning(LngKey key) {
+        const std::string text = world.programme.Text(key);
+        world.platform.boxes_expected.push_back({BoxAnswer::ok, [text](const MessageBox &box) {
+                                                     EXPECT_EQ(box.text, text);
+                                                     EXPECT_EQ(box.icon, BoxIcon::warning);
+                                                     EXPECT_EQ(box.title,
+                                                               "Modify Airfoil Thickness/Camber "
+                                                               "naca2412");
+                                                 }});
+    }
+};
+
+TEST_F(FrmEpCourbTest, ShowsTheAirfoilAndItsView) {
+    Use([this](QDialog &dialog) {
+        EXPECT_EQ(dialog.windowTitle().toStdString(), "Modify Airfoil Thickness/Camber naca2412");
+        EXPECT_EQ(Text(dialog, "txtEpROr"), "12.00");
+        EXPECT_EQ(Text(dialog, "txtCourbureOr"), "2.00");
+        EXPECT_EQ(Text(dialog, "txtEpR"), "0.00");
+        EXPECT_EQ(Text(dialog, "txtCourbure"), "0.00");
+        EXPECT_EQ(Label(dialog, "Label5"), "");
+        EXPECT_EQ(Label(dialog, "Label3(0)"), "Original Airfoil");
+        EXPECT_EQ(Label(dialog, "Label3(1)"), "New Airfoil");
+        EXPECT_TRUE(dialog.findChild<QLineEdit *>("txtEpROr")->isReadOnly());
+        EXPECT_EQ(dialog.focusWidget()->objectName(), "txtEpR");
+        EXPECT_TRUE(dialog.findChild<QLineEdit *>("txtEpR")->hasSelectedText());
+        EXPECT_FALSE(Rib().ModeEpCourb);
+        EXPECT_EQ(world.Panel(2), "Airfoil : naca2412 + naca2412 thickness : 0% camber : 0% "
+                                  "Chord : 200 mm");
+    });
+}
+
+TEST_F(FrmEpCourbTest, ApplyShowsTheNewSectionOverTheOldOne) {
+    Use([this](QDialog &dialog) {
+        Values(dialog, "a9/", "3.5-");
+        Click(dialog, "CmdApply");
+        EXPECT_EQ(Text(dialog, "txtEpR"), "9.00");
+        EXPECT_EQ(Text(dialog, "txtCourbure"), "3.50");
+        EXPECT_EQ(Label(dialog, "Label5"), " 18. mm");
+        EXPECT_TRUE(Rib().ModeEpCourb);
+        EXPECT_EQ(world.Panel(2), "Airfoil : naca2412 + naca2412 thickness : 9% camber : 3.5% "
+                                  "Chord : 200 mm");
+        EXPECT_THAT(TextsOf(Drawing()->Operations()),
+                    testing::ElementsAre("Airfoil : naca2412     ",
+                                         "naca2412 thickness : 9% camber : 3.5% "));
+        EXPECT_EQ(SegmentsOf(Drawing()->Operations()).size(),
+                  1U + 800U + static_cast<std::size_t>(Rib().NbContour - 1));
+        world.window->resize(700, 400);
+        QTest::qWait(10);
+        EXPECT_THAT(world.Panel(2), HasSubstr("thickness : 9%"));
+    });
+}
+
+TEST_F(FrmEpCourbTest, TheRibsFeaturesGoWithTheNewAirfoil) {
+    OpenRib();
+    Rib().NbRep = 5;
+    Rib().TypeGabarit = kGabaritTalon;
+    Use([this](QDialog &) {
+        EXPECT_EQ(Rib().NbRep, 0);
+        EXPECT_EQ(Rib().TypeGabarit, kSansGabarit);
+    });
+}
+
+TEST_F(FrmEpCourbTest, SavesUnderTheProposedName) {
+    Saves(world.folder.Path("sets/new.dat"));
+    Use([this](QDialog &dialog) {
+        Values(dialog, "9", "3");
+        Click(dialog, "CmdApply");
+        Click(dialog, "cmdsave");
+    });
+    const FileQuestion &question = world.platform.file_questions.back();
+    EXPECT_EQ(question.name, "naca2412_E9.00C3.00.dat");
+    EXPECT_EQ(question.folder, world.folder.Path("sets") + "/");
+    EXPECT_EQ(question.title, "Save the new airfoil");
+    EXPECT_EQ(question.filter_text, "Files (*.dat)");
+    EXPECT_EQ(question.default_extension, "dat");
+    EXPECT_THAT(world.folder.Bytes("sets/new.dat"),
+                testing::StartsWith("naca2412  thickness 9.00% camber 3.00%\r\n1.000  0 \r\n"));
+    EXPECT_THAT(world.folder.Bytes("sets/new.dat"), testing::EndsWith("By Loftwing\r\n"));
+    EXPECT_EQ(world.platform.pointer, Pointer::normal);
+}
+
+TEST_F(FrmEpCourbTest, SavingAndPrintingWantAnAppliedThickness) {
+    Use([this](QDialog &dialog) {
+        ExpectWarning({"FrmEpCourb", "15"});
+        Click(dialog, "cmdsave");
+        ExpectWarning({"FrmEpCourb", "15"});
+        Click(dialog, "cmdprintEC");
+        EXPECT_EQ(world.platform.boxes.size(), 2U);
+        EXPECT_TRUE(dialog.isVisible());
+    });
+}
+
+TEST_F(FrmEpCourbTest, PrintsTheView) {
+    std::size_t drawn = 0;
+    world.platform.make_printer = [](const PrintQuestion &) {
+        return std::make_unique<TestPrinter>();
+    };
+    Use([&](QDialog &dialog) {
+        Values(dialog, "9", "3");
+        Click(dialog, "CmdApply");
+        ExpectBox(BoxAnswer::yes, "Print naca2412");
+        Click(dialog, "cmdprintEC");
+        drawn = world.platform.print_questions.size();
+        EXPECT_EQ(world.platform.pointer, Pointer::normal);
+    });
+    EXPECT_EQ(drawn, 1U);
+}
+
+TEST_F(FrmEpCourbTest, OkSavesFirstAndOpensTheNewAirfoil) {
+    const std::string path = world.folder.Path("sets/new.dat");
+    Saves(path);
+    Use([](QDialog &dialog) {
+        Values(dialog, "9", "3");
+        Click(dialog, "cmdok");
+    });
+    EXPECT_EQ(Rib().CheminProfil, path);
+    EXPECT_EQ(Rib().NomProfil, "new");
+    EXPECT_FALSE(Rib().ModeEpCourb);
+    EXPECT_NEAR(Rib().EpMaxi, 0.09, 1e-4);
+    EXPECT_EQ(Caption(), "Loftwing Airfoil : new");
+    EXPECT_EQ(world.Action("mnuFileMRU(1)")->data().toString().toStdString(), path);
+    EXPECT_TRUE(Enabled("mnu_profillongeron"));
+}
+
+TEST_F(FrmEpCourbTest, OkAfterASaveAsksForNoNameAgain) {
+    Saves(world.folder.Path("sets/new.dat"));
+    Use([](QDialog &dialog) {
+        Values(dialog, "9", "3");
+        Click(dialog, "CmdApply");
+        Click(dialog, "cmdsave");
+        Click(dialog, "cmdok");
+    });
+    EXPECT_EQ(world.platform.file_questions.size(), 1U);
+    EXPECT_EQ(Rib().NomProfil, "new");
+}
+
+TEST_F(FrmEpCourbTest, OkWithACancelledSaveStaysOpen) {
+    Saves("");
+    Use([this](QDialog &dialog) {
+        Values(dialog, "9", "3");
+        ExpectWarning({"FrmEpCourb", "14"});
+        Click(dialog, "cmdok");
+        EXPECT_TRUE(dialog.isVisible());
+    });
+}
+
+TEST_F(FrmEpCourbTest, OkWithARefusedValueStaysOpen) {
+    Use([this](QDialog &dialog) {
+        for (const char *key : {"12", "15", "14"}) {
+            const std::string text =
+                GetINIFile("FrmEpCourb", key, world.programme.paths.langues + "/English.lng");
+            ExpectBox(BoxAnswer::ok, text);
+        }
+        Values(dialog, "0", "3");
+        Click(dialog, "cmdok");
+        EXPECT_TRUE(dialog.isVisible());
+    });
+}
+
+TEST_F(FrmEpCourbTest, AFolderThatHasGoneIsToldAndNothingCountsAsSaved) {
+    Saves(world.folder.Path("gone/new.dat"));
+    Saves("");
+    Use([this](QDialog &dialog) {
+        Values(dialog, "9", "3");
+        Click(dialog, "CmdApply");
+        world.platform.boxes_expected.push_back(
+            {BoxAnswer::ok, [this](const MessageBox &box) {
+                 EXPECT_EQ(box.title, "Error EpCourb/Save");
+                 EXPECT_THAT(box.text, HasSubstr(world.programme.Text({"Message", "3"})));
+                 EXPECT_THAT(box.text, HasSubstr(world.folder.Path("gone/new.dat")));
+             }});
+        Click(dialog, "cmdsave");
+        EXPECT_EQ(world.platform.pointer, Pointer::normal);
+        ExpectWarning({"FrmEpCourb", "14"});
+        Click(dialog, "cmdok");
+        EXPECT_TRUE(dialog.isVisible());
+    });
+    EXPECT_FALSE(std::filesystem::exists(world.folder.Path("gone")));
+}
+
+TEST_F(FrmEpCourbTest, AFileThatCannotBeWrittenIsToldWithItsNumber) {
+    std::filesystem::create_directories(world.folder.Path("sets/new.dat"));
+    Saves(world.folder.Path("sets/new.dat"));
+    Use([this](QDialog &dialog) {
+        Values(dialog, "9", "3");
+        Click(dialog, "CmdApply");
+        world.platform.boxes_expected.push_back({BoxAnswer::ok, [](const MessageBox &box) {
+                                                     EXPECT_EQ(box.title, "Error EpCourb/Save");
+                                                     EXPECT_THAT(box.text,
+                                                                 HasSubstr("Error # 75 in"));
+                                                 }});
+        Click(dialog, "cmdsave");
+    });
+}
+
+TEST_F(FrmEpCourbTest, CancelEscapeAndCloseClearTheRib) {
+    for (const int way : {0, 1, 2}) {
+        Use([this, way](QDialog &dialog) {
+            Values(dialog, "9", "3");
+            Click(dialog, "CmdApply");
+            if (way == 0) {
+                Click(dialog, "cmdannuler");
+            } else if (way == 1) {
+                QTest::keyClick(&dialog, Qt::Key_Escape);
+            } else {
+                dialog.close();
+            }
+            EXPECT_FALSE(dialog.isVisible());
+        });
+        EXPECT_FALSE(Rib().ProfilCharge);
+        EXPECT_FALSE(Rib().ModeEpCourb);
+        EXPECT_EQ(Rib().NouvEpaisseur, 0.0);
+        EXPECT_EQ(Rib().NouvCambrure, 0.0);
+        EXPECT_EQ(Drawing(), nullptr);
+    }
+}
+
+TEST_F(FrmEpCourbTest, ADrawingThatFailsClosesTheDialog) {
+    Use([this](QDialog &dialog) {
+        Values(dialog, "9", "3");
+        Rib().NbContour = 32000;
+        world.platform.Expect(BoxAnswer::ok);
+        Click(dialog, "cmdok");
+        EXPECT_EQ(world.platform.boxes.back().title, "Error Main/PrintRoutineEpcourb");
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_FALSE(Rib().ProfilCharge);
+}
+
+TEST_F(FrmEpCourbTest, TheCommandAsksBeforeChangesAreLost) {
+    OpenRib();
+    Rib().Modifie = true;
+    ExpectBox(BoxAnswer::no, world.programme.Text({"FrmMainMessage", "9"}));
+    world.Action("mnu_outilEpCourb")->trigger();
+    EXPECT_TRUE(Rib().ProfilCharge);
+    EXPECT_EQ(world.platform.boxes.back().title, world.programme.Text({"FrmMainMessage", "10"}));
+}
+
+TEST_F(FrmEpCourbTest, ACancelledPickerEndsTheCommand) {
+    OpenRib();
+    Run("mnu_outilEpCourb", {Cancel});
+    EXPECT_TRUE(Rib().ProfilCharge);
+    EXPECT_EQ(world.Panel(2), "Airfoil : naca2412  Chord : 200 mm <> Information : NACA 2412");
+}
+
+TEST_F(FrmEpCourbTest, HelpIsAtItsPlace) {
+    Use([](QDialog &dialog) { Click(dialog, "cmdaide"); });
+    EXPECT_THAT(world.platform.help_contexts, testing::ElementsAre(60));
+}
+
+TEST_F(FrmEpCourbTest, TheKeyboardGoesThroughFieldsAndButtonsInTheirOrder) {
+    Use([](QDialog &dialog) {
+        std::vector<std::string> order;
+        for (int i = 0; i < 8; ++i) {
+            order.push_back(dialog.focusWidget()->objectName().toStdString());
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+        }
+        EXPECT_THAT(order, testing::ElementsAre("txtEpR", "txtCourbure", "CmdApply", "cmdsave",
+                                                "cmdprintEC", "cmdok", "cmdannuler", "cmdaide"));
+    });
+}
+
+TEST(FrmEpCourbLook, NothingIsCutInAnyLanguageUnitOrFont) {
+    for (const char *language : {"English", "French"}) {
+        for (const char *unit : {"mm", "in"}) {
+            for (const double scale : {1.0, 2.0}) {
+                const FontScale font(scale);
+                WindowWorld world(language, unit);
+                world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+                frmEpCourb dialog(world.programme, *world.window, nullptr);
+                dialog.show();
+                dialog.findChild<QLineEdit *>("txtEpR")->setText("100");
+                dialog.findChild<QLineEdit *>("txtCourbure")->setText("99");
+                dialog.findChild<QPushButton *>("CmdApply")->click();
+                QTest::qWait(1);
+                ExpectNothingCut(dialog);
+            }
+        }
+    }
+}
+
+} // namespace
+} // namespace loftwing
