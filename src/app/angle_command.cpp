@@ -51,7 +51,7 @@ std::optional<NervureOblique> Calcule(const Arguments &arguments, const Programm
 } // namespace
 
 std::vector<OptionRule> ObliqueOptions() {
-    return WithCommon({{"--output", "OUT.dat", "file to write, also -o"},
+    return WithCommon({{"--output", "OUT.dat", "file to write, also -o; - is standard output"},
                        {kGabarit, "LENGTH", "the template chord, along the rib"},
                        {kInterne, "LENGTH", "the internal chord, square to the span"},
                        {"--angle", "DEGREES", "angle between rib and span line"}});
@@ -72,15 +72,16 @@ int RunOblique(const Arguments &arguments) {
     if (!profil) {
         return kRefused;
     }
-    EcritFichier(arguments.Value("--output"),
-                 TexteOblique(*oblique, *profil, programme.SaisieEnCours()));
-    std::cout << CordeCalculee(*oblique) << '\n';
-    return kDone;
+    const std::string out = arguments.Value("--output");
+    Deliver(out, TexteOblique(*oblique, *profil, programme.SaisieEnCours()));
+    // The chord must not end up among the coordinates.
+    (out == "-" ? std::cerr : std::cout) << CordeCalculee(*oblique) << '\n';
+    return std::cout ? kDone : kRefused;
 }
 
 std::vector<OptionRule> InclineOptions() {
-    return WithCommon(
-        {{"--output", "OUT.dat", "file to write, also -o"}, {"--angle", "DEGREES", "dihedral"}});
+    return WithCommon({{"--output", "OUT.dat", "file to write, also -o; - is standard output"},
+                       {"--angle", "DEGREES", "dihedral"}});
 }
 
 int RunIncline(const Arguments &arguments) {
@@ -97,8 +98,8 @@ int RunIncline(const Arguments &arguments) {
     if (!profil) {
         return kRefused;
     }
-    EcritFichier(arguments.Value("--output"), TexteIncline(*angle, *profil));
-    return kDone;
+    Deliver(arguments.Value("--output"), TexteIncline(*angle, *profil));
+    return std::cout ? kDone : kRefused;
 }
 
 } // namespace loftwing

@@ -5,6 +5,7 @@
 #include "output/page_setup.h"
 #include "output/screen_plot.h"
 #include "programme/rib_file.h"
+#include "utilities/tool_files.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -31,6 +32,14 @@ std::vector<OptionRule> CommonOptions() {
             {"--settings", "FILE", "colours, styles, widths, margins and defaults from FILE"},
             {"--yes", nullptr, "answer Yes to every question"},
             {"--help", nullptr, "show this help"}};
+}
+
+void Deliver(const std::string &path, const std::string &text) {
+    if (path == "-") {
+        std::cout << text << std::flush;
+    } else {
+        EcritFichier(path, text);
+    }
 }
 
 ConsoleProgram::ConsoleProgram(const Arguments &arguments)

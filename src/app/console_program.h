@@ -16,6 +16,10 @@ namespace loftwing {
 /// The options that every verb knows.
 std::vector<OptionRule> CommonOptions();
 
+/// Writes the text of an airfoil file to `path`, whole, or to standard output for "-". Failure as
+/// EcritFichier.
+void Deliver(const std::string &path, const std::string &text);
+
 /// One program for one drawing: every file of a command starts from a fresh state.
 class ConsoleProgram {
   public:

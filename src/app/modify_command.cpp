@@ -5,7 +5,6 @@
 #include "app/typed_value.h"
 #include "core/contour.h"
 #include "utilities/EpCourb.h"
-#include "utilities/tool_files.h"
 
 #include <iostream>
 
@@ -21,14 +20,6 @@ bool Modifie(const Arguments &arguments, Programme &programme, ChampsEpCourb &ch
     const std::string title = TitreEpCourb(rib, messages);
     return arguments.Has("--camber") ? AppliqueEpCourb(rib, champs, messages, title)
                                      : AppliqueEpaisseur(rib, champs, messages, title);
-}
-
-void Ecrit(const std::string &path, const std::string &text) {
-    if (path == "-") {
-        std::cout << text << std::flush;
-    } else {
-        EcritFichier(path, text);
-    }
 }
 
 } // namespace
@@ -62,7 +53,7 @@ int RunModify(const Arguments &arguments) {
     if (prepared == Preparation::impossible || !Modifie(arguments, programme, champs)) {
         return kRefused;
     }
-    Ecrit(arguments.Value("--output"), TexteEpCourb(programme.rib, champs, programme.messages));
+    Deliver(arguments.Value("--output"), TexteEpCourb(programme.rib, champs, programme.messages));
     return prepared == Preparation::complete && std::cout ? kDone : kRefused;
 }
 

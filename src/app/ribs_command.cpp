@@ -33,15 +33,6 @@ DeuxProfils LitProfils(ConsoleProgram &program, const std::vector<std::string> &
     return {ProfilMajeur(*major), ProfilMineur(*minor)};
 }
 
-std::vector<std::string> TypedAll(const Arguments &arguments, const char *option,
-                                  std::string_view keys) {
-    std::vector<std::string> values = arguments.Values(option);
-    for (const std::string &value : values) {
-        Typed(value, option, keys);
-    }
-    return values;
-}
-
 DeuxTextes Noms(const DeuxProfils &profils) {
     return {profils[0].NomProfil, profils[1].NomProfil};
 }
@@ -57,21 +48,21 @@ struct Demande {
 
 Demande DemandeDe(const Arguments &arguments, const Programme &programme) {
     const bool variable = arguments.Has("--gaps");
-    if (arguments.Files().size() != 2 || !arguments.Has("--chords") || !arguments.Has("--output") ||
-        variable == arguments.Has("--count") || variable != arguments.Has("--thickness")) {
+    if (arguments.Files().size() != 2 || !arguments.Has("--chords") ||
+        arguments.Value("--output").empty() || variable == arguments.Has("--count") ||
+        variable != arguments.Has("--thickness")) {
         throw UsageError("ribs wants ROOT TIP --chords MAJOR MINOR -o DIR and either --count N or "
                          "--gaps G1 ... --thickness T0 ...");
     }
-    const std::string_view keys = LengthKeys(programme);
-    const std::vector<std::string> cordes = TypedAll(arguments, "--chords", keys);
+    const std::vector<std::string> cordes = TypedLengths(arguments, "--chords", programme);
     Demande demande{{cordes[0], cordes[1]}, {}, {}, {}, arguments.Value("--output")};
     TermineDossier(demande.dossier);
     if (!variable) {
         demande.nombre = Typed(arguments, "--count", kTouchesPositif);
         return demande;
     }
-    demande.ecarts = TypedAll(arguments, "--gaps", keys);
-    demande.epaisseurs = TypedAll(arguments, "--thickness", keys);
+    demande.ecarts = TypedLengths(arguments, "--gaps", programme);
+    demande.epaisseurs = TypedLengths(arguments, "--thickness", programme);
     if (demande.ecarts.size() < 2 || demande.epaisseurs.size() != demande.ecarts.size() + 1) {
         throw UsageError("--gaps wants one more than there are intermediate ribs, two at least; "
                          "--thickness wants one more than gaps");

@@ -45,6 +45,11 @@ double Quotient(double dividend, double divisor);
 /// `value` rounded once to 32 bits. Failure 6 when it doesn't fit.
 float ToSingle(double value);
 
+/// A 32-bit value for a 64-bit expression; it loses nothing.
+constexpr double Wide(float value) {
+    return static_cast<double>(value);
+}
+
 /// `value` rounded to the nearest whole number, halves to even. The one rounding of real numbers to
 /// indexes and counts.
 double RoundHalfEven(double value);

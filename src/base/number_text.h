@@ -28,6 +28,7 @@ std::string ShortestText(float value);
 /// Pictures of Format.
 inline constexpr std::string_view kPictureThreeDecimals = "# ###.###";
 inline constexpr std::string_view kPictureTwoFixed = "# ###.00";
+inline constexpr std::string_view kPictureTwoWithZero = "# ###0.00";
 
 /// `value` under a picture: '#' optional digit, '0' forced digit, '.' point, any other character a
 /// literal that is always written; the minus in front of all. Rounds halves away from zero on the

@@ -69,9 +69,14 @@ bool PeutEtreListe(const std::string &folder) {
 
 } // namespace
 
+ProfilChoisi ProfilDuRib(const RibModel &rib) {
+    return {rib.NomProfil, rib.ProfilX, rib.ProfilY, rib.NbPoints};
+}
+
 ProfilPrecedent::ProfilPrecedent(const RibModel &rib)
     : chemin_(rib.CheminProfil), nom_(rib.NomProfil), entete_(rib.EnteteProfil),
-      extension_(rib.ExtProfil), charge_(rib.ProfilCharge) {}
+      extension_(rib.ExtProfil), charge_(rib.ProfilCharge),
+      texte_utilisateur_(rib.texte.TexteUtilisateur), points_(ProfilDuRib(rib)) {}
 
 void ProfilPrecedent::Rend(RibModel &rib) const {
     rib.CheminProfil = chemin_;
@@ -79,16 +84,10 @@ void ProfilPrecedent::Rend(RibModel &rib) const {
     rib.EnteteProfil = entete_;
     rib.ExtProfil = extension_;
     rib.ProfilCharge = charge_;
-}
-
-ProfilChoisi ProfilDuRib(const RibModel &rib) {
-    return {rib.NomProfil, rib.ProfilX, rib.ProfilY, rib.NbPoints};
-}
-
-void RendPoints(RibModel &rib, const ProfilChoisi &profil) {
-    rib.ProfilX = profil.ProfilX;
-    rib.ProfilY = profil.ProfilY;
-    rib.NbPoints = profil.NbPoints;
+    rib.texte.TexteUtilisateur = texte_utilisateur_;
+    rib.ProfilX = points_.ProfilX;
+    rib.ProfilY = points_.ProfilY;
+    rib.NbPoints = points_.NbPoints;
 }
 
 std::string CheminAbrege(const std::string &folder) {

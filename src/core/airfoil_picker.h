@@ -11,22 +11,6 @@
 
 namespace loftwing {
 
-/// The identity of the airfoil that is there when the picker opens. The picker overwrites it with
-/// each file that is looked at, and a cancel gives it back.
-class ProfilPrecedent {
-  public:
-    explicit ProfilPrecedent(const RibModel &rib);
-    /// Puts CheminProfil, NomProfil, EnteteProfil, ExtProfil and ProfilCharge back.
-    void Rend(RibModel &rib) const;
-
-  private:
-    std::string chemin_;
-    std::string nom_;
-    std::string entete_;
-    std::string extension_;
-    bool charge_;
-};
-
 /// An airfoil as the picker hands it to a tool: the points of its file, whose contour isn't made.
 struct ProfilChoisi {
     std::string NomProfil;
@@ -38,8 +22,24 @@ struct ProfilChoisi {
 /// The airfoil that the rib holds.
 ProfilChoisi ProfilDuRib(const RibModel &rib);
 
-/// Gives the rib the points back that reading another file has replaced.
-void RendPoints(RibModel &rib, const ProfilChoisi &profil);
+/// The airfoil that is there when the picker opens. The picker overwrites it with each file that is
+/// looked at, and a cancel gives it back.
+class ProfilPrecedent {
+  public:
+    explicit ProfilPrecedent(const RibModel &rib);
+    /// Puts CheminProfil, NomProfil, EnteteProfil, ExtProfil and ProfilCharge back, the points of
+    /// the file, and whether the inserted text is the user's own.
+    void Rend(RibModel &rib) const;
+
+  private:
+    std::string chemin_;
+    std::string nom_;
+    std::string entete_;
+    std::string extension_;
+    bool charge_;
+    bool texte_utilisateur_;
+    ProfilChoisi points_;
+};
 
 /// A folder as a label shows it: whole up to 30 characters, otherwise its first 12, "..." and its
 /// last 10.

@@ -22,6 +22,8 @@ struct Comparaison {
 
     /// Whether there are two airfoils to be shown.
     bool Complete() const { return CompareNb1 > 0 && CompareNb2 > 0; }
+    /// Makes the comparison incomplete; airfoil 1 stays.
+    void OublieProfil2() { CompareNb2 = 0; }
 };
 
 } // namespace loftwing

@@ -6,6 +6,7 @@
 #include "mainwindow/frmInput.h"
 #include "mainwindow/tool_icons.h"
 #include "output/screen_plot.h"
+#include "output/view_plots.h"
 #include "platform/busy_pointer.h"
 #include "platform/qt_form.h"
 #include "programme/export.h"
@@ -179,7 +180,7 @@ void frmmain::ViewReset() {
 }
 
 bool frmmain::ConfirmePerte(LngKey text, LngKey title) {
-    if (!programme_.rib.Modifie || programme_.rib.ModeCompare) {
+    if (!programme_.rib.Modifie || CompareEnVue(programme_.rib, programme_.compare)) {
         return true;
     }
     return programme_.messages.Confirm(programme_.Text(text), programme_.Text(title));
@@ -245,10 +246,8 @@ void frmmain::OuvreFichier(const std::string &path) {
 
 void frmmain::LitEtReprend(const std::string &path) {
     RibModel &rib = programme_.rib;
-    const std::string old_path = rib.CheminProfil;
-    const std::string old_title = rib.EnteteProfil;
+    const ProfilPrecedent before(rib);
     const bool was_simple = rib.ModeCouple;
-    const ProfilChoisi points = ProfilDuRib(rib);
     rib.ModeCouple = false;
     rib.SansApercu = true;
     rib.CheminProfil = path;
@@ -261,10 +260,8 @@ void frmmain::LitEtReprend(const std::string &path) {
     }
     if (read.issue == Lecture::refuse) {
         // The rib on the screen is still the one that was there.
-        rib.CheminProfil = old_path;
-        rib.EnteteProfil = old_title;
+        before.Rend(rib);
         rib.ModeCouple = was_simple;
-        RendPoints(rib, points);
         return;
     }
     NommeProfil(rib, path);
@@ -319,7 +316,7 @@ void frmmain::AppliqueLangue() {
 bool frmmain::QuestionFin() {
     const Messages &messages = programme_.messages;
     std::string text = messages.Text({"TextButton", "17"}) + " " + kTitre + " ? ";
-    if (programme_.rib.Modifie && !programme_.rib.ModeCompare) {
+    if (programme_.rib.Modifie && !CompareEnVue(programme_.rib, programme_.compare)) {
         text = messages.Text({"FrmMainMessage", "4"});
     }
     return messages.Confirm(text, kTitre);

@@ -106,6 +106,13 @@ class frmmain : public QMainWindow, public MainView {
     void dropEvent(QDropEvent *event) override;
 
   private:
+    /// What a comparison that is called off gives back.
+    struct VueAvant {
+        bool ModeCompare;
+        bool ModeCouple;
+        std::function<void()> retour; ///< the rib's dimensions
+    };
+
     Programme &programme_;
     std::map<std::string, QAction *> actions_; ///< menus and entries by control name
     std::map<std::string, QMenu *> menus_;
@@ -194,7 +201,7 @@ class frmmain : public QMainWindow, public MainView {
 
     // frmmain_views.cpp
     /// The chord and airfoil 1 of a comparison; false when it ends here.
-    bool DemandeProfil1();
+    bool DemandeProfil1(const VueAvant &before);
     void DemandeProfil2(std::optional<double> haut1);
 };
 

@@ -11,6 +11,7 @@
 #include "output/frmPrint.h"
 #include "output/frmcoul.h"
 #include "output/screen_plot.h"
+#include "output/view_plots.h"
 #include "persist/frmdefaut.h"
 #include "platform/qt_form.h"
 #include "programme/export.h"
@@ -22,7 +23,6 @@ namespace loftwing {
 void frmmain::mnu_fileprofilopen_Click() {
     RibModel &rib = programme_.rib;
     const bool was_simple = rib.ModeCouple;
-    const ProfilChoisi points = ProfilDuRib(rib);
     rib.MemProfil = false;
     rib.ModeCouple = false;
     rib.Annule = false;
@@ -31,10 +31,8 @@ void frmmain::mnu_fileprofilopen_Click() {
     ShowModal(picker);
     if (!rib.Annule) {
         RepriseProfil();
-    } else if (was_simple) {
-        // The plot of the bare points is still what is shown.
-        RendPoints(rib, points);
-        rib.ModeCouple = true;
+    } else if (was_simple && rib.ProfilCharge) {
+        rib.ModeCouple = true; // the plot of the bare points is still what is shown
     }
 }
 
@@ -144,6 +142,8 @@ void frmmain::mnu_affLang_Click() {
 
 void frmmain::mnu_profilcorde_Click() {
     if (Saisit("corde")) {
+        RibModel &rib = programme_.rib;
+        rib.Modifie = rib.Modifie || !CompareEnVue(rib, programme_.compare);
         RetraceVues();
         MajGabarit(programme_.rib, programme_.SaisieEnCours());
         affiche();

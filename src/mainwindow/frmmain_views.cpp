@@ -7,6 +7,7 @@
 #include "platform/busy_pointer.h"
 #include "platform/qt_form.h"
 #include "programme/load.h"
+#include "programme/rib_trial.h"
 #include "programme/special_views.h"
 #include "programme/startup.h"
 #include "utilities/frmEpCourb.h"
@@ -67,31 +68,40 @@ void frmmain::mnu_OutilCompare_Click() {
     if (rib.ProfilCharge && !ConfirmePerte({"OutilCompare", "1"}, {"OutilCompare", "2"})) {
         return;
     }
+    const VueAvant before{rib.ModeCompare, rib.ModeCouple, RetourDuRib(rib)};
+    if (!before.ModeCompare) {
+        programme_.compare.OublieProfil2();
+    }
     rib.ModeCouple = false;
     FermeDialogues();
     rib.Annule = false;
     rib.ModeCompare = true;
     if (rib.MemProfil) {
         DemandeProfil2(std::nullopt);
-    } else if (DemandeProfil1()) {
+    } else if (DemandeProfil1(before)) {
         DemandeProfil2(rib.ExtradosMaxi);
     }
 }
 
-bool frmmain::DemandeProfil1() {
+bool frmmain::DemandeProfil1(const VueAvant &before) {
     RibModel &rib = programme_.rib;
     if (!Saisit("corde")) {
+        // The mode stays set, but what is on the screen is still what is printed and exported.
+        rib.ModeCouple = before.ModeCouple;
         return false;
     }
     frmopen picker(programme_, *this, this);
     picker.setWindowTitle(Q(programme_.Text({"OutilCompare", "3"}) + "  #1"));
     picker.MontreMemoire(true, {});
+    picker.LaisseLeRib();
     ShowModal(picker);
     if (rib.Annule) {
+        before.retour();
+        rib.ModeCompare = before.ModeCompare;
+        rib.ModeCouple = before.ModeCouple;
         return false;
     }
     const Sablier sablier(programme_.platform);
-    rib.ModeCompare = true; // a file that couldn't be read in the picker has cleared everything
     DesactiveCommandes();
     ActiveCommandesVue();
     Pic->Montre(nullptr);
@@ -118,6 +128,7 @@ void frmmain::DemandeProfil2(std::optional<double> haut1) {
         picker.setWindowTitle(Q(programme_.Text({"OutilCompare", "3"}) + " #2"));
         picker.MontreMemoire(false, programme_.Text({"MainTolbar", "11"}) +
                                         " #1 = " + compare.CompareNom1);
+        picker.LaisseLeRib();
         ShowModal(picker);
     }
     if (rib.Annule) {
@@ -127,7 +138,6 @@ void frmmain::DemandeProfil2(std::optional<double> haut1) {
         return;
     }
     const Sablier sablier(programme_.platform);
-    rib.ModeCompare = true;
     // An airfoil 1 that was kept may have come to a window full of a rib's commands.
     DesactiveCommandes();
     ActiveCommandesVue();
@@ -166,6 +176,9 @@ void frmmain::mnu_outilEpCourb_Click() {
     NoteRecent(programme_, dialog.Fichier());
     AfficheFichiersRecents();
     mnuFileMRU_Click(dialog.Fichier());
+    if (rib.ModeEpCourb) {
+        affclear(); // the new file is gone or can't be read, and the old airfoil has no view
+    }
 }
 
 void frmmain::mnu_Outilcoupl_Click() {

@@ -193,7 +193,12 @@ void frmopen::File1_Click() {
 
 void frmopen::MontreLecture(const ResultatLecture &lecture) {
     if (lecture.issue == Lecture::echec) {
-        view_.affclear();
+        rib_.NbPoints = 0;
+        if (efface_) {
+            view_.affclear();
+            // There is no airfoil any more that a cancel could give back.
+            precedent_ = ProfilPrecedent(rib_);
+        }
         return;
     }
     if (lecture.issue == Lecture::refuse) {

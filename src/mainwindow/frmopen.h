@@ -36,6 +36,9 @@ class frmopen : public QDialog {
     /// `check` says so, and `note` over it where there is one. Both are hidden otherwise.
     void MontreMemoire(bool check, const std::string &note);
 
+    /// For a tool: a file whose reading fails leaves the rib alone. Without this it is cleared.
+    void LaisseLeRib() { efface_ = false; }
+
     /// Escape and the window's own close button do what Cancel does.
     void reject() override;
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -47,6 +50,7 @@ class frmopen : public QDialog {
     ProfilPrecedent precedent_;
     std::string dossier_;  ///< whose content the lists show
     QTimer selection_;     ///< a selected file waits to be read
+    bool efface_ = true;   ///< a reading that fails clears the rib
     bool pressed_ = false; ///< the mouse is down on File1
 
     QLineEdit txtchemin;

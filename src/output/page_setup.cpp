@@ -6,10 +6,6 @@ namespace loftwing {
 
 namespace {
 
-double Wide(float value) {
-    return static_cast<double>(value);
-}
-
 float PasDe(const MiseEnPage &page) {
     return ToSingle(PapierDe(page).tailleFeuille - Wide(page.MargeHaut) - Wide(page.MargeBas) -
                     Wide(page.recouvrement));

@@ -2,6 +2,7 @@
 
 #include "output/page_entry.h"
 #include "output/styles.h"
+#include "output/view_plots.h"
 #include "platform/busy_pointer.h"
 
 namespace loftwing {
@@ -10,10 +11,6 @@ namespace {
 
 constexpr double kBras = 5.0; // arms of a cross, mm
 constexpr double kTailleTexte = 10.0;
-
-double Wide(float value) {
-    return static_cast<double>(value);
-}
 
 void PrepareImprimante(const Impression &run, Printer &printer, const Papier &paper) {
     printer.SetOrientation(Orientation::landscape);
@@ -70,7 +67,7 @@ void Croix(PlotDevice &device, double x, double y, Colour colour) {
 std::string QuestionImpression(const RibModel &rib, const Comparaison &compare,
                                const Messages &messages) {
     const std::string verb = messages.Text({"TextButton", "14"}) + " ";
-    if (!rib.ModeCompare) {
+    if (!CompareEnVue(rib, compare)) {
         return verb + rib.NomProfil;
     }
     const std::string word = messages.Text({"MainTolbar", "11"});

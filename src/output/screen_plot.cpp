@@ -12,10 +12,6 @@ namespace loftwing {
 
 namespace {
 
-double Wide(float value) {
-    return static_cast<double>(value);
-}
-
 /// Scale first: it changes even when the stocks then don't fit.
 void MetAEchelle(const RibModel &rib, PlotState &plot) {
     plot.CordeEchelle = ToSingle(Wide(rib.corde) * kUnitsPerMm * Wide(rib.Zoom));

@@ -15,10 +15,6 @@ constexpr double kNomsEpCourb = 10.0;
 constexpr double kNomsAuDessus = 4.0;
 constexpr const char *kEntreLesNoms = "     ";
 
-double Wide(float value) {
-    return static_cast<double>(value);
-}
-
 /// Runs a routine; a failure is told under its label.
 template <class Routine>
 bool Conduit(const Trace &trace, const char *label, Routine routine) {
@@ -132,9 +128,13 @@ bool PrintRoutineCouple(const Trace &trace, [[maybe_unused]] double factor) {
     return Conduit(trace, " Main/PrintRoutineCouple", [&] { TraceCouple(trace); });
 }
 
+bool CompareEnVue(const RibModel &rib, const Comparaison &compare) {
+    return rib.ModeCompare && compare.Complete();
+}
+
 bool TraceVue(const Trace &trace, const Comparaison &compare) {
     const RibModel &rib = trace.rib;
-    if (rib.ModeCompare) {
+    if (CompareEnVue(rib, compare)) {
         return PrintRoutine2(trace, compare, 1.0);
     }
     if (rib.ModeEpCourb) {

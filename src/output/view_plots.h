@@ -18,6 +18,10 @@ bool PrintRoutineEpcourb(const Trace &trace, double factor);
 /// The points of the file, joined, and the inserted text.
 bool PrintRoutineCouple(const Trace &trace, double factor);
 
+/// Whether two airfoils are compared. A comparison that was called off at its chord leaves its mode
+/// set without anything to show.
+bool CompareEnVue(const RibModel &rib, const Comparaison &compare);
+
 /// The plot routine of the view that is up, the rib's where there is none. Screen, printer and
 /// files all draw through this choice, so that what is seen is what is printed and saved.
 bool TraceVue(const Trace &trace, const Comparaison &compare);

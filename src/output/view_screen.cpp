@@ -10,10 +10,6 @@ namespace {
 
 constexpr int kStationHaute = 300; // where a section is about at its thickest
 
-double Wide(float value) {
-    return static_cast<double>(value);
-}
-
 std::string MotProfil(const Messages &messages) {
     return messages.Text({"MainTolbar", "11"});
 }
@@ -84,7 +80,7 @@ Affichage afficheCouple(const Trace &trace) {
 
 Affichage afficheVue(const Trace &trace, const Comparaison &compare) {
     const RibModel &rib = trace.rib;
-    if (rib.ModeCompare) {
+    if (CompareEnVue(rib, compare)) {
         return afficheCompare(trace, compare);
     }
     if (rib.ModeEpCourb) {
@@ -129,7 +125,8 @@ std::string TitreCouple(const RibModel &rib) {
 }
 
 std::string NomDuDessin(const RibModel &rib, const Comparaison &compare) {
-    return rib.ModeCompare ? compare.CompareNom1 + " - " + compare.CompareNom2 : rib.NomProfil;
+    return CompareEnVue(rib, compare) ? compare.CompareNom1 + " - " + compare.CompareNom2
+                                      : rib.NomProfil;
 }
 
 } // namespace loftwing

@@ -11,7 +11,6 @@ namespace loftwing {
 namespace {
 
 constexpr float kAngleDroit = 90;
-constexpr std::string_view kPictureCorde = "# ###0.00";
 
 double Sinus(const NervureOblique &oblique) {
     return std::sin(EnRadians(static_cast<double>(oblique.AngleNervure)));
@@ -75,7 +74,7 @@ std::string CordeAvecUnite(const NervureOblique &oblique, const std::string &Uni
         return CordeCalculee(oblique) + "in";
     }
     const float corde = InterneDonnee(oblique) ? oblique.CordeExterne : oblique.CordeInterne;
-    return Format(corde, kPictureCorde) + "mm";
+    return Format(corde, kPictureTwoWithZero) + "mm";
 }
 
 } // namespace
@@ -117,7 +116,7 @@ std::string TexteOblique(const NervureOblique &oblique, const ProfilChoisi &prof
     const std::string title = MotNervure(messages) + " " + MotCorde(messages) + " : " +
                               CordeAvecUnite(oblique, saisie.Unite) + " " +
                               messages.Text({"FrmAngle", "6"}) + " " +
-                              Format(oblique.AngleNervure, kPictureAngle) + kDegre;
+                              Format(oblique.AngleNervure, kPictureTwoWithZero) + kDegre;
     return TexteEtire(title, profil, Sinus(oblique));
 }
 

@@ -1,20 +1,16 @@
 #include "utilities/diedre.h"
 
 #include "base/number_text.h"
+#include "core/stations.h"
 #include "utilities/tool_texts.h"
 
 #include <cmath>
-#include <numbers>
 
 namespace loftwing {
 
 namespace {
 
 constexpr double kAngleMaxi = 89.0;
-
-double ConvDegRad(double degrees) {
-    return degrees * std::numbers::pi / 180.0;
-}
 
 std::string TexteLongueur(double mm, const Saisie &saisie) {
     return LongueurSousImage(mm, saisie.Unite, kPictureThreeDecimals);
@@ -31,7 +27,7 @@ void LimiteAngle(TextesDiedre &textes, double angle, const Saisie &saisie,
 bool CalculeHauteur(TextesDiedre &textes, const Saisie &saisie, const std::string &titre) {
     const double length = NombreMm(textes[kDiedreLongueur], saisie);
     const double angle = LeadingNumber(textes[kDiedreAngle]);
-    const std::string height = TexteLongueur(Finite(std::tan(ConvDegRad(angle)) * length), saisie);
+    const std::string height = TexteLongueur(Finite(std::tan(EnRadians(angle)) * length), saisie);
     LimiteAngle(textes, angle, saisie, titre);
     textes[kDiedreHauteur] = height;
     return true;
@@ -43,7 +39,7 @@ bool CalculeLongueur(TextesDiedre &textes, const Saisie &saisie, const std::stri
     if (angle == 0.0 || height == 0.0) {
         return false;
     }
-    const std::string length = TexteLongueur(Quotient(height, std::tan(ConvDegRad(angle))), saisie);
+    const std::string length = TexteLongueur(Quotient(height, std::tan(EnRadians(angle))), saisie);
     LimiteAngle(textes, angle, saisie, titre);
     textes[kDiedreLongueur] = length;
     return true;
@@ -55,8 +51,8 @@ bool CalculeAngle(TextesDiedre &textes, const Saisie &saisie) {
     if (length == 0.0 || height == 0.0) {
         return false;
     }
-    const double angle = std::atan(Quotient(height, length)) * 180.0 / std::numbers::pi;
-    textes[kDiedreAngle] = Format(angle, "# ###0.00");
+    const double angle = std::atan(Quotient(height, length)) * 180.0 / Pi();
+    textes[kDiedreAngle] = Format(angle, kPictureTwoWithZero);
     return true;
 }
 

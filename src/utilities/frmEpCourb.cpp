@@ -101,7 +101,6 @@ void frmEpCourb::Sauve() {
         Avertit(programme_.Text({"FrmEpCourb", "15"}));
         return;
     }
-    FichierEpCourb.clear();
     std::string &folder = programme_.settings.repertoires.RepProfilevol;
     TermineDossier(folder);
     FileQuestion question;

@@ -72,6 +72,7 @@ void frmnervure::Calcule() {
     cmdprintnerv.setEnabled(true);
     Label12.setVisible(!SansLongeron(panneau_));
     calcule_ = true;
+    Vbar.setValue(0); // the list before may have been longer
     Trace();
 }
 

@@ -88,6 +88,7 @@ void frmribevol2::changeEvent(QEvent *event) {
 void frmribevol2::LblNoNervInterm_Click(int k) {
     set_.NervCourante = ToInt16(k);
     if (!Valide()) {
+        FrameDimensions.hide(); // it shows another gap, which Apply must not take for this one
         return;
     }
     FrameDimensions.show();

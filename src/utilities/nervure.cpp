@@ -14,10 +14,6 @@ namespace {
 
 constexpr std::string_view kPictureListe = "# ####.##";
 
-double Wide(float value) {
-    return static_cast<double>(value);
-}
-
 /// Refuses an entry; gives the text box that it stands in.
 int Refuse(const std::string &text, int champ, const Saisie &saisie, const std::string &titre) {
     saisie.messages.Tell(text, titre, BoxIcon::warning);

@@ -27,7 +27,7 @@ FileQuestion QuestionProfil(const std::string &titre, const std::string &filtre,
     question.title = titre;
     question.folder = dossier;
     question.name = NomDeFichier(nom);
-    question.filter_text = filtre + " *.dat";
+    question.filter_text = filtre + " (*.dat)";
     question.default_extension = "dat";
     return question;
 }

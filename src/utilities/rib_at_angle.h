@@ -11,7 +11,6 @@ namespace loftwing {
 
 /// How angles stand in names and in titles of files.
 inline constexpr std::string_view kPictureAngleNom = "# ###0";
-inline constexpr std::string_view kPictureAngle = "# ###0.00";
 
 /// Text of an airfoil file: `ligne1`, then the points of `profil` in their order, every y divided
 /// by `diviseur`. Failure 11 for a divisor of 0, 6 for a y beyond 64 bits.

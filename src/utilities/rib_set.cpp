@@ -1,8 +1,6 @@
 #include "utilities/rib_set.h"
 
-#include "base/number_text.h"
 #include "base/text_encoding.h"
-#include "core/units.h"
 #include "utilities/tool_files.h"
 
 #include <cmath>
@@ -239,14 +237,6 @@ JeuDeNervures JeuVide(const std::array<std::string, 2> &afich, const std::array<
     return jeu;
 }
 
-std::string CordeNervure(float mm, const std::string &Unite) {
-    return Unite == kUniteIn ? DepuisMm(mm, Unite) : Format(mm, "# ###0.00");
-}
-
-std::string CordeNervure(double mm, const std::string &Unite) {
-    return Unite == kUniteIn ? DepuisMm(mm, Unite) : Format(mm, "# ###0.00");
-}
-
 std::string TitreResume(const std::string &Unite, const std::string &mot, int count,
                         const Messages &messages) {
     return messages.Text({"FrmRibevol", "21"}) + " " + messages.Text({"FrmRibevol", "22"}) + " : " +
@@ -282,8 +272,19 @@ bool SansValeur(const std::string &typed) {
     return typed.empty() || typed == "0";
 }
 
-std::string LimiteCorde(const std::string &Unite) {
-    return Unite == kUniteIn ? " 78 1/3 inches !" : " 1999 mm !";
+std::optional<RefusJeu> PrendCorde(const std::string &typed, const Saisie &saisie,
+                                   const RegleCorde &regle, std::string &afich, float &corde) {
+    const Messages &messages = saisie.messages;
+    if (SansValeur(typed)) {
+        return RefusJeu{messages.Text(regle.manque), BoxIcon::information, regle.champ};
+    }
+    StockeLongueur(typed, saisie, afich, corde);
+    if (corde <= regle.limite) {
+        return std::nullopt;
+    }
+    const bool inches = saisie.Unite == kUniteIn;
+    return RefusJeu{messages.Text(regle.trop) + (inches ? " 78 1/3 inches !" : " 1999 mm !"),
+                    BoxIcon::warning, regle.champ};
 }
 
 } // namespace loftwing

@@ -3,8 +3,9 @@
 /// summary. Points stay in fractions of the chord; each file's title states its rib's chord.
 #pragma once
 
+#include "base/number_text.h"
 #include "core/airfoil_picker.h"
-#include "core/messages.h"
+#include "core/units.h"
 
 #include <array>
 #include <functional>
@@ -91,9 +92,11 @@ JeuDeNervures JeuVide(const std::array<std::string, 2> &afich, const std::array<
                       const std::array<ProfilJeu, 2> &profils, const std::string &dossier,
                       const std::string &Unite);
 
-/// A chord in titles: "# ###0.00" in mm, as DepuisMm shows it in inches.
-std::string CordeNervure(float mm, const std::string &Unite);
-std::string CordeNervure(double mm, const std::string &Unite);
+/// A chord in titles, 32 or 64 bits wide: two decimals in mm, as DepuisMm shows it in inches.
+template <class Real>
+std::string CordeNervure(Real mm, const std::string &Unite) {
+    return Unite == kUniteIn ? DepuisMm(mm, Unite) : Format(mm, kPictureTwoWithZero);
+}
 
 /// The opening line of a summary: `mot` is the word of the ribs' number.
 std::string TitreResume(const std::string &Unite, const std::string &mot, int count,
@@ -122,7 +125,17 @@ struct RefusJeu {
 /// Whether a field counts as left empty.
 bool SansValeur(const std::string &typed);
 
-/// The limit that a refusal of a chord names, whichever chord it was.
-std::string LimiteCorde(const std::string &Unite);
+/// How a chord is asked for: words for a missing and for a too long one.
+struct RegleCorde {
+    LngKey manque;
+    LngKey trop;
+    ChampJeu champ;
+    float limite; ///< mm; whatever it is, the refusal names that of the root
+};
+
+/// Takes a chord as typed into its pair. The fault, or nothing; a chord that is too long has been
+/// stored all the same.
+std::optional<RefusJeu> PrendCorde(const std::string &typed, const Saisie &saisie,
+                                   const RegleCorde &regle, std::string &afich, float &corde);
 
 } // namespace loftwing

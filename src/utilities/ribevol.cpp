@@ -21,35 +21,24 @@ std::optional<RefusJeu> VerifieNombre(const std::string &typed, const Messages &
     return std::nullopt;
 }
 
-std::optional<RefusJeu> TropLongue(float mm, float limit, ChampJeu champ, const Saisie &saisie) {
-    if (mm <= limit) {
-        return std::nullopt;
-    }
-    return RefusJeu{saisie.messages.Text({"FrmRibevol", "13"}) + LimiteCorde(saisie.Unite),
-                    BoxIcon::warning, champ};
-}
-
 std::optional<RefusJeu> VerifieCordes(const SaisieRibevol &typed, const Saisie &saisie,
                                       Ribevol &set) {
-    const Messages &messages = saisie.messages;
-    if (SansValeur(typed.txtcorde[0])) {
-        return RefusJeu{messages.Text({"FrmRibevol", "17"}), BoxIcon::information,
-                        ChampJeu::corde_max};
-    }
-    StockeLongueur(typed.txtcorde[0], saisie, set.CordeMaxAfich, set.CordeMax);
-    if (auto refus = TropLongue(set.CordeMax, kCordeMaxLimite, ChampJeu::corde_max, saisie)) {
+    const LngKey too_long{"FrmRibevol", "13"};
+    if (auto refus =
+            PrendCorde(typed.txtcorde[0], saisie,
+                       {{"FrmRibevol", "17"}, too_long, ChampJeu::corde_max, kCordeMaxLimite},
+                       set.CordeMaxAfich, set.CordeMax)) {
         return refus;
     }
-    if (SansValeur(typed.txtcorde[1])) {
-        return RefusJeu{messages.Text({"FrmRibevol", "18"}), BoxIcon::information,
-                        ChampJeu::corde_min};
-    }
-    StockeLongueur(typed.txtcorde[1], saisie, set.CordeMinAfich, set.CordeMin);
-    if (auto refus = TropLongue(set.CordeMin, kCordeMinLimite, ChampJeu::corde_min, saisie)) {
+    if (auto refus =
+            PrendCorde(typed.txtcorde[1], saisie,
+                       {{"FrmRibevol", "18"}, too_long, ChampJeu::corde_min, kCordeMinLimite},
+                       set.CordeMinAfich, set.CordeMin)) {
         return refus;
     }
     if (set.CordeMax < set.CordeMin) {
-        return RefusJeu{messages.Text({"FrmRibevol", "14"}), BoxIcon::warning, ChampJeu::corde_max};
+        return RefusJeu{saisie.messages.Text({"FrmRibevol", "14"}), BoxIcon::warning,
+                        ChampJeu::corde_max};
     }
     return std::nullopt;
 }
@@ -66,7 +55,7 @@ std::optional<RefusJeu> VerifieRibevol(const SaisieRibevol &typed, const Saisie 
     }
     const double steps = set.NbNervI + 1;
     set.PasRapport = (100 / steps) / 100;
-    set.PasCorde = (static_cast<double>(set.CordeMax) - static_cast<double>(set.CordeMin)) / steps;
+    set.PasCorde = (Wide(set.CordeMax) - Wide(set.CordeMin)) / steps;
     if (typed.txtprofil[0].empty() || typed.txtprofil[1].empty()) {
         return RefusJeu{saisie.messages.Text({"FrmRibevol", "15"})};
     }
@@ -78,7 +67,7 @@ JeuDeNervures ComposeRibevol(const Ribevol &set, const std::array<ProfilJeu, 2> 
     JeuDeNervures jeu = JeuVide({set.CordeMaxAfich, set.CordeMinAfich},
                                 {set.CordeMax, set.CordeMin}, profils, dossier, saisie.Unite);
     for (int i = 1; i <= set.NbNervI; ++i) {
-        const double corde = static_cast<double>(set.CordeMax) - set.PasCorde * i;
+        const double corde = Wide(set.CordeMax) - set.PasCorde * i;
         jeu.nervures.insert(jeu.nervures.end() - 1,
                             {CordeNervure(corde, saisie.Unite), set.PasRapport * i});
     }

@@ -9,40 +9,23 @@ namespace loftwing {
 
 namespace {
 
-double Wide(float value) {
-    return static_cast<double>(value);
-}
-
-std::optional<RefusJeu> PrendCorde(const std::string &typed, const Saisie &saisie, float limit,
-                                   RefusJeu missing, std::string &afich, float &corde) {
-    if (SansValeur(typed)) {
-        return missing;
-    }
-    StockeLongueur(typed, saisie, afich, corde);
-    if (corde <= limit) {
-        return std::nullopt;
-    }
-    return RefusJeu{saisie.messages.Text({"FrmRibevol2", "13"}) + LimiteCorde(saisie.Unite),
-                    BoxIcon::warning, missing.champ};
-}
-
 std::optional<RefusJeu> ValideCordes(const SaisieRibevol2 &typed, const Saisie &saisie,
                                      JeuNervures &jeu, Ribevol2 &set) {
-    const Messages &messages = saisie.messages;
-    if (auto refus = PrendCorde(
-            typed.txtcorde[0], saisie, kCordeMaxLimite,
-            {messages.Text({"FrmRibevol2", "17"}), BoxIcon::information, ChampJeu::corde_max},
-            set.CordeMaxAfich, jeu.CordeNerv[0])) {
+    const LngKey too_long{"FrmRibevol2", "13"};
+    if (auto refus =
+            PrendCorde(typed.txtcorde[0], saisie,
+                       {{"FrmRibevol2", "17"}, too_long, ChampJeu::corde_max, kCordeMaxLimite},
+                       set.CordeMaxAfich, jeu.CordeNerv[0])) {
         return refus;
     }
-    if (auto refus = PrendCorde(
-            typed.txtcorde[1], saisie, kCordeMinLimite,
-            {messages.Text({"FrmRibevol2", "18"}), BoxIcon::information, ChampJeu::corde_min},
-            set.CordeMinAfich, jeu.CordeNerv[kNervureMin])) {
+    if (auto refus =
+            PrendCorde(typed.txtcorde[1], saisie,
+                       {{"FrmRibevol2", "18"}, too_long, ChampJeu::corde_min, kCordeMinLimite},
+                       set.CordeMinAfich, jeu.CordeNerv[kNervureMin])) {
         return refus;
     }
     if (jeu.CordeNerv[0] < jeu.CordeNerv[kNervureMin]) {
-        return RefusJeu{messages.Text({"FrmRibevol2", "14"}), BoxIcon::information,
+        return RefusJeu{saisie.messages.Text({"FrmRibevol2", "14"}), BoxIcon::information,
                         ChampJeu::corde_max};
     }
     return std::nullopt;

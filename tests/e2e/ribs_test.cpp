@@ -85,7 +85,19 @@ TEST(Ribs, RefusedValuesWriteNothing) {
     EXPECT_THAT(Refused(many, 1).err, HasSubstr("12"));
 }
 
+TEST(Ribs, LengthThatIsNoneInInchesIsRefused) {
+    Refused({"--unit", "in", "--chords", "8", "/", "--count", "1"}, 1);
+    Refused(
+        {"--unit", "in", "--chords", "8", "4", "--gaps", "1", "2./8", "--thickness", "1", "1", "1"},
+        1);
+}
+
 TEST(Ribs, WrongUsageIsTold) {
+    EXPECT_EQ(RunLoftwing({"ribs", Sample("naca2412.dat"), Sample("naca0009.dat"), "--chords",
+                           "200", "100", "--count", "1", "-o", ""})
+                  .status,
+              2);
+
     Refused({"--chords", "200", "100"}, 2);
     Refused({"--count", "3"}, 2);
     Refused({"--chords", "200", "100", "--count", "x"}, 2);

@@ -13,14 +13,14 @@ TEST(Table, PrintsSpacingChordsAndSparPlaces) {
     const Ran ran = RunLoftwing({"table", "--chords", "200", "150", "--count", "3", "--length",
                                  "500", "--thickness", "2", "--spar", "60", "45"});
     EXPECT_EQ(ran.status, 0) << ran.err;
-    EXPECT_EQ(ran.out, "spacing  122.5\n1\t200 \t60 \n2\t 187.5\t 56.25\n3\t 175.\t 52.5\n"
-                       "4\t 162.5\t 48.75\n5\t150 \t45 \n");
+    EXPECT_EQ(ran.out, "spacing  122.5\n1\t200\t60\n2\t 187.5\t 56.25\n3\t 175.\t 52.5\n"
+                       "4\t 162.5\t 48.75\n5\t150\t45\n");
     EXPECT_EQ(ran.err, "");
 }
 
 TEST(Table, WithoutASparThereIsNoColumn) {
     const Ran ran = RunLoftwing({"table", "--chords", "200", "150", "--count", "1.9"});
-    EXPECT_EQ(ran.out, "spacing 0\n1\t200 \n2\t 175.\n3\t150 \n");
+    EXPECT_EQ(ran.out, "spacing 0\n1\t200\n2\t 175.\n3\t150\n");
     EXPECT_EQ(
         RunLoftwing({"table", "--chords", "200", "150", "--count", "1", "--spar", "0", "0"}).out,
         ran.out);
@@ -29,7 +29,7 @@ TEST(Table, WithoutASparThereIsNoColumn) {
 TEST(Table, TakesInches) {
     const Ran ran =
         RunLoftwing({"table", "--unit", "in", "--chords", "8", "6.1/2", "--count", "0"});
-    EXPECT_EQ(ran.out, "spacing 0\n1\t8 \n2\t6.1/2 \n");
+    EXPECT_EQ(ran.out, "spacing 0\n1\t8\n2\t6.1/2\n");
 }
 
 TEST(Table, ARefusalIsALineAndStatusOne) {

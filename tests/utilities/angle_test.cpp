@@ -178,7 +178,7 @@ TEST(AirfoilQuestion, AsksForAnAirfoilFileInTheFolderOfSets) {
     EXPECT_EQ(question.title, "Save");
     EXPECT_EQ(question.folder, "/sets");
     EXPECT_EQ(question.name, "a7.1-2in.dat");
-    EXPECT_EQ(question.filter_text, "Airfoils *.dat");
+    EXPECT_EQ(question.filter_text, "Airfoils (*.dat)");
     EXPECT_EQ(question.default_extension, "dat");
 }
 

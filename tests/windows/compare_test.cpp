@@ -121,12 +121,9 @@ TEST_F(CompareView, CancellingTheSecondAirfoilClearsEverything) {
     EXPECT_FALSE(Enabled("mnu_fileprint"));
 }
 
-TEST_F(CompareView, CancellingTheChordOrTheFirstAirfoilEndsTheCommandInTheView) {
+TEST_F(CompareView, CancellingTheChordEndsTheCommandInTheView) {
     OpenRib();
     Run("mnu_OutilCompare", {Cancel});
-    EXPECT_TRUE(Rib().ModeCompare);
-    EXPECT_TRUE(Rib().ProfilCharge);
-    Run("mnu_OutilCompare", {Chord("150"), Cancel});
     EXPECT_TRUE(Rib().ModeCompare);
     EXPECT_TRUE(Rib().ProfilCharge);
     EXPECT_EQ(Rib().NomProfil, "naca2412");
@@ -135,6 +132,73 @@ TEST_F(CompareView, CancellingTheChordOrTheFirstAirfoilEndsTheCommandInTheView) 
     EXPECT_EQ(Caption(), "Loftwing Airfoil : naca2412");
     OpenRib();
     EXPECT_FALSE(Rib().ModeCompare);
+}
+
+TEST_F(CompareView, CancellingTheFirstAirfoilGivesTheRibBackAsItWas) {
+    OpenRib();
+    Rib().texte.TexteUtilisateur = true;
+    const std::vector<double> points = Rib().ProfilY.Values();
+    Run("mnu_OutilCompare",
+        {Chord("150"), [](QDialog &dialog) {
+             dialog.findChild<QLineEdit *>("txtchemin")
+                 ->setText(QString::fromStdString(WindowWorld::Sample("naca6409.dat")));
+             QTest::keyClick(dialog.findChild<QLineEdit *>("txtchemin"), Qt::Key_Return);
+             QTest::qWait(400); // the file is looked at
+             dialog.reject();
+         }});
+    EXPECT_FALSE(Rib().ModeCompare);
+    EXPECT_EQ(Rib().corde, 200.0F);
+    EXPECT_EQ(Rib().cordeAfich, "200");
+    EXPECT_EQ(Rib().ProfilY.Values(), points);
+    EXPECT_TRUE(Rib().texte.TexteUtilisateur);
+    Rib().AffHaut = true;
+    world.window->affiche();
+    EXPECT_EQ(world.Panel(2), "Airfoil : naca2412  Chord : 200 mm <> Information : NACA 2412");
+}
+
+TEST_F(CompareView, WithoutAComparisonOnTheScreenChangesAreStillAskedFor) {
+    OpenRib();
+    Run("mnu_OutilCompare", {Cancel});
+    Rib().Modifie = true;
+    ExpectBox(BoxAnswer::no, world.programme.Text({"FrmMainMessage", "5"}));
+    world.Action("mnu_affclear")->trigger();
+    EXPECT_TRUE(Rib().ProfilCharge);
+    ExpectBox(BoxAnswer::no, world.programme.Text({"FrmMainMessage", "4"}));
+    world.window->close();
+    EXPECT_TRUE(world.window->isVisible());
+}
+
+TEST_F(CompareView, WithoutAComparisonOnTheScreenANewChordIsAChange) {
+    OpenRib();
+    Run("mnu_OutilCompare", {Cancel});
+    Run("mnu_profilcorde", {Chord("170")});
+    EXPECT_TRUE(Rib().Modifie);
+}
+
+TEST_F(CompareView, CalledOffAtTheChordASimplePlotIsStillExportedAsSuch) {
+    Run("mnu_Outilcoupl", {PickSample("naca0012.dat")});
+    Run("mnu_OutilCompare", {Cancel});
+    EXPECT_TRUE(Rib().ModeCouple);
+    const auto sheet = Printed("Print naca0012");
+    // Only the reference line and the segments between the points.
+    EXPECT_EQ(SegmentsOf(sheet).size(), static_cast<std::size_t>(Rib().NbPoints));
+}
+
+TEST_F(CompareView, AFileThatCannotBeReadLeavesTheChordThatWasTyped) {
+    const std::string broken =
+        world.folder.File("broken.dat", "Broken\n1 0\n0.5 0.1\n\n0.5 0\n1 0\n");
+    const auto first = [this, broken](QDialog &dialog) {
+        world.platform.Expect(BoxAnswer::ok);
+        auto *path = dialog.findChild<QLineEdit *>("txtchemin");
+        path->setText(QString::fromStdString(broken));
+        QTest::keyClick(path, Qt::Key_Return);
+        QTest::qWait(400); // the file is looked at
+        // Not before: it would act in this dialog while that waits.
+        InDialogs({PickSample("naca2412.dat")});
+        PickSample("naca0012.dat")(dialog);
+    };
+    Run("mnu_OutilCompare", {Chord("150"), first});
+    ExpectShown("150 mm");
 }
 
 TEST_F(CompareView, ACancelledChordLeavesTheComparisonThatWasShown) {

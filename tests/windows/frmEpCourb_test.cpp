@@ -166,6 +166,36 @@ TEST_F(FrmEpCourbTest, OkAfterASaveAsksForNoNameAgain) {
     EXPECT_EQ(Rib().NomProfil, "new");
 }
 
+TEST_F(FrmEpCourbTest, OkAfterASecondSaveThatWasCancelledOpensTheFirstFile) {
+    Saves(world.folder.Path("sets/new.dat"));
+    Saves("");
+    Use([](QDialog &dialog) {
+        Values(dialog, "9", "3");
+        Click(dialog, "CmdApply");
+        Click(dialog, "cmdsave");
+        Click(dialog, "cmdsave");
+        Click(dialog, "cmdok");
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_EQ(Rib().NomProfil, "new");
+    EXPECT_FALSE(Rib().ModeEpCourb);
+}
+
+TEST_F(FrmEpCourbTest, OkOnAFileThatHasGoneClearsTheView) {
+    const std::string path = world.folder.Path("sets/new.dat");
+    Saves(path);
+    Use([&path](QDialog &dialog) {
+        Values(dialog, "9", "3");
+        Click(dialog, "CmdApply");
+        Click(dialog, "cmdsave");
+        std::filesystem::remove(path);
+        Click(dialog, "cmdok");
+    });
+    EXPECT_FALSE(Rib().ModeEpCourb);
+    EXPECT_FALSE(Rib().ProfilCharge);
+    EXPECT_EQ(Drawing(), nullptr);
+}
+
 TEST_F(FrmEpCourbTest, OkWithACancelledSaveStaysOpen) {
     Saves("");
     Use([this](QDialog &dialog) {

@@ -171,7 +171,7 @@ TEST_F(FrmangleTest, WritesTheAirfoilWhereTheUserSaysAndStays) {
     EXPECT_EQ(question.title, "Save the airfoil of the oblique rib");
     EXPECT_EQ(question.name, "naca_Internal Chord 100.00mm_Angle  30.dat");
     EXPECT_EQ(question.folder, folder.Path());
-    EXPECT_EQ(question.filter_text, "Airfoil files *.dat");
+    EXPECT_EQ(question.filter_text, "Airfoil files (*.dat)");
     EXPECT_EQ(question.default_extension, "dat");
     EXPECT_EQ(folder.Bytes("out.dat"), "Rib Chord :  100.00mm Angle  30.00°\r\n"
                                        "1.00000000  0.00000000\r\n"

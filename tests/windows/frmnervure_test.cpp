@@ -148,9 +148,18 @@ TEST_F(FrmNervureTest, TheBarAndTheWheelScrollTheList) {
                      Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(&Paper(), &down);
     EXPECT_EQ(Bar().value(), 3);
-    Click("cmdcalcul");
-    EXPECT_EQ(Bar().value(), 3);
     EXPECT_NEAR(Top(), (2 - 3 * 10 / 5.0) * 56.7, 1e-9);
+}
+
+TEST_F(FrmNervureTest, ANewListStartsAtItsFirstRib) {
+    Open();
+    Fill({"200", "150", "120"});
+    Click("cmdcalcul");
+    Bar().setValue(20);
+    Fill({"200", "150", "20"});
+    Click("cmdcalcul");
+    EXPECT_EQ(Bar().value(), 0);
+    EXPECT_NEAR(Top(), 2 * 56.7, 1e-9);
 }
 
 TEST_F(FrmNervureTest, ALargerWindowShowsMoreOfALongList) {
