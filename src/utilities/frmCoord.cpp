@@ -250,11 +250,12 @@ void frmCoord::reject() {
 }
 
 bool frmCoord::eventFilter(QObject *watched, QEvent *event) {
-    if (watched == Liste_Valeurs.viewport() && event->type() == QEvent::MouseButtonDblClick) {
+    // The kind first: a list on its way out still sends events, but has no viewport any more.
+    if (event->type() == QEvent::MouseButtonDblClick && watched == Liste_Valeurs.viewport()) {
         Liste_Valeurs_DblClick();
         return true;
     }
-    if (watched == &Liste_Valeurs && event->type() == QEvent::KeyPress) {
+    if (event->type() == QEvent::KeyPress && watched == &Liste_Valeurs) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_F2) {
             Liste_Valeurs_DblClick();
