@@ -42,6 +42,10 @@ void Deliver(const std::string &path, const std::string &text) {
     }
 }
 
+void NameRefused(const std::string &file) {
+    std::cerr << "loftwing: " << file << " was refused\n";
+}
+
 ConsoleProgram::ConsoleProgram(const Arguments &arguments)
     : platform_(std::cerr, arguments.Has("--yes")),
       programme_(ConsolePaths(arguments.Value("--settings")), platform_) {

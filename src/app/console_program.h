@@ -20,6 +20,9 @@ std::vector<OptionRule> CommonOptions();
 /// EcritFichier.
 void Deliver(const std::string &path, const std::string &text);
 
+/// Says on standard error which of several FILEs was refused: the line that told why doesn't.
+void NameRefused(const std::string &file);
+
 /// One program for one drawing: every file of a command starts from a fresh state.
 class ConsoleProgram {
   public:

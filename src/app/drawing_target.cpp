@@ -1,6 +1,7 @@
 #include "app/drawing_target.h"
 
 #include "app/command_line.h"
+#include "app/console_program.h"
 #include "app/toolkit.h"
 #include "base/failure.h"
 #include "base/whole_file.h"
@@ -41,17 +42,33 @@ const ExportForm &FormNamed(const Arguments &arguments, const DrawingVerb &verb,
     return *form;
 }
 
-/// Runs the drawing of some FILEs; a failure is told with the first one's name.
-bool DrawAndDeliver(const DrawingTarget &target, const std::vector<std::string> &files,
-                    const Draw &draw) {
+/// A step for some FILEs that goes on after a failure, which is told behind `prefix`.
+bool Tried(const std::string &prefix, const std::function<bool()> &step) {
     try {
-        bool complete = false;
-        const auto bytes = draw(target, files, complete);
-        return bytes && Deliver(target, files.front(), *bytes) && complete;
+        return step();
     } catch (const Failure &failure) {
-        std::cerr << "loftwing: " << files.front() << ": " << failure.description << '\n';
+        std::cerr << "loftwing: " << prefix << failure.description << '\n';
         return false;
     }
+}
+
+/// Runs the drawing of some FILEs. A failure to draw is told with the first one's name; one to
+/// write names OUT itself.
+bool DrawAndDeliver(const DrawingTarget &target, const std::vector<std::string> &files,
+                    const Draw &draw) {
+    bool complete = false;
+    std::optional<std::string> bytes;
+    const bool tried = Tried(files.front() + ": ", [&] {
+        bytes = draw(target, files, complete);
+        return true;
+    });
+    if (!bytes) {
+        if (tried && target.several) {
+            NameRefused(files.front());
+        }
+        return false;
+    }
+    return Tried("", [&] { return Deliver(target, files.front(), *bytes); }) && complete;
 }
 
 } // namespace

@@ -82,6 +82,8 @@ bool InformOf(const Arguments &arguments, const std::string &file) {
             line.Add("file", file);
             line.Add("refused", program.Platform().LastText());
             std::cout << line.Text() << '\n';
+        } else if (arguments.Files().size() > 1) {
+            NameRefused(file);
         }
         return false;
     }

@@ -24,13 +24,17 @@ using DeuxProfils = std::array<ProfilJeu, 2>;
     throw Refused{};
 }
 
-DeuxProfils LitProfils(ConsoleProgram &program, const std::vector<std::string> &files) {
-    const auto major = program.ChoisitProfil(files[0]);
-    const auto minor = major ? program.ChoisitProfil(files[1]) : std::nullopt;
-    if (!minor) {
+ProfilChoisi LitProfil(ConsoleProgram &program, const std::string &file) {
+    auto profil = program.ChoisitProfil(file);
+    if (!profil) {
+        NameRefused(file);
         throw Refused{};
     }
-    return {ProfilMajeur(*major), ProfilMineur(*minor)};
+    return *std::move(profil);
+}
+
+DeuxProfils LitProfils(ConsoleProgram &program, const std::vector<std::string> &files) {
+    return {ProfilMajeur(LitProfil(program, files[0])), ProfilMineur(LitProfil(program, files[1]))};
 }
 
 DeuxTextes Noms(const DeuxProfils &profils) {
@@ -49,8 +53,8 @@ struct Demande {
 Demande DemandeDe(const Arguments &arguments, const Programme &programme) {
     const bool variable = arguments.Has("--gaps");
     if (arguments.Files().size() != 2 || !arguments.Has("--chords") ||
-        arguments.Value("--output").empty() || variable == arguments.Has("--count") ||
-        variable != arguments.Has("--thickness")) {
+        arguments.Value("--output").empty() || arguments.Value("--output") == "-" ||
+        variable == arguments.Has("--count") || variable != arguments.Has("--thickness")) {
         throw UsageError("ribs wants ROOT TIP --chords MAJOR MINOR -o DIR and either --count N or "
                          "--gaps G1 ... --thickness T0 ...");
     }

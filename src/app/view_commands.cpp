@@ -80,16 +80,19 @@ std::optional<std::string> DrawCompare(const Arguments &arguments, const Drawing
     ConsoleProgram program(arguments);
     Programme &programme = program.Owner();
     ApplyPageOptions(arguments, programme);
-    if (!OpenFor(program, arguments, files[0], false)) {
+    const Preparation first = OpenFor(program, arguments, files[0], false)
+                                  ? PrendProfil1(programme)
+                                  : Preparation::impossible;
+    if (first == Preparation::impossible) {
+        NameRefused(files[0]);
         return std::nullopt;
     }
-    const Preparation first = PrendProfil1(programme);
     const double haut1 = programme.rib.ExtradosMaxi;
-    if (first == Preparation::impossible || !OpenFor(program, arguments, files[1], true)) {
-        return std::nullopt;
-    }
-    const Preparation second = PrendProfil2(programme, haut1);
+    const Preparation second = OpenFor(program, arguments, files[1], true)
+                                   ? PrendProfil2(programme, haut1)
+                                   : Preparation::impossible;
     if (second == Preparation::impossible) {
+        NameRefused(files[1]);
         return std::nullopt;
     }
     complete = first == Preparation::complete && second == Preparation::complete;

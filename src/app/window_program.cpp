@@ -18,13 +18,20 @@
 #include <QLocale>
 #include <QTranslator>
 
+#include <algorithm>
+#include <array>
+#include <cstdlib>
 #include <filesystem>
 #include <iostream>
 #include <memory>
+#include <string_view>
 
 namespace loftwing {
 
 namespace {
+
+/// One of them is set wherever a window can be shown.
+constexpr std::array kDisplays = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
 
 std::vector<std::string> WordsLeft() {
     std::vector<std::string> words;
@@ -77,9 +84,24 @@ int Show(Programme &programme, const std::vector<std::string> &files) {
     return QApplication::exec();
 }
 
+/// Whether the toolkit has anywhere to show a window; without, it would end the process.
+bool HasDisplay(int argc, char **argv) {
+    return std::any_of(argv + 1, argv + argc,
+                       [](std::string_view word) { return word.ends_with("-platform"); }) ||
+           std::any_of(kDisplays.begin(), kDisplays.end(), [](const char *name) {
+               const char *value = std::getenv(name);
+               return value != nullptr && *value != '\0';
+           });
+}
+
 } // namespace
 
 int RunWindow(int argc, char **argv) {
+    if (!HasDisplay(argc, argv)) {
+        std::cerr << "loftwing: no display for the window (see loftwing --help for what goes "
+                     "without)\n";
+        return kRefused;
+    }
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName("loftwing");
     QCoreApplication::setApplicationVersion(kVersion);

@@ -61,6 +61,14 @@ TEST(CommandLine, WrongUsageIsStatusTwoWithAReason) {
     }
 }
 
+TEST(CommandLine, WithoutADisplayTheWindowSaysSo) {
+    const Ran ran = RunShell(
+        "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM " LOFTWING_BINARY_DIR "/loftwing " +
+        ShellWord(Sample("naca2412.dat")));
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_THAT(ran.err, StartsWith("loftwing: no display"));
+}
+
 TEST(CommandLine, NeitherReadsNorWritesTheUsersSettings) {
     const TempFolder folder;
     const Ran ran = RunShell("XDG_CONFIG_HOME=" + ShellWord(folder.Path()) + " HOME=" +

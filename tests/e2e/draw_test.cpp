@@ -133,6 +133,7 @@ TEST(Draw, SeveralFilesGoToAFolderAndARefusedOneStopsNothing) {
     EXPECT_TRUE(std::filesystem::exists(folder.Path("out/naca2412.svg")));
     EXPECT_TRUE(std::filesystem::exists(folder.Path("out/naca0009.svg")));
     EXPECT_FALSE(std::filesystem::exists(folder.Path("out/bad.svg")));
+    EXPECT_THAT(ran.err, HasSubstr("loftwing: " + bad + " was refused\n"));
 }
 
 TEST(Draw, ARefusalLeavesTheOldFileAndSaysWhyOnOneLine) {

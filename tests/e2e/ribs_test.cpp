@@ -13,6 +13,7 @@ namespace loftwing {
 namespace {
 
 using testing::HasSubstr;
+using testing::Not;
 
 TEST(Ribs, EvenSetWritesItsFilesAndPrintsTheirPaths) {
     const TempFolder folder;
@@ -92,7 +93,26 @@ TEST(Ribs, LengthThatIsNoneInInchesIsRefused) {
         1);
 }
 
+TEST(Ribs, OfTwoAirfoilsTheRefusedOneIsNamed) {
+    const TempFolder folder;
+    const std::string bad = folder.File("bad.dat", "Title\n0.5 0.1\n1.0 0.0\n");
+    const std::string good = Sample("naca0009.dat");
+    for (const auto &[root, tip] : {std::pair(bad, good), std::pair(good, bad)}) {
+        const Ran ran = RunLoftwing({"ribs", root, tip, "--chords", "200", "100", "--count", "1",
+                                     "-o", folder.Path("out")});
+        EXPECT_EQ(ran.status, 1);
+        EXPECT_THAT(ran.err, HasSubstr("loftwing: " + bad + " was refused\n"));
+        EXPECT_THAT(ran.err, Not(HasSubstr(good)));
+        EXPECT_FALSE(std::filesystem::exists(folder.Path("out")));
+    }
+}
+
 TEST(Ribs, WrongUsageIsTold) {
+    // Several files have no place on standard output.
+    EXPECT_EQ(RunLoftwing({"ribs", Sample("naca2412.dat"), Sample("naca0009.dat"), "--chords",
+                           "200", "100", "--count", "1", "-o", "-"})
+                  .status,
+              2);
     EXPECT_EQ(RunLoftwing({"ribs", Sample("naca2412.dat"), Sample("naca0009.dat"), "--chords",
                            "200", "100", "--count", "1", "-o", ""})
                   .status,

@@ -13,6 +13,7 @@ namespace loftwing {
 namespace {
 
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
 /// The nose of a cambered airfoil reaches a little in front of x = 0; mm.
@@ -101,7 +102,13 @@ TEST(CompareVerb, WrongUsageAndRefusalsLeaveNoFile) {
     EXPECT_EQ(RunLoftwing({"compare", good, good, good, "-o", out}).status, 2);
     EXPECT_EQ(RunLoftwing({"compare", good, good, "-o", folder.Path("both.dxf")}).status, 2);
     EXPECT_EQ(RunLoftwing({"compare", good, good, "-o", out, "--invert"}).status, 2);
-    EXPECT_EQ(RunLoftwing({"compare", good, bad, "-o", out}).status, 1);
+    const Ran refused = RunLoftwing({"compare", good, bad, "-o", out});
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_THAT(refused.err, HasSubstr("loftwing: " + bad + " was refused\n"));
+    const Ran unwritable = RunLoftwing({"compare", good, good, "-o", "/nowhere/both.svg"});
+    EXPECT_EQ(unwritable.status, 1);
+    EXPECT_THAT(unwritable.err, HasSubstr("/nowhere/both.svg"));
+    EXPECT_THAT(unwritable.err, Not(HasSubstr(good)));
     EXPECT_EQ(RunLoftwing({"compare", good, good, "-o", out, "--chord", "0"}).status, 1);
     EXPECT_EQ(folder.Entries(), 1);
 }
