@@ -170,6 +170,8 @@ class frmmain : public QMainWindow, public MainView {
     bool QuestionFin();
 
     // frmmain_tools.cpp
+    /// Gives the tools that stay open the words of the language in force.
+    void AppliqueLangueOutils();
     /// Clears the rib for a set of ribs; false when the user keeps it.
     bool FaitPlaceAuJeu();
     /// The number of intermediate ribs; 0 when the user gives up.

@@ -33,7 +33,20 @@ void ShowBeside(QWidget &parent, Programme &programme) {
     window->show();
 }
 
+template <class Window>
+void Reword(const QWidget &parent) {
+    for (Window *open : parent.findChildren<Window *>()) {
+        open->PoseTextes();
+    }
+}
+
 } // namespace
+
+void frmmain::AppliqueLangueOutils() {
+    Reword<frmnervure>(*this);
+    Reword<frmdiedre>(*this);
+    Reword<frmCoord>(*this);
+}
 
 std::optional<ProfilChoisi> frmmain::ChoisitProfil(const std::string &titre) {
     RibModel &rib = programme_.rib;

@@ -26,6 +26,9 @@ class frmCoord : public QDialog {
   public:
     frmCoord(Programme &programme, QWidget *parent);
 
+    /// Words in the language in force.
+    void PoseTextes();
+
     /// Escape and the window's own close button do what Close does.
     void reject() override;
 
@@ -62,7 +65,6 @@ class frmCoord : public QDialog {
     QGridLayout *LayOutEntries();
     QVBoxLayout *LayOutCommands();
     void ConnectAll();
-    void PoseTextes();
 
     void Form_Load();
     bool Form_Unload();

@@ -1,7 +1,7 @@
 #include "utilities/frmdiedre.h"
 
-#include <QEvent>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QVBoxLayout>
 
 namespace loftwing {
@@ -9,6 +9,15 @@ namespace loftwing {
 namespace {
 
 constexpr int kAide = 60;
+
+/// What asks for a field's value: a double click or, without a mouse, Return in it.
+bool DemandeValeur(const QEvent &event) {
+    if (event.type() != QEvent::KeyPress) {
+        return event.type() == QEvent::MouseButtonDblClick;
+    }
+    const int key = static_cast<const QKeyEvent &>(event).key();
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
 
 } // namespace
 
@@ -49,26 +58,32 @@ void frmdiedre::LayOut() {
 }
 
 void frmdiedre::Form_Load() {
-    const std::string &Unite = programme_.settings.Unite;
-    setWindowTitle(Q(programme_.Text({"FrmDiedre", "1"}) + " " + Unite));
+    PoseTextes();
+    for (NumericField &field : txt) {
+        field.SetKeys(
+            TouchesSelonUnite(programme_.settings.Unite, kTouchesPositif, kTouchesFraction));
+    }
+    SelectField(txt[kDiedreAngle]);
+}
+
+void frmdiedre::PoseTextes() {
+    setWindowTitle(Q(programme_.Text({"FrmDiedre", "1"}) + " " + programme_.settings.Unite));
     Label1.setText(Q(programme_.Text({"FrmDiedre", "2"})));
     Label2.setText(Q(programme_.Text({"FrmDiedre", "4"})));
     Label3.setText(Q(programme_.Text({"FrmDiedre", "5"})));
     for (NumericField &field : txt) {
-        field.SetKeys(TouchesSelonUnite(Unite, kTouchesPositif, kTouchesFraction));
         SetTip(field, programme_.Text({"FrmDiedre", "2T"}));
     }
     SetButtonWord(cmdok, programme_.language, SharedWord::ok);
     SetButtonWord(cmdaide, programme_.language, SharedWord::help);
-    SelectField(txt[kDiedreAngle]);
 }
 
 bool frmdiedre::eventFilter(QObject *watched, QEvent *event) {
-    if (event->type() == QEvent::MouseButtonDblClick) {
+    if (DemandeValeur(*event)) {
         for (int index = 0; index < kChampsDiedre; ++index) {
             if (watched == &At(txt, index)) {
                 txt_dblClick(index);
-                return true; // it would select a word
+                return true; // it would select a word, or close the window
             }
         }
     }

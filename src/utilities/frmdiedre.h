@@ -14,13 +14,16 @@
 
 namespace loftwing {
 
-/// Angle, length and height; a double click into one of the fields computes it from the other two.
-/// Stays open beside the main window and has nothing to do with the rib.
+/// Angle, length and height; a double click into one of the fields, or Return in it, computes it
+/// from the other two. Stays open beside the main window and has nothing to do with the rib.
 class frmdiedre : public QDialog {
     Q_OBJECT
 
   public:
     frmdiedre(Programme &programme, QWidget *parent);
+
+    /// Words in the language in force.
+    void PoseTextes();
 
   protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

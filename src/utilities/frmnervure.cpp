@@ -18,7 +18,6 @@ frmnervure::frmnervure(Programme &programme, QWidget *parent)
 }
 
 void frmnervure::Form_Load() {
-    setWindowTitle(Q(programme_.Text({"FrmNervure", "1"}) + " " + programme_.settings.Unite));
     PoseTextes();
     for (NumericField &field : txtnerv) {
         field.SetKeys(
@@ -30,6 +29,7 @@ void frmnervure::Form_Load() {
 
 void frmnervure::PoseTextes() {
     const auto word = [this](LngKey key) { return Q(programme_.Text(key)); };
+    setWindowTitle(Q(programme_.Text({"FrmNervure", "1"}) + " " + programme_.settings.Unite));
     Label1.setText(word({"FrmNervure", "7"}));
     Label2.setText(word({"FrmNervure", "4"}));
     Label3.setText(word({"FrmNervure", "5"}));

@@ -27,6 +27,9 @@ class frmnervure : public QDialog {
   public:
     frmnervure(Programme &programme, QWidget *parent);
 
+    /// Words in the language in force.
+    void PoseTextes();
+
   private:
     Programme &programme_;
     Nervures panneau_;
@@ -59,7 +62,6 @@ class frmnervure : public QDialog {
     QGridLayout *LayOutFields();
     QVBoxLayout *LayOutList();
     void ConnectAll();
-    void PoseTextes();
 
     void Form_Load();
     void cmdcalcul_Click();

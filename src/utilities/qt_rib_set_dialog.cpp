@@ -14,6 +14,7 @@ namespace {
 
 constexpr const char *kEtiquette = " RibEvol/SaveProfil";
 constexpr const char *kLongueurUsuelle = "1234.31/64--"; // a field has room for this
+constexpr int kLettresNom = 24;
 constexpr int kLettresDossier = 45;
 constexpr int kDelai = 500; // milliseconds before the progress is shown
 
@@ -90,6 +91,7 @@ QGridLayout &RibSetDialog::Grille(std::size_t end) {
     QLineEdit &name = At(txtprofil, index);
     Rangee(*grid, 0, At(Label1, index), name, &At(cmdouvrir, index));
     Rangee(*grid, 1, At(Label2, index), At(txtcorde, index), nullptr);
+    name.setMinimumWidth(fontMetrics().averageCharWidth() * kLettresNom);
     name.setReadOnly(true);
     name.setFocusPolicy(Qt::NoFocus);
     return *grid;

@@ -39,6 +39,22 @@ TEST_F(FrmDiedreTest, ADoubleClickComputesTheFieldThatIsClicked) {
     EXPECT_TRUE(FocusedAndSelected("txt(1)"));
 }
 
+TEST_F(FrmDiedreTest, ReturnComputesTheFieldThatItIsPressedIn) {
+    Open();
+    Type("txt(1)", "100");
+    Type("txt(2)", "100");
+    QTest::keyClick(&Box("txt(0)"), Qt::Key_Return);
+    EXPECT_EQ(Text("txt(0)"), " 45.00");
+    Type("txt(2)", "50");
+    QTest::keyClick(&Box("txt(1)"), Qt::Key_Enter);
+    EXPECT_EQ(Text("txt(1)"), " 50."); // the tangent of 45 degrees is 1
+    EXPECT_TRUE(window->isVisible());
+    // Where the focus is on no field, Return is OK.
+    Find("cmdok").setFocus();
+    QTest::keyClick(&Find("cmdok"), Qt::Key_Return);
+    EXPECT_FALSE(window->isVisible());
+}
+
 TEST_F(FrmDiedreTest, AnAngleBeyondTheLimitIsToldAndStillCounts) {
     Open();
     Type("txt(0)", "89.5");

@@ -82,6 +82,27 @@ TEST_F(BesideMainTest, CalculatorsDontKeepTheRibFromBeingDrawnAgain) {
     QTRY_VERIFY_WITH_TIMEOUT(picture->Dessin() != nullptr, 2000);
 }
 
+TEST_F(BesideMainTest, AnotherLanguageReachesWhatIsOpen) {
+    for (const char *command : {"mnu_outilnervinter", "mnu_OutlilDiedre", "mnu_Outilcoord"}) {
+        Run(command);
+    }
+    EnterPoint();
+    world.programme.language.Charge(LOFTWING_SOURCE_DIR "/resources/lng", "French");
+    world.window->AppliqueLangue();
+    EXPECT_EQ(S(Windows<frmdiedre>().front()->windowTitle()), "Calcul du dièdre  mm");
+    const auto caption = [](QWidget &window, const char *name) {
+        return S(window.findChild<QLabel *>(name)->text());
+    };
+    EXPECT_EQ(caption(*Windows<frmdiedre>().front(), "Label1"), "Angle en degrés");
+    EXPECT_EQ(caption(*Windows<frmnervure>().front(), "Label2"),
+              world.programme.Text({"FrmNervure", "4"}));
+    EXPECT_EQ(S(Windows<frmnervure>().front()->windowTitle()),
+              world.programme.Text({"FrmNervure", "1"}) + "  mm");
+    frmCoord &editor = *Windows<frmCoord>().front();
+    EXPECT_EQ(S(editor.windowTitle()), world.programme.Text({"Frmcoord", "1"}));
+    EXPECT_EQ(editor.findChild<QListWidget *>("Liste_Valeurs")->count(), 1);
+}
+
 TEST_F(BesideMainTest, UnsavedLinesAreAskedForWhenTheProgramEnds) {
     Run("mnu_Outilcoord");
     EnterPoint();
