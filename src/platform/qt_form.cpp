@@ -156,6 +156,18 @@ void SetTip(QWidget &widget, const std::string &tip) {
     widget.setAccessibleDescription(text);
 }
 
+void MakeNameDisplay(QLineEdit &field, int letters) {
+    field.setReadOnly(true);
+    field.setFocusPolicy(Qt::NoFocus);
+    field.setMinimumWidth(field.fontMetrics().averageCharWidth() * letters);
+    const auto show = [&field](const QString &text) {
+        field.setCursorPosition(0);
+        SetTip(field, S(text));
+    };
+    show(field.text());
+    QObject::connect(&field, &QLineEdit::textChanged, &field, show);
+}
+
 void ConnectHelp(QDialog &dialog, QAbstractButton &help, Platform &platform, int context) {
     const auto show = [&platform, context] { platform.ShowHelp(context); };
     QObject::connect(&help, &QAbstractButton::clicked, &dialog, show);

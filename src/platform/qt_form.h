@@ -65,6 +65,13 @@ QHBoxLayout *ButtonRow(std::initializer_list<QPushButton *> buttons);
 /// Gives a widget a tool tip, shown as it stands even when it looks like markup.
 void SetTip(QWidget &widget, const std::string &tip);
 
+/// Room for the names of most airfoils.
+inline constexpr int kNameLetters = 24;
+
+/// Makes a field one that only shows a name or a folder, which starts at its left end and stands in
+/// the tool tip too. `letters` is how many it has room for.
+void MakeNameDisplay(QLineEdit &field, int letters);
+
 /// Makes the help button of a dialog and F1 in it open the help at `context`.
 void ConnectHelp(QDialog &dialog, QAbstractButton &help, Platform &platform, int context);
 

@@ -37,8 +37,7 @@ void frmangle::LayOut() {
     grid->addWidget(&txtprofil, 5, 2);
     grid->addWidget(&cmdouvrir, 5, 3);
     grid->setRowStretch(6, 1);
-    txtprofil.setReadOnly(true);
-    txtprofil.setFocusPolicy(Qt::NoFocus);
+    MakeNameDisplay(txtprofil, kNameLetters);
     cmdouvrir.setAutoDefault(false);
 
     auto *panel = new QVBoxLayout;

@@ -119,8 +119,7 @@ void frminclinaison::LayOut() {
     for (QLabel *label : {&Label1, &Label3, &Label4}) {
         label->setTextFormat(Qt::PlainText);
     }
-    txtprofil.setReadOnly(true);
-    txtprofil.setFocusPolicy(Qt::NoFocus);
+    MakeNameDisplay(txtprofil, kNameLetters);
     cmdouvrir.setAutoDefault(false);
     auto *above = new QHBoxLayout;
     above->addLayout(grid);

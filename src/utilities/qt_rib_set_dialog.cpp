@@ -14,7 +14,6 @@ namespace {
 
 constexpr const char *kEtiquette = " RibEvol/SaveProfil";
 constexpr const char *kLongueurUsuelle = "1234.31/64--"; // a field has room for this
-constexpr int kLettresNom = 24;
 constexpr int kLettresDossier = 45;
 constexpr int kDelai = 500; // milliseconds before the progress is shown
 
@@ -91,9 +90,7 @@ QGridLayout &RibSetDialog::Grille(std::size_t end) {
     QLineEdit &name = At(txtprofil, index);
     Rangee(*grid, 0, At(Label1, index), name, &At(cmdouvrir, index));
     Rangee(*grid, 1, At(Label2, index), At(txtcorde, index), nullptr);
-    name.setMinimumWidth(fontMetrics().averageCharWidth() * kLettresNom);
-    name.setReadOnly(true);
-    name.setFocusPolicy(Qt::NoFocus);
+    MakeNameDisplay(name, kNameLetters);
     return *grid;
 }
 
@@ -104,9 +101,7 @@ void RibSetDialog::PoseBas(QVBoxLayout &rows) {
     folder->addWidget(&cmdrechercheevol);
     Lblsav.setTextFormat(Qt::PlainText);
     Lblsav.setBuddy(&txtdefprofevol);
-    txtdefprofevol.setReadOnly(true);
-    txtdefprofevol.setFocusPolicy(Qt::NoFocus);
-    txtdefprofevol.setMinimumWidth(fontMetrics().averageCharWidth() * kLettresDossier);
+    MakeNameDisplay(txtdefprofevol, kLettresDossier);
     rows.addLayout(folder);
     rows.addStretch();
     rows.addLayout(ButtonRow({&cmdcalcul, &cmdfermer, &cmdaide}));

@@ -245,6 +245,16 @@ TEST(ShowModal, StandsInTheMiddleOfItsWindow) {
     EXPECT_NEAR(middle.y(), window.frameGeometry().center().y(), 1);
 }
 
+TEST(MakeNameDisplay, ANameTooLongForTheFieldShowsItsBeginning) {
+    QLineEdit field;
+    MakeNameDisplay(field, 10);
+    field.setText("a name of quite some letters");
+    EXPECT_EQ(field.cursorPosition(), 0);
+    EXPECT_EQ(S(field.toolTip()), "a name of quite some letters");
+    EXPECT_TRUE(field.isReadOnly());
+    EXPECT_EQ(field.focusPolicy(), Qt::NoFocus);
+}
+
 TEST(ShowModal, StaysOnTheScreen) {
     QWidget window;
     const QRect space = window.screen()->availableGeometry();
