@@ -62,7 +62,6 @@ void frmmain::mnu_fileprint_Click() {
                           kTitre)) {
         return;
     }
-    const float zoom = programme_.rib.Zoom;
     const Impression run = ImpressionEnCours();
     if (!PrepareFeuilles(run, [this] { mnu_filepage_Click(); })) {
         return;
@@ -71,9 +70,7 @@ void frmmain::mnu_fileprint_Click() {
     if (!printer) {
         return;
     }
-    const FinImpression end = Imprime(run, *printer);
-    programme_.rib.Zoom = zoom;
-    if (end == FinImpression::trace_echec) {
+    if (ImprimeVue(run, *printer) == FinImpression::trace_echec) {
         affclear();
     }
 }

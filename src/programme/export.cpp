@@ -61,6 +61,11 @@ Impression ImpressionDeVue(Programme &programme, PlotState &plot) {
             NomDuDessin(rib, compare)};
 }
 
+FinImpression ImprimeVue(const Impression &run, Printer &printer) {
+    const VueGardee view(run.rib);
+    return Imprime(run, printer);
+}
+
 bool ExporteDxf(Programme &programme, std::string &out) {
     if (programme.rib.AffHaut) {
         programme.messages.Inform(programme.Text({"filedxf", "1"}), kTitre);

@@ -20,6 +20,9 @@ std::unique_ptr<Recording> DessineVue(Programme &programme, bool &failed,
 /// A print run of the current view. It works on the plot state given, at the scale of paper.
 Impression ImpressionDeVue(Programme &programme, PlotState &plot);
 
+/// Imprime, after which the screen's zoom is in force again: it is what the list of zooms shows.
+FinImpression ImprimeVue(const Impression &run, Printer &printer);
+
 /// The rib as it was last plotted, in the interchange form of DXF, appended to `out`. An inverted
 /// view has no such form: false, and a box tells so. Failures as EntitesDxf; `out` then holds what
 /// came before.

@@ -45,7 +45,7 @@ Exported AsPdf(Programme &programme, const std::function<void()> &set_up_page) {
     }
     std::string bytes;
     const auto printer = MakePdfPrinter(bytes, run.nom);
-    const FinImpression end = Imprime(run, *printer);
+    const FinImpression end = ImprimeVue(run, *printer);
     if (end == FinImpression::imprime) {
         return {bytes, false};
     }

@@ -427,6 +427,15 @@ TEST(MainWindow, PrintingAsksFirstAndKeepsTheZoomOfTheScreen) {
     EXPECT_EQ(world.programme.settings.page.recouvrement, 0.0F);
 }
 
+TEST(MainWindow, APdfThatIsCalledOffKeepsTheZoomOfTheScreen) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    Q_EMIT world.Find<QComboBox>("Combo1")->activated(0);
+    world.platform.files_expected = {""};
+    world.Action("mnu_filepdf")->trigger();
+    EXPECT_EQ(world.programme.rib.Zoom, 3.0F);
+}
+
 TEST(MainWindow, ALongRibOpensThePageSetupOnceAndIsTiled) {
     WindowWorld world;
     Job job;
