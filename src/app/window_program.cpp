@@ -14,9 +14,6 @@
 #include "programme/startup.h"
 
 #include <QApplication>
-#include <QLibraryInfo>
-#include <QLocale>
-#include <QTranslator>
 
 #include <algorithm>
 #include <array>
@@ -40,14 +37,6 @@ std::vector<std::string> WordsLeft() {
         words.push_back(S(arguments[i]));
     }
     return words;
-}
-
-/// The toolkit's own words (file choosers, print dialog) in the user's language.
-void TranslateToolkit(QTranslator &translator) {
-    if (translator.load(QLocale(), "qtbase", "_",
-                        QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
-        QCoreApplication::installTranslator(&translator);
-    }
 }
 
 int Show(Programme &programme, const std::vector<std::string> &files) {
@@ -107,8 +96,6 @@ int RunWindow(int argc, char **argv) {
     QCoreApplication::setApplicationVersion(kVersion);
     QGuiApplication::setDesktopFileName("loftwing");
     QGuiApplication::setWindowIcon(ProgramIcon());
-    QTranslator translator;
-    TranslateToolkit(translator);
     try {
         const Arguments arguments(WordsLeft(), {{"--settings", "FILE", "settings file"}});
         if (arguments.Files().size() > 1) {

@@ -311,6 +311,7 @@ void frmmain::AppliqueLangue() {
          programme_.Text({"TextButton", "32"})});
     Combo1->setToolTip(tools_.at(8)->toolTip());
     Combo1->setAccessibleName(tools_.at(8)->toolTip());
+    toolkit_words_.Follow(programme_.language.LangueCourante);
     AppliqueLangueOutils();
 }
 

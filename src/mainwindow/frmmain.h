@@ -4,6 +4,7 @@
 #include "core/contour.h"
 #include "mainwindow/commands.h"
 #include "mainwindow/pic_view.h"
+#include "mainwindow/toolkit_words.h"
 #include "output/print_run.h"
 #include "output/screen_plot.h"
 #include "programme/main_view.h"
@@ -114,6 +115,7 @@ class frmmain : public QMainWindow, public MainView {
     };
 
     Programme &programme_;
+    ToolkitWords toolkit_words_;
     std::map<std::string, QAction *> actions_; ///< menus and entries by control name
     std::map<std::string, QMenu *> menus_;
     std::array<QAction *, kFichiersRecents> mnuFileMRU_{};

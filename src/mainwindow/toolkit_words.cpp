@@ -1,0 +1,34 @@
+#include "mainwindow/toolkit_words.h"
+
+#include "platform/qt_text.h"
+
+#include <QCoreApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+
+namespace loftwing {
+
+namespace {
+
+QLocale::Language LanguageNamed(const QString &name) {
+    for (int i = QLocale::C; i <= QLocale::LastLanguage; ++i) {
+        const auto language = static_cast<QLocale::Language>(i);
+        if (QLocale::languageToString(language) == name) {
+            return language;
+        }
+    }
+    return QLocale::C;
+}
+
+} // namespace
+
+void ToolkitWords::Follow(const std::string &language) {
+    QCoreApplication::removeTranslator(&translator_);
+    const QLocale locale(LanguageNamed(Q(language)));
+    if (translator_.load(locale, "qtbase", "_",
+                         QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(&translator_);
+    }
+}
+
+} // namespace loftwing
