@@ -158,7 +158,6 @@ void frmInstxt::LayOut() {
     }
     Label2.setBuddy(&ComboTaille);
     cmdok.setDefault(true);
-    CmdApply.setAutoDefault(false);
 }
 
 } // namespace loftwing

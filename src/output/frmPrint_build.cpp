@@ -43,7 +43,6 @@ void frmPrint::LayOut() {
     rows->addStretch();
     rows->addLayout(ButtonRow({&cmdok, &cmdannuler, &cmdaide}));
     cmdok.setDefault(true);
-    cmdconfigImprim.setAutoDefault(false);
 }
 
 void frmPrint::LayOutPaper() {

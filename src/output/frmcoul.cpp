@@ -204,7 +204,6 @@ void frmcoul::LayOut() {
     rows->addLayout(above, 1);
     rows->addLayout(buttons);
     cmdok.setDefault(true);
-    cmdImprtest.setAutoDefault(false);
 }
 
 void frmcoul::LayOutGrid(QGridLayout &grid) {

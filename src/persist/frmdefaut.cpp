@@ -292,7 +292,6 @@ void frmdefaut::LayOutFolder(QGroupBox &frame, NumericField &field, QPushButton 
     // A path takes every character.
     field.setInputMethodHints(Qt::ImhNoPredictiveText);
     field.setMinimumWidth(fontMetrics().averageCharWidth() * kUsualLetters);
-    browse.setAutoDefault(false);
 }
 
 } // namespace loftwing

@@ -243,9 +243,6 @@ void frmEpCourb::LayOut() {
     rows->addStretch();
     rows->addLayout(ButtonRow({&CmdApply, &cmdsave, &cmdprintEC, &cmdok, &cmdannuler, &cmdaide}));
     cmdok.setDefault(true);
-    for (QPushButton *button : {&CmdApply, &cmdsave, &cmdprintEC}) {
-        button->setAutoDefault(false);
-    }
 }
 
 void frmEpCourb::ConnectAll() {

@@ -38,7 +38,6 @@ void frmangle::LayOut() {
     grid->addWidget(&cmdouvrir, 5, 3);
     grid->setRowStretch(6, 1);
     MakeNameDisplay(txtprofil, kNameLetters);
-    cmdouvrir.setAutoDefault(false);
 
     auto *panel = new QVBoxLayout;
     panel->addWidget(&Label2[0], 0, Qt::AlignHCenter);

@@ -120,7 +120,6 @@ void frminclinaison::LayOut() {
         label->setTextFormat(Qt::PlainText);
     }
     MakeNameDisplay(txtprofil, kNameLetters);
-    cmdouvrir.setAutoDefault(false);
     auto *above = new QHBoxLayout;
     above->addLayout(grid);
     above->addWidget(&Picture1, 1);

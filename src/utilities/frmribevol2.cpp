@@ -39,6 +39,8 @@ void frmribevol2::ConnectAll() {
         connect(&At(LblNoNervInterm, k - 1), &ClickLabel::Clicked, this,
                 [this, k] { Essaie([this, k] { LblNoNervInterm_Click(k); }); });
     }
+    TextEprNevure.installEventFilter(this);
+    TextEcartNevure.installEventFilter(this);
     connect(&CmdApply, &QPushButton::clicked, this,
             [this] { Essaie([this] { CmdApply_Click(); }); });
 }
@@ -85,13 +87,35 @@ void frmribevol2::changeEvent(QEvent *event) {
     }
 }
 
+/// In the fields of a gap Return is Apply: Compute would take what was applied before.
+bool frmribevol2::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::FocusIn) {
+        CmdApply.setDefault(true);
+    } else if (event->type() == QEvent::FocusOut) {
+        cmdcalcul.setDefault(true);
+    }
+    return RibSetDialog::eventFilter(watched, event);
+}
+
+/// The number of the gap that is shown stands out from those that are finished.
+void frmribevol2::MarqueEcart() {
+    for (int k = 1; k <= DernierEcart(); ++k) {
+        ClickLabel &label = At(LblNoNervInterm, k - 1);
+        QFont font = label.font();
+        font.setBold(k == set_.NervCourante && FrameDimensions.isVisibleTo(this));
+        label.setFont(font);
+    }
+}
+
 void frmribevol2::LblNoNervInterm_Click(int k) {
     set_.NervCourante = ToInt16(k);
     if (!Valide()) {
         FrameDimensions.hide(); // it shows another gap, which Apply must not take for this one
+        MarqueEcart();
         return;
     }
     FrameDimensions.show();
+    MarqueEcart();
     Bleuit(At(LblNoNervInterm, k - 1));
     MontreEcart();
 }

@@ -20,6 +20,7 @@ class frmribevol2 : public RibSetDialog {
     void Calcule() override;
     QLineEdit *Champ(ChampJeu champ) override;
     void changeEvent(QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
   private:
     JeuNervures &jeu_;
@@ -58,6 +59,7 @@ class frmribevol2 : public RibSetDialog {
     int DernierEcart() const { return jeu_.NbNervInter + 1; }
     bool Valide();
     void MontreEcart();
+    void MarqueEcart();
     void Bleuit(QLabel &label);
 };
 

@@ -97,7 +97,6 @@ void frmribevol2::LayOutDimensions() {
     lblstep.setTextFormat(Qt::PlainText);
     LblEprNervure.setBuddy(&TextEprNevure);
     lblstep.setBuddy(&TextEcartNevure);
-    CmdApply.setAutoDefault(false);
     GardePlace(FrameDimensions);
 }
 

@@ -53,7 +53,6 @@ void RibSetDialog::PoseMotsCommuns() {
     const auto word = [this](LngKey key) { return Q(programme_.Text(key)); };
     for (QPushButton *browse : {&cmdouvrir[0], &cmdouvrir[1], &cmdrechercheevol}) {
         browse->setText(word({"FrmDefaut", "14"}));
-        browse->setAutoDefault(false);
         SetTip(*browse, programme_.Text({"TextButton", "7"}));
     }
     Lblsav.setText(word({"FrmDefaut", "15"}));

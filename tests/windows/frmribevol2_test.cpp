@@ -188,6 +188,51 @@ TEST_F(Frmribevol2Test, ApplyMarksTheGapKeepsItsTextsAndSumsThePanel) {
     });
 }
 
+TEST_F(Frmribevol2Test, ReturnInTheFieldsOfAGapApplies) {
+    Use([this](frmribevol2 &window) {
+        Ready(window);
+        Apply(window, 1, "", "50");
+        Apply(window, 2, "3", "60.5");
+        Type(window, "TextEprNevure", "4");
+        QTest::keyClick(&Box(window, "TextEprNevure"), Qt::Key_Return);
+        EXPECT_EQ(Label(window, "LblLongTotAffich"), " 118.5 mm");
+        Type(window, "TextEcartNevure", "70");
+        QTest::keyClick(&Box(window, "TextEcartNevure"), Qt::Key_Return);
+        EXPECT_EQ(Label(window, "LblLongTotAffich"), " 128. mm");
+        EXPECT_THAT(Files(), ElementsAre());
+        // Elsewhere it is Compute.
+        Box(window, "txtcorde(0)").setFocus();
+        platform.Expect(BoxAnswer::ok);
+        QTest::keyClick(&Box(window, "txtcorde(0)"), Qt::Key_Return);
+        EXPECT_EQ(Files().size(), 4U);
+    });
+}
+
+TEST_F(Frmribevol2Test, TheNumberOfTheGapThatIsShownIsBold) {
+    Use([this](frmribevol2 &window) {
+        Ready(window);
+        const auto bold = [&window](int k) { return Gap(window, k).font().bold(); };
+        EXPECT_FALSE(bold(1) || bold(2));
+        Apply(window, 1, "", "50");
+        EXPECT_TRUE(bold(1) && !bold(2));
+        ClickGap(window, 2);
+        EXPECT_TRUE(!bold(1) && bold(2));
+        Type(window, "txtcorde(1)", "");
+        platform.Expect(BoxAnswer::ok);
+        ClickGap(window, 1);
+        EXPECT_FALSE(bold(1) || bold(2));
+    });
+}
+
+TEST_F(Frmribevol2Test, ReturnOnAButtonPressesThatButton) {
+    Use([this](frmribevol2 &window) {
+        view.picked = Diamond("root", 0.1);
+        Find(window, "cmdouvrir(0)").setFocus();
+        QTest::keyClick(&Find(window, "cmdouvrir(0)"), Qt::Key_Return);
+        EXPECT_EQ(Text(window, "txtprofil(0)"), "root");
+    });
+}
+
 TEST_F(Frmribevol2Test, AGapThatCannotBeComputedIsToldAndNotMarked) {
     Inches();
     Use([this](frmribevol2 &window) {
