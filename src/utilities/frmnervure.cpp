@@ -60,6 +60,7 @@ void frmnervure::Calcule() {
     cmdprintnerv.setEnabled(false);
     calcule_ = false;
     Liste.Montre(nullptr);
+    Lblecart.clear();
     Label12.show();
     const auto refused =
         CalculeNervures(panneau_, TextesTapes(), programme_.SaisieEnCours(), Titre());

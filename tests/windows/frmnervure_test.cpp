@@ -105,8 +105,10 @@ TEST_F(FrmNervureTest, ARefusalClearsTheListAndStopsPrinting) {
     Fill({"200", "150", "3"});
     Click("cmdcalcul");
     EXPECT_TRUE(CanPrint());
+    EXPECT_NE(Label("Lblecart"), "");
     Type("txtnerv(0)", "");
     ExpectRefused("The major chord must be more than 0", "txtnerv(0)");
+    EXPECT_EQ(Label("Lblecart"), "");
     Type("txtnerv(0)", "100");
     ExpectRefused("The major chord is smaller than the minor chord.", "txtnerv(0)");
     Type("txtnerv(1)", "0");
