@@ -75,8 +75,10 @@ int Show(Programme &programme, const std::vector<std::string> &files) {
 
 /// Whether the toolkit has anywhere to show a window; without, it would end the process.
 bool HasDisplay(int argc, char **argv) {
-    return std::any_of(argv + 1, argv + argc,
-                       [](std::string_view word) { return word.ends_with("-platform"); }) ||
+    const auto chooses = [](std::string_view word) {
+        return word.ends_with("-platform") || word.ends_with("-display");
+    };
+    return std::any_of(argv + 1, argv + argc, chooses) ||
            std::any_of(kDisplays.begin(), kDisplays.end(), [](const char *name) {
                const char *value = std::getenv(name);
                return value != nullptr && *value != '\0';

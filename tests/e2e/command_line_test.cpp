@@ -101,6 +101,9 @@ TEST(Info, ARefusedFileSaysWhyAndTheOthersGoOn) {
     EXPECT_THAT(ran.out, HasSubstr("bad \\\"x\\\".dat\", \"refused\": \""));
     EXPECT_THAT(ran.out, HasSubstr("File not found"));
     EXPECT_THAT(ran.out, HasSubstr("\"thickness\": 0.120"));
+    // Readable lines have no place for the name of a file that has none.
+    const Ran readable = RunLoftwing({"info", few, Sample("naca0012.dat")});
+    EXPECT_THAT(readable.err, HasSubstr("loftwing: " + few + " was refused\n"));
 }
 
 TEST(Info, ReadableLinesNameTheAirfoil) {
