@@ -2,7 +2,12 @@
 
 #include "windows/rib_set_fixture.h"
 
+#include <QElapsedTimer>
+#include <QProgressDialog>
+
 #include <gmock/gmock.h>
+
+#include <cmath>
 
 namespace loftwing {
 namespace {
@@ -174,6 +179,86 @@ TEST_F(FrmribevolTest, NinetyRibsMakeNinetyTwoFilesAndAShortMessage) {
         Click(window, "cmdcalcul");
     });
     EXPECT_EQ(Files().size(), 93U);
+}
+
+/// Notes what a progress display shows of itself.
+class ProgressWatch : public QObject {
+  public:
+    ProgressWatch() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject *watched, QEvent *event) override {
+        if (event->type() == QEvent::Show) {
+            if (const auto *progress = qobject_cast<QProgressDialog *>(watched)) {
+                title = S(progress->windowTitle());
+                maximum = progress->maximum();
+                blocks_only_its_window = progress->windowModality() == Qt::WindowModal;
+                ++shown;
+            }
+        }
+        return false;
+    }
+
+    int shown = 0;
+    std::string title;
+    int maximum = 0;
+    bool blocks_only_its_window = false;
+};
+
+/// An ellipse of 2 * `half` + 1 points.
+ProfilChoisi Ellipse(const std::string &name, double height, int half) {
+    ProfilChoisi chosen;
+    chosen.NomProfil = name;
+    for (int i = -half; i <= half; ++i) {
+        const double x = std::abs(i) / static_cast<double>(half);
+        chosen.ProfilX.Append(x);
+        chosen.ProfilY.Append((i < 0 ? 2 : -2) * height * std::sqrt(x - x * x));
+        ++chosen.NbPoints;
+    }
+    return chosen;
+}
+
+TEST_F(FrmribevolTest, ASetThatTakesLongShowsItsProgress) {
+    const ProgressWatch watch;
+    qint64 took = 0;
+    Use([this, &took](frmribevol &window) {
+        constexpr int kHalf = 16000;
+        Pick(window, 0, Ellipse("root", 0.1, kHalf));
+        Pick(window, 1, Ellipse("tip", 0.05, kHalf));
+        TypeAll(window, "90", "200", "100");
+        platform.Expect(BoxAnswer::ok);
+        QElapsedTimer timer;
+        timer.start();
+        Click(window, "cmdcalcul");
+        took = timer.elapsed();
+        EXPECT_TRUE(window.isVisible());
+        EXPECT_FALSE(window.findChild<QProgressDialog *>()); // gone with the last file
+    });
+    EXPECT_EQ(Files().size(), 93U);
+    if (took < 700) {
+        GTEST_SKIP() << "done in " << took << " ms";
+    }
+    EXPECT_EQ(watch.shown, 1);
+    EXPECT_EQ(watch.title, "Full set of ribs");
+    EXPECT_EQ(watch.maximum, 92);
+    EXPECT_TRUE(watch.blocks_only_its_window);
+}
+
+TEST_F(FrmribevolTest, AQuickSetShowsNoProgress) {
+    const ProgressWatch watch;
+    qint64 took = 0;
+    Use([this, &took](frmribevol &window) {
+        PickBoth(window);
+        TypeAll(window, "1", "200", "100");
+        platform.Expect(BoxAnswer::ok);
+        QElapsedTimer timer;
+        timer.start();
+        Click(window, "cmdcalcul");
+        took = timer.elapsed();
+    });
+    if (took >= 500) {
+        GTEST_SKIP() << "took " << took << " ms";
+    }
+    EXPECT_EQ(watch.shown, 0);
 }
 
 TEST_F(FrmribevolTest, StationsThatFindNoPairAreToldAndTheWindowStays) {
