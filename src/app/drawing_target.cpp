@@ -42,33 +42,26 @@ const ExportForm &FormNamed(const Arguments &arguments, const DrawingVerb &verb,
     return *form;
 }
 
-/// A step for some FILEs that goes on after a failure, which is told behind `prefix`.
-bool Tried(const std::string &prefix, const std::function<bool()> &step) {
-    try {
-        return step();
-    } catch (const Failure &failure) {
-        std::cerr << "loftwing: " << prefix << failure.description << '\n';
-        return false;
-    }
-}
-
 /// Runs the drawing of some FILEs. A failure to draw is told with the first one's name; one to
 /// write names OUT itself.
 bool DrawAndDeliver(const DrawingTarget &target, const std::vector<std::string> &files,
                     const Draw &draw) {
-    bool complete = false;
-    std::optional<std::string> bytes;
-    const bool tried = Tried(files.front() + ": ", [&] {
-        bytes = draw(target, files, complete);
-        return true;
-    });
-    if (!bytes) {
-        if (tried && target.several) {
-            NameRefused(files.front());
+    std::string concerned = files.front() + ": ";
+    try {
+        bool complete = false;
+        const auto bytes = draw(target, files, complete);
+        if (!bytes) {
+            if (target.several) {
+                NameRefused(files.front());
+            }
+            return false;
         }
+        concerned.clear();
+        return Deliver(target, files.front(), *bytes) && complete;
+    } catch (const Failure &failure) {
+        std::cerr << "loftwing: " << concerned << failure.description << '\n';
         return false;
     }
-    return Tried("", [&] { return Deliver(target, files.front(), *bytes); }) && complete;
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "programme/special_views.h"
 
 #include <algorithm>
+#include <functional>
 #include <initializer_list>
 #include <string_view>
 
@@ -75,24 +76,31 @@ bool OpenFor(ConsoleProgram &program, const Arguments &arguments, const std::str
     return true;
 }
 
+/// Opens an airfoil of a comparison and has it taken; one that can't be had is named.
+Preparation Take(ConsoleProgram &program, const Arguments &arguments, const std::string &file,
+                 bool keep_chord, const std::function<Preparation()> &prend) {
+    const Preparation taken =
+        OpenFor(program, arguments, file, keep_chord) ? prend() : Preparation::impossible;
+    if (taken == Preparation::impossible) {
+        NameRefused(file);
+    }
+    return taken;
+}
+
 std::optional<std::string> DrawCompare(const Arguments &arguments, const DrawingTarget &target,
                                        const std::vector<std::string> &files, bool &complete) {
     ConsoleProgram program(arguments);
     Programme &programme = program.Owner();
     ApplyPageOptions(arguments, programme);
-    const Preparation first = OpenFor(program, arguments, files[0], false)
-                                  ? PrendProfil1(programme)
-                                  : Preparation::impossible;
+    const Preparation first =
+        Take(program, arguments, files[0], false, [&programme] { return PrendProfil1(programme); });
     if (first == Preparation::impossible) {
-        NameRefused(files[0]);
         return std::nullopt;
     }
     const double haut1 = programme.rib.ExtradosMaxi;
-    const Preparation second = OpenFor(program, arguments, files[1], true)
-                                   ? PrendProfil2(programme, haut1)
-                                   : Preparation::impossible;
+    const Preparation second = Take(program, arguments, files[1], true,
+                                    [&programme, haut1] { return PrendProfil2(programme, haut1); });
     if (second == Preparation::impossible) {
-        NameRefused(files[1]);
         return std::nullopt;
     }
     complete = first == Preparation::complete && second == Preparation::complete;
