@@ -109,15 +109,14 @@ void frmribevol2::MarqueEcart() {
 
 void frmribevol2::LblNoNervInterm_Click(int k) {
     set_.NervCourante = ToInt16(k);
-    if (!Valide()) {
-        FrameDimensions.hide(); // it shows another gap, which Apply must not take for this one
-        MarqueEcart();
-        return;
-    }
-    FrameDimensions.show();
+    const bool valid = Valide();
+    // While refused it would show another gap, which Apply must not take for this one.
+    FrameDimensions.setVisible(valid);
     MarqueEcart();
-    Bleuit(At(LblNoNervInterm, k - 1));
-    MontreEcart();
+    if (valid) {
+        Bleuit(At(LblNoNervInterm, k - 1));
+        MontreEcart();
+    }
 }
 
 void frmribevol2::MontreEcart() {
