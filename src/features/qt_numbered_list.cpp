@@ -31,13 +31,9 @@ ClickLabel::ClickLabel(QWidget *parent) : QLabel(parent) {
 }
 
 void ClickLabel::keyPressEvent(QKeyEvent *event) {
-    switch (event->key()) {
-    case Qt::Key_Space:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
+    if (event->key() == Qt::Key_Space || IsReturn(event->key())) {
         Q_EMIT Clicked();
-        return;
-    default:
+    } else {
         QLabel::keyPressEvent(event);
     }
 }

@@ -260,12 +260,11 @@ void frmopen::reject() {
 }
 
 bool frmopen::ListKey(QListWidget &list, int key) {
-    const bool enters = key == Qt::Key_Return || key == Qt::Key_Enter;
     if (key == Qt::Key_Backspace) {
         Monte();
         return true;
     }
-    if (enters && &list == &Dir1) {
+    if (IsReturn(key) && &list == &Dir1) {
         Dir1_DblClick();
         return true;
     }
@@ -306,7 +305,7 @@ bool frmopen::eventFilter(QObject *watched, QEvent *event) {
     }
     const auto *pressed = static_cast<const QKeyEvent *>(event);
     const int key = pressed->key();
-    if (watched == &txtchemin && (key == Qt::Key_Return || key == Qt::Key_Enter)) {
+    if (watched == &txtchemin && IsReturn(key)) {
         txtchemin_Return();
         return true;
     }

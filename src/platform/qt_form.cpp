@@ -128,6 +128,10 @@ void NumericField::mouseReleaseEvent(QMouseEvent *event) {
     QLineEdit::mouseReleaseEvent(event);
 }
 
+bool IsReturn(int key) {
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
 void SelectField(QLineEdit &field) {
     field.setFocus();
     field.selectAll();

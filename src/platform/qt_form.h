@@ -50,6 +50,9 @@ class NumericField : public QLineEdit {
     QString Admitted(const QString &text) const;
 };
 
+/// Whether a key of the toolkit is Return, of either block of keys.
+bool IsReturn(int key);
+
 /// Gives a field the focus with its whole content selected, as after a refused entry.
 void SelectField(QLineEdit &field);
 

@@ -257,7 +257,7 @@ bool frmCoord::eventFilter(QObject *watched, QEvent *event) {
     }
     if (event->type() == QEvent::KeyPress && watched == &Liste_Valeurs) {
         const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_F2) {
+        if (IsReturn(key) || key == Qt::Key_F2) {
             Liste_Valeurs_DblClick();
             return true;
         }

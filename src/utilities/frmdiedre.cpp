@@ -12,11 +12,9 @@ constexpr int kAide = 60;
 
 /// What asks for a field's value: a double click or, without a mouse, Return in it.
 bool DemandeValeur(const QEvent &event) {
-    if (event.type() != QEvent::KeyPress) {
-        return event.type() == QEvent::MouseButtonDblClick;
-    }
-    const int key = static_cast<const QKeyEvent &>(event).key();
-    return key == Qt::Key_Return || key == Qt::Key_Enter;
+    return event.type() == QEvent::MouseButtonDblClick ||
+           (event.type() == QEvent::KeyPress &&
+            IsReturn(static_cast<const QKeyEvent &>(event).key()));
 }
 
 } // namespace
