@@ -70,24 +70,16 @@ bool PeutEtreListe(const std::string &folder) {
 } // namespace
 
 ProfilChoisi ProfilDuRib(const RibModel &rib) {
-    return {rib.NomProfil, rib.ProfilX, rib.ProfilY, rib.NbPoints};
+    return {rib.Partie<PointsLus>(), rib.NomProfil};
 }
 
 ProfilPrecedent::ProfilPrecedent(const RibModel &rib)
-    : chemin_(rib.CheminProfil), nom_(rib.NomProfil), entete_(rib.EnteteProfil),
-      extension_(rib.ExtProfil), charge_(rib.ProfilCharge),
-      texte_utilisateur_(rib.texte.TexteUtilisateur), points_(ProfilDuRib(rib)) {}
+    : identite_(rib), points_(rib), texte_utilisateur_(rib.texte.TexteUtilisateur) {}
 
 void ProfilPrecedent::Rend(RibModel &rib) const {
-    rib.CheminProfil = chemin_;
-    rib.NomProfil = nom_;
-    rib.EnteteProfil = entete_;
-    rib.ExtProfil = extension_;
-    rib.ProfilCharge = charge_;
+    rib.Partie<IdentiteProfil>() = identite_;
+    rib.Partie<PointsLus>() = points_;
     rib.texte.TexteUtilisateur = texte_utilisateur_;
-    rib.ProfilX = points_.ProfilX;
-    rib.ProfilY = points_.ProfilY;
-    rib.NbPoints = points_.NbPoints;
 }
 
 std::string CheminAbrege(const std::string &folder) {

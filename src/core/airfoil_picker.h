@@ -12,11 +12,8 @@
 namespace loftwing {
 
 /// An airfoil as the picker hands it to a tool: the points of its file, whose contour isn't made.
-struct ProfilChoisi {
+struct ProfilChoisi : PointsLus {
     std::string NomProfil;
-    PointList ProfilX;
-    PointList ProfilY;
-    std::int16_t NbPoints = 0;
 };
 
 /// The airfoil that the rib holds.
@@ -27,18 +24,14 @@ ProfilChoisi ProfilDuRib(const RibModel &rib);
 class ProfilPrecedent {
   public:
     explicit ProfilPrecedent(const RibModel &rib);
-    /// Puts CheminProfil, NomProfil, EnteteProfil, ExtProfil and ProfilCharge back, the points of
-    /// the file, and whether the inserted text is the user's own.
+    /// Puts the airfoil's identity and points back, and whether the inserted text is the user's
+    /// own.
     void Rend(RibModel &rib) const;
 
   private:
-    std::string chemin_;
-    std::string nom_;
-    std::string entete_;
-    std::string extension_;
-    bool charge_;
+    IdentiteProfil identite_;
+    PointsLus points_;
     bool texte_utilisateur_;
-    ProfilChoisi points_;
 };
 
 /// A folder as a label shows it: whole up to 30 characters, otherwise its first 12, "..." and its

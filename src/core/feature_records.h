@@ -53,13 +53,17 @@ struct CarreBord {
     float CarreBAY = 0; ///< axis above the reference line, mm
 };
 
-/// Levelling heel.
-struct Talon {
+/// What a levelling heel loses when another airfoil takes over the rib.
+struct HauteursTalon {
     std::int16_t OptTalon = 0; ///< 0 under the lower surface, 1 on the upper surface
     std::string TalonIntraAfich = "0";
     double TalonIntra = 0; ///< height under the lower surface, mm
     std::string TalonExtraAfich = "0";
     double TalonExtra = 0; ///< height on the upper surface, mm, negated
+};
+
+/// Levelling heel.
+struct Talon : HauteursTalon {
     std::string TalonBAAfich = "0";
     double TalonBA = 0; ///< margin at the leading edge, mm
     std::string TalonBFAfich = "0";

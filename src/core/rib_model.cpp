@@ -2,78 +2,46 @@
 
 #include "base/text_encoding.h"
 
-#include <algorithm>
-
 namespace loftwing {
 
 namespace {
 
 constexpr std::size_t kExtensionLength = 4; // the point and three letters
 
-template <class Slots, class Record>
-void ClearSlots(Slots &slots, std::uint8_t &count, Record blank) {
-    const int last = std::min<int>(count, kSlots - 1);
-    for (int slot = 0; slot <= last; ++slot) {
-        slots[static_cast<std::size_t>(slot)] = blank;
-    }
-    count = 0;
-}
-
 } // namespace
 
 void ValeursDefautRib(RibModel &rib) {
-    rib.corde = 200;
-    rib.cordeAfich = "200";
-    rib.EpCoffrage = 1.5F;
-    rib.EpCoffrageAfich = "1.5";
-    rib.EpBA = 0;
-    rib.EpBAAfich = "0";
-    rib.EpBF = 0;
-    rib.EpBFAfich = "0";
-    rib.vrillage = 0;
-    rib.NbRep = 0;
-    rib.TypeBA = 1;
-    rib.bloc = Bloc{};
-    rib.texte.TailleFont = 9;
-    rib.Zoom = 1;
-    rib.AffTrac = true;
-    rib.AffLignRef = true;
-    rib.AffHaut = false;
-    rib.ModeCouple = false;
-    RemetVue(rib);
+    rib.Partie<Dimensions>() = {};
+    rib.Partie<Vue>() = {};
+    rib.bloc = {};
+    rib.texte.TailleFont = TexteInsere{}.TailleFont;
 }
 
 void RazRib(RibModel &rib, float epba_mm) {
-    ClearSlots(rib.longeron, rib.NbLongeron, Longeron{});
-    ClearSlots(rib.trou, rib.NbTrou, Trou{});
-    rib.EpBF = 0;
-    rib.EpBFAfich = "0";
-    rib.EpBA = epba_mm;
-    rib.carre = CarreBord{};
-    rib.TypeBA = 1;
-    rib.NbRep = 0;
-    rib.vrillage = 0;
-    rib.TypeGabarit = kSansGabarit;
-    rib.talon = Talon{};
+    Dimensions cleared;
+    cleared.corde = rib.corde;
+    cleared.cordeAfich = rib.cordeAfich;
+    cleared.EpCoffrage = rib.EpCoffrage;
+    cleared.EpCoffrageAfich = rib.EpCoffrageAfich;
+    cleared.EpBA = epba_mm;
+    cleared.EpBAAfich = rib.EpBAAfich;
+    rib.Partie<Dimensions>() = cleared;
+    Ajouts bare;
     // Height and ramps are the user's defaults, which are read anew.
-    rib.bloc.HTbasbloc = 0;
-    rib.bloc.HTbasblocAfich = "0";
-    rib.bloc.CoupeBF = 0;
-    rib.bloc.CoupeBFAfich = "0";
-    rib.bloc.Optquebf = 0;
-    const bool own_words = rib.texte.TexteUtilisateur;
-    rib.texte = TexteInsere{};
-    rib.texte.TexteUtilisateur = own_words;
-    rib.jeu = JeuNervures{};
+    bare.bloc = rib.bloc;
+    bare.bloc.HTbasbloc = 0;
+    bare.bloc.HTbasblocAfich = "0";
+    bare.bloc.CoupeBF = 0;
+    bare.bloc.CoupeBFAfich = "0";
+    bare.bloc.Optquebf = 0;
+    bare.texte.TexteUtilisateur = rib.texte.TexteUtilisateur;
+    rib.Partie<Ajouts>() = bare;
+    rib.jeu = {};
     rib.LigneReserve.clear();
 }
 
 void ReprendProfil(RibModel &rib) {
-    rib.talon.TalonIntra = 0;
-    rib.talon.TalonIntraAfich = "0";
-    rib.talon.TalonExtra = 0;
-    rib.talon.TalonExtraAfich = "0";
-    rib.talon.OptTalon = 0;
+    static_cast<HauteursTalon &>(rib.talon) = {};
     rib.vrillage = 0;
     rib.Modifie = true;
     rib.NomFichierRib = rib.NomProfil;

@@ -1,121 +1,58 @@
 /// The one current rib.
 #pragma once
 
-#include "base/failure.h"
-#include "core/feature_records.h"
+#include "core/rib_parts.h"
 
-#include <array>
-#include <cstdint>
 #include <string>
-#include <string_view>
 
 namespace loftwing {
 
-/// Stations divide the chord into 400: station k lies at x = 1 - k/400, so 0 is the trailing and
-/// 400 the leading edge.
-inline constexpr int kLastStation = 400;
-using TableStation = std::array<double, kLastStation + 1>;
-
-/// What TypeGabarit says.
-inline constexpr std::uint8_t kSansGabarit = 0;
-inline constexpr std::uint8_t kGabaritMousse = 1;
-inline constexpr std::uint8_t kGabaritTalon = 11;
-
-/// Largest washout either way, degrees.
-inline constexpr float kVrillageMaxi = 20;
-
 /// The rib on which the whole program works. There is one for the life of the process; it is passed
-/// by reference and never copied. Lengths are in mm, airfoil coordinates in fractions of the chord.
-/// Point lists run from the trailing edge over the upper surface to the leading edge and back.
-struct RibModel {
+/// by reference and never copied. Its parts are: a trial, a snapshot or a view that is put back
+/// keeps the parts concerned and nothing else.
+struct RibModel : IdentiteProfil,
+                  FichierRib,
+                  PointsLus,
+                  ContourPrepare,
+                  NouvelleSection,
+                  Dimensions,
+                  Ajouts,
+                  Vue {
     RibModel() = default;
     RibModel(const RibModel &) = delete;
     RibModel &operator=(const RibModel &) = delete;
 
-    // The airfoil's identity.
-    std::string CheminProfil;  ///< full path of its file
-    std::string NomProfil;     ///< file name without its last four characters
-    std::string ExtProfil;     ///< last three characters of the file name
-    std::string EnteteProfil;  ///< first line of the file, trimmed
-    std::string NomFichierRib; ///< name proposed for the rib components file
-    std::string LigneReserve;  ///< spare line of that file; nothing else knows it
-    bool ProfilCharge = false;
-    bool Modifie = false;
-    bool FichierRibOuvert = false; ///< the rib came from a rib components file
+    /// One of the parts, to be copied or replaced as a whole.
+    template <class Part>
+    Part &Partie() {
+        return *this;
+    }
+    template <class Part>
+    const Part &Partie() const {
+        return *this;
+    }
 
-    // The airfoil as read.
-    PointList ProfilX;
-    PointList ProfilY;
-    std::int16_t NbPoints = 0; ///< 0 after a failed reading
-
-    // What contour preparation makes of it.
-    PointList ContourX;
-    PointList ContourY;
-    std::int16_t NbContour = 0;
-    std::int16_t NbExtrados = 0; ///< count of the run from the trailing to the leading edge
-    PointList IntradosX;         ///< lower surface, from the trailing to the leading edge
-    PointList IntradosY;
-    std::int16_t NbIntrados = 0;
-    TableStation TabExtrados{}; ///< heights of the upper surface
-    TableStation TabIntrados{}; ///< heights of the lower surface
-    double EpMaxi = 0;          ///< greatest thickness
-    double PosEpMaxi = 0;       ///< count of its new maxima, less one
-    double CambrureMaxi = 0;    ///< greatest camber
-    std::int16_t PosCambrure = 0;
-    double MiniX = 0;
-    double ExtradosMaxi = 0; ///< top of the upper surface, never below 0
-    double IntradosMini = 0; ///< bottom of the lower surface, never above 0
-
-    // The same section with another thickness and camber, in fractions of the chord.
-    TableStation NouvExtrados{};
-    TableStation NouvIntrados{};
-    double NouvEpaisseur = 0; ///< 0 while none has been applied
-    double NouvCambrure = 0;
-
-    // Dimensions.
-    float corde = 200;
-    std::string cordeAfich = "200";
-    float EpCoffrage = 1.5F; ///< sheeting
-    std::string EpCoffrageAfich = "1.5";
-    float EpBA = 0; ///< leading edge stock
-    std::string EpBAAfich = "0";
-    float EpBF = 0; ///< trailing edge stock
-    std::string EpBFAfich = "0";
-    float vrillage = 0;      ///< washout, degrees
-    std::uint8_t NbRep = 0;  ///< inner station lines
-    std::uint8_t TypeBA = 1; ///< 1 stock, 0 V-notch square
-
-    // What is added to the rib.
-    std::array<Longeron, kSlots> longeron;
-    std::uint8_t NbLongeron = 0;
-    std::array<Trou, kSlots> trou;
-    std::uint8_t NbTrou = 0;
-    CarreBord carre;
-    std::uint8_t TypeGabarit = kSansGabarit;
-    Talon talon;
-    Bloc bloc;
-    TexteInsere texte;
-    JeuNervures jeu;
-
-    // The view.
-    float Zoom = 1;
-    std::int16_t DecalX = 0;
-    std::int16_t DecalY = 0;
-    bool AffTrac = true;
-    bool AffLignRef = true;
-    bool AffHaut = false;   ///< shown upside down
-    bool AffEpr = false;    ///< thickness text shown (mnu_affepr)
-    bool AffHautBA = false; ///< height at the leading edge shown (mnu_affhautba)
-    bool AffHautBF = false; ///< height at the trailing edge shown (mnu_affhautbf)
-    bool ModeCompare = false;
-    bool ModeEpCourb = false;
-    bool ModeCouple = false;
+    JeuNervures jeu; ///< of a tool; it isn't the rib's
 
     // What dialogs tell the command that opened them.
     bool Annule = false;
     bool SansApercu = false;
-    bool LectureEnCours = false;
+    bool LectureEnCours = false; ///< how the last reading ended, beside its result
     bool MemProfil = false;
+};
+
+/// Puts a part of the rib back, when its scope is left, as it was at the start.
+template <class Part>
+class PartieGardee {
+  public:
+    explicit PartieGardee(RibModel &rib) : rib_(rib), avant_(rib.Partie<Part>()) {}
+    PartieGardee(const PartieGardee &) = delete;
+    PartieGardee &operator=(const PartieGardee &) = delete;
+    ~PartieGardee() { rib_.Partie<Part>() = avant_; }
+
+  private:
+    RibModel &rib_;
+    const Part avant_;
 };
 
 /// The rib's values of a newly made program: dimensions of 200 mm chord and 1.5 mm sheeting, and

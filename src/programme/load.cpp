@@ -72,19 +72,13 @@ void VideRib(Programme &programme) {
                  programme.paths.fichier);
     rib.EpMaxi = 0;
     rib.CambrureMaxi = 0;
-    rib.AffHaut = false;
-    rib.AffTrac = true;
-    rib.AffLignRef = true;
-    rib.AffEpr = false;
-    rib.AffHautBA = false;
-    rib.AffHautBF = false;
+    rib.Partie<Vue>() = {};
     rib.NomProfil.clear();
     rib.EnteteProfil.clear();
     rib.ProfilCharge = false;
     rib.Modifie = false;
     rib.Annule = false;
     rib.SansApercu = false;
-    rib.ModeCouple = false;
     rib.FichierRibOuvert = false;
 }
 

@@ -7,28 +7,11 @@
 namespace loftwing {
 
 std::function<void()> RetourDuRib(RibModel &rib) {
-    struct Dimensions {
-        float corde, EpCoffrage, EpBA, vrillage;
-        std::string cordeAfich, EpCoffrageAfich, EpBAAfich;
-        Talon talon;
-        Bloc bloc;
-        TexteInsere texte;
-        bool Modifie;
-    };
-    return [&rib, before = Dimensions{rib.corde, rib.EpCoffrage, rib.EpBA, rib.vrillage,
-                                      rib.cordeAfich, rib.EpCoffrageAfich, rib.EpBAAfich, rib.talon,
-                                      rib.bloc, rib.texte, rib.Modifie}] {
-        rib.corde = before.corde;
-        rib.EpCoffrage = before.EpCoffrage;
-        rib.EpBA = before.EpBA;
-        rib.vrillage = before.vrillage;
-        rib.cordeAfich = before.cordeAfich;
-        rib.EpCoffrageAfich = before.EpCoffrageAfich;
-        rib.EpBAAfich = before.EpBAAfich;
-        rib.talon = before.talon;
-        rib.bloc = before.bloc;
-        rib.texte = before.texte;
-        rib.Modifie = before.Modifie;
+    return [&rib, dimensions = rib.Partie<Dimensions>(), ajouts = rib.Partie<Ajouts>(),
+            modifie = rib.Modifie] {
+        rib.Partie<Dimensions>() = dimensions;
+        rib.Partie<Ajouts>() = ajouts;
+        rib.Modifie = modifie;
     };
 }
 

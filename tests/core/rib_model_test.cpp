@@ -43,6 +43,53 @@ TEST(RibModel, StartsWithTheDefaultsOfANewProgram) {
     EXPECT_FALSE(rib.ModeCompare);
 }
 
+TEST(RibModel, APartIsCopiedAndPutBackAsAWhole) {
+    RibModel rib;
+    rib.longeron[3].PosLongAfich = "33%";
+    rib.NbTrou = 2;
+    rib.texte.InsTexte = "words";
+    rib.corde = 150;
+    const Ajouts kept = rib.Partie<Ajouts>();
+    rib.longeron[3].PosLongAfich = "0";
+    rib.NbTrou = 0;
+    rib.texte.InsTexte.clear();
+    rib.corde = 80;
+    rib.Partie<Ajouts>() = kept;
+    EXPECT_EQ(rib.longeron[3].PosLongAfich, "33%");
+    EXPECT_EQ(rib.NbTrou, 2);
+    EXPECT_EQ(rib.texte.InsTexte, "words");
+    EXPECT_EQ(rib.corde, 80.0F) << "another part's";
+}
+
+TEST(RibModel, AGuardedPartComesBackHoweverItsScopeIsLeft) {
+    RibModel rib;
+    rib.Zoom = 3;
+    rib.DecalX = 7;
+    try {
+        const PartieGardee<Vue> view(rib);
+        rib.Zoom = 1;
+        rib.DecalX = 0;
+        rib.corde = 90;
+        throw MakeFailure(kOverflow);
+    } catch (const Failure &) {
+        EXPECT_EQ(rib.Zoom, 3.0F);
+        EXPECT_EQ(rib.DecalX, 7);
+        EXPECT_EQ(rib.corde, 90.0F);
+    }
+}
+
+TEST(RibModel, AFreshPartHasTheDefaultsOfANewProgram) {
+    const RibModel fresh;
+    RibModel rib;
+    rib.corde = 1;
+    rib.EpCoffrageAfich = "9";
+    rib.TypeBA = 0;
+    rib.Partie<Dimensions>() = {};
+    EXPECT_EQ(rib.corde, fresh.corde);
+    EXPECT_EQ(rib.EpCoffrageAfich, fresh.EpCoffrageAfich);
+    EXPECT_EQ(rib.TypeBA, 1);
+}
+
 TEST(RazRib, ClearsTheFeatures) {
     RibModel rib;
     rib.NbLongeron = 2;
