@@ -23,7 +23,7 @@ inline constexpr int kAllWords = 0;
 struct OptionRule {
     const char *name;  ///< "--chord"
     const char *value; ///< what it takes, for the help; null for a switch
-    const char *help;
+    std::string help;
     bool repeatable = false;
     int values = 1; ///< number of words that it takes, or kAllWords
 };

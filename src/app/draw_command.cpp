@@ -9,7 +9,7 @@ namespace loftwing {
 
 namespace {
 
-const DrawingVerb kDraw = {"draw", {"svg", "png", "pdf", "dxf", "lfw"}, 1, "a FILE"};
+const DrawingVerb kDraw = {"draw", kVueRib, 1, "a FILE"};
 
 std::optional<std::string> DrawRib(const Arguments &arguments, const DrawingTarget &target,
                                    const std::string &file, bool &complete) {
@@ -25,7 +25,7 @@ std::optional<std::string> DrawRib(const Arguments &arguments, const DrawingTarg
         return std::nullopt;
     }
     complete = prepared == Preparation::complete;
-    return target.form->Export(programme, PageOrRefusal(programme)).bytes;
+    return Dessine(programme, target);
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "app/toolkit.h"
 #include "base/failure.h"
 #include "base/whole_file.h"
+#include "output/sheeting.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -16,30 +17,54 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool Has(const DrawingVerb &verb, const ExportForm &form) {
-    return std::find(verb.forms.begin(), verb.forms.end(), form.extension) != verb.forms.end();
+/// The forms of a verb, those told apart by an option too.
+std::vector<const ExportForm *> FormsOf(const DrawingVerb &verb) {
+    std::vector<const ExportForm *> forms;
+    for (const ExportForm &form : ExportForms()) {
+        if ((form.vues & verb.vue) != 0) {
+            forms.push_back(&form);
+        }
+    }
+    return forms;
 }
 
-std::string Listed(const std::vector<std::string> &forms) {
+/// "dxf, pdf, svg"
+std::string Listed(const DrawingVerb &verb) {
     std::string names;
-    for (const std::string &form : forms) {
-        names += (names.empty() ? "" : ", ") + form;
+    for (const ExportForm *form : FormsOf(verb)) {
+        if (form->option == nullptr) {
+            names += (names.empty() ? "" : ", ") + form->extension;
+        }
     }
     return names;
 }
 
+/// The form of an extension that the words ask for by an option of it; null without one. Throws
+/// UsageError for an option that names none.
+const ExportForm *VariantNamed(const Arguments &arguments, const DrawingVerb &verb,
+                               const ExportForm &usual) {
+    for (const ExportForm *form : FormsOf(verb)) {
+        if (form->option == nullptr || !arguments.Has(form->option)) {
+            continue;
+        }
+        if (arguments.Value(form->option) != form->variant) {
+            throw UsageError(std::string(form->option) + " takes " + form->variant);
+        }
+        if (form->extension == usual.extension) {
+            return form;
+        }
+    }
+    return nullptr;
+}
+
 const ExportForm &FormNamed(const Arguments &arguments, const DrawingVerb &verb,
                             const std::string &extension) {
-    const std::string variant = arguments.Value("--dxf");
-    if (arguments.Has("--dxf") && FindExportForm("dxf", variant) == nullptr) {
-        throw UsageError("--dxf takes plain");
+    const ExportForm *usual = FindExportForm(extension);
+    if (usual == nullptr || (usual->vues & verb.vue) == 0) {
+        throw UsageError("no form \"" + extension + "\"; there are " + Listed(verb));
     }
-    const bool dxf = FindExportForm(extension) == FindExportForm("dxf");
-    const ExportForm *form = FindExportForm(extension, dxf ? variant : std::string());
-    if (form == nullptr || !Has(verb, *form)) {
-        throw UsageError("no form \"" + extension + "\"; there are " + Listed(verb.forms));
-    }
-    return *form;
+    const ExportForm *variant = VariantNamed(arguments, verb, *usual);
+    return variant == nullptr ? *usual : *variant;
 }
 
 /// Runs the drawing of some FILEs. A failure to draw is told with the first one's name; one to
@@ -69,8 +94,8 @@ bool DrawAndDeliver(const DrawingTarget &target, const std::vector<std::string> 
 std::vector<OptionRule> DrawingOptions(const DrawingVerb &verb) {
     std::vector<OptionRule> rules = {
         {"--output", "OUT",
-         "file to write, also -o; its extension chooses the form, - is "
-         "standard output"},
+         "file to write, also -o; its extension (" + Listed(verb) +
+             ") chooses the form, - is standard output"},
         {"--to", "EXT",
          verb.files_each == 1 ? "form of several drawings, which go to the folder -o DIR/"
                               : "form of the drawing on standard output"},
@@ -78,8 +103,10 @@ std::vector<OptionRule> DrawingOptions(const DrawingVerb &verb) {
          "where to search for the airfoil of a rib components file (may be repeated; default: the "
          "file's folder)",
          true}};
-    if (std::find(verb.forms.begin(), verb.forms.end(), "dxf") != verb.forms.end()) {
-        rules.push_back({"--dxf", "plain", "the clean form of DXF for cutters"});
+    for (const ExportForm *form : FormsOf(verb)) {
+        if (form->option != nullptr) {
+            rules.push_back({form->option, form->variant, form->option_help});
+        }
     }
     return rules;
 }
@@ -123,13 +150,20 @@ bool Deliver(const DrawingTarget &target, const std::string &file, const std::st
     return true;
 }
 
-std::function<void()> PageOrRefusal(Programme &programme) {
-    return [&programme] {
-        if (programme.settings.page.recouvrement == 0.0F) {
-            programme.messages.Inform(programme.Text({"FrmPrint", "24"}), "--overlap");
-            programme.rib.Annule = true;
+std::optional<std::string> Dessine(Programme &programme, const DrawingTarget &target) {
+    // Nothing was shown before: the form that goes on from the last plot starts primed as well.
+    programme.plot = EtatAmorce(programme.rib);
+    Exported exported = target.form->Export(programme, [&programme] {
+        if (programme.settings.page.recouvrement != 0.0F) {
+            return true;
         }
-    };
+        programme.messages.Inform(programme.Text({"FrmPrint", "24"}), "--overlap");
+        return false;
+    });
+    if (exported.rupture) {
+        throw *exported.rupture;
+    }
+    return std::move(exported.bytes);
 }
 
 int DrawAll(const Arguments &arguments, const DrawingVerb &verb, const Draw &draw) {

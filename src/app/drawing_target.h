@@ -21,12 +21,13 @@ struct DrawingTarget {
 /// What a verb that draws can do.
 struct DrawingVerb {
     const char *name;
-    std::vector<std::string> forms; ///< extensions
-    std::size_t files_each;         ///< FILEs of one drawing
-    const char *wants;              ///< "a FILE", for the message of wrong usage
+    VueExport vue;          ///< the view that it draws
+    std::size_t files_each; ///< FILEs of one drawing
+    const char *wants;      ///< "a FILE", for the message of wrong usage
 };
 
-/// The options --output, --to and --airfoils, and --dxf where the verb has that form.
+/// The options --output, --to and --airfoils, and those that tell the verb's forms of one extension
+/// apart.
 std::vector<OptionRule> DrawingOptions(const DrawingVerb &verb);
 
 /// Throws UsageError for words that name no place, no form, or one that the verb doesn't have.
@@ -36,8 +37,10 @@ DrawingTarget TargetOf(const Arguments &arguments, const DrawingVerb &verb);
 /// False when standard output is.
 bool Deliver(const DrawingTarget &target, const std::string &file, const std::string &bytes);
 
-/// A page for the PDF; the command line can't ask for an overlap, so it must have one.
-std::function<void()> PageOrRefusal(Programme &programme);
+/// Exports the current view of a program that has shown nothing yet. A PDF of several sheets must
+/// have its overlap, for which nobody can be asked. Nothing when it was refused; a line told why.
+/// Failures as the form's.
+std::optional<std::string> Dessine(Programme &programme, const DrawingTarget &target);
 
 /// The bytes of a drawing, nothing when anything was refused; `complete` says whether nothing was
 /// amiss on the way.

@@ -15,8 +15,8 @@ namespace loftwing {
 
 namespace {
 
-const DrawingVerb kPlot = {"plot", {"svg", "png", "pdf", "dxf"}, 1, "a FILE"};
-const DrawingVerb kCompare = {"compare", {"svg", "png", "pdf"}, 2, "FILE1 FILE2"};
+const DrawingVerb kPlot = {"plot", kVueCouple, 1, "a FILE"};
+const DrawingVerb kCompare = {"compare", kVueCompare, 2, "FILE1 FILE2"};
 
 /// The options of a view: those of its drawing, some of the rib's, page and common ones.
 std::vector<OptionRule> ViewOptions(const DrawingVerb &verb,
@@ -52,7 +52,7 @@ std::optional<std::string> DrawPlot(const Arguments &arguments, const DrawingTar
     if (!ApplyRibOptions(arguments, programme)) {
         return std::nullopt;
     }
-    return target.form->Export(programme, PageOrRefusal(programme)).bytes;
+    return Dessine(programme, target);
 }
 
 /// Reads an airfoil of a comparison: its points alone, as the window takes them. Of a rib
@@ -108,7 +108,7 @@ std::optional<std::string> DrawCompare(const Arguments &arguments, const Drawing
     if (!ApplyRibOptions(arguments, programme)) {
         return std::nullopt;
     }
-    return target.form->Export(programme, PageOrRefusal(programme)).bytes;
+    return Dessine(programme, target);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "mainwindow/commands.h"
 
 #include "mainwindow/frmmain.h"
+#include "programme/qt_export_forms.h"
 
 namespace loftwing {
 
@@ -33,9 +34,30 @@ Command Below(Command command) {
     return command;
 }
 
+void Ajoute(std::vector<Command> &commands, const std::vector<Command> &more) {
+    commands.insert(commands.end(), more.begin(), more.end());
+}
+
+/// What is written from every view stays alive in those that stand in the rib's place.
+unsigned GroupesExport(const EntreeExport &entree) {
+    return (VuesDe(entree) & kVueCompare) != 0 ? kPaper : kFile;
+}
+
+std::vector<Command> ExportEntries(const char *menu) {
+    std::vector<Command> entries;
+    for (const EntreeExport *entree : EntreesExport()) {
+        Command command =
+            Entry(entree->controle, menu, entree->texte, GroupesExport(*entree), nullptr);
+        command.exporte = entree;
+        command.separator = entries.empty();
+        entries.push_back(command);
+    }
+    return entries;
+}
+
 std::vector<Command> FileMenu() {
     const char *menu = "mnu_file";
-    return {
+    std::vector<Command> commands = {
         Menu(menu, {"MenuFile", "1"}),
         Entry("mnu_fileopen", menu, {"MenuFile", "2"}, kAlways, &frmmain::mnu_fileopen_Click,
               "Ctrl+Shift+O"),
@@ -43,18 +65,20 @@ std::vector<Command> FileMenu() {
               &frmmain::mnu_fileprofilopen_Click, "Ctrl+O"),
         Entry("mnu_filesaveas", menu, {"MenuFile", "4"}, kFile, &frmmain::mnu_filesaveas_Click,
               "Ctrl+Shift+S"),
-        Below(Entry("mnu_filedxf", menu, {"MenuFile", "5"}, kFile, &frmmain::mnu_filedxf_Click)),
-        Entry("mnu_filepdf", menu, {"MenuFile", "11"}, kPaper, &frmmain::mnu_filepdf_Click),
-        Entry("mnu_filesvg", menu, {"MenuFile", "12"}, kPaper, &frmmain::mnu_filesvg_Click),
-        Below(Entry("mnu_filepage", menu, {"MenuFile", "6"}, kPaper, &frmmain::mnu_filepage_Click)),
-        Entry("mnu_fileprinterconfig", menu, {"MenuFile", "7"}, kPaper,
-              &frmmain::mnu_fileprinterconfig_Click),
-        Entry("mnu_fileprintpreview", menu, {"MenuFile", "8"}, kAlways, nullptr),
-        Entry("mnu_fileprint", menu, {"MenuFile", "9"}, kPaper, &frmmain::mnu_fileprint_Click,
-              "Ctrl+P"),
-        Below(Entry("mnu_fileexit", menu, {"MenuFile", "10"}, kAlways, &frmmain::mnu_fileexit_Click,
-                    "Ctrl+Q")),
     };
+    Ajoute(commands, ExportEntries(menu));
+    Ajoute(commands, {
+                         Below(Entry("mnu_filepage", menu, {"MenuFile", "6"}, kPaper,
+                                     &frmmain::mnu_filepage_Click)),
+                         Entry("mnu_fileprinterconfig", menu, {"MenuFile", "7"}, kPaper,
+                               &frmmain::mnu_fileprinterconfig_Click),
+                         Entry("mnu_fileprintpreview", menu, {"MenuFile", "8"}, kAlways, nullptr),
+                         Entry("mnu_fileprint", menu, {"MenuFile", "9"}, kPaper,
+                               &frmmain::mnu_fileprint_Click, "Ctrl+P"),
+                         Below(Entry("mnu_fileexit", menu, {"MenuFile", "10"}, kAlways,
+                                     &frmmain::mnu_fileexit_Click, "Ctrl+Q")),
+                     });
+    return commands;
 }
 
 std::vector<Command> ViewMenu() {
@@ -154,7 +178,7 @@ std::vector<Command> AllMenus() {
     std::vector<Command> all;
     for (const auto &menu :
          {FileMenu(), ViewMenu(), RibMenu(), LayoutMenu(), ToolsMenu(), HelpMenu()}) {
-        all.insert(all.end(), menu.begin(), menu.end());
+        Ajoute(all, menu);
     }
     return all;
 }

@@ -10,6 +10,7 @@
 namespace loftwing {
 
 class frmmain;
+struct EntreeExport;
 
 /// Enabling groups that a command belongs to, as bits.
 enum CommandGroup : unsigned {
@@ -34,9 +35,10 @@ struct Command {
     const char *keys; ///< shortcut, may be null
     unsigned groups;  ///< CommandGroup bits
     bool checkable;
-    bool submenu;               ///< a menu of its own rather than an entry
-    bool separator;             ///< a line before it
-    void (frmmain::*handler)(); ///< null: no action
+    bool submenu;                          ///< a menu of its own rather than an entry
+    bool separator;                        ///< a line before it
+    void (frmmain::*handler)();            ///< null: no action
+    const EntreeExport *exporte = nullptr; ///< of an entry that writes the drawing to a file
 };
 
 /// All menus and menu entries, in the order in which they stand.

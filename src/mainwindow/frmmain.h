@@ -5,7 +5,6 @@
 #include "mainwindow/commands.h"
 #include "mainwindow/pic_view.h"
 #include "mainwindow/toolkit_words.h"
-#include "output/print_run.h"
 #include "output/screen_plot.h"
 #include "programme/main_view.h"
 #include "programme/programme.h"
@@ -27,7 +26,7 @@
 
 namespace loftwing {
 
-struct ExportForm;
+struct EntreeExport;
 
 /// Menu bar, tool bar with six buttons and the zoom list, the picture with its scroll bars and the
 /// status bar. What a command does in depth is in the unit that it calls.
@@ -57,9 +56,6 @@ class frmmain : public QMainWindow, public MainView {
     void mnu_fileprofilopen_Click();
     void mnu_fileopen_Click();
     void mnu_filesaveas_Click();
-    void mnu_filedxf_Click();
-    void mnu_filepdf_Click();
-    void mnu_filesvg_Click();
     void mnu_filepage_Click();
     void mnu_fileprinterconfig_Click();
     void mnu_fileprint_Click() override;
@@ -168,7 +164,8 @@ class frmmain : public QMainWindow, public MainView {
     void AfficheFichiersRecents();
     /// Asks for one value; true unless it was cancelled.
     bool Saisit(const std::string &ModeSaisie);
-    Impression ImpressionEnCours();
+    /// Lets the user set up the page; false when that is cancelled.
+    bool RegleMiseEnPage();
     bool QuestionFin();
 
     // frmmain_tools.cpp
@@ -183,8 +180,7 @@ class frmmain : public QMainWindow, public MainView {
     /// Opens a rib components file with the airfoil that it names.
     void newLfw(const std::string &path);
     void EnregistreComposants();
-    void ExporteVersDxf();
-    void Exporte(const ExportForm &form);
+    void Exporte(const EntreeExport &entree);
 
     // frmmain_view.cpp
     /// Draws on a new recording and shows that. False when there is nothing new to be seen; after a

@@ -30,8 +30,13 @@ void frmmain::AddCommand(const Command &command) {
         if (command.keys != nullptr) {
             action->setShortcut(QKeySequence(QString::fromLatin1(command.keys)));
         }
-        connect(action, &QAction::triggered, this,
-                [this, &command] { Execute(command.name, command.handler); });
+        connect(action, &QAction::triggered, this, [this, &command] {
+            if (command.exporte != nullptr) {
+                Exporte(*command.exporte);
+            } else {
+                Execute(command.name, command.handler);
+            }
+        });
     }
     action->setObjectName(command.name);
     actions_[command.name] = action;

@@ -11,6 +11,7 @@
 #include "output/frmPrint.h"
 #include "output/frmcoul.h"
 #include "output/screen_plot.h"
+#include "output/sheeting.h"
 #include "output/view_plots.h"
 #include "persist/frmdefaut.h"
 #include "platform/qt_form.h"
@@ -44,16 +45,16 @@ void frmmain::mnuFileMRU_Click(const std::string &path) {
 }
 
 void frmmain::mnu_filepage_Click() {
+    RegleMiseEnPage();
+}
+
+bool frmmain::RegleMiseEnPage() {
     frmPrint dialog(programme_, this);
-    ShowModal(dialog);
+    return ShowModal(dialog) == QDialog::Accepted;
 }
 
 void frmmain::mnu_fileprinterconfig_Click() {
     programme_.platform.ShowPrinterSettings();
-}
-
-Impression frmmain::ImpressionEnCours() {
-    return ImpressionDeVue(programme_, programme_.plot);
 }
 
 void frmmain::mnu_fileprint_Click() {
@@ -62,8 +63,9 @@ void frmmain::mnu_fileprint_Click() {
                           kTitre)) {
         return;
     }
-    const Impression run = ImpressionEnCours();
-    if (!PrepareFeuilles(run, [this] { mnu_filepage_Click(); })) {
+    PlotState plot = EtatAmorce(programme_.rib);
+    const Impression run = ImpressionDeVue(programme_, plot);
+    if (!PrepareFeuilles(run, [this] { return RegleMiseEnPage(); })) {
         return;
     }
     const auto printer = programme_.platform.OpenPrinter(DemandeImprimante(run));

@@ -4,6 +4,7 @@
 #include "core/stations.h"
 #include "output/plot_steps.h"
 #include "output/rib_measures.h"
+#include "output/sheeting.h"
 
 #include <cmath>
 
@@ -40,8 +41,7 @@ void PrepareTrace(const Trace &trace) {
     PlotState &plot = trace.plot;
     const RibModel &rib = trace.rib;
     plot.Echelle = ToSingle(static_cast<double>(rib.Zoom) * kUnitsPerMm);
-    plot.EpRel =
-        ToSingle(Quotient(static_cast<double>(rib.EpCoffrage), static_cast<double>(rib.corde)));
+    plot.EpRel = EpaisseurRelative(rib);
     plot.IdxFinCoffr = 0;
     plot.EchelleY = rib.AffHaut ? -plot.Echelle : plot.Echelle;
     plot.CordeEchelleY = rib.AffHaut ? -plot.CordeEchelle : plot.CordeEchelle;

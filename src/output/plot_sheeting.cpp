@@ -2,6 +2,7 @@
 
 #include "core/stations.h"
 #include "output/plot_steps.h"
+#include "output/sheeting.h"
 
 #include <cmath>
 
@@ -9,19 +10,18 @@ namespace loftwing {
 
 namespace {
 
-/// Offsets of station k from its height and that of station k - 1. The height difference is not
-/// divided by the stations' spacing, and an angle in degrees goes to sine and cosine as if it were
-/// radians: the line leans a little instead of standing square to the surface, and ribs cut for
-/// years depend on this very line.
-void Decale(DecalageCoffrage &offsets, const TableStation &heights, long k, float EpRel) {
-    const double before = At(heights, k - 1);
-    const double here = At(heights, k);
-    const double thickness = static_cast<double>(EpRel);
-    const double angle = std::atan(before - here) * 180.0 / Pi();
-    const double lean = std::sin(angle) * thickness;
-    At(offsets.Angle, k) = angle;
-    At(offsets.DecalX, k) = here - before <= 0.0 ? lean : -lean;
-    At(offsets.DecalY, k) = std::cos(angle) * thickness;
+void Note(DecalageCoffrage &offsets, long k, const DecalageStation &station) {
+    At(offsets.Angle, k) = station.Angle;
+    At(offsets.DecalX, k) = station.DecalX;
+    At(offsets.DecalY, k) = station.DecalY;
+}
+
+DecalageCoffrage DecaleSurface(const TableStation &heights, float EpRel) {
+    DecalageCoffrage offsets;
+    for (long k = 1; k <= kLastStation; ++k) {
+        Note(offsets, k, Decale(heights, k, EpRel));
+    }
+    return offsets;
 }
 
 class Coffrage {
@@ -37,9 +37,9 @@ class Coffrage {
     Colour colour_;
 
     void DecaleStation(long k) const {
-        const PlotState &plot = trace_.plot;
-        Decale(trace_.plot.extra, trace_.rib.TabExtrados, k, plot.EpRel);
-        Decale(trace_.plot.intra, trace_.rib.TabIntrados, k, plot.EpRel);
+        PlotState &plot = trace_.plot;
+        Note(plot.extra, k, Decale(trace_.rib.TabExtrados, k, plot.EpRel));
+        Note(plot.intra, k, Decale(trace_.rib.TabIntrados, k, plot.EpRel));
     }
     double Sur(const DecalageCoffrage &offsets, long k) const {
         return trace_.X(static_cast<double>(k)) +
@@ -67,7 +67,8 @@ class Coffrage {
 };
 
 /// Sheeting between two stock lines. The first segment starts from offsets that this pass doesn't
-/// compute: an earlier plot left them. The lower line takes its height from the upper offsets.
+/// compute: an earlier plot left them, or EtatAmorce. The lower line takes its height from the
+/// upper offsets.
 void Coffrage::EntreBords() const {
     const int first = ToInt(static_cast<double>(trace_.plot.StationBF) + 1.0);
     const int last = ToInt(static_cast<double>(trace_.plot.StationBA));
@@ -82,8 +83,7 @@ void Coffrage::EntreBords() const {
 /// drawn, and the stations are counted.
 void Coffrage::JusquauBordFuite() const {
     PlotState &plot = trace_.plot;
-    const float stock = ToSingle(
-        Quotient(static_cast<double>(trace_.rib.EpBA), static_cast<double>(trace_.rib.corde)));
+    const float stock = ToSingle(Quotient(Wide(trace_.rib.EpBA), Wide(trace_.rib.corde)));
     const double cut = static_cast<double>(plot.CoupeRel);
     for (long k = 0; stock < ToSingle(static_cast<double>(kLastStation - k) / kLastStation); ++k) {
         DecaleStation(k + 1);
@@ -112,6 +112,34 @@ void Coffrage::Ferme() const {
 }
 
 } // namespace
+
+float EpaisseurRelative(const RibModel &rib) {
+    return ToSingle(Quotient(Wide(rib.EpCoffrage), Wide(rib.corde)));
+}
+
+DecalageStation Decale(const TableStation &heights, long k, float EpRel) {
+    const double before = At(heights, k - 1);
+    const double here = At(heights, k);
+    const double thickness = Wide(EpRel);
+    // The height difference is not divided by the stations' spacing, and an angle in degrees goes
+    // to sine and cosine as if it were radians: the line leans a little instead of standing square
+    // to the surface, and ribs cut for years depend on this very line.
+    const double angle = std::atan(before - here) * 180.0 / Pi();
+    const double lean = std::sin(angle) * thickness;
+    return {angle, here - before <= 0.0 ? lean : -lean, std::cos(angle) * thickness};
+}
+
+PlotState EtatAmorce(const RibModel &rib) {
+    PlotState plot;
+    try {
+        const float EpRel = EpaisseurRelative(rib);
+        plot.extra = DecaleSurface(rib.TabExtrados, EpRel);
+        plot.intra = DecaleSurface(rib.TabIntrados, EpRel);
+    } catch (const Failure &) {
+        // Of such a rib there is no plot either, and that says why.
+    }
+    return plot;
+}
 
 void TraceCoffrage(const Trace &trace) {
     trace.EnStyleDe(Element::coffrage);

@@ -13,6 +13,13 @@ struct DecalageCoffrage {
     TableStation DecalY{};
 };
 
+/// The same at one station.
+struct DecalageStation {
+    double Angle = 0;
+    double DecalX = 0;
+    double DecalY = 0;
+};
+
 /// Where the plot set a spar or a hole: stations of its front edge, its rear edge and its centre,
 /// and the surface heights there in fractions of the chord. Of a hole only the centre is looked up,
 /// since it may poke out of the rib.

@@ -77,7 +77,7 @@ std::string QuestionImpression(const RibModel &rib, const Comparaison &compare,
 
 namespace {
 
-bool DecideFeuilles(const Impression &run, const std::function<void()> &set_up_page) {
+bool DecideFeuilles(const Impression &run, const std::function<bool()> &set_up_page) {
     MiseEnPage &page = run.settings.page;
     if (page.NumIndex == kPapierImprimante) {
         return true;
@@ -88,9 +88,7 @@ bool DecideFeuilles(const Impression &run, const std::function<void()> &set_up_p
         return true;
     }
     if (page.recouvrement == 0.0F || page.NbPages == 0) {
-        run.rib.Annule = false;
-        set_up_page();
-        if (run.rib.Annule) {
+        if (!set_up_page()) {
             return false;
         }
         // The user may have chosen other paper.
@@ -108,7 +106,7 @@ bool DecideFeuilles(const Impression &run, const std::function<void()> &set_up_p
 
 } // namespace
 
-bool PrepareFeuilles(const Impression &run, const std::function<void()> &set_up_page) {
+bool PrepareFeuilles(const Impression &run, const std::function<bool()> &set_up_page) {
     try {
         return DecideFeuilles(run, set_up_page);
     } catch (const Failure &failure) {

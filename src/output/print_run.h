@@ -36,11 +36,11 @@ std::string QuestionImpression(const RibModel &rib, const Comparaison &compare,
                                const Messages &messages);
 
 /// Decides about the sheets before the printer is opened: one that fits sets the overlap to 0;
-/// tiling without overlap or page count lets the user set up the page (`set_up_page`, which sets
-/// rib.Annule when it is cancelled), and the count is then computed anew from the length in force.
+/// tiling without overlap or page count lets the user set up the page (`set_up_page`, false when
+/// that is cancelled), and the count is then computed anew from the length in force.
 /// False when nothing is to be printed; more than 255 sheets, and settings with a paper that the
 /// table hasn't, are reported before.
-bool PrepareFeuilles(const Impression &run, const std::function<void()> &set_up_page);
+bool PrepareFeuilles(const Impression &run, const std::function<bool()> &set_up_page);
 
 /// What the platform is asked for the run's paper.
 PrintQuestion DemandeImprimante(const Impression &run);

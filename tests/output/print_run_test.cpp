@@ -23,14 +23,18 @@ class PrintRun : public testing::Test {
     MiseEnPage &Page() { return world.settings.page; }
     /// Decides about the sheets; the page dialog may not come up.
     bool Prepare() {
-        return PrepareFeuilles(world.Run(), [] { ADD_FAILURE() << "page dialog"; });
+        return PrepareFeuilles(world.Run(), [] {
+            ADD_FAILURE() << "page dialog";
+            return false;
+        });
     }
     /// Decides about the sheets; the page dialog comes up once and the user does `work` in it.
-    bool PrepareWith(const std::function<void()> &work) {
+    bool PrepareWith(const std::function<void()> &work, bool accepted = true) {
         int opened = 0;
         const bool go = PrepareFeuilles(world.Run(), [&] {
             ++opened;
             work();
+            return accepted;
         });
         EXPECT_EQ(opened, 1);
         return go;
@@ -106,7 +110,7 @@ TEST_F(PrintRun, OverlapLostToARibThatFittedBringsTheDialogBack) {
 
 TEST_F(PrintRun, CancelledPageDialogPrintsNothing) {
     world.rib.corde = 300;
-    EXPECT_FALSE(PrepareWith([this] { world.rib.Annule = true; }));
+    EXPECT_FALSE(PrepareWith([] {}, false));
     EXPECT_EQ(Page().NbPages, 0);
 }
 

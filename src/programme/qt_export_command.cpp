@@ -1,0 +1,98 @@
+#include "programme/qt_export_command.h"
+
+#include "base/whole_file.h"
+#include "output/view_screen.h"
+#include "platform/busy_pointer.h"
+#include "programme/dossiers.h"
+#include "programme/rib_file.h"
+#include "programme/startup.h"
+
+#include <filesystem>
+
+namespace loftwing {
+
+namespace {
+
+/// The file's name without its extension: the rib file's where the rib has one, else the drawing's.
+std::string NomPropose(const Programme &programme, const EntreeExport &entree) {
+    const RibModel &rib = programme.rib;
+    const bool of_rib_file = entree.dossier != nullptr && EstComposants(rib.NomFichierRib);
+    return of_rib_file ? std::filesystem::path(rib.NomFichierRib).stem().string()
+                       : NomDuDessin(rib, programme.compare);
+}
+
+struct Choix {
+    std::string path; ///< empty: called off
+    const ExportForm *form = nullptr;
+};
+
+Choix DemandeFichier(const Programme &programme, const EntreeExport &entree,
+                     const std::vector<const ExportForm *> &forms) {
+    const Messages &messages = programme.messages;
+    const ExportForm &first = *forms.front();
+    FileQuestion question;
+    question.filter_text = FiltreDe(first, messages);
+    question.title = entree.titre ? messages.Text(*entree.titre) : question.filter_text;
+    question.name = NomPropose(programme, entree) + "." + first.extension;
+    question.default_extension = first.extension;
+    if (entree.dossier != nullptr) {
+        question.folder =
+            DossierRetenu(programme, entree.dossier, programme.settings.repertoires.RepProfilevol);
+    }
+    if (forms.size() == 1) {
+        return {programme.platform.ChooseSaveFile(question), &first};
+    }
+    std::vector<std::string> more;
+    for (std::size_t i = 1; i < forms.size(); ++i) {
+        more.push_back(FiltreDe(*forms[i], messages));
+    }
+    const FormAnswer answer = programme.platform.ChooseSaveForm(question, more);
+    return {answer.path, At(forms, static_cast<long>(answer.form))};
+}
+
+Exported Fait(Programme &programme, const ExportForm &form, const SetUpPage &set_up_page) {
+    const Sablier sablier(programme.platform);
+    return form.Export(programme, set_up_page);
+}
+
+void Ecrit(const Programme &programme, const EntreeExport &entree, const std::string &path,
+           const Exported &exported) {
+    if (entree.dossier != nullptr) {
+        RetientDossier(programme, entree.dossier, path);
+    }
+    if (exported.bytes) {
+        WriteWholeFile(path, *exported.bytes);
+    }
+    if (exported.rupture) {
+        throw *exported.rupture;
+    }
+}
+
+} // namespace
+
+bool ExporteVue(Programme &programme, const EntreeExport &entree, const SetUpPage &set_up_page) {
+    if (entree.separateur) {
+        // A warning only: the export writes points whatever the system has.
+        ControleSeparateurCommande(programme, *entree.separateur);
+    }
+    const std::vector<const ExportForm *> forms = FormesDe(entree);
+    Choix choix;
+    Exported exported;
+    if (forms.size() == 1) {
+        exported = Fait(programme, *forms.front(), set_up_page);
+        if (exported.bytes) {
+            choix = DemandeFichier(programme, entree, forms);
+        }
+    } else {
+        choix = DemandeFichier(programme, entree, forms);
+        if (!choix.path.empty()) {
+            exported = Fait(programme, *choix.form, set_up_page);
+        }
+    }
+    if (!choix.path.empty()) {
+        Ecrit(programme, entree, choix.path, exported);
+    }
+    return !exported.failed;
+}
+
+} // namespace loftwing
