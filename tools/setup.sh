@@ -12,7 +12,7 @@ declare -A packages=(
     [build]="cmake g++ ninja-build qt6-base-dev"
     [run]="fonts-liberation libqt6svg6 qt6-translations-l10n qt6-wayland xdg-utils"
     [test]="libgmock-dev libgtest-dev librecad locales poppler-utils python3 python3-ezdxf xauth xvfb"
-    [format]="clang-format"
+    [format]="clang-format clang-tidy"
     [bench]="libbenchmark-dev"
     [fuzz]="clang"
 )
