@@ -86,7 +86,8 @@ void DrawSheets(QPagedPaintDevice &device, const std::deque<Sheet> &sheets) {
 /// What all jobs have in common: sheets are kept, and sent at the end.
 class SheetPrinter : public Printer {
   public:
-    explicit SheetPrinter(std::optional<QPageSize> paper) : own_paper_(paper), paper_(paper) {}
+    explicit SheetPrinter(const std::optional<QPageSize> &paper)
+        : own_paper_(paper), paper_(paper) {}
 
     void SetOrientation(Orientation orientation) override { orientation_ = orientation; }
     void SetPaperSize(double short_side, double long_side) override {

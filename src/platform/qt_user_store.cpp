@@ -55,7 +55,7 @@ bool CopyContent(const QDir &from, const QDir &to) {
 /// whole. What is there already stays as it is.
 QString AirfoilFolder(const QDir &bundled) {
     const QDir documents(DocumentsFolder());
-    const QString folder = documents.filePath("airfoils");
+    QString folder = documents.filePath("airfoils");
     if (QFileInfo(folder).isDir()) {
         return folder;
     }
