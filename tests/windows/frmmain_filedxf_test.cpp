@@ -8,6 +8,7 @@
 namespace loftwing {
 namespace {
 
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
@@ -78,10 +79,11 @@ TEST_F(ExportingDxf, AnInvertedRibGoesToTheFormForCuttersOnly) {
     ComponentsText file = LadenRib("1", false);
     file.inverted = "1";
     OpenBytes("inverted.lfw", file.Current());
-    ExpectBox(BoxAnswer::ok,
-              "An inverted rib cannot be exported as DXF. Turn it back with View / Invert "
-              "Airfoil, or choose DXF for cutters.",
-              "Loftwing");
+    world.platform.Expect(
+        BoxAnswer::ok,
+        {.text = "An inverted rib cannot be exported as DXF. Turn it back with View / Invert "
+                 "Airfoil, or choose DXF for cutters.",
+         .title = "Loftwing"});
     Export(kInterchange, Out("interchange.dxf"));
     EXPECT_FALSE(Exists("interchange.dxf"));
     EXPECT_EQ(world.platform.pointer, Pointer::normal);
@@ -147,12 +149,10 @@ TEST_F(ExportingDxf, AnotherDecimalSeparatorIsWarnedOfAndTheExportGoesOnWithPoin
     const auto &programme = world.programme;
     for (const int form : {kInterchange, kPlain}) {
         for (const BoxAnswer answer : {BoxAnswer::ok, BoxAnswer::cancel}) {
-            world.platform.boxes_expected.push_back(
-                {answer, [&](const MessageBox &box) {
-                     EXPECT_THAT(box.text, StartsWith(programme.Text({"Message", "11"}) + "\n"));
-                     EXPECT_THAT(box.text, HasSubstr(" : Export as DXF file\n"));
-                     EXPECT_EQ(box.title, "Decimal separator");
-                 }});
+            world.platform.Expect(
+                answer, {.text = AllOf(StartsWith(programme.Text({"Message", "11"}) + "\n"),
+                                       HasSubstr(" : Export as DXF file\n")),
+                         .title = "Decimal separator"});
             fs::remove(Out());
             Export(form, Out());
             ASSERT_TRUE(Exists("rib.dxf"));
@@ -165,9 +165,10 @@ TEST_F(ExportingDxf, AnotherDecimalSeparatorIsWarnedOfAndTheExportGoesOnWithPoin
 TEST_F(ExportingDxf, ARefusedWriteIsReported) {
     OpenBytes("rib.lfw", ComponentsText{}.Current());
     for (const int form : {kInterchange, kPlain}) {
-        ExpectBox(BoxAnswer::ok,
-                  "Error # 75 in Loftwing\nPath/file access error: " + Out("none/rib.dxf"),
-                  " Main/Mnu_DXF");
+        world.platform.Expect(
+            BoxAnswer::ok,
+            {.text = "Error # 75 in Loftwing\nPath/file access error: " + Out("none/rib.dxf"),
+             .title = " Main/Mnu_DXF"});
         Export(form, Out("none/rib.dxf"));
     }
     EXPECT_TRUE(Rib().ProfilCharge);
