@@ -121,8 +121,7 @@ TEST_F(LongeronTest, APercentageAboveAHundredFromTheTrailingEdgeIsRefused) {
 
 TEST_F(LongeronTest, TheRefusalComesBeforeTheSizesAreRead) {
     unit = kUniteIn;
-    words.platform.boxes_expected.push_back(
-        {BoxAnswer::ok, [this](const MessageBox &) { EXPECT_EQ(refused.size(), 1U); }});
+    words.platform.Expect(BoxAnswer::ok, {.meanwhile = [this] { EXPECT_EQ(refused.size(), 1U); }});
     Longeron slot;
     EXPECT_FALSE(Store(slot, {{"20", "2./8", "1", "0"}, 0, 0, 0, kLeading}));
     EXPECT_EQ(slot.LargLongAfich, "2./8");

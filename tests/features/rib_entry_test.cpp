@@ -27,11 +27,9 @@ class RibEntryTest : public testing::Test {
 
     std::string Shown(std::string_view ModeSaisie) const { return ModeDe(ModeSaisie).texte(rib); }
 
-    void ExpectBox(std::size_t index, const std::string &text, const std::string &title) {
-        ASSERT_GT(platform.boxes.size(), index);
-        EXPECT_EQ(platform.boxes[index].text, text);
-        EXPECT_EQ(platform.boxes[index].title, title);
-        EXPECT_EQ(platform.boxes[index].buttons, BoxButtons::ok);
+    /// A box with nothing but OK will come.
+    void ExpectBox(const std::string &text, const std::string &title) {
+        platform.Expect(BoxAnswer::ok, {.text = text, .title = title, .buttons = BoxButtons::ok});
     }
 
     ScriptedPlatform platform;
@@ -108,9 +106,8 @@ TEST_F(RibEntryTest, AChordOfZeroIsRefusedButItsTextIsStored) {
     rib.talon.TalonIntraAfich = "3";
     rib.bloc.LongBloc = 7;
     rib.texte.TexteUtilisateur = true;
-    platform.Expect(BoxAnswer::ok);
+    ExpectBox("Chord length : 0.0 mm - Please enter a chord", "Chord length  mm");
     EXPECT_EQ(Type("corde", "0.0"), FinSaisie::refusee);
-    ExpectBox(0, "Chord length : 0.0 mm - Please enter a chord", "Chord length  mm");
     EXPECT_EQ(rib.cordeAfich, "0.0");
     EXPECT_EQ(rib.corde, 200.0F);
     EXPECT_FALSE(rib.Modifie);
@@ -121,21 +118,18 @@ TEST_F(RibEntryTest, AChordOfZeroIsRefusedButItsTextIsStored) {
 
 TEST_F(RibEntryTest, AnEmptyChordIsAChordOfZero) {
     ChooseLanguage("French");
-    platform.Expect(BoxAnswer::ok);
+    ExpectBox("Longueur de la corde :  mm - Veuillez entrer une corde", "Longueur de la corde  mm");
     EXPECT_EQ(Type("corde", ""), FinSaisie::refusee);
-    ExpectBox(0, "Longueur de la corde :  mm - Veuillez entrer une corde",
-              "Longueur de la corde  mm");
     EXPECT_EQ(rib.cordeAfich, "");
 }
 
 TEST_F(RibEntryTest, AChordThatIsNoLengthInInchesIsRefusedTwice) {
     Unite = kUniteIn;
     platform.Expect(BoxAnswer::ok);
-    platform.Expect(BoxAnswer::ok);
+    ExpectBox("Chord length : 8./2 in - Please enter a chord", "Chord length  in");
     EXPECT_EQ(Type("corde", "8./2"), FinSaisie::refusee);
     ASSERT_EQ(platform.boxes.size(), 2U);
     EXPECT_EQ(platform.boxes[0].title, "Enter error");
-    ExpectBox(1, "Chord length : 8./2 in - Please enter a chord", "Chord length  in");
     EXPECT_EQ(rib.cordeAfich, "8./2");
 }
 
@@ -297,9 +291,8 @@ TEST_F(RibEntryTest, AStockAsWideAsTheChordPasses) {
 
 TEST_F(RibEntryTest, ALeadingEdgeWiderThanTheChordIsZeroAndKeepsItsText) {
     rib.EpBA = 4;
-    platform.Expect(BoxAnswer::ok);
+    ExpectBox("The leading edge is wider than the chord.", "Leading edge width  mm");
     EXPECT_EQ(Type("ba", "200.1"), FinSaisie::ramenee);
-    ExpectBox(0, "The leading edge is wider than the chord.", "Leading edge width  mm");
     EXPECT_EQ(rib.EpBA, 0.0F);
     EXPECT_EQ(Shown("ba"), "200.1");
     EXPECT_TRUE(rib.Modifie);
@@ -308,9 +301,8 @@ TEST_F(RibEntryTest, ALeadingEdgeWiderThanTheChordIsZeroAndKeepsItsText) {
 TEST_F(RibEntryTest, ATrailingEdgeWiderThanTheChordIsZeroAndKeepsItsText) {
     ChooseLanguage("French");
     rib.EpBF = 4;
-    platform.Expect(BoxAnswer::ok);
+    ExpectBox("Le bord de fuite est plus large que la corde.", "Largeur du bord de fuite  mm");
     EXPECT_EQ(Type("bf", "200.1"), FinSaisie::ramenee);
-    ExpectBox(0, "Le bord de fuite est plus large que la corde.", "Largeur du bord de fuite  mm");
     EXPECT_EQ(rib.EpBF, 0.0F);
     EXPECT_EQ(Shown("bf"), "200.1");
     EXPECT_TRUE(rib.Modifie);
@@ -331,9 +323,8 @@ TEST_F(RibEntryTest, ALeadingEdgeStockTakesThePlaceOfAVNotch) {
 TEST_F(RibEntryTest, AStockThatIsNoLengthInInchesIsZero) {
     Unite = kUniteIn;
     rib.EpBA = 4;
-    platform.Expect(BoxAnswer::ok);
+    ExpectBox("Wrong entry : \nxx.yy/zz ou xx.yy", "Enter error");
     EXPECT_EQ(Type("ba", "/8"), FinSaisie::ramenee);
-    ExpectBox(0, "Wrong entry : \nxx.yy/zz ou xx.yy", "Enter error");
     EXPECT_EQ(rib.EpBA, 0.0F);
     EXPECT_EQ(rib.EpBAAfich, "/8");
 }
@@ -370,9 +361,8 @@ TEST_F(RibEntryTest, StationLinesAreACountInEitherUnit) {
 }
 
 TEST_F(RibEntryTest, ThreeHundredStationLinesAre255) {
-    platform.Expect(BoxAnswer::ok);
+    ExpectBox("There can be no more than 255 station lines.", "Station lines");
     EXPECT_EQ(Type("rep", "300"), FinSaisie::ramenee);
-    ExpectBox(0, "There can be no more than 255 station lines.", "Station lines");
     EXPECT_EQ(rib.NbRep, 255);
     EXPECT_EQ(Shown("rep"), "255");
     EXPECT_TRUE(rib.Modifie);

@@ -38,11 +38,8 @@ class TalonWindowTest : public testing::Test {
     }
     bool Apply(const TextesTalon &typed) { return ValideTalon(rib, typed, saisie, kTitreBoite); }
     void Expect(const std::string &text) {
-        platform.boxes_expected.push_back({BoxAnswer::ok, [text](const MessageBox &box) {
-                                               EXPECT_EQ(box.text, text);
-                                               EXPECT_EQ(box.title, kTitreBoite);
-                                               EXPECT_EQ(box.icon, BoxIcon::information);
-                                           }});
+        platform.Expect(BoxAnswer::ok,
+                        {.text = text, .title = kTitreBoite, .icon = BoxIcon::information});
     }
 
     ScriptedPlatform platform;

@@ -51,12 +51,6 @@ class PrintRun : public testing::Test {
         }
         return lines;
     }
-    void ExpectBox(const std::string &text, const std::string &title, BoxIcon icon) {
-        ASSERT_FALSE(world.platform.boxes.empty());
-        EXPECT_EQ(world.platform.boxes.back().text, text);
-        EXPECT_EQ(world.platform.boxes.back().title, title);
-        EXPECT_EQ(world.platform.boxes.back().icon, icon);
-    }
 
     RibWorld world;
     TestPrinter printer;
@@ -162,26 +156,28 @@ TEST_F(PrintRun, MarginsThatLeaveNoRoomAreRefused) {
     world.rib.corde = 300;
     Page().NbPages = 2;
     Page().recouvrement = 273;
-    world.platform.Expect(BoxAnswer::ok);
+    world.platform.Expect(BoxAnswer::ok,
+                          {.text = "<FrmPrint 22>", .title = "<Erreur 1>", .icon = BoxIcon::stop});
     EXPECT_FALSE(Prepare());
-    ExpectBox("<FrmPrint 22>", "<Erreur 1>", BoxIcon::stop);
 }
 
 TEST_F(PrintRun, MoreThan255SheetsAreAnOverflow) {
     world.rib.corde = 300;
     Page().NbPages = 2;
     Page().recouvrement = 271.5F; // steps of half a millimetre
-    world.platform.Expect(BoxAnswer::ok);
+    world.platform.Expect(BoxAnswer::ok, {.text = "<Erreur 3> # 6 <Erreur 2> Loftwing\nOverflow",
+                                          .title = "<Erreur 1>",
+                                          .icon = BoxIcon::information});
     EXPECT_FALSE(Prepare());
-    ExpectBox("<Erreur 3> # 6 <Erreur 2> Loftwing\nOverflow", "<Erreur 1>", BoxIcon::information);
 }
 
 TEST_F(PrintRun, PaperNumberFromNowhereIsReported) {
     Page().NumIndex = 9;
-    world.platform.Expect(BoxAnswer::ok);
+    world.platform.Expect(BoxAnswer::ok,
+                          {.text = "<Erreur 3> # 9 <Erreur 2> Loftwing\nSubscript out of range",
+                           .title = "<Erreur 1>",
+                           .icon = BoxIcon::information});
     EXPECT_FALSE(Prepare());
-    ExpectBox("<Erreur 3> # 9 <Erreur 2> Loftwing\nSubscript out of range", "<Erreur 1>",
-              BoxIcon::information);
 }
 
 TEST_F(PrintRun, PlatformIsAskedForTheChosenPaper) {
@@ -360,12 +356,12 @@ TEST_F(PrintRun, PrinterThatFailsIsToldAndTheJobDropped) {
     world.rib.corde = 600;
     ASSERT_TRUE(PrepareWith([this] { Accept(); }));
     printer.fails_at_sheet = 1;
-    world.platform.boxes_expected.push_back({BoxAnswer::ok, [&](const MessageBox &) {
-                                                 EXPECT_EQ(world.platform.pointer, Pointer::normal);
-                                             }});
+    world.platform.Expect(
+        BoxAnswer::ok, {.text = "<Erreur 3> # 57 <Erreur 2> Loftwing\nDevice input/output error",
+                        .title = "<Erreur 1>",
+                        .icon = BoxIcon::information,
+                        .meanwhile = [&] { EXPECT_EQ(world.platform.pointer, Pointer::normal); }});
     EXPECT_EQ(Imprime(world.Run(), printer), FinImpression::echec);
-    ExpectBox("<Erreur 3> # 57 <Erreur 2> Loftwing\nDevice input/output error", "<Erreur 1>",
-              BoxIcon::information);
     EXPECT_EQ(printer.calls.back(), "abort");
     EXPECT_EQ(printer.sheets.size(), 1U);
 }
@@ -375,10 +371,11 @@ TEST_F(PrintRun, RefusedEndIsToldOnEitherRun) {
     Page().NbPages = 1;
     for (const std::uint8_t paper : {std::uint8_t{0}, std::uint8_t{8}}) {
         Page().NumIndex = paper;
-        world.platform.Expect(BoxAnswer::ok);
+        world.platform.Expect(BoxAnswer::ok,
+                              {.text = "<Erreur 3> # 61 <Erreur 2> Loftwing\nDisk full",
+                               .title = "<Erreur 1>",
+                               .icon = BoxIcon::information});
         EXPECT_EQ(Imprime(world.Run(), printer), FinImpression::echec);
-        ExpectBox("<Erreur 3> # 61 <Erreur 2> Loftwing\nDisk full", "<Erreur 1>",
-                  BoxIcon::information);
         EXPECT_EQ(printer.calls.back(), "abort");
         EXPECT_EQ(world.platform.pointer, Pointer::normal);
     }

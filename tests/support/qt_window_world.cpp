@@ -1,13 +1,14 @@
 #include "support/qt_window_world.h"
 
+#include "mainwindow/pic_view.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QLabel>
 #include <QMimeData>
-#include <QTest>
+#include <QTimer>
 #include <QUrl>
 
 #include <filesystem>
@@ -59,6 +60,11 @@ std::string WindowWorld::Sample(const std::string &name) {
     return std::string(LOFTWING_SOURCE_DIR "/resources/airfoils/") + name;
 }
 
+void WindowWorld::Run(const char *command, const std::vector<User> &users) const {
+    InNextDialogs(users);
+    Action(command)->trigger();
+}
+
 QAction *WindowWorld::Action(const std::string &name) const {
     auto *action = window->findChild<QAction *>(QString::fromStdString(name));
     if (action == nullptr) {
@@ -68,10 +74,10 @@ QAction *WindowWorld::Action(const std::string &name) const {
 }
 
 std::string WindowWorld::Panel(int number) const {
-    return Find<QLabel>("StatusBar(" + std::to_string(number) + ")")->text().toStdString();
+    return Main().Label({"StatusBar", number});
 }
 
-void WindowWorld::Drop(const std::string &path) {
+void WindowWorld::Drop(const std::string &path, const std::function<bool()> &opened) {
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(QString::fromStdString(path))});
     const QPoint place(50, 50);
@@ -82,7 +88,20 @@ void WindowWorld::Drop(const std::string &path) {
     QDropEvent drop(QPointF(place), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(window.get(), &drop);
     EXPECT_TRUE(drop.isAccepted());
-    QTest::qWait(1); // it opens after the drop is over
+    EXPECT_TRUE(Eventually(opened)) << path; // after the drop is over
+}
+
+void WindowWorld::Resize(QSize size) const {
+    auto *picture = Find<PicView>("Pic");
+    // The window waits by a timer until its picture's size has settled. One that is started after
+    // it at each step of the size goes off after it, whether the window draws then or not.
+    bool rested = false;
+    QTimer rest;
+    rest.setSingleShot(true);
+    QObject::connect(picture, &PicView::Redimensionne, &rest, qOverload<>(&QTimer::start));
+    QObject::connect(&rest, &QTimer::timeout, [&rested] { rested = true; });
+    window->resize(size);
+    EXPECT_TRUE(Eventually([&rested] { return rested; }));
 }
 
 } // namespace loftwing

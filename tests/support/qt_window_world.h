@@ -6,8 +6,10 @@
 #include "support/scripted_platform.h"
 #include "support/temp_folder.h"
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace loftwing {
 
@@ -27,13 +29,19 @@ class WindowWorld {
     static std::string Sample(const std::string &name);
 
     QAction *Action(const std::string &name) const;
+    /// The main window as its user sees it.
+    Seen Main() const { return Seen(*window); }
     template <class Widget>
     Widget *Find(const std::string &name) const {
-        return window->findChild<Widget *>(QString::fromStdString(name));
+        return &Main().Find<Widget>(name);
     }
+    /// Runs a command whose dialogs are used by these, one after the other.
+    void Run(const char *command, const std::vector<User> &users) const;
     std::string Panel(int number) const;
-    /// Drops a file on the window and lets it open.
-    void Drop(const std::string &path);
+    /// Drops a file on the window and lets it open; `opened` says whether it has.
+    void Drop(const std::string &path, const std::function<bool()> &opened);
+    /// Resizes the main window as the window system does, and lets it come to rest.
+    void Resize(QSize size) const;
 };
 
 } // namespace loftwing

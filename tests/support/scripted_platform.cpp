@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace loftwing {
 
 namespace {
@@ -17,26 +19,64 @@ Answer Next(std::deque<Answer> &expected, const std::string &what) {
     return answer;
 }
 
+void FailAt(const std::source_location &where, const std::string &what) {
+    ADD_FAILURE_AT(where.file_name(), static_cast<int>(where.line())) << what;
+}
+
+void Check(const testing::Matcher<const std::string &> &wanted, const std::string &got,
+           const std::string &what, const std::source_location &where) {
+    if (!wanted.Matches(got)) {
+        FailAt(where, "the " + what + " of the box expected here\nis:     \"" + got +
+                          "\"\nwanted: " + testing::DescribeMatcher<const std::string &>(wanted));
+    }
+}
+
 } // namespace
 
 ScriptedPlatform::~ScriptedPlatform() {
-    EXPECT_TRUE(boxes_expected.empty()) << boxes_expected.size() << " boxes did not appear";
+    for (const ExpectedBox &box : boxes_expected_) {
+        FailAt(box.where, "the box expected here did not appear");
+    }
     EXPECT_TRUE(files_expected.empty()) << files_expected.size() << " file choices not asked for";
     EXPECT_TRUE(folders_expected.empty()) << "folder choices not asked for";
     EXPECT_TRUE(texts_expected.empty()) << "text entries not asked for";
 }
 
+void ScriptedPlatform::Expect(BoxAnswer answer, const BoxLook &look,
+                              const std::source_location &where) {
+    boxes_expected_.push_back({answer, look, where});
+}
+
+void ScriptedPlatform::ExpectBoxes(int count, const std::source_location &where) {
+    for (int i = 0; i < count; ++i) {
+        Expect(BoxAnswer::ok, {}, where);
+    }
+}
+
+std::size_t ScriptedPlatform::ForgetExpected() {
+    return std::exchange(boxes_expected_, {}).size();
+}
+
 BoxAnswer ScriptedPlatform::Show(const MessageBox &box) {
     boxes.push_back(box);
-    if (boxes_expected.empty()) {
+    if (boxes_expected_.empty()) {
         ADD_FAILURE() << "unexpected box \"" << box.title << "\": " << box.text;
         return box.fallback;
     }
-    const Scripted scripted = Next(boxes_expected, "box");
-    if (scripted.look) {
-        scripted.look(box);
+    const ExpectedBox expected = Next(boxes_expected_, "box");
+    const BoxLook &look = expected.look;
+    Check(look.text, box.text, "text", expected.where);
+    Check(look.title, box.title, "title", expected.where);
+    if (look.icon && *look.icon != box.icon) {
+        FailAt(expected.where, "the box expected here has another icon");
     }
-    return scripted.answer;
+    if (look.buttons && *look.buttons != box.buttons) {
+        FailAt(expected.where, "the box expected here has other buttons");
+    }
+    if (look.meanwhile) {
+        look.meanwhile();
+    }
+    return expected.answer;
 }
 
 std::optional<std::string> ScriptedPlatform::Ask(const std::string &text, const std::string &,

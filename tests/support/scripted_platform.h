@@ -5,29 +5,43 @@
 #include "output/printer.h"
 #include "platform/platform.h"
 
+#include <gmock/gmock.h>
+
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
+#include <source_location>
 #include <string>
 #include <vector>
 
 namespace loftwing {
 
+/// What an expected box must show; what is left out may be anything.
+struct BoxLook {
+    testing::Matcher<const std::string &> text = testing::_;
+    testing::Matcher<const std::string &> title = testing::_;
+    std::optional<BoxIcon> icon = {};
+    std::optional<BoxButtons> buttons = {};
+    std::function<void()> meanwhile = {}; ///< happens while the box is open
+};
+
 class ScriptedPlatform : public Platform {
   public:
-    /// One expected box: what the user answers, and optionally something to do while it is open.
-    struct Scripted {
-        BoxAnswer answer = BoxAnswer::ok;
-        std::function<void(const MessageBox &)> look;
-    };
-
     /// Fails the test when an expected answer was never asked for.
     ~ScriptedPlatform() override;
 
-    void Expect(BoxAnswer answer) { boxes_expected.push_back({answer, {}}); }
+    /// A box will come, after those already expected, and the user answers it so.
+    void Expect(BoxAnswer answer, const BoxLook &look = {},
+                const std::source_location &where = std::source_location::current());
+    /// So many boxes will come, whatever they say, which the user answers by OK.
+    void ExpectBoxes(int count,
+                     const std::source_location &where = std::source_location::current());
+    /// No box is expected any more; gives how many of them had not come.
+    std::size_t ForgetExpected();
 
-    std::deque<Scripted> boxes_expected;
     std::vector<MessageBox> boxes; ///< every box that appeared, in order
+    std::string LastBox() const { return boxes.empty() ? "" : boxes.back().text; }
     std::deque<std::string> files_expected;
     std::vector<FileQuestion> file_questions;
     int form_chosen = 0;                      ///< in a chooser of several forms
@@ -79,6 +93,13 @@ class ScriptedPlatform : public Platform {
     std::unique_ptr<Printer> OpenPrinter(const PrintQuestion &question) override;
 
   private:
+    struct ExpectedBox {
+        BoxAnswer answer;
+        BoxLook look;
+        std::source_location where; ///< what expects it
+    };
+    std::deque<ExpectedBox> boxes_expected_;
+
     std::string NextFile(const FileQuestion &question);
 };
 

@@ -24,12 +24,7 @@ class EpCourb : public testing::Test {
         return AppliqueEpCourb(world.rib, champs, world.messages, "title");
     }
     void ExpectBox(const std::string &text, BoxIcon icon) {
-        world.platform.boxes_expected.push_back(
-            {BoxAnswer::ok, [text, icon](const MessageBox &box) {
-                 EXPECT_EQ(box.text, text);
-                 EXPECT_EQ(box.title, "title");
-                 EXPECT_EQ(box.icon, icon);
-             }});
+        world.platform.Expect(BoxAnswer::ok, {.text = text, .title = "title", .icon = icon});
     }
     void MakeSymmetrical() {
         RibModel &rib = world.rib;

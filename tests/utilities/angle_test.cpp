@@ -35,11 +35,8 @@ class Oblique : public testing::Test {
         return CalculeOblique(oblique, typed, Typing(), kTitle);
     }
     void Expect(const std::string &text) {
-        words.platform.boxes_expected.push_back({BoxAnswer::ok, [text](const MessageBox &box) {
-                                                     EXPECT_EQ(box.text, text);
-                                                     EXPECT_EQ(box.title, kTitle);
-                                                     EXPECT_EQ(box.icon, BoxIcon::information);
-                                                 }});
+        words.platform.Expect(BoxAnswer::ok,
+                              {.text = text, .title = kTitle, .icon = BoxIcon::information});
     }
     std::string Name() const { return NomOblique(oblique, profil.NomProfil, Typing()); }
     std::string File() const { return TexteOblique(oblique, profil, Typing()); }

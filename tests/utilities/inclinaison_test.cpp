@@ -27,11 +27,8 @@ class Inclined : public testing::Test {
         return PrendAngleDiedre(typed, words.messages, kTitle);
     }
     void Expect(const std::string &text) {
-        words.platform.boxes_expected.push_back({BoxAnswer::ok, [text](const MessageBox &box) {
-                                                     EXPECT_EQ(box.text, text);
-                                                     EXPECT_EQ(box.title, kTitle);
-                                                     EXPECT_EQ(box.icon, BoxIcon::information);
-                                                 }});
+        words.platform.Expect(BoxAnswer::ok,
+                              {.text = text, .title = kTitle, .icon = BoxIcon::information});
     }
 
     Words words{"[FrmInclinaisonNervure]\n6=No angle\n7=At most\n"};

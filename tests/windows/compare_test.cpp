@@ -3,8 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QCheckBox>
-
 namespace loftwing {
 namespace {
 
@@ -54,14 +52,13 @@ TEST_F(CompareView, ShowsBothAirfoilsAtTheChordTyped) {
 
 TEST_F(CompareView, ThePickersSayWhichAirfoilTheyAskFor) {
     const auto look = [](const std::string &title, bool check, const std::string &note,
-                         const Act &then) {
-        return [=](QDialog &dialog) {
-            EXPECT_EQ(dialog.windowTitle().toStdString(), title);
-            EXPECT_EQ(dialog.findChild<QCheckBox *>("memP1")->isVisible(), check);
-            EXPECT_EQ(dialog.findChild<QLabel *>("LbMem")->isVisible(), check);
-            const auto *label = dialog.findChild<QLabel *>("Label3");
-            EXPECT_EQ(label->isVisible(), !note.empty());
-            EXPECT_EQ(label->text().toStdString(), note);
+                         const User &then) {
+        return [=](Seen &dialog) {
+            EXPECT_EQ(dialog.Title(), title);
+            EXPECT_EQ(dialog.Shown("memP1"), check);
+            EXPECT_EQ(dialog.Shown("LbMem"), check);
+            EXPECT_EQ(dialog.Shown("Label3"), !note.empty());
+            EXPECT_EQ(dialog.Label("Label3"), note);
             then(dialog);
         };
     };
@@ -84,15 +81,15 @@ TEST_F(CompareView, RoomIsLeftForTheHigherAirfoilWhicheverComesFirst) {
 
 TEST_F(CompareView, WithATickTheNextOneStartsAtTheSecondAirfoil) {
     Run("mnu_OutilCompare", {Chord("150"),
-                             [](QDialog &dialog) {
-                                 dialog.findChild<QCheckBox *>("memP1")->click();
+                             [](Seen &dialog) {
+                                 dialog.Click("memP1");
                                  PickSample("naca0012.dat")(dialog);
                              },
                              PickSample("naca6409.dat")});
     EXPECT_EQ(world.Panel(2), "Airfoil #1 :  naca0012Airfoil #2 :  naca6409Chord : 150 mm");
     std::string note;
-    const auto second = [&note](QDialog &dialog) {
-        note = dialog.findChild<QLabel *>("Label3")->text().toStdString();
+    const auto second = [&note](Seen &dialog) {
+        note = dialog.Label("Label3");
         PickSample("naca2412.dat")(dialog);
     };
     Run("mnu_OutilCompare", {second});
@@ -138,14 +135,11 @@ TEST_F(CompareView, CancellingTheFirstAirfoilGivesTheRibBackAsItWas) {
     OpenRib();
     Rib().texte.TexteUtilisateur = true;
     const std::vector<double> points = Rib().ProfilY.Values();
-    Run("mnu_OutilCompare",
-        {Chord("150"), [](QDialog &dialog) {
-             dialog.findChild<QLineEdit *>("txtchemin")
-                 ->setText(QString::fromStdString(WindowWorld::Sample("naca6409.dat")));
-             QTest::keyClick(dialog.findChild<QLineEdit *>("txtchemin"), Qt::Key_Return);
-             QTest::qWait(400); // the file is looked at
-             dialog.reject();
-         }});
+    Run("mnu_OutilCompare", {Chord("150"), [this](Seen &dialog) {
+                                 LookAt(dialog, WindowWorld::Sample("naca6409.dat"));
+                                 EXPECT_EQ(Rib().NomProfil, "naca6409");
+                                 dialog.Key(Qt::Key_Escape);
+                             }});
     EXPECT_FALSE(Rib().ModeCompare);
     EXPECT_EQ(Rib().corde, 200.0F);
     EXPECT_EQ(Rib().cordeAfich, "200");
@@ -160,10 +154,10 @@ TEST_F(CompareView, WithoutAComparisonOnTheScreenChangesAreStillAskedFor) {
     OpenRib();
     Run("mnu_OutilCompare", {Cancel});
     Rib().Modifie = true;
-    ExpectBox(BoxAnswer::no, world.programme.Text({"FrmMainMessage", "5"}));
+    world.platform.Expect(BoxAnswer::no, {.text = world.programme.Text({"FrmMainMessage", "5"})});
     world.Action("mnu_affclear")->trigger();
     EXPECT_TRUE(Rib().ProfilCharge);
-    ExpectBox(BoxAnswer::no, world.programme.Text({"FrmMainMessage", "4"}));
+    world.platform.Expect(BoxAnswer::no, {.text = world.programme.Text({"FrmMainMessage", "4"})});
     world.window->close();
     EXPECT_TRUE(world.window->isVisible());
 }
@@ -187,17 +181,12 @@ TEST_F(CompareView, CalledOffAtTheChordASimplePlotIsStillExportedAsSuch) {
 TEST_F(CompareView, AFileThatCannotBeReadLeavesTheChordThatWasTyped) {
     const std::string broken =
         world.folder.File("broken.dat", "Broken\n1 0\n0.5 0.1\n\n0.5 0\n1 0\n");
-    const auto first = [this, broken](QDialog &dialog) {
+    const auto first = [this, broken](Seen &dialog) {
         world.platform.Expect(BoxAnswer::ok);
-        auto *path = dialog.findChild<QLineEdit *>("txtchemin");
-        path->setText(QString::fromStdString(broken));
-        QTest::keyClick(path, Qt::Key_Return);
-        QTest::qWait(400); // the file is looked at
-        // Not before: it would act in this dialog while that waits.
-        InDialogs({PickSample("naca2412.dat")});
+        LookAt(dialog, broken);
         PickSample("naca0012.dat")(dialog);
     };
-    Run("mnu_OutilCompare", {Chord("150"), first});
+    Run("mnu_OutilCompare", {Chord("150"), first, PickSample("naca2412.dat")});
     ExpectShown("150 mm");
 }
 
@@ -211,11 +200,11 @@ TEST_F(CompareView, ACancelledChordLeavesTheComparisonThatWasShown) {
 TEST_F(CompareView, AsksBeforeChangesAreLostAndNoKeepsTheRib) {
     OpenRib();
     Rib().Modifie = true;
-    ExpectBox(BoxAnswer::no, world.programme.Text({"OutilCompare", "1"}));
+    world.platform.Expect(BoxAnswer::no, {.text = world.programme.Text({"OutilCompare", "1"})});
     world.Action("mnu_OutilCompare")->trigger();
     EXPECT_FALSE(Rib().ModeCompare);
     EXPECT_EQ(world.platform.boxes.back().title, "Compare 2 airfoils");
-    ExpectBox(BoxAnswer::yes, world.programme.Text({"OutilCompare", "1"}));
+    world.platform.Expect(BoxAnswer::yes, {.text = world.programme.Text({"OutilCompare", "1"})});
     Compare();
     ExpectShown("150 mm");
 }
@@ -242,7 +231,7 @@ TEST_F(CompareView, RibCommandsSleepAndPaperCommandsLive) {
         EXPECT_TRUE(Enabled(name)) << name;
     }
     for (const char *name : {"cmdba", "cmdlongeron", "cmdtrou", "cmdbf"}) {
-        EXPECT_FALSE(world.Find<QPushButton>(name)->isEnabled()) << name;
+        EXPECT_FALSE(world.Main().Enabled(name)) << name;
     }
 }
 
@@ -264,8 +253,9 @@ TEST_F(CompareView, ZoomScrollAndSizeRedrawTheView) {
     across->setValue(1);
     EXPECT_EQ(Rib().DecalX, -1);
     EXPECT_NEAR(SegmentsOf(Drawing()->Operations()).front().x1, before - 150 * 3 / 2.0, 0.01);
-    world.window->resize(700, 400);
-    QTest::qWait(10);
+    const Recording *drawing = Drawing();
+    world.Resize(QSize(700, 400));
+    EXPECT_NE(Drawing(), drawing);
     ExpectShown("150 mm");
 }
 

@@ -234,11 +234,12 @@ TEST(ShowModal, StandsInTheMiddleOfItsWindow) {
     QDialog dialog(&window);
     dialog.setMinimumSize(200, 100);
     QPoint middle;
-    InNextDialog([&middle](QDialog &shown) {
-        EXPECT_TRUE(shown.isModal());
-        EXPECT_FALSE(shown.windowFlags().testFlag(Qt::WindowContextHelpButtonHint));
-        middle = shown.geometry().center();
-        shown.accept();
+    InNextDialog([&middle](Seen &shown) {
+        auto &itself = shown.As<QDialog>();
+        EXPECT_TRUE(itself.isModal());
+        EXPECT_FALSE(itself.windowFlags().testFlag(Qt::WindowContextHelpButtonHint));
+        middle = itself.geometry().center();
+        itself.accept();
     });
     EXPECT_EQ(ShowModal(dialog), QDialog::Accepted);
     EXPECT_NEAR(middle.x(), window.frameGeometry().center().x(), 1);
@@ -262,7 +263,7 @@ TEST(ShowModal, StaysOnTheScreen) {
     window.show();
     QDialog dialog(&window);
     dialog.setMinimumSize(200, 100);
-    InNextDialog([&space](QDialog &shown) { EXPECT_TRUE(space.contains(shown.geometry())); });
+    InNextDialog([&space](Seen &shown) { EXPECT_TRUE(space.contains(shown.Window().geometry())); });
     EXPECT_EQ(ShowModal(dialog), QDialog::Rejected);
 }
 
@@ -271,7 +272,7 @@ TEST(ShowModal, KeepsASizeThatWasChosen) {
     window.show();
     QDialog dialog(&window);
     dialog.resize(432, 321);
-    InNextDialog([](QDialog &shown) { EXPECT_EQ(shown.size(), QSize(432, 321)); });
+    InNextDialog([](Seen &shown) { EXPECT_EQ(shown.Window().size(), QSize(432, 321)); });
     ShowModal(dialog);
 }
 

@@ -1,6 +1,5 @@
 #include "utilities/frmCoord.h"
 
-#include "support/temp_folder.h"
 #include "windows/beside_fixture.h"
 
 namespace loftwing {
@@ -10,8 +9,6 @@ using Lines = std::vector<std::string>;
 
 class FrmCoordTest : public BesideTest<frmCoord> {
   protected:
-    TempFolder folder;
-
     QListWidget &List() const { return Find<QListWidget>("Liste_Valeurs"); }
     Lines Shown() const {
         Lines lines;
@@ -48,16 +45,11 @@ class FrmCoordTest : public BesideTest<frmCoord> {
     void ExpectQuestion(const std::string &text, BoxAnswer answer) {
         ExpectBox(text, BoxIcon::question, answer);
     }
-    bool Close() const { return window->close(); }
     /// Whether closing it now asks.
     bool AsksBeforeClosing() {
-        const std::size_t before = platform.boxes.size();
         ExpectQuestion("The lines are not saved. Close all the same?", BoxAnswer::no);
         Close();
-        const bool asked = platform.boxes.size() > before;
-        if (!asked) {
-            platform.boxes_expected.clear();
-        }
+        const bool asked = platform.ForgetExpected() == 0;
         window->show();
         return asked;
     }
@@ -65,7 +57,7 @@ class FrmCoordTest : public BesideTest<frmCoord> {
 
 TEST_F(FrmCoordTest, OpensEmptyWithItsWords) {
     Open();
-    EXPECT_EQ(Titre(), "Create new coordinates");
+    EXPECT_EQ(Title(), "Create new coordinates");
     EXPECT_EQ(Label("Label1(0)"), "File name");
     EXPECT_EQ(Label("Label1(1)"), "Title");
     EXPECT_EQ(Label("Label1(2)"), "Divide by");
@@ -81,7 +73,7 @@ TEST_F(FrmCoordTest, OpensEmptyWithItsWords) {
     EXPECT_NE(Tip("txt(2)"), "");
     EXPECT_EQ(Text("txt(2)"), "1");
     EXPECT_TRUE(Shown().empty());
-    EXPECT_TRUE(Box("txt(0)").hasFocus());
+    EXPECT_TRUE(Focused("txt(0)"));
     ExpectTabs({"txt(1)", "txt(2)", "txtinX", "txtinY", "cmdentre"});
 }
 
@@ -123,7 +115,7 @@ TEST_F(FrmCoordTest, TheDivisorIsPutIntoItsFormAtEveryChange) {
     EXPECT_EQ(Text("txt(2)"), "1 234 567");
     EXPECT_EQ(Box("txt(2)").cursorPosition(), 9);
     EXPECT_EQ(Text("txt(1)"), "Some title 1000");
-    QTest::keyClick(&Box("txt(2)"), Qt::Key_Backspace);
+    Key("txt(2)", Qt::Key_Backspace);
     EXPECT_EQ(Text("txt(2)"), "123 456");
     Enter("1234.56", "0");
     EXPECT_EQ(Shown().front(), "0.010000    0.000000");
@@ -144,15 +136,15 @@ TEST_F(FrmCoordTest, FieldsSwallowWhatTheyDontTake) {
 TEST_F(FrmCoordTest, ReturnLeadsFromXToYAndIntoTheList) {
     Open();
     Type("txtinX", "1");
-    QTest::keyClick(&Box("txtinX"), Qt::Key_Return);
-    EXPECT_TRUE(Box("txtinY").hasFocus());
-    QTest::keyClicks(&Box("txtinY"), "0");
-    QTest::keyClick(&Box("txtinY"), Qt::Key_Return);
+    Key("txtinX", Qt::Key_Return);
+    EXPECT_TRUE(Focused("txtinY"));
+    Keys("txtinY", "0");
+    Key("txtinY", Qt::Key_Return);
     EXPECT_EQ(Shown(), Lines{"1.000000    0.000000"});
     EXPECT_TRUE(FocusedAndSelected("txtinX"));
     // Return elsewhere enters nothing.
     Type("txt(1)", "Title");
-    QTest::keyClick(&Box("txt(1)"), Qt::Key_Return);
+    Key("txt(1)", Qt::Key_Return);
     EXPECT_EQ(Shown().size(), 1U);
 }
 
@@ -348,17 +340,16 @@ TEST_F(FrmCoordTest, EveryWayOutAsksForUnsavedLines) {
     Enter("1", "0");
     const char *const question = "The lines are not saved. Close all the same?";
     const std::vector<std::function<void()>> ways = {
-        [this] { Close(); }, [this] { Click("cmdfermer"); },
-        [this] { QTest::keyClick(window.get(), Qt::Key_Escape); }};
+        [this] { Close(); }, [this] { Click("cmdfermer"); }, [this] { Key(Qt::Key_Escape); }};
     for (const auto &way : ways) {
         programme.rib.Annule = false;
         ExpectQuestion(question, BoxAnswer::no);
         way();
-        EXPECT_TRUE(window->isVisible());
+        EXPECT_TRUE(IsOpen());
         EXPECT_TRUE(programme.rib.Annule);
         ExpectQuestion(question, BoxAnswer::yes);
         way();
-        EXPECT_FALSE(window->isVisible());
+        EXPECT_FALSE(IsOpen());
         window->show();
     }
 }
@@ -382,7 +373,7 @@ TEST_F(FrmCoordTest, HelpOpensItsTopic) {
 TEST_F(FrmCoordTest, SpeaksFrench) {
     Language("French");
     Open();
-    EXPECT_EQ(Titre(), "Créer de nouvelles coordonnées");
+    EXPECT_EQ(Title(), "Créer de nouvelles coordonnées");
     EXPECT_EQ(Word("cmdeffacetout"), "Tout effacer");
 }
 

@@ -3,6 +3,8 @@
 #include "support/qt_nothing_cut.h"
 #include "windows/views_fixture.h"
 
+#include <QTest>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -11,50 +13,43 @@
 namespace loftwing {
 namespace {
 
+using testing::AllOf;
 using testing::HasSubstr;
 
 class FrmEpCourbTest : public Views {
   protected:
     /// Opens the dialog on naca2412 and acts in it.
-    void Use(const Act &act) {
-        Run("mnu_outilEpCourb", {PickSample("naca2412.dat"), [&act](QDialog &dialog) {
-                                     ASSERT_EQ(dialog.objectName(), "frmEpCourb");
-                                     act(dialog);
+    void Use(const User &user) {
+        Run("mnu_outilEpCourb", {PickSample("naca2412.dat"), [&user](Seen &dialog) {
+                                     ASSERT_EQ(dialog.Name(), "frmEpCourb");
+                                     user(dialog);
                                  }});
     }
-    static std::string Label(QDialog &dialog, const char *name) {
-        return dialog.findChild<QLabel *>(name)->text().toStdString();
-    }
-    static void Values(QDialog &dialog, const char *thickness, const char *camber) {
-        Type(dialog, "txtEpR", thickness);
-        Type(dialog, "txtCourbure", camber);
+    static void Values(Seen &dialog, const char *thickness, const char *camber) {
+        dialog.Type("txtEpR", thickness);
+        dialog.Type("txtCourbure", camber);
     }
     void Saves(const std::string &path) { world.platform.files_expected.push_back(path); }
     void ExpectWarning(LngKey key) {
-        const std::string text = world.programme.Text(key);
-        world.platform.boxes_expected.push_back({BoxAnswer::ok, [text](const MessageBox &box) {
-                                                     EXPECT_EQ(box.text, text);
-                                                     EXPECT_EQ(box.icon, BoxIcon::warning);
-                                                     EXPECT_EQ(box.title,
-                                                               "Modify Airfoil Thickness/Camber "
-                                                               "naca2412");
-                                                 }});
+        world.platform.Expect(BoxAnswer::ok, {.text = world.programme.Text(key),
+                                              .title = "Modify Airfoil Thickness/Camber naca2412",
+                                              .icon = BoxIcon::warning});
     }
 };
 
 TEST_F(FrmEpCourbTest, ShowsTheAirfoilAndItsView) {
-    Use([this](QDialog &dialog) {
-        EXPECT_EQ(dialog.windowTitle().toStdString(), "Modify Airfoil Thickness/Camber naca2412");
-        EXPECT_EQ(Text(dialog, "txtEpROr"), "12.00");
-        EXPECT_EQ(Text(dialog, "txtCourbureOr"), "2.00");
-        EXPECT_EQ(Text(dialog, "txtEpR"), "0.00");
-        EXPECT_EQ(Text(dialog, "txtCourbure"), "0.00");
-        EXPECT_EQ(Label(dialog, "Label5"), "");
-        EXPECT_EQ(Label(dialog, "Label3(0)"), "Original Airfoil");
-        EXPECT_EQ(Label(dialog, "Label3(1)"), "New Airfoil");
-        EXPECT_TRUE(dialog.findChild<QLineEdit *>("txtEpROr")->isReadOnly());
-        EXPECT_EQ(dialog.focusWidget()->objectName(), "txtEpR");
-        EXPECT_TRUE(dialog.findChild<QLineEdit *>("txtEpR")->hasSelectedText());
+    Use([this](Seen &dialog) {
+        EXPECT_EQ(dialog.Title(), "Modify Airfoil Thickness/Camber naca2412");
+        EXPECT_EQ(dialog.Text("txtEpROr"), "12.00");
+        EXPECT_EQ(dialog.Text("txtCourbureOr"), "2.00");
+        EXPECT_EQ(dialog.Text("txtEpR"), "0.00");
+        EXPECT_EQ(dialog.Text("txtCourbure"), "0.00");
+        EXPECT_EQ(dialog.Label("Label5"), "");
+        EXPECT_EQ(dialog.Label("Label3(0)"), "Original Airfoil");
+        EXPECT_EQ(dialog.Label("Label3(1)"), "New Airfoil");
+        EXPECT_TRUE(dialog.Find<QLineEdit>("txtEpROr").isReadOnly());
+        EXPECT_EQ(dialog.Focus(), "txtEpR");
+        EXPECT_TRUE(dialog.Find<QLineEdit>("txtEpR").hasSelectedText());
         EXPECT_FALSE(Rib().ModeEpCourb);
         EXPECT_EQ(world.Panel(2), "Airfoil : naca2412 + naca2412 thickness : 0% camber : 0% "
                                   "Chord : 200 mm");
@@ -62,12 +57,12 @@ TEST_F(FrmEpCourbTest, ShowsTheAirfoilAndItsView) {
 }
 
 TEST_F(FrmEpCourbTest, ApplyShowsTheNewSectionOverTheOldOne) {
-    Use([this](QDialog &dialog) {
+    Use([this](Seen &dialog) {
         Values(dialog, "a9/", "3.5-");
-        Click(dialog, "CmdApply");
-        EXPECT_EQ(Text(dialog, "txtEpR"), "9.00");
-        EXPECT_EQ(Text(dialog, "txtCourbure"), "3.50");
-        EXPECT_EQ(Label(dialog, "Label5"), " 18. mm");
+        dialog.Click("CmdApply");
+        EXPECT_EQ(dialog.Text("txtEpR"), "9.00");
+        EXPECT_EQ(dialog.Text("txtCourbure"), "3.50");
+        EXPECT_EQ(dialog.Label("Label5"), " 18. mm");
         EXPECT_TRUE(Rib().ModeEpCourb);
         EXPECT_EQ(world.Panel(2), "Airfoil : naca2412 + naca2412 thickness : 9% camber : 3.5% "
                                   "Chord : 200 mm");
@@ -76,8 +71,9 @@ TEST_F(FrmEpCourbTest, ApplyShowsTheNewSectionOverTheOldOne) {
                                          "naca2412 thickness : 9% camber : 3.5% "));
         EXPECT_EQ(SegmentsOf(Drawing()->Operations()).size(),
                   1U + 800U + static_cast<std::size_t>(Rib().NbContour - 1));
-        world.window->resize(700, 400);
-        QTest::qWait(10);
+        const Recording *drawing = Drawing();
+        world.Resize(QSize(700, 400));
+        EXPECT_NE(Drawing(), drawing);
         EXPECT_THAT(world.Panel(2), HasSubstr("thickness : 9%"));
     });
 }
@@ -86,7 +82,7 @@ TEST_F(FrmEpCourbTest, TheRibsFeaturesGoWithTheNewAirfoil) {
     OpenRib();
     Rib().NbRep = 5;
     Rib().TypeGabarit = kGabaritTalon;
-    Use([this](QDialog &) {
+    Use([this](Seen &) {
         EXPECT_EQ(Rib().NbRep, 0);
         EXPECT_EQ(Rib().TypeGabarit, kSansGabarit);
     });
@@ -94,10 +90,10 @@ TEST_F(FrmEpCourbTest, TheRibsFeaturesGoWithTheNewAirfoil) {
 
 TEST_F(FrmEpCourbTest, SavesUnderTheProposedName) {
     Saves(world.folder.Path("sets/new.dat"));
-    Use([this](QDialog &dialog) {
+    Use([this](Seen &dialog) {
         Values(dialog, "9", "3");
-        Click(dialog, "CmdApply");
-        Click(dialog, "cmdsave");
+        dialog.Click("CmdApply");
+        dialog.Click("cmdsave");
     });
     const FileQuestion &question = world.platform.file_questions.back();
     EXPECT_EQ(question.name, "naca2412_E9.00C3.00.dat");
@@ -112,13 +108,13 @@ TEST_F(FrmEpCourbTest, SavesUnderTheProposedName) {
 }
 
 TEST_F(FrmEpCourbTest, SavingAndPrintingWantAnAppliedThickness) {
-    Use([this](QDialog &dialog) {
+    Use([this](Seen &dialog) {
         ExpectWarning({"FrmEpCourb", "15"});
-        Click(dialog, "cmdsave");
+        dialog.Click("cmdsave");
         ExpectWarning({"FrmEpCourb", "15"});
-        Click(dialog, "cmdprintEC");
+        dialog.Click("cmdprintEC");
         EXPECT_EQ(world.platform.boxes.size(), 2U);
-        EXPECT_TRUE(dialog.isVisible());
+        EXPECT_TRUE(dialog.IsOpen());
     });
 }
 
@@ -127,11 +123,11 @@ TEST_F(FrmEpCourbTest, PrintsTheView) {
     world.platform.make_printer = [](const PrintQuestion &) {
         return std::make_unique<TestPrinter>();
     };
-    Use([&](QDialog &dialog) {
+    Use([&](Seen &dialog) {
         Values(dialog, "9", "3");
-        Click(dialog, "CmdApply");
-        ExpectBox(BoxAnswer::yes, "Print naca2412");
-        Click(dialog, "cmdprintEC");
+        dialog.Click("CmdApply");
+        world.platform.Expect(BoxAnswer::yes, {.text = "Print naca2412"});
+        dialog.Click("cmdprintEC");
         drawn = world.platform.print_questions.size();
         EXPECT_EQ(world.platform.pointer, Pointer::normal);
     });
@@ -141,9 +137,9 @@ TEST_F(FrmEpCourbTest, PrintsTheView) {
 TEST_F(FrmEpCourbTest, OkSavesFirstAndOpensTheNewAirfoil) {
     const std::string path = world.folder.Path("sets/new.dat");
     Saves(path);
-    Use([](QDialog &dialog) {
+    Use([](Seen &dialog) {
         Values(dialog, "9", "3");
-        Click(dialog, "cmdok");
+        dialog.Click("cmdok");
     });
     EXPECT_EQ(Rib().CheminProfil, path);
     EXPECT_EQ(Rib().NomProfil, "new");
@@ -156,11 +152,11 @@ TEST_F(FrmEpCourbTest, OkSavesFirstAndOpensTheNewAirfoil) {
 
 TEST_F(FrmEpCourbTest, OkAfterASaveAsksForNoNameAgain) {
     Saves(world.folder.Path("sets/new.dat"));
-    Use([](QDialog &dialog) {
+    Use([](Seen &dialog) {
         Values(dialog, "9", "3");
-        Click(dialog, "CmdApply");
-        Click(dialog, "cmdsave");
-        Click(dialog, "cmdok");
+        dialog.Click("CmdApply");
+        dialog.Click("cmdsave");
+        dialog.Click("cmdok");
     });
     EXPECT_EQ(world.platform.file_questions.size(), 1U);
     EXPECT_EQ(Rib().NomProfil, "new");
@@ -169,13 +165,13 @@ TEST_F(FrmEpCourbTest, OkAfterASaveAsksForNoNameAgain) {
 TEST_F(FrmEpCourbTest, OkAfterASecondSaveThatWasCancelledOpensTheFirstFile) {
     Saves(world.folder.Path("sets/new.dat"));
     Saves("");
-    Use([](QDialog &dialog) {
+    Use([](Seen &dialog) {
         Values(dialog, "9", "3");
-        Click(dialog, "CmdApply");
-        Click(dialog, "cmdsave");
-        Click(dialog, "cmdsave");
-        Click(dialog, "cmdok");
-        EXPECT_FALSE(dialog.isVisible());
+        dialog.Click("CmdApply");
+        dialog.Click("cmdsave");
+        dialog.Click("cmdsave");
+        dialog.Click("cmdok");
+        EXPECT_FALSE(dialog.IsOpen());
     });
     EXPECT_EQ(Rib().NomProfil, "new");
     EXPECT_FALSE(Rib().ModeEpCourb);
@@ -184,12 +180,12 @@ TEST_F(FrmEpCourbTest, OkAfterASecondSaveThatWasCancelledOpensTheFirstFile) {
 TEST_F(FrmEpCourbTest, OkOnAFileThatHasGoneClearsTheView) {
     const std::string path = world.folder.Path("sets/new.dat");
     Saves(path);
-    Use([&path](QDialog &dialog) {
+    Use([&path](Seen &dialog) {
         Values(dialog, "9", "3");
-        Click(dialog, "CmdApply");
-        Click(dialog, "cmdsave");
+        dialog.Click("CmdApply");
+        dialog.Click("cmdsave");
         std::filesystem::remove(path);
-        Click(dialog, "cmdok");
+        dialog.Click("cmdok");
     });
     EXPECT_FALSE(Rib().ModeEpCourb);
     EXPECT_FALSE(Rib().ProfilCharge);
@@ -198,44 +194,42 @@ TEST_F(FrmEpCourbTest, OkOnAFileThatHasGoneClearsTheView) {
 
 TEST_F(FrmEpCourbTest, OkWithACancelledSaveStaysOpen) {
     Saves("");
-    Use([this](QDialog &dialog) {
+    Use([this](Seen &dialog) {
         Values(dialog, "9", "3");
         ExpectWarning({"FrmEpCourb", "14"});
-        Click(dialog, "cmdok");
-        EXPECT_TRUE(dialog.isVisible());
+        dialog.Click("cmdok");
+        EXPECT_TRUE(dialog.IsOpen());
     });
 }
 
 TEST_F(FrmEpCourbTest, OkWithARefusedValueStaysOpen) {
-    Use([this](QDialog &dialog) {
+    Use([this](Seen &dialog) {
         for (const char *key : {"12", "15", "14"}) {
             const std::string text =
                 GetINIFile("FrmEpCourb", key, world.programme.paths.langues + "/English.lng");
-            ExpectBox(BoxAnswer::ok, text);
+            world.platform.Expect(BoxAnswer::ok, {.text = text});
         }
         Values(dialog, "0", "3");
-        Click(dialog, "cmdok");
-        EXPECT_TRUE(dialog.isVisible());
+        dialog.Click("cmdok");
+        EXPECT_TRUE(dialog.IsOpen());
     });
 }
 
 TEST_F(FrmEpCourbTest, AFolderThatHasGoneIsToldAndNothingCountsAsSaved) {
     Saves(world.folder.Path("gone/new.dat"));
     Saves("");
-    Use([this](QDialog &dialog) {
+    Use([this](Seen &dialog) {
         Values(dialog, "9", "3");
-        Click(dialog, "CmdApply");
-        world.platform.boxes_expected.push_back(
-            {BoxAnswer::ok, [this](const MessageBox &box) {
-                 EXPECT_EQ(box.title, "Error EpCourb/Save");
-                 EXPECT_THAT(box.text, HasSubstr(world.programme.Text({"Message", "3"})));
-                 EXPECT_THAT(box.text, HasSubstr(world.folder.Path("gone/new.dat")));
-             }});
-        Click(dialog, "cmdsave");
+        dialog.Click("CmdApply");
+        world.platform.Expect(BoxAnswer::ok,
+                              {.text = AllOf(HasSubstr(world.programme.Text({"Message", "3"})),
+                                             HasSubstr(world.folder.Path("gone/new.dat"))),
+                               .title = "Error EpCourb/Save"});
+        dialog.Click("cmdsave");
         EXPECT_EQ(world.platform.pointer, Pointer::normal);
         ExpectWarning({"FrmEpCourb", "14"});
-        Click(dialog, "cmdok");
-        EXPECT_TRUE(dialog.isVisible());
+        dialog.Click("cmdok");
+        EXPECT_TRUE(dialog.IsOpen());
     });
     EXPECT_FALSE(std::filesystem::exists(world.folder.Path("gone")));
 }
@@ -243,31 +237,28 @@ TEST_F(FrmEpCourbTest, AFolderThatHasGoneIsToldAndNothingCountsAsSaved) {
 TEST_F(FrmEpCourbTest, AFileThatCannotBeWrittenIsToldWithItsNumber) {
     std::filesystem::create_directories(world.folder.Path("sets/new.dat"));
     Saves(world.folder.Path("sets/new.dat"));
-    Use([this](QDialog &dialog) {
+    Use([this](Seen &dialog) {
         Values(dialog, "9", "3");
-        Click(dialog, "CmdApply");
-        world.platform.boxes_expected.push_back({BoxAnswer::ok, [](const MessageBox &box) {
-                                                     EXPECT_EQ(box.title, "Error EpCourb/Save");
-                                                     EXPECT_THAT(box.text,
-                                                                 HasSubstr("Error # 75 in"));
-                                                 }});
-        Click(dialog, "cmdsave");
+        dialog.Click("CmdApply");
+        world.platform.Expect(BoxAnswer::ok,
+                              {.text = HasSubstr("Error # 75 in"), .title = "Error EpCourb/Save"});
+        dialog.Click("cmdsave");
     });
 }
 
 TEST_F(FrmEpCourbTest, CancelEscapeAndCloseClearTheRib) {
     for (const int way : {0, 1, 2}) {
-        Use([this, way](QDialog &dialog) {
+        Use([this, way](Seen &dialog) {
             Values(dialog, "9", "3");
-            Click(dialog, "CmdApply");
+            dialog.Click("CmdApply");
             if (way == 0) {
-                Click(dialog, "cmdannuler");
+                dialog.Click("cmdannuler");
             } else if (way == 1) {
-                QTest::keyClick(&dialog, Qt::Key_Escape);
+                dialog.Key(Qt::Key_Escape);
             } else {
-                dialog.close();
+                dialog.Close();
             }
-            EXPECT_FALSE(dialog.isVisible());
+            EXPECT_FALSE(dialog.IsOpen());
         });
         EXPECT_FALSE(Rib().ProfilCharge);
         EXPECT_FALSE(Rib().ModeEpCourb);
@@ -278,13 +269,13 @@ TEST_F(FrmEpCourbTest, CancelEscapeAndCloseClearTheRib) {
 }
 
 TEST_F(FrmEpCourbTest, ADrawingThatFailsClosesTheDialog) {
-    Use([this](QDialog &dialog) {
+    Use([this](Seen &dialog) {
         Values(dialog, "9", "3");
         Rib().NbContour = 32000;
         world.platform.Expect(BoxAnswer::ok);
-        Click(dialog, "cmdok");
+        dialog.Click("cmdok");
         EXPECT_EQ(world.platform.boxes.back().title, "Error Main/PrintRoutineEpcourb");
-        EXPECT_FALSE(dialog.isVisible());
+        EXPECT_FALSE(dialog.IsOpen());
     });
     EXPECT_FALSE(Rib().ProfilCharge);
 }
@@ -292,7 +283,7 @@ TEST_F(FrmEpCourbTest, ADrawingThatFailsClosesTheDialog) {
 TEST_F(FrmEpCourbTest, TheCommandAsksBeforeChangesAreLost) {
     OpenRib();
     Rib().Modifie = true;
-    ExpectBox(BoxAnswer::no, world.programme.Text({"FrmMainMessage", "9"}));
+    world.platform.Expect(BoxAnswer::no, {.text = world.programme.Text({"FrmMainMessage", "9"})});
     world.Action("mnu_outilEpCourb")->trigger();
     EXPECT_TRUE(Rib().ProfilCharge);
     EXPECT_EQ(world.platform.boxes.back().title, world.programme.Text({"FrmMainMessage", "10"}));
@@ -306,16 +297,16 @@ TEST_F(FrmEpCourbTest, ACancelledPickerEndsTheCommand) {
 }
 
 TEST_F(FrmEpCourbTest, HelpIsAtItsPlace) {
-    Use([](QDialog &dialog) { Click(dialog, "cmdaide"); });
+    Use([](Seen &dialog) { dialog.Click("cmdaide"); });
     EXPECT_THAT(world.platform.help_contexts, testing::ElementsAre(60));
 }
 
 TEST_F(FrmEpCourbTest, TheKeyboardGoesThroughFieldsAndButtonsInTheirOrder) {
-    Use([](QDialog &dialog) {
+    Use([](Seen &dialog) {
         std::vector<std::string> order;
         for (int i = 0; i < 8; ++i) {
-            order.push_back(dialog.focusWidget()->objectName().toStdString());
-            QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+            order.push_back(dialog.Focus());
+            dialog.Key(Qt::Key_Tab);
         }
         EXPECT_THAT(order, testing::ElementsAre("txtEpR", "txtCourbure", "CmdApply", "cmdsave",
                                                 "cmdprintEC", "cmdok", "cmdannuler", "cmdaide"));
@@ -331,10 +322,11 @@ TEST(FrmEpCourbLook, NothingIsCutInAnyLanguageUnitOrFont) {
                 world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
                 frmEpCourb dialog(world.programme, *world.window, nullptr);
                 dialog.show();
-                dialog.findChild<QLineEdit *>("txtEpR")->setText("100");
-                dialog.findChild<QLineEdit *>("txtCourbure")->setText("99");
-                dialog.findChild<QPushButton *>("CmdApply")->click();
-                QTest::qWait(1);
+                const Seen seen(dialog);
+                seen.Fill("txtEpR", "100");
+                seen.Fill("txtCourbure", "99");
+                seen.Click("CmdApply");
+                ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
                 ExpectNothingCut(dialog);
             }
         }

@@ -5,28 +5,27 @@ namespace {
 
 TEST_F(FrmPrintTest, MarginsThatLeaveNoRoomAreRefusedAndLeadToTheOverlap) {
     Chord(300);
-    Use([this](frmPrint &dialog) {
-        Type(dialog, 1, "26");
+    Use([this](Seen &dialog) {
+        dialog.Type("Text1(1)", "26");
         EXPECT_TRUE(platform.boxes.empty());
-        ExpectBoxes(1);
-        QTest::keyClicks(&Box(dialog, 1), "2"); // 297 - 262 - 15 - 20 = 0
+        platform.Expect(BoxAnswer::ok);
+        dialog.Keys("Text1(1)", "2"); // 297 - 262 - 15 - 20 = 0
         EXPECT_EQ(platform.boxes.back().text, kNoRoom);
         EXPECT_EQ(platform.boxes.back().title, "Error");
         EXPECT_EQ(platform.boxes.back().icon, BoxIcon::stop);
-        EXPECT_TRUE(FocusedAndSelected(Box(dialog, 3)));
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : -");
-        EXPECT_FALSE(Bold(dialog, "Label4"));
-        Type(dialog, 3, "8");
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : 26"); // 300 / 12
+        EXPECT_TRUE(dialog.FocusedAndSelected("Text1(3)"));
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : -");
+        EXPECT_FALSE(dialog.Bold("Label4"));
+        dialog.Type("Text1(3)", "8");
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : 26"); // 300 / 12
     });
 }
 
 TEST_F(FrmPrintTest, ATextThatChangesUnderABoxStartsNoSecondOne) {
     Chord(300);
-    Use([this](frmPrint &dialog) {
-        platform.boxes_expected.push_back(
-            {BoxAnswer::ok, [&](const MessageBox &) { Box(dialog, 2).setText("290"); }});
-        Box(dialog, 1).setText("290");
+    Use([this](Seen &dialog) {
+        platform.Expect(BoxAnswer::ok, {.meanwhile = [&] { dialog.Fill("Text1(2)", "290"); }});
+        dialog.Fill("Text1(1)", "290");
         EXPECT_EQ(platform.boxes.size(), 1U);
     });
 }
@@ -35,58 +34,58 @@ TEST_F(FrmPrintTest, NoRoomIsToldAtOkWhenItWasSoFromTheStart) {
     Chord(300);
     programme.settings.page.MargeHaut = 290;
     programme.settings.page.MargeHautAfich = "290";
-    const Left left = Use([this](frmPrint &dialog) {
+    const Left left = Use([this](Seen &dialog) {
         EXPECT_TRUE(platform.boxes.empty());
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : -");
-        ExpectBoxes(1);
-        Click(dialog, "cmdok");
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : -");
+        platform.Expect(BoxAnswer::ok);
+        dialog.Click("cmdok");
         EXPECT_EQ(platform.boxes.back().text, kNoRoom);
-        EXPECT_TRUE(FocusedAndSelected(Box(dialog, 3)));
+        EXPECT_TRUE(dialog.FocusedAndSelected("Text1(3)"));
     });
     EXPECT_EQ(left, Left::open);
 }
 
 TEST_F(FrmPrintTest, MoreThan255SheetsFailOnceForEachChange) {
     Chord(300);
-    Use([this](frmPrint &dialog) {
-        Type(dialog, 3, "27");
-        ExpectBoxes(1);
-        QTest::keyClicks(&Box(dialog, 3), "1"); // steps of 1 mm: 301 sheets
+    Use([this](Seen &dialog) {
+        dialog.Type("Text1(3)", "27");
+        platform.Expect(BoxAnswer::ok);
+        dialog.Keys("Text1(3)", "1"); // steps of 1 mm: 301 sheets
         EXPECT_TRUE(platform.boxes.back().text.starts_with("Error # 6 in Loftwing\n"));
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : -");
-        EXPECT_TRUE(Box(dialog, 3).isEnabled());
-        QTest::keyClick(&Box(dialog, 3), Qt::Key_Backspace);
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : 2");
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : -");
+        EXPECT_TRUE(dialog.Enabled("Text1(3)"));
+        dialog.Key("Text1(3)", Qt::Key_Backspace);
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : 2");
     });
     EXPECT_EQ(platform.boxes.size(), 1U);
 }
 
 TEST_F(FrmPrintTest, AFailureLeavesTheOverlapToBePutRight) {
     Chord(100000);
-    Use([this](frmPrint &dialog) {
-        ExpectBoxes(1);
+    Use([this](Seen &dialog) {
+        platform.Expect(BoxAnswer::ok);
         Paper(dialog, 8);
-        ExpectBoxes(1);
+        platform.Expect(BoxAnswer::ok);
         Paper(dialog, 0); // steps of 272 mm: 368 sheets
         EXPECT_TRUE(platform.boxes.back().text.starts_with("Error # 6 in Loftwing\n"));
-        EXPECT_TRUE(Box(dialog, 3).isEnabled());
-        EXPECT_FALSE(Enabled(dialog, "cmdconfigImprim"));
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : -");
+        EXPECT_TRUE(dialog.Enabled("Text1(3)"));
+        EXPECT_FALSE(dialog.Enabled("cmdconfigImprim"));
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : -");
     });
 }
 
 TEST_F(FrmPrintTest, AFractionOverNothingFailsAndNeverComesOut) {
     Inches();
     Chord("13", 330.2F);
-    const Left left = Use([this](frmPrint &dialog) {
-        Type(dialog, 1, "1/");
-        ExpectBoxes(1);
-        QTest::keyClicks(&Box(dialog, 1), "0");
+    const Left left = Use([this](Seen &dialog) {
+        dialog.Type("Text1(1)", "1/");
+        platform.Expect(BoxAnswer::ok);
+        dialog.Keys("Text1(1)", "0");
         EXPECT_TRUE(platform.boxes.back().text.starts_with("Error # 11 in Loftwing\n"));
         // The other boxes don't complain of it.
-        Type(dialog, 2, "1");
-        ExpectBoxes(1);
-        Click(dialog, "cmdok");
+        dialog.Type("Text1(2)", "1");
+        platform.Expect(BoxAnswer::ok);
+        dialog.Click("cmdok");
         EXPECT_TRUE(platform.boxes.back().text.starts_with("Error # 11 in Loftwing\n"));
     });
     EXPECT_EQ(left, Left::open);
@@ -98,50 +97,50 @@ TEST_F(FrmPrintTest, AFractionOverNothingFailsAndNeverComesOut) {
 TEST_F(FrmPrintTest, ATextThatIsNoLengthIsToldAtItsOwnChangesOnly) {
     Inches();
     Chord("13", 330.2F);
-    Use([this](frmPrint &dialog) {
-        ExpectBoxes(1);
-        Type(dialog, 2, "/");
+    Use([this](Seen &dialog) {
+        platform.Expect(BoxAnswer::ok);
+        dialog.Type("Text1(2)", "/");
         EXPECT_EQ(platform.boxes.back().title, "Enter error");
-        Type(dialog, 1, "1");
+        dialog.Type("Text1(1)", "1");
         EXPECT_EQ(platform.boxes.size(), 1U);
     });
 }
 
 TEST_F(FrmPrintTest, BoxesTakeTheKeysOfTheUnit) {
-    Use([](frmPrint &dialog) {
+    Use([](Seen &dialog) {
         for (const int index : {0, 1, 2}) {
-            Type(dialog, index, "a1-./,%2");
-            EXPECT_EQ(Box(dialog, index).text(), "1.2") << index;
+            dialog.Type({"Text1", index}, "a1-./,%2");
+            EXPECT_EQ(dialog.Text({"Text1", index}), "1.2") << index;
         }
     });
     Inches();
-    Use([](frmPrint &dialog) {
-        Type(dialog, 0, "a1-.1/,%2");
-        EXPECT_EQ(Box(dialog, 0).text(), "1.1/2");
+    Use([](Seen &dialog) {
+        dialog.Type("Text1(0)", "a1-.1/,%2");
+        EXPECT_EQ(dialog.Text("Text1(0)"), "1.1/2");
     });
 }
 
 TEST_F(FrmPrintTest, PaperThatIsTooShortForTheMarginsIsRefused) {
     Chord(300);
-    Use([this](frmPrint &dialog) {
-        Type(dialog, 3, "250"); // steps of 22 mm on A4
-        ExpectBoxes(1);
+    Use([this](Seen &dialog) {
+        dialog.Type("Text1(3)", "250"); // steps of 22 mm on A4
+        platform.Expect(BoxAnswer::ok);
         Paper(dialog, 4); // 266.7 - 275
         EXPECT_EQ(platform.boxes.back().text, kNoRoom);
-        EXPECT_TRUE(FocusedAndSelected(Box(dialog, 3)));
+        EXPECT_TRUE(dialog.FocusedAndSelected("Text1(3)"));
     });
 }
 
 TEST_F(FrmPrintTest, OkStoresThePageAndWritesIt) {
     Chord(300);
-    const Left left = Use([this](frmPrint &dialog) {
+    const Left left = Use([this](Seen &dialog) {
         programme.rib.Annule = true;
-        Type(dialog, 0, "60");
-        Type(dialog, 1, "12.5");
-        Type(dialog, 2, "16");
-        Type(dialog, 3, "22");
+        dialog.Type("Text1(0)", "60");
+        dialog.Type("Text1(1)", "12.5");
+        dialog.Type("Text1(2)", "16");
+        dialog.Type("Text1(3)", "22");
         Paper(dialog, 1);
-        Click(dialog, "cmdok");
+        dialog.Click("cmdok");
     });
     EXPECT_EQ(left, Left::accepted);
     EXPECT_FALSE(programme.rib.Annule);
@@ -161,32 +160,31 @@ TEST_F(FrmPrintTest, OkStoresThePageAndWritesIt) {
 
 TEST_F(FrmPrintTest, OkLengthensAStepThatEqualsTheChord) {
     Chord(272);
-    EXPECT_EQ(Use([](frmPrint &dialog) { Click(dialog, "cmdok"); }), Left::accepted);
+    EXPECT_EQ(Use([](Seen &dialog) { dialog.Click("cmdok"); }), Left::accepted);
     EXPECT_EQ(Page().PasPage, 272.5F);
     EXPECT_EQ(Page().NbPages, 1);
     EXPECT_EQ(Page().recouvrement, 0.0F);
 }
 
 TEST_F(FrmPrintTest, ReturnIsOk) {
-    EXPECT_EQ(Use([](frmPrint &dialog) { QTest::keyClick(&Box(dialog, 1), Qt::Key_Return); }),
-              Left::accepted);
+    EXPECT_EQ(Use([](Seen &dialog) { dialog.Key("Text1(1)", Qt::Key_Return); }), Left::accepted);
 }
 
 TEST_F(FrmPrintTest, SeveralSheetsWithoutOverlapAreRefusedAtOkButKept) {
     Chord(300);
     NoOverlap();
-    const Left left = Use([this](frmPrint &dialog) {
+    const Left left = Use([this](Seen &dialog) {
         EXPECT_TRUE(platform.boxes.empty());
-        ExpectBoxes(1);
-        Click(dialog, "cmdok");
+        platform.Expect(BoxAnswer::ok);
+        dialog.Click("cmdok");
         EXPECT_EQ(platform.boxes.back().text, "2 Pages, Please check Overlap Airfoil");
         EXPECT_EQ(platform.boxes.back().title, " Pages, Please check Overlap Airfoil");
-        EXPECT_TRUE(Bold(dialog, "Option1"));
-        EXPECT_TRUE(FocusedAndSelected(Box(dialog, 3)));
+        EXPECT_TRUE(dialog.Bold("Option1"));
+        EXPECT_TRUE(dialog.FocusedAndSelected("Text1(3)"));
         EXPECT_EQ(Stored("recouvrement"), "0");
-        QTest::keyClicks(&Box(dialog, 3), "15");
-        EXPECT_FALSE(Bold(dialog, "Option1"));
-        Click(dialog, "cmdok");
+        dialog.Keys("Text1(3)", "15");
+        EXPECT_FALSE(dialog.Bold("Option1"));
+        dialog.Click("cmdok");
     });
     EXPECT_EQ(left, Left::accepted);
     EXPECT_EQ(Page().recouvrement, 15.0F);
@@ -197,14 +195,14 @@ TEST_F(FrmPrintTest, CancelChangesNothing) {
     Chord(300);
     for (const bool by_key : {false, true}) {
         programme.rib.Annule = false;
-        const Left left = Use([&](frmPrint &dialog) {
-            Type(dialog, 1, "77");
-            Type(dialog, 3, "33");
+        const Left left = Use([&](Seen &dialog) {
+            dialog.Type("Text1(1)", "77");
+            dialog.Type("Text1(3)", "33");
             Paper(dialog, 3);
             if (by_key) {
-                QTest::keyClick(&dialog, Qt::Key_Escape);
+                dialog.Key(Qt::Key_Escape);
             } else {
-                Click(dialog, "cmdannuler");
+                dialog.Click("cmdannuler");
             }
         });
         EXPECT_EQ(left, Left::rejected);
@@ -218,13 +216,13 @@ TEST_F(FrmPrintTest, CancelChangesNothing) {
 }
 
 TEST_F(FrmPrintTest, ClosingTheWindowIsCancel) {
-    EXPECT_EQ(Use([](frmPrint &dialog) { dialog.close(); }), Left::rejected);
+    EXPECT_EQ(Use([](Seen &dialog) { dialog.Close(); }), Left::rejected);
     EXPECT_TRUE(programme.rib.Annule);
 }
 
 TEST_F(FrmPrintTest, OpeningClearsTheLastCancel) {
     programme.rib.Annule = true;
-    Use([this](frmPrint &) { EXPECT_FALSE(programme.rib.Annule); });
+    Use([this](Seen &) { EXPECT_FALSE(programme.rib.Annule); });
 }
 
 } // namespace

@@ -4,163 +4,161 @@ namespace loftwing {
 namespace {
 
 TEST_F(FrmPrintTest, ShowsItsWordsInEnglish) {
-    Use([](frmPrint &dialog) {
-        EXPECT_EQ(dialog.windowTitle().toStdString(),
-                  "Page setup : Test printer - Landscape printing");
-        EXPECT_EQ(Find<QGroupBox>(dialog, "Frame2").title(), "Margins");
-        EXPECT_EQ(Find<QGroupBox>(dialog, "Frame4").title(), "Pages");
-        EXPECT_EQ(Find<QGroupBox>(dialog, "Frame5").title(), "Print Position");
-        EXPECT_EQ(Find<QGroupBox>(dialog, "Frame6").title(), "Paper size");
-        EXPECT_EQ(Label(dialog, "Label1"), "Top :");
-        EXPECT_EQ(Label(dialog, "Label2"), "Bottom :");
-        EXPECT_EQ(Label(dialog, "Label4"), "Overlap Airfoil :");
-        EXPECT_EQ(Find<QRadioButton>(dialog, "Option1").text(), "Print on 1 page only");
-        EXPECT_EQ(Find<QRadioButton>(dialog, "Option2").text(), "Print on 1 or several pages");
-        EXPECT_EQ(Label(dialog, "Label3"), "Long side of the sheet : 297 mm");
-        EXPECT_EQ(Label(dialog, "Label9"), "Chord length, mm : 200");
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : 1");
-        EXPECT_EQ(Find<QPushButton>(dialog, "cmdok").text(), "OK");
-        EXPECT_EQ(Find<QPushButton>(dialog, "cmdannuler").text(), "Cancel");
-        EXPECT_EQ(Find<QPushButton>(dialog, "cmdaide").text(), "Help");
-        EXPECT_EQ(Find<QPushButton>(dialog, "cmdconfigImprim").text(), "Printer Setup");
+    Use([](Seen &dialog) {
+        EXPECT_EQ(dialog.Title(), "Page setup : Test printer - Landscape printing");
+        EXPECT_EQ(dialog.Frame("Frame2"), "Margins");
+        EXPECT_EQ(dialog.Frame("Frame4"), "Pages");
+        EXPECT_EQ(dialog.Frame("Frame5"), "Print Position");
+        EXPECT_EQ(dialog.Frame("Frame6"), "Paper size");
+        EXPECT_EQ(dialog.Label("Label1"), "Top :");
+        EXPECT_EQ(dialog.Label("Label2"), "Bottom :");
+        EXPECT_EQ(dialog.Label("Label4"), "Overlap Airfoil :");
+        EXPECT_EQ(dialog.Word("Option1"), "Print on 1 page only");
+        EXPECT_EQ(dialog.Word("Option2"), "Print on 1 or several pages");
+        EXPECT_EQ(dialog.Label("Label3"), "Long side of the sheet : 297 mm");
+        EXPECT_EQ(dialog.Label("Label9"), "Chord length, mm : 200");
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : 1");
+        EXPECT_EQ(dialog.Word("cmdok"), "OK");
+        EXPECT_EQ(dialog.Word("cmdannuler"), "Cancel");
+        EXPECT_EQ(dialog.Word("cmdaide"), "Help");
+        EXPECT_EQ(dialog.Word("cmdconfigImprim"), "Printer Setup");
     });
 }
 
 TEST_F(FrmPrintTest, ShowsItsWordsInFrench) {
     Language("French");
     Chord(300);
-    Use([](frmPrint &dialog) {
-        EXPECT_EQ(dialog.windowTitle().toStdString(),
-                  "Mise en page : Test printer - Impression en mode paysage");
-        EXPECT_EQ(Label(dialog, "Label9"), "Longueur de la corde, mm : 300");
-        EXPECT_EQ(Label(dialog, "Label10"), "Nombre de pages : 2");
-        EXPECT_EQ(Find<QPushButton>(dialog, "cmdannuler").text(), "Annuler");
+    Use([](Seen &dialog) {
+        EXPECT_EQ(dialog.Title(), "Mise en page : Test printer - Impression en mode paysage");
+        EXPECT_EQ(dialog.Label("Label9"), "Longueur de la corde, mm : 300");
+        EXPECT_EQ(dialog.Label("Label10"), "Nombre de pages : 2");
+        EXPECT_EQ(dialog.Word("cmdannuler"), "Annuler");
     });
 }
 
 TEST_F(FrmPrintTest, ShowsTheStoredPage) {
     Inches();
     Chord("8", 203.2F);
-    Use([](frmPrint &dialog) {
-        const auto &papers = Find<QComboBox>(dialog, "Combo1");
+    Use([](Seen &dialog) {
+        const auto &papers = dialog.Find<QComboBox>("Combo1");
         EXPECT_EQ(papers.count(), 9);
         EXPECT_EQ(papers.itemText(7).toStdString(), " A3 297 x 420 mm");
         EXPECT_EQ(papers.itemText(8).toStdString(), " Paper set in the printer");
         EXPECT_EQ(papers.currentIndex(), 1);
-        EXPECT_EQ(Box(dialog, 0).text(), "2");
-        EXPECT_EQ(Box(dialog, 1).text(), "1/2");
-        EXPECT_EQ(Box(dialog, 2).text(), "1/2");
+        EXPECT_EQ(dialog.Text("Text1(0)"), "2");
+        EXPECT_EQ(dialog.Text("Text1(1)"), "1/2");
+        EXPECT_EQ(dialog.Text("Text1(2)"), "1/2");
         for (const char *unit : {"Label5", "Label6", "Label7", "Label8"}) {
-            EXPECT_EQ(Label(dialog, unit), " in");
+            EXPECT_EQ(dialog.Label(unit), " in");
         }
-        EXPECT_EQ(Label(dialog, "Label3"), "Long side of the sheet : 279.4 mm");
-        EXPECT_EQ(Label(dialog, "Label9"), "Chord length, in : 8");
+        EXPECT_EQ(dialog.Label("Label3"), "Long side of the sheet : 279.4 mm");
+        EXPECT_EQ(dialog.Label("Label9"), "Chord length, in : 8");
     });
 }
 
 TEST_F(FrmPrintTest, ARibThatFitsTakesNoOverlap) {
-    Use([](frmPrint &dialog) {
-        EXPECT_EQ(Box(dialog, 3).text(), "0");
-        EXPECT_FALSE(Box(dialog, 3).isEnabled());
-        EXPECT_TRUE(Chosen(dialog, "Option2"));
-        EXPECT_TRUE(Enabled(dialog, "Option2"));
-        EXPECT_FALSE(Enabled(dialog, "Option1"));
-        EXPECT_FALSE(Enabled(dialog, "cmdconfigImprim"));
-        EXPECT_TRUE(Enabled(dialog, "Label4"));
-        EXPECT_FALSE(Bold(dialog, "Label4"));
+    Use([](Seen &dialog) {
+        EXPECT_EQ(dialog.Text("Text1(3)"), "0");
+        EXPECT_FALSE(dialog.Enabled("Text1(3)"));
+        EXPECT_TRUE(dialog.Chosen("Option2"));
+        EXPECT_TRUE(dialog.Enabled("Option2"));
+        EXPECT_FALSE(dialog.Enabled("Option1"));
+        EXPECT_FALSE(dialog.Enabled("cmdconfigImprim"));
+        EXPECT_TRUE(dialog.Enabled("Label4"));
+        EXPECT_FALSE(dialog.Bold("Label4"));
     });
 }
 
 TEST_F(FrmPrintTest, ALongRibPointsToItsOverlap) {
     Chord(300);
-    Use([](frmPrint &dialog) {
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : 2");
-        EXPECT_TRUE(Bold(dialog, "Label4"));
-        EXPECT_TRUE(Box(dialog, 3).isEnabled());
-        EXPECT_EQ(Box(dialog, 3).text(), "20");
-        EXPECT_TRUE(FocusedAndSelected(Box(dialog, 3)));
-        EXPECT_TRUE(Chosen(dialog, "Option2"));
-        EXPECT_FALSE(Enabled(dialog, "Option1"));
+    Use([](Seen &dialog) {
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : 2");
+        EXPECT_TRUE(dialog.Bold("Label4"));
+        EXPECT_TRUE(dialog.Enabled("Text1(3)"));
+        EXPECT_EQ(dialog.Text("Text1(3)"), "20");
+        EXPECT_TRUE(dialog.FocusedAndSelected("Text1(3)"));
+        EXPECT_TRUE(dialog.Chosen("Option2"));
+        EXPECT_FALSE(dialog.Enabled("Option1"));
     });
 }
 
 TEST_F(FrmPrintTest, CountsWhileTheUserTypes) {
     Chord(1000);
-    Use([](frmPrint &dialog) {
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : 4"); // 1000 / 252
-        Type(dialog, 3, "9");
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : 4"); // 1000 / 263
-        QTest::keyClicks(&Box(dialog, 3), "0");
-        EXPECT_EQ(Box(dialog, 3).text(), "90");
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : 6"); // 1000 / 182
-        Type(dialog, 1, "100");
-        EXPECT_EQ(Box(dialog, 1).text(), "100");
-        EXPECT_TRUE(Box(dialog, 1).hasFocus());
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : 11"); // 1000 / 92
-        EXPECT_EQ(Box(dialog, 3).selectedText(), "90");
+    Use([](Seen &dialog) {
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : 4"); // 1000 / 252
+        dialog.Type("Text1(3)", "9");
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : 4"); // 1000 / 263
+        dialog.Keys("Text1(3)", "0");
+        EXPECT_EQ(dialog.Text("Text1(3)"), "90");
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : 6"); // 1000 / 182
+        dialog.Type("Text1(1)", "100");
+        EXPECT_EQ(dialog.Text("Text1(1)"), "100");
+        EXPECT_TRUE(dialog.Focused("Text1(1)"));
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : 11"); // 1000 / 92
+        EXPECT_EQ(dialog.Selected("Text1(3)"), "90");
     });
 }
 
 TEST_F(FrmPrintTest, CountsInInches) {
     Inches();
     Chord("13", 330.2F);
-    Use([](frmPrint &dialog) {
+    Use([](Seen &dialog) {
         // 279.4 - 12.7 - 12.7 - 25.4 = 228.6; 330.2 / 228.6 = 1.4
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : 2");
-        Type(dialog, 3, "5.3/4"); // 146.05, steps of 107.95: 3.06
-        EXPECT_EQ(Box(dialog, 3).text(), "5.3/4");
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : 4");
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : 2");
+        dialog.Type("Text1(3)", "5.3/4"); // 146.05, steps of 107.95: 3.06
+        EXPECT_EQ(dialog.Text("Text1(3)"), "5.3/4");
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : 4");
     });
 }
 
 TEST_F(FrmPrintTest, PrintPositionDoesntCountForTheSheets) {
     Chord(300);
-    Use([](frmPrint &dialog) {
-        Type(dialog, 0, "100");
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : 2");
+    Use([](Seen &dialog) {
+        dialog.Type("Text1(0)", "100");
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : 2");
     });
 }
 
 TEST_F(FrmPrintTest, MarginsThatGrowOverTheSheetEndTheFit) {
-    Use([](frmPrint &dialog) {
-        Type(dialog, 2, "87"); // 200 + 10 + 87 = 297
-        EXPECT_FALSE(Box(dialog, 3).isEnabled());
-        Type(dialog, 2, "88");
-        EXPECT_TRUE(Box(dialog, 3).isEnabled());
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : 2"); // 200 / 199
-        EXPECT_EQ(Box(dialog, 3).text(), "0");
+    Use([](Seen &dialog) {
+        dialog.Type("Text1(2)", "87"); // 200 + 10 + 87 = 297
+        EXPECT_FALSE(dialog.Enabled("Text1(3)"));
+        dialog.Type("Text1(2)", "88");
+        EXPECT_TRUE(dialog.Enabled("Text1(3)"));
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : 2"); // 200 / 199
+        EXPECT_EQ(dialog.Text("Text1(3)"), "0");
     });
 }
 
 TEST_F(FrmPrintTest, FocusSelectsTheWholeText) {
-    Use([](frmPrint &dialog) {
-        Box(dialog, 1).setFocus();
-        EXPECT_EQ(Box(dialog, 1).selectedText(), "10");
-        QTest::keyClick(&Box(dialog, 1), Qt::Key_Tab);
-        EXPECT_TRUE(FocusedAndSelected(Box(dialog, 2)));
+    Use([](Seen &dialog) {
+        dialog.GoTo("Text1(1)");
+        EXPECT_EQ(dialog.Selected("Text1(1)"), "10");
+        dialog.Key("Text1(1)", Qt::Key_Tab);
+        EXPECT_TRUE(dialog.FocusedAndSelected("Text1(2)"));
     });
 }
 
 TEST_F(FrmPrintTest, ThePrintersOwnPaperTakesOneSheetWhateverTheLength) {
     Chord(3000);
-    const Left left = Use([this](frmPrint &dialog) {
-        ExpectBoxes(1);
+    const Left left = Use([this](Seen &dialog) {
+        platform.Expect(BoxAnswer::ok);
         Paper(dialog, 8);
         EXPECT_EQ(platform.boxes.back().text,
                   "Chord length : 3000 mm\nOnly one sheet of the paper set in the printer is used. "
                   "What lies beyond it is not printed.");
         EXPECT_EQ(platform.boxes.back().icon, BoxIcon::information);
-        EXPECT_EQ(Box(dialog, 3).text(), "0");
+        EXPECT_EQ(dialog.Text("Text1(3)"), "0");
         for (const char *off : {"Text1(3)", "Label4", "Label5", "Option2"}) {
-            EXPECT_FALSE(Enabled(dialog, off)) << off;
+            EXPECT_FALSE(dialog.Enabled(off)) << off;
         }
-        EXPECT_TRUE(Enabled(dialog, "Option1"));
-        EXPECT_TRUE(Chosen(dialog, "Option1"));
-        EXPECT_TRUE(Enabled(dialog, "cmdconfigImprim"));
-        EXPECT_FALSE(Bold(dialog, "Label4"));
-        EXPECT_EQ(Label(dialog, "Label3"), "Paper set in the printer");
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : 1");
-        Click(dialog, "cmdok");
+        EXPECT_TRUE(dialog.Enabled("Option1"));
+        EXPECT_TRUE(dialog.Chosen("Option1"));
+        EXPECT_TRUE(dialog.Enabled("cmdconfigImprim"));
+        EXPECT_FALSE(dialog.Bold("Label4"));
+        EXPECT_EQ(dialog.Label("Label3"), "Paper set in the printer");
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : 1");
+        dialog.Click("cmdok");
     });
     EXPECT_EQ(left, Left::accepted);
     EXPECT_EQ(Page().NumIndex, 8);
@@ -171,62 +169,62 @@ TEST_F(FrmPrintTest, ThePrintersOwnPaperTakesOneSheetWhateverTheLength) {
 
 TEST_F(FrmPrintTest, BackFromThePrintersPaperEverythingCountsAgain) {
     Chord(300);
-    Use([this](frmPrint &dialog) {
-        ExpectBoxes(1);
+    Use([this](Seen &dialog) {
+        platform.Expect(BoxAnswer::ok);
         Paper(dialog, 8);
         Paper(dialog, 0);
         for (const char *on : {"Text1(3)", "Label4", "Label5", "Option2"}) {
-            EXPECT_TRUE(Enabled(dialog, on)) << on;
+            EXPECT_TRUE(dialog.Enabled(on)) << on;
         }
-        EXPECT_TRUE(Chosen(dialog, "Option2"));
-        EXPECT_FALSE(Enabled(dialog, "Option1"));
-        EXPECT_FALSE(Enabled(dialog, "cmdconfigImprim"));
-        EXPECT_EQ(Label(dialog, "Label3"), "Long side of the sheet : 297 mm");
-        EXPECT_TRUE(FocusedAndSelected(Box(dialog, 3)));
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : 2");
+        EXPECT_TRUE(dialog.Chosen("Option2"));
+        EXPECT_FALSE(dialog.Enabled("Option1"));
+        EXPECT_FALSE(dialog.Enabled("cmdconfigImprim"));
+        EXPECT_EQ(dialog.Label("Label3"), "Long side of the sheet : 297 mm");
+        EXPECT_TRUE(dialog.FocusedAndSelected("Text1(3)"));
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : 2");
     });
 }
 
 TEST_F(FrmPrintTest, ThePrintersPaperInTheSettingsSaysNothingAtTheStart) {
     programme.settings.page.NumIndex = 8;
     Chord(3000);
-    Use([](frmPrint &dialog) {
-        EXPECT_TRUE(Chosen(dialog, "Option1"));
-        EXPECT_EQ(Label(dialog, "Label3"), "Paper set in the printer");
+    Use([](Seen &dialog) {
+        EXPECT_TRUE(dialog.Chosen("Option1"));
+        EXPECT_EQ(dialog.Label("Label3"), "Paper set in the printer");
     });
 }
 
 TEST_F(FrmPrintTest, LargerPaperTakesTheRibInOne) {
     Chord(300);
-    Use([](frmPrint &dialog) {
+    Use([](Seen &dialog) {
         Paper(dialog, 7);
-        EXPECT_EQ(Label(dialog, "Label3"), "Long side of the sheet : 420 mm");
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : 1");
-        EXPECT_FALSE(Box(dialog, 3).isEnabled());
+        EXPECT_EQ(dialog.Label("Label3"), "Long side of the sheet : 420 mm");
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : 1");
+        EXPECT_FALSE(dialog.Enabled("Text1(3)"));
     });
 }
 
 TEST_F(FrmPrintTest, APaperThatThereIsntShowsAsTheFirst) {
     programme.settings.page.NumIndex = 77;
-    Use([](frmPrint &dialog) {
-        EXPECT_EQ(Find<QComboBox>(dialog, "Combo1").currentIndex(), 0);
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : 1");
+    Use([](Seen &dialog) {
+        EXPECT_EQ(dialog.Find<QComboBox>("Combo1").currentIndex(), 0);
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : 1");
     });
 }
 
 TEST_F(FrmPrintTest, ATemplateCountsByItsOwnLength) {
     Template(60); // 200 + 60 = 260, with the margins 285
-    Use([](frmPrint &dialog) {
-        EXPECT_EQ(Label(dialog, "Label9"), "Template length, mm : 260");
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : 1");
-        EXPECT_EQ(Box(dialog, 3).text(), "0");
+    Use([](Seen &dialog) {
+        EXPECT_EQ(dialog.Label("Label9"), "Template length, mm : 260");
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : 1");
+        EXPECT_EQ(dialog.Text("Text1(3)"), "0");
     });
     Template(100);
-    Use([](frmPrint &dialog) {
-        EXPECT_EQ(Label(dialog, "Label9"), "Template length, mm : 300");
-        EXPECT_EQ(Label(dialog, "Label10"), "Number of pages : 2");
-        EXPECT_FALSE(Bold(dialog, "Option1"));
-        EXPECT_FALSE(Bold(dialog, "Label4"));
+    Use([](Seen &dialog) {
+        EXPECT_EQ(dialog.Label("Label9"), "Template length, mm : 300");
+        EXPECT_EQ(dialog.Label("Label10"), "Number of pages : 2");
+        EXPECT_FALSE(dialog.Bold("Option1"));
+        EXPECT_FALSE(dialog.Bold("Label4"));
     });
     EXPECT_EQ(programme.rib.bloc.LongBloc, 300.0F);
 }
@@ -234,25 +232,25 @@ TEST_F(FrmPrintTest, ATemplateCountsByItsOwnLength) {
 TEST_F(FrmPrintTest, ATemplateWithoutOverlapIsWarnedOfAtOnce) {
     Template(100);
     NoOverlap();
-    ExpectBoxes(1);
-    Use([this](frmPrint &dialog) {
+    platform.Expect(BoxAnswer::ok);
+    Use([this](Seen &dialog) {
         ASSERT_EQ(platform.boxes.size(), 1U);
         EXPECT_EQ(platform.boxes.back().text, "2 Pages, Please check Overlap Airfoil");
-        EXPECT_TRUE(Bold(dialog, "Option1"));
-        EXPECT_TRUE(FocusedAndSelected(Box(dialog, 3)));
-        QTest::keyClicks(&Box(dialog, 3), "5");
-        EXPECT_FALSE(Bold(dialog, "Option1"));
-        ExpectBoxes(1);
-        QTest::keyClick(&Box(dialog, 3), Qt::Key_Backspace);
-        EXPECT_TRUE(Bold(dialog, "Option1"));
+        EXPECT_TRUE(dialog.Bold("Option1"));
+        EXPECT_TRUE(dialog.FocusedAndSelected("Text1(3)"));
+        dialog.Keys("Text1(3)", "5");
+        EXPECT_FALSE(dialog.Bold("Option1"));
+        platform.Expect(BoxAnswer::ok);
+        dialog.Key("Text1(3)", Qt::Key_Backspace);
+        EXPECT_TRUE(dialog.Bold("Option1"));
         EXPECT_EQ(platform.boxes.size(), 2U);
     });
 }
 
 TEST_F(FrmPrintTest, ATemplateIsNamedWithThePrintersPaper) {
     Template(100);
-    Use([this](frmPrint &dialog) {
-        ExpectBoxes(1);
+    Use([this](Seen &dialog) {
+        platform.Expect(BoxAnswer::ok);
         Paper(dialog, 8);
         EXPECT_TRUE(platform.boxes.back().text.starts_with("Template length : 300 mm\n"));
     });
@@ -260,18 +258,18 @@ TEST_F(FrmPrintTest, ATemplateIsNamedWithThePrintersPaper) {
 
 TEST_F(FrmPrintTest, PrinterSetupIsThePlatforms) {
     programme.settings.page.NumIndex = 8;
-    Use([this](frmPrint &dialog) {
+    Use([this](Seen &dialog) {
         platform.printer_name = "Other";
-        Click(dialog, "cmdconfigImprim");
+        dialog.Click("cmdconfigImprim");
         EXPECT_EQ(platform.printer_settings_shown, 1);
-        EXPECT_EQ(dialog.windowTitle(), "Page setup : Other - Landscape printing");
+        EXPECT_EQ(dialog.Title(), "Page setup : Other - Landscape printing");
     });
 }
 
 TEST_F(FrmPrintTest, HelpOpensAtItsPlace) {
-    Use([](frmPrint &dialog) {
-        Click(dialog, "cmdaide");
-        QTest::keyClick(&dialog, Qt::Key_F1);
+    Use([](Seen &dialog) {
+        dialog.Click("cmdaide");
+        dialog.Key(Qt::Key_F1);
     });
     EXPECT_EQ(platform.help_contexts, (std::vector<int>{31, 31}));
 }

@@ -1,10 +1,10 @@
 #include "mainwindow/frmSplash.h"
 
 #include "base/version.h"
-#include "platform/qt_text.h"
+#include "support/qt_modal.h"
 #include "support/scripted_platform.h"
 
-#include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -18,10 +18,6 @@ class FrmSplashTest : public testing::Test {
         platform.pointer = Pointer::busy;
     }
 
-    static std::string Words(const frmSplash &splash, const char *label) {
-        return S(splash.findChild<QLabel *>(label)->text());
-    }
-
     static QTimer &Timer(const frmSplash &splash) { return *splash.findChild<QTimer *>("Timer1"); }
 
     ScriptedPlatform platform;
@@ -29,19 +25,19 @@ class FrmSplashTest : public testing::Test {
 };
 
 TEST_F(FrmSplashTest, ShowsVersionAndPurpose) {
-    const frmSplash splash(programme, nullptr);
+    frmSplash splash(programme, nullptr);
     const std::string version = std::to_string(kVersionMajor) + "." +
                                 std::to_string(kVersionMinor) + "." +
                                 std::to_string(kVersionRevision) + "-F";
-    EXPECT_EQ(Words(splash, "lblversion"), "version  " + version);
-    EXPECT_EQ(Words(splash, "lblpresentation"),
+    EXPECT_EQ(Seen(splash).Label("lblversion"), "version  " + version);
+    EXPECT_EQ(Seen(splash).Label("lblpresentation"),
               "Full-size rib drawings for builders of model aircraft");
 }
 
 TEST_F(FrmSplashTest, SpeaksFrench) {
     programme.language.Charge(LOFTWING_SOURCE_DIR "/resources/lng", "French");
-    const frmSplash splash(programme, nullptr);
-    EXPECT_EQ(Words(splash, "lblpresentation"),
+    frmSplash splash(programme, nullptr);
+    EXPECT_EQ(Seen(splash).Label("lblpresentation"),
               "Plans de nervures grandeur nature pour les modélistes");
 }
 
@@ -53,16 +49,16 @@ TEST_F(FrmSplashTest, ClosesOfItselfAfterThreeSeconds) {
     EXPECT_TRUE(Timer(splash).isSingleShot());
     EXPECT_EQ(Timer(splash).interval(), 3000);
     Timer(splash).start(0); // without waiting for it
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !splash.isVisible(); }));
+    EXPECT_TRUE(Eventually([&] { return !splash.isVisible(); }));
     EXPECT_EQ(platform.pointer, Pointer::normal);
 }
 
 TEST_F(FrmSplashTest, ClickOnTheImageCloses) {
     frmSplash splash(programme, nullptr);
     splash.show();
-    QTest::mouseClick(splash.findChild<QLabel *>("lblversion"), Qt::LeftButton);
+    Seen(splash).Click("lblversion");
     EXPECT_TRUE(splash.isVisible());
-    QTest::mouseClick(splash.findChild<QWidget *>("image"), Qt::LeftButton);
+    Seen(splash).Click("image");
     EXPECT_FALSE(splash.isVisible());
     EXPECT_FALSE(Timer(splash).isActive());
     EXPECT_EQ(platform.pointer, Pointer::normal);

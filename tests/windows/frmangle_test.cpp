@@ -2,13 +2,16 @@
 
 #include "base/whole_file.h"
 #include "support/qt_window_world.h"
-#include "support/temp_folder.h"
 #include "windows/addon_fixture.h"
 
 #include <filesystem>
 
 namespace loftwing {
 namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::StartsWith;
 
 class FrmangleTest : public AddonTest<frmangle> {
   protected:
@@ -24,103 +27,95 @@ class FrmangleTest : public AddonTest<frmangle> {
         view.picked = chosen;
     }
 
-    void ExpectInformation(frmangle &window, const std::string &text) {
-        const std::string title = S(window.windowTitle());
-        platform.boxes_expected.push_back({BoxAnswer::ok, [text, title](const MessageBox &box) {
-                                               EXPECT_EQ(box.text, text);
-                                               EXPECT_EQ(box.title, title);
-                                               EXPECT_EQ(box.icon, BoxIcon::information);
-                                           }});
+    void ExpectInformation(Seen &window, const std::string &text) {
+        platform.Expect(BoxAnswer::ok,
+                        {.text = text, .title = window.Title(), .icon = BoxIcon::information});
     }
-    static void Refused(frmangle &window, const char *field) {
-        Click(window, "cmdok");
-        EXPECT_TRUE(FocusedAndSelected(Box(window, field))) << field;
+    static void Refused(Seen &window, const char *field) {
+        window.Click("cmdok");
+        EXPECT_TRUE(window.FocusedAndSelected(field)) << field;
     }
-    int Clears() const {
-        return static_cast<int>(std::count(view.asked.begin(), view.asked.end(), "affclear"));
-    }
-
-    TempFolder folder;
+    int Clears() const { return Asked("affclear"); }
 };
 
 TEST_F(FrmangleTest, ShowsItsWordsAndWaitsForATemplateChord) {
-    Use([](frmangle &window) {
-        EXPECT_EQ(S(window.windowTitle()), "Rib Oblique  mm");
-        EXPECT_EQ(Word(window, "Option1(0)"), "Internal Chord computing");
-        EXPECT_EQ(Word(window, "Option1(1)"), "Template Chord computing");
-        EXPECT_EQ(Label(window, "Label1(0)"), "Template Chord");
-        EXPECT_EQ(Label(window, "Label1(1)"), "Internal Chord");
-        EXPECT_EQ(Label(window, "Label1(2)"), "Angle");
-        EXPECT_EQ(Label(window, "Label1(3)"), "Airfoil");
-        EXPECT_EQ(Label(window, "Label2(0)"), "L.E.");
-        EXPECT_EQ(Label(window, "Label2(1)"), "T.E.");
-        EXPECT_EQ(Word(window, "cmdok"), "Compute");
-        EXPECT_EQ(Tip(window, "cmdok"), "Compute and save on disk");
-        EXPECT_EQ(Tip(window, "cmdouvrir"), "Choose the airfoil of the rib");
-        EXPECT_EQ(Tip(window, "Option1(0)"),
+    Use([](Seen &window) {
+        EXPECT_EQ(window.Title(), "Rib Oblique  mm");
+        EXPECT_EQ(window.Word("Option1(0)"), "Internal Chord computing");
+        EXPECT_EQ(window.Word("Option1(1)"), "Template Chord computing");
+        EXPECT_EQ(window.Label("Label1(0)"), "Template Chord");
+        EXPECT_EQ(window.Label("Label1(1)"), "Internal Chord");
+        EXPECT_EQ(window.Label("Label1(2)"), "Angle");
+        EXPECT_EQ(window.Label("Label1(3)"), "Airfoil");
+        EXPECT_EQ(window.Label("Label2(0)"), "L.E.");
+        EXPECT_EQ(window.Label("Label2(1)"), "T.E.");
+        EXPECT_EQ(window.Word("cmdok"), "Compute");
+        EXPECT_EQ(window.Tip("cmdok"), "Compute and save on disk");
+        EXPECT_EQ(window.Tip("cmdouvrir"), "Choose the airfoil of the rib");
+        EXPECT_EQ(window.Tip("Option1(0)"),
                   "The template chord is given, the internal chord is computed");
-        EXPECT_EQ(Text(window, "Text1(2)"), "89.90");
-        EXPECT_TRUE(Chosen(window, "Option1(0)"));
-        EXPECT_TRUE(FocusedAndSelected(Box(window, "Text1(0)")));
-        EXPECT_FALSE(Box(window, "Text1(1)").isEnabled());
-        EXPECT_EQ(Text(window, "txtprofil"), "");
+        EXPECT_EQ(window.Text("Text1(2)"), "89.90");
+        EXPECT_TRUE(window.Chosen("Option1(0)"));
+        EXPECT_TRUE(window.FocusedAndSelected("Text1(0)"));
+        EXPECT_FALSE(window.Enabled("Text1(1)"));
+        EXPECT_EQ(window.Text("txtprofil"), "");
     });
 }
 
 TEST_F(FrmangleTest, SpeaksFrenchAndInches) {
     Language("French");
     Inches();
-    Use([](frmangle &window) {
-        EXPECT_EQ(S(window.windowTitle()), "Nervure oblique  in");
-        EXPECT_EQ(Label(window, "Label1(0)"), "Corde du gabarit");
+    Use([](Seen &window) {
+        EXPECT_EQ(window.Title(), "Nervure oblique  in");
+        EXPECT_EQ(window.Label("Label1(0)"), "Corde du gabarit");
         for (const char *name : {"Text1(0)", "Text1(2)"}) {
-            Type(window, name, "-a1.1/2%");
-            EXPECT_EQ(Text(window, name), "1.1/2") << name;
+            window.Type(name, "-a1.1/2%");
+            EXPECT_EQ(window.Text(name), "1.1/2") << name;
         }
     });
 }
 
 TEST_F(FrmangleTest, FieldsSwallowWhatIsNoLength) {
-    Use([](frmangle &window) {
+    Use([](Seen &window) {
         for (const char *name : {"Text1(0)", "Text1(2)"}) {
-            Type(window, name, "-a1/2.5%");
-            EXPECT_EQ(Text(window, name), "12.5") << name;
+            window.Type(name, "-a1/2.5%");
+            EXPECT_EQ(window.Text(name), "12.5") << name;
         }
     });
 }
 
 TEST_F(FrmangleTest, AnOptionClearsTheFieldThatItComputes) {
-    Use([](frmangle &window) {
-        Type(window, "Text1(0)", "150");
-        Click(window, "Option1(1)");
-        EXPECT_EQ(Text(window, "Text1(0)"), "");
-        EXPECT_FALSE(Box(window, "Text1(0)").isEnabled());
-        EXPECT_TRUE(Box(window, "Text1(1)").isEnabled());
-        EXPECT_TRUE(Box(window, "Text1(1)").hasFocus());
-        Type(window, "Text1(1)", "120");
-        Click(window, "Option1(0)");
-        EXPECT_EQ(Text(window, "Text1(1)"), "");
-        EXPECT_FALSE(Box(window, "Text1(1)").isEnabled());
-        EXPECT_TRUE(Box(window, "Text1(0)").hasFocus());
+    Use([](Seen &window) {
+        window.Type("Text1(0)", "150");
+        window.Click("Option1(1)");
+        EXPECT_EQ(window.Text("Text1(0)"), "");
+        EXPECT_FALSE(window.Enabled("Text1(0)"));
+        EXPECT_TRUE(window.Enabled("Text1(1)"));
+        EXPECT_TRUE(window.Focused("Text1(1)"));
+        window.Type("Text1(1)", "120");
+        window.Click("Option1(0)");
+        EXPECT_EQ(window.Text("Text1(1)"), "");
+        EXPECT_FALSE(window.Enabled("Text1(1)"));
+        EXPECT_TRUE(window.Focused("Text1(0)"));
     });
 }
 
 TEST_F(FrmangleTest, RefusalsLeadToTheirFields) {
-    Use([this](frmangle &window) {
+    Use([this](Seen &window) {
         ExpectInformation(window, "Please enter a chord");
         Refused(window, "Text1(0)");
-        Type(window, "Text1(0)", "100");
-        Type(window, "Text1(2)", "0");
+        window.Type("Text1(0)", "100");
+        window.Type("Text1(2)", "0");
         ExpectInformation(window, "Please enter the angle");
         Refused(window, "Text1(2)");
-        Type(window, "Text1(2)", "90");
+        window.Type("Text1(2)", "90");
         ExpectInformation(window, "The angle must not be more than 89° !");
         Refused(window, "Text1(2)");
-        Click(window, "Option1(1)");
+        window.Click("Option1(1)");
         ExpectInformation(window, "Please enter a chord");
         Refused(window, "Text1(1)");
-        Type(window, "Text1(1)", "100");
-        Type(window, "Text1(2)", "91");
+        window.Type("Text1(1)", "100");
+        window.Type("Text1(2)", "91");
         ExpectInformation(window, "The angle must not be more than 90° !");
         Refused(window, "Text1(2)");
     });
@@ -128,43 +123,42 @@ TEST_F(FrmangleTest, RefusalsLeadToTheirFields) {
 }
 
 TEST_F(FrmangleTest, WithoutAnAirfoilTheChordIsComputedAllTheSame) {
-    Use([this](frmangle &window) {
-        Type(window, "Text1(0)", "200");
-        Type(window, "Text1(2)", "30");
-        platform.boxes_expected.push_back({BoxAnswer::ok, [&window](const MessageBox &box) {
-                                               EXPECT_EQ(box.text, "Please choose an airfoil");
-                                               EXPECT_EQ(Text(window, "Text1(1)"), " 100.");
-                                           }});
-        Click(window, "cmdok");
-        EXPECT_TRUE(window.isVisible());
+    Use([this](Seen &window) {
+        window.Type("Text1(0)", "200");
+        window.Type("Text1(2)", "30");
+        platform.Expect(BoxAnswer::ok, {.text = "Please choose an airfoil", .meanwhile = [&window] {
+                                            EXPECT_EQ(window.Text("Text1(1)"), " 100.");
+                                        }});
+        window.Click("cmdok");
+        EXPECT_TRUE(window.IsOpen());
         // The computed field is overwritten at each run.
-        Type(window, "Text1(0)", "300");
+        window.Type("Text1(0)", "300");
         platform.Expect(BoxAnswer::ok);
-        Click(window, "cmdok");
-        EXPECT_EQ(Text(window, "Text1(1)"), " 150.");
+        window.Click("cmdok");
+        EXPECT_EQ(window.Text("Text1(1)"), " 150.");
     });
     EXPECT_TRUE(platform.file_questions.empty());
 }
 
 TEST_F(FrmangleTest, ThePickerHasTheWindowsTitleAndACancelChangesNothing) {
-    Use([this](frmangle &window) {
-        Click(window, "cmdouvrir");
+    Use([this](Seen &window) {
+        window.Click("cmdouvrir");
         EXPECT_EQ(view.asked.back(), "ChoisitProfil Rib Oblique");
-        EXPECT_EQ(Text(window, "txtprofil"), "naca");
+        EXPECT_EQ(window.Text("txtprofil"), "naca");
         view.picked = std::nullopt;
-        Click(window, "cmdouvrir");
-        EXPECT_EQ(Text(window, "txtprofil"), "naca");
+        window.Click("cmdouvrir");
+        EXPECT_EQ(window.Text("txtprofil"), "naca");
     });
     EXPECT_EQ(programme.rib.NomProfil, "e205");
 }
 
 TEST_F(FrmangleTest, WritesTheAirfoilWhereTheUserSaysAndStays) {
-    const Left left = Use([this](frmangle &window) {
-        Click(window, "cmdouvrir");
-        Type(window, "Text1(0)", "200");
-        Type(window, "Text1(2)", "30");
+    const Left left = Use([this](Seen &window) {
+        window.Click("cmdouvrir");
+        window.Type("Text1(0)", "200");
+        window.Type("Text1(2)", "30");
         platform.files_expected.push_back(folder.Path("out.dat"));
-        QTest::keyClick(&Box(window, "Text1(2)"), Qt::Key_Return);
+        window.Key("Text1(2)", Qt::Key_Return);
     });
     EXPECT_EQ(left, Left::open);
     const FileQuestion &question = platform.file_questions.at(0);
@@ -182,30 +176,27 @@ TEST_F(FrmangleTest, WritesTheAirfoilWhereTheUserSaysAndStays) {
 }
 
 TEST_F(FrmangleTest, ACancelledChooserIsSilent) {
-    Use([this](frmangle &window) {
-        Click(window, "cmdouvrir");
-        Type(window, "Text1(0)", "200");
+    Use([this](Seen &window) {
+        window.Click("cmdouvrir");
+        window.Type("Text1(0)", "200");
         platform.files_expected.emplace_back("");
-        Click(window, "cmdok");
-        EXPECT_TRUE(window.isVisible());
+        window.Click("cmdok");
+        EXPECT_TRUE(window.IsOpen());
     });
     EXPECT_EQ(Clears(), 0);
     EXPECT_EQ(folder.Entries(), 0);
 }
 
 TEST_F(FrmangleTest, AFileThatCannotBeWrittenIsToldAndClearsTheRib) {
-    Use([this](frmangle &window) {
-        Click(window, "cmdouvrir");
-        Type(window, "Text1(0)", "200");
+    Use([this](Seen &window) {
+        window.Click("cmdouvrir");
+        window.Type("Text1(0)", "200");
         platform.files_expected.push_back(folder.Path("nowhere/out.dat"));
-        platform.boxes_expected.push_back({BoxAnswer::ok, [](const MessageBox &box) {
-                                               EXPECT_EQ(box.title, "Error Angle/OK");
-                                               EXPECT_TRUE(box.text.starts_with("Error # 7"));
-                                               EXPECT_NE(box.text.find(" From  Loftwing"),
-                                                         std::string::npos);
-                                           }});
-        Click(window, "cmdok");
-        EXPECT_TRUE(window.isVisible());
+        platform.Expect(BoxAnswer::ok,
+                        {.text = AllOf(StartsWith("Error # 7"), HasSubstr(" From  Loftwing")),
+                         .title = "Error Angle/OK"});
+        window.Click("cmdok");
+        EXPECT_TRUE(window.IsOpen());
     });
     EXPECT_EQ(Clears(), 1);
     EXPECT_EQ(platform.pointer, Pointer::normal);
@@ -213,15 +204,13 @@ TEST_F(FrmangleTest, AFileThatCannotBeWrittenIsToldAndClearsTheRib) {
 
 TEST_F(FrmangleTest, AChordThatCannotBeComputedIsToldAndLeavesTheRib) {
     Inches();
-    Use([this](frmangle &window) {
-        Click(window, "cmdouvrir");
-        Type(window, "Text1(0)", "1/0");
-        platform.boxes_expected.push_back({BoxAnswer::ok, [](const MessageBox &box) {
-                                               EXPECT_EQ(box.title, "Error Angle/OK");
-                                               EXPECT_TRUE(box.text.starts_with("Error # 11 "));
-                                           }});
-        Click(window, "cmdok");
-        EXPECT_TRUE(window.isVisible());
+    Use([this](Seen &window) {
+        window.Click("cmdouvrir");
+        window.Type("Text1(0)", "1/0");
+        platform.Expect(BoxAnswer::ok,
+                        {.text = StartsWith("Error # 11 "), .title = "Error Angle/OK"});
+        window.Click("cmdok");
+        EXPECT_TRUE(window.IsOpen());
     });
     EXPECT_TRUE(platform.file_questions.empty());
     EXPECT_EQ(Clears(), 0);
@@ -229,13 +218,13 @@ TEST_F(FrmangleTest, AChordThatCannotBeComputedIsToldAndLeavesTheRib) {
 
 TEST_F(FrmangleTest, CancelEscapeAndCloseLeaveTheWindow) {
     for (const int way : {0, 1, 2}) {
-        const Left left = Use([way](frmangle &window) {
+        const Left left = Use([way](Seen &window) {
             if (way == 0) {
-                Click(window, "cmdannuler");
+                window.Click("cmdannuler");
             } else if (way == 1) {
-                QTest::keyClick(&Box(window, "Text1(0)"), Qt::Key_Escape);
+                window.Key("Text1(0)", Qt::Key_Escape);
             } else {
-                window.close();
+                window.Close();
             }
         });
         EXPECT_EQ(left, Left::rejected);
@@ -245,16 +234,16 @@ TEST_F(FrmangleTest, CancelEscapeAndCloseLeaveTheWindow) {
 }
 
 TEST_F(FrmangleTest, TabGoesThroughTheControlsInTheirOrder) {
-    Use([](frmangle &window) {
-        ExpectTabs(window, {"Text1(2)", "cmdouvrir", "cmdok", "cmdannuler", "cmdaide", "Option1(0)",
-                            "Text1(0)"});
+    Use([](Seen &window) {
+        window.ExpectTabs(
+            {"Text1(2)", "cmdouvrir", "cmdok", "cmdannuler", "cmdaide", "Option1(0)", "Text1(0)"});
     });
 }
 
 TEST_F(FrmangleTest, HelpOpensItsPage) {
-    Use([](frmangle &window) {
-        Click(window, "cmdaide");
-        QTest::keyClick(&Box(window, "Text1(0)"), Qt::Key_F1);
+    Use([](Seen &window) {
+        window.Click("cmdaide");
+        window.Key("Text1(0)", Qt::Key_F1);
     });
     EXPECT_EQ(platform.help_contexts, (std::vector<int>{62, 62}));
 }
@@ -269,10 +258,10 @@ TEST(ObliqueCommand, OpensItsWindowAtOnceAndLeavesTheRib) {
     WindowWorld world;
     world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
     bool came = false;
-    InNextDialog([&came](QDialog &dialog) {
+    InNextDialog([&came](Seen &dialog) {
         came = true;
-        EXPECT_EQ(dialog.objectName(), "frmangle");
-        dialog.reject();
+        EXPECT_EQ(dialog.Name(), "frmangle");
+        dialog.Key(Qt::Key_Escape);
     });
     world.Action("mnu_outilAngle")->trigger();
     EXPECT_TRUE(came);

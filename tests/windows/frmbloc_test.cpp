@@ -19,8 +19,8 @@ TEST_F(FrmblocTest, ShowsItsWordsAndTheStoredTexts) {
     bloc.HTblocAfich = "35";
     bloc.Optquebf = 1;
     programme.rib.vrillage = -2.5F;
-    Use([](frmbloc &window) {
-        EXPECT_EQ(S(window.windowTitle()), "Template for Foam cutting mm");
+    Use([](Seen &window) {
+        EXPECT_EQ(window.Title(), "Template for Foam cutting mm");
         const std::pair<const char *, const char *> captions[] = {
             {"Label1(0)", "Height under the ref. line"},
             {"Label1(1)", "L.E. ramp"},
@@ -34,125 +34,124 @@ TEST_F(FrmblocTest, ShowsItsWordsAndTheStoredTexts) {
             {"lblpointbas", "-8 mm"},
         };
         for (const auto &[name, text] : captions) {
-            EXPECT_EQ(Label(window, name), text);
+            EXPECT_EQ(window.Label(name), text);
         }
         const std::pair<const char *, const char *> values[] = {
             {"txt(0)", "10"}, {"txt(1)", "30"}, {"txt(2)", "40"},
             {"txt(3)", "1"},  {"txt(4)", "35"}, {"txt(5)", "-2.5"}};
         for (const auto &[name, text] : values) {
-            EXPECT_EQ(Text(window, name), text);
+            EXPECT_EQ(window.Text(name), text);
         }
-        EXPECT_EQ(Word(window, "Optquebf(0)"), "Upper Surface");
-        EXPECT_EQ(Word(window, "Optquebf(1)"), "Lower Surface");
-        EXPECT_TRUE(Chosen(window, "Optquebf(1)"));
-        EXPECT_FALSE(Chosen(window, "Optquebf(0)"));
-        EXPECT_EQ(Tip(window, "txt(1)"), "Leading edge ramp");
-        EXPECT_EQ(Tip(window, "txt(2)"), "Trailing edge ramp");
-        EXPECT_EQ(Word(window, "CmdApply"), "Apply");
-        EXPECT_EQ(Word(window, "cmdok"), "OK");
-        EXPECT_EQ(Word(window, "cmdannuler"), "Cancel");
-        EXPECT_EQ(Word(window, "cmdaide"), "Help");
+        EXPECT_EQ(window.Word("Optquebf(0)"), "Upper Surface");
+        EXPECT_EQ(window.Word("Optquebf(1)"), "Lower Surface");
+        EXPECT_TRUE(window.Chosen("Optquebf(1)"));
+        EXPECT_FALSE(window.Chosen("Optquebf(0)"));
+        EXPECT_EQ(window.Tip("txt(1)"), "Leading edge ramp");
+        EXPECT_EQ(window.Tip("txt(2)"), "Trailing edge ramp");
+        EXPECT_EQ(window.Word("CmdApply"), "Apply");
+        EXPECT_EQ(window.Word("cmdok"), "OK");
+        EXPECT_EQ(window.Word("cmdannuler"), "Cancel");
+        EXPECT_EQ(window.Word("cmdaide"), "Help");
     });
 }
 
 TEST_F(FrmblocTest, SpeaksFrenchAndInches) {
     Language("French");
     Inches(); // 8 in: 8 / 16 and 8 / 32
-    Use([](frmbloc &window) {
-        EXPECT_EQ(S(window.windowTitle()), "Gabarit de découpe du polystyrène in");
-        EXPECT_EQ(Label(window, "Label1(5)"), "Angle de vrillage");
-        EXPECT_EQ(Word(window, "Optquebf(0)"), "Extrados");
-        EXPECT_EQ(Label(window, "lbllongb"), "8 in");
-        EXPECT_EQ(Label(window, "lblpointhaut"), "1/2 in");
-        EXPECT_EQ(Label(window, "lblpointbas"), "-1/4 in");
+    Use([](Seen &window) {
+        EXPECT_EQ(window.Title(), "Gabarit de découpe du polystyrène in");
+        EXPECT_EQ(window.Label("Label1(5)"), "Angle de vrillage");
+        EXPECT_EQ(window.Word("Optquebf(0)"), "Extrados");
+        EXPECT_EQ(window.Label("lbllongb"), "8 in");
+        EXPECT_EQ(window.Label("lblpointhaut"), "1/2 in");
+        EXPECT_EQ(window.Label("lblpointbas"), "-1/4 in");
     });
 }
 
 TEST_F(FrmblocTest, FieldsSwallowWhatIsNoLengthOrAngle) {
-    Use([](frmbloc &window) {
+    Use([](Seen &window) {
         for (const char *name : {"txt(0)", "txt(1)", "txt(2)", "txt(3)", "txt(4)"}) {
-            Type(window, name, "-a1/2.5%");
-            EXPECT_EQ(Text(window, name), "12.5") << name;
+            window.Type(name, "-a1/2.5%");
+            EXPECT_EQ(window.Text(name), "12.5") << name;
         }
-        Type(window, "txt(5)", "-a1/.5%");
-        EXPECT_EQ(Text(window, "txt(5)"), "-1.5");
+        window.Type("txt(5)", "-a1/.5%");
+        EXPECT_EQ(window.Text("txt(5)"), "-1.5");
     });
 }
 
 TEST_F(FrmblocTest, InInchesLengthsTakeASlashAndTheAngleNone) {
     Inches();
-    Use([](frmbloc &window) {
+    Use([](Seen &window) {
         for (const char *name : {"txt(0)", "txt(1)", "txt(2)", "txt(3)", "txt(4)"}) {
-            Type(window, name, "-a1.1/2%");
-            EXPECT_EQ(Text(window, name), "1.1/2") << name;
+            window.Type(name, "-a1.1/2%");
+            EXPECT_EQ(window.Text(name), "1.1/2") << name;
         }
-        Type(window, "txt(5)", "-a1/.5%");
-        EXPECT_EQ(Text(window, "txt(5)"), "-1.5");
+        window.Type("txt(5)", "-a1/.5%");
+        EXPECT_EQ(window.Text("txt(5)"), "-1.5");
     });
 }
 
 TEST_F(FrmblocTest, TheLengthFollowsTheTyping) {
-    Use([this](frmbloc &window) {
-        Type(window, "txt(1)", "30");
-        EXPECT_EQ(Label(window, "lbllongb"), "286 mm");
-        Type(window, "txt(2)", "40.5");
-        EXPECT_EQ(Label(window, "lbllongb"), "326.5 mm");
-        Type(window, "txt(1)", "");
-        EXPECT_EQ(Label(window, "lbllongb"), "296.5 mm");
+    Use([this](Seen &window) {
+        window.Type("txt(1)", "30");
+        EXPECT_EQ(window.Label("lbllongb"), "286 mm");
+        window.Type("txt(2)", "40.5");
+        EXPECT_EQ(window.Label("lbllongb"), "326.5 mm");
+        window.Type("txt(1)", "");
+        EXPECT_EQ(window.Label("lbllongb"), "296.5 mm");
         EXPECT_EQ(programme.rib.bloc.BAblocAfich, "0");
     });
 }
 
 TEST_F(FrmblocTest, TwentyFiveDegreesTurnToTheLimitAtOnce) {
-    Use([this](frmbloc &window) {
-        Type(window, "txt(5)", "2");
+    Use([this](Seen &window) {
+        window.Type("txt(5)", "2");
         EXPECT_EQ(programme.rib.vrillage, 2.0F);
-        ExpectBox("Above the limit : Washout angle 20°");
-        QTest::keyClicks(&Box(window, "txt(5)"), "5");
-        EXPECT_EQ(Text(window, "txt(5)"), "20");
+        platform.Expect(BoxAnswer::ok, {.text = "Above the limit : Washout angle 20°"});
+        window.Keys("txt(5)", "5");
+        EXPECT_EQ(window.Text("txt(5)"), "20");
         EXPECT_EQ(programme.rib.vrillage, 20.0F);
-        QTest::keyClicks(&Box(window, "txt(5)"), "-2"); // types over it
+        window.Keys("txt(5)", "-2"); // types over it
         EXPECT_EQ(programme.rib.vrillage, -2.0F);
-        ExpectBox("Below the limit : Washout angle -20°");
-        QTest::keyClicks(&Box(window, "txt(5)"), "5");
-        EXPECT_EQ(Text(window, "txt(5)"), "-20");
+        platform.Expect(BoxAnswer::ok, {.text = "Below the limit : Washout angle -20°"});
+        window.Keys("txt(5)", "5");
+        EXPECT_EQ(window.Text("txt(5)"), "-20");
         EXPECT_EQ(programme.rib.vrillage, -20.0F);
-        EXPECT_EQ(platform.boxes.front().title, S(window.windowTitle()));
+        EXPECT_EQ(platform.boxes.front().title, window.Title());
     });
     EXPECT_EQ(platform.boxes.size(), 2U);
 }
 
 TEST_F(FrmblocTest, ATextThatChangesBehindABoxStartsNoSecondOne) {
-    Use([this](frmbloc &window) {
-        platform.boxes_expected.push_back(
-            {BoxAnswer::ok, [&](const MessageBox &) { Box(window, "txt(5)").setText("99"); }});
-        Type(window, "txt(5)", "25");
-        EXPECT_EQ(Text(window, "txt(5)"), "20");
+    Use([this](Seen &window) {
+        platform.Expect(BoxAnswer::ok, {.meanwhile = [&] { window.Fill("txt(5)", "99"); }});
+        window.Type("txt(5)", "25");
+        EXPECT_EQ(window.Text("txt(5)"), "20");
     });
     EXPECT_EQ(platform.boxes.size(), 1U);
 }
 
 TEST_F(FrmblocTest, TheTailIsKeptAtOnce) {
-    Use([this](frmbloc &window) {
-        Click(window, "Optquebf(1)");
+    Use([this](Seen &window) {
+        window.Click("Optquebf(1)");
         EXPECT_EQ(programme.rib.bloc.Optquebf, 1);
-        Click(window, "Optquebf(0)");
+        window.Click("Optquebf(0)");
         EXPECT_EQ(programme.rib.bloc.Optquebf, 0);
     });
 }
 
 TEST_F(FrmblocTest, ApplyPutsTheTemplateOnTheRibAndStays) {
-    const Left left = Use([this](frmbloc &window) {
-        QTest::keyClicks(&Box(window, "txt(0)"), "10"); // the first field waits for typing
-        Type(window, "txt(1)", "30");
-        Type(window, "txt(2)", "40");
-        Type(window, "txt(3)", "1.5");
-        Type(window, "txt(4)", "35");
-        Type(window, "txt(5)", "2.50");
+    const Left left = Use([this](Seen &window) {
+        window.Keys("txt(0)", "10"); // the first field waits for typing
+        window.Type("txt(1)", "30");
+        window.Type("txt(2)", "40");
+        window.Type("txt(3)", "1.5");
+        window.Type("txt(4)", "35");
+        window.Type("txt(5)", "2.50");
         EXPECT_EQ(programme.rib.TypeGabarit, 0);
-        Click(window, "CmdApply");
-        EXPECT_EQ(Text(window, "txt(5)"), "2.5");
-        EXPECT_EQ(Label(window, "lbllongb"), "326 mm");
+        window.Click("CmdApply");
+        EXPECT_EQ(window.Text("txt(5)"), "2.5");
+        EXPECT_EQ(window.Label("lbllongb"), "326 mm");
         EXPECT_EQ(Redraws(), 1);
     });
     EXPECT_EQ(left, Left::open);
@@ -168,9 +167,9 @@ TEST_F(FrmblocTest, ApplyPutsTheTemplateOnTheRibAndStays) {
 }
 
 TEST_F(FrmblocTest, ReturnIsOk) {
-    const Left left = Use([](frmbloc &window) {
-        Type(window, "txt(4)", "35");
-        QTest::keyClick(&Box(window, "txt(4)"), Qt::Key_Return);
+    const Left left = Use([](Seen &window) {
+        window.Type("txt(4)", "35");
+        window.Key("txt(4)", Qt::Key_Return);
     });
     EXPECT_EQ(left, Left::accepted);
     EXPECT_FALSE(programme.rib.Annule);
@@ -180,21 +179,22 @@ TEST_F(FrmblocTest, ReturnIsOk) {
 }
 
 TEST_F(FrmblocTest, OkTakesARampAsLongAsTheChord) {
-    const Left left = Use([](frmbloc &window) {
-        Type(window, "txt(2)", "256");
-        Click(window, "cmdok");
+    const Left left = Use([](Seen &window) {
+        window.Type("txt(2)", "256");
+        window.Click("cmdok");
     });
     EXPECT_EQ(left, Left::accepted);
     EXPECT_EQ(programme.rib.bloc.BFbloc, 256.0F);
 }
 
 TEST_F(FrmblocTest, OkRefusesALongerRampAndPointsToIt) {
-    const Left left = Use([this](frmbloc &window) {
-        Type(window, "txt(2)", "256.50");
-        Box(window, "txt(0)").setFocus();
-        ExpectBox("Wrong entry : Trailing edge ramp = 256.50 > Chord = 256");
-        Click(window, "cmdok");
-        EXPECT_TRUE(FocusedAndSelected(Box(window, "txt(2)")));
+    const Left left = Use([this](Seen &window) {
+        window.Type("txt(2)", "256.50");
+        window.GoTo("txt(0)");
+        platform.Expect(BoxAnswer::ok,
+                        {.text = "Wrong entry : Trailing edge ramp = 256.50 > Chord = 256"});
+        window.Click("cmdok");
+        EXPECT_TRUE(window.FocusedAndSelected("txt(2)"));
     });
     EXPECT_EQ(left, Left::open);
     EXPECT_EQ(programme.rib.TypeGabarit, 0);
@@ -203,11 +203,12 @@ TEST_F(FrmblocTest, OkRefusesALongerRampAndPointsToIt) {
 }
 
 TEST_F(FrmblocTest, ApplyCutsALongerRamp) {
-    Use([this](frmbloc &window) {
-        Type(window, "txt(1)", "300");
-        ExpectBox("Wrong entry : Leading edge ramp = 300 > Chord = 256");
-        Click(window, "CmdApply");
-        EXPECT_EQ(Text(window, "txt(1)"), "300");
+    Use([this](Seen &window) {
+        window.Type("txt(1)", "300");
+        platform.Expect(BoxAnswer::ok,
+                        {.text = "Wrong entry : Leading edge ramp = 300 > Chord = 256"});
+        window.Click("CmdApply");
+        EXPECT_EQ(window.Text("txt(1)"), "300");
     });
     EXPECT_EQ(programme.rib.bloc.BAbloc, 256.0F);
     EXPECT_EQ(programme.rib.TypeGabarit, kGabaritMousse);
@@ -215,22 +216,22 @@ TEST_F(FrmblocTest, ApplyCutsALongerRamp) {
 
 TEST_F(FrmblocTest, AWashoutOfZeroLeavesTheText) {
     programme.rib.texte.InsTexte = "old";
-    Use([](frmbloc &window) { Click(window, "CmdApply"); });
+    Use([](Seen &window) { window.Click("CmdApply"); });
     EXPECT_EQ(programme.rib.texte.InsTexte, "old");
 }
 
 TEST_F(FrmblocTest, AFractionOfZerothsIsToldAndTheWindowGoesOn) {
     Inches();
-    const Left left = Use([this](frmbloc &window) {
+    const Left left = Use([this](Seen &window) {
         platform.Expect(BoxAnswer::ok);
-        Type(window, "txt(1)", "1/0");
+        window.Type("txt(1)", "1/0");
         EXPECT_EQ(platform.boxes.back().title, " Bloc/Txt");
         platform.Expect(BoxAnswer::ok);
-        Click(window, "cmdok");
+        window.Click("cmdok");
         EXPECT_EQ(platform.boxes.back().title, " Bloc/OK");
-        EXPECT_TRUE(window.isVisible());
-        Type(window, "txt(1)", "1");
-        Click(window, "cmdok");
+        EXPECT_TRUE(window.IsOpen());
+        window.Type("txt(1)", "1");
+        window.Click("cmdok");
     });
     EXPECT_EQ(left, Left::accepted);
     EXPECT_EQ(programme.rib.bloc.BAbloc, 25.4F);
@@ -240,15 +241,15 @@ TEST_F(FrmblocTest, CancelTakesTheTemplateAwayEvenIfItWasSet) {
     for (const int way : {0, 1, 2}) {
         programme.rib.Annule = false;
         view.asked.clear();
-        const Left left = Use([this, way](frmbloc &window) {
-            Click(window, "CmdApply");
+        const Left left = Use([this, way](Seen &window) {
+            window.Click("CmdApply");
             EXPECT_EQ(programme.rib.TypeGabarit, kGabaritMousse);
             if (way == 0) {
-                Click(window, "cmdannuler");
+                window.Click("cmdannuler");
             } else if (way == 1) {
-                QTest::keyClick(&Box(window, "txt(0)"), Qt::Key_Escape);
+                window.Key("txt(0)", Qt::Key_Escape);
             } else {
-                window.close();
+                window.Close();
             }
         });
         EXPECT_EQ(left, Left::rejected);
@@ -259,14 +260,14 @@ TEST_F(FrmblocTest, CancelTakesTheTemplateAwayEvenIfItWasSet) {
 }
 
 TEST_F(FrmblocTest, CancelPutsBackWhatWasTypedSinceTheLastApply) {
-    Use([this](frmbloc &window) {
-        Type(window, "txt(1)", "20");
-        Type(window, "txt(5)", "-3");
-        Click(window, "CmdApply");
-        Type(window, "txt(1)", "35");
-        Type(window, "txt(5)", "4");
+    Use([this](Seen &window) {
+        window.Type("txt(1)", "20");
+        window.Type("txt(5)", "-3");
+        window.Click("CmdApply");
+        window.Type("txt(1)", "35");
+        window.Type("txt(5)", "4");
         EXPECT_EQ(programme.rib.bloc.BAbloc, 35.0F);
-        Click(window, "cmdannuler");
+        window.Click("cmdannuler");
     });
     EXPECT_EQ(programme.rib.bloc.BAblocAfich, "20");
     EXPECT_EQ(programme.rib.bloc.BAbloc, 20.0F);
@@ -274,17 +275,17 @@ TEST_F(FrmblocTest, CancelPutsBackWhatWasTypedSinceTheLastApply) {
 }
 
 TEST_F(FrmblocTest, TabGoesThroughTheFieldsInTheirOrder) {
-    Use([](frmbloc &window) {
-        EXPECT_TRUE(FocusedAndSelected(Box(window, "txt(0)")));
-        ExpectTabs(window, {"txt(1)", "txt(2)", "txt(3)", "txt(4)", "txt(5)", "Optquebf(0)",
-                            "CmdApply", "cmdok", "cmdannuler", "cmdaide", "txt(0)"});
+    Use([](Seen &window) {
+        EXPECT_TRUE(window.FocusedAndSelected("txt(0)"));
+        window.ExpectTabs({"txt(1)", "txt(2)", "txt(3)", "txt(4)", "txt(5)", "Optquebf(0)",
+                           "CmdApply", "cmdok", "cmdannuler", "cmdaide", "txt(0)"});
     });
 }
 
 TEST_F(FrmblocTest, HelpOpensItsPage) {
-    Use([](frmbloc &window) {
-        Click(window, "cmdaide");
-        QTest::keyClick(&Box(window, "txt(0)"), Qt::Key_F1);
+    Use([](Seen &window) {
+        window.Click("cmdaide");
+        window.Key("txt(0)", Qt::Key_F1);
     });
     EXPECT_EQ(platform.help_contexts, (std::vector<int>{50, 50}));
 }
@@ -299,16 +300,7 @@ class TemplateCommandTest : public testing::Test {
   protected:
     TemplateCommandTest() { world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat")); }
 
-    void Open(const std::function<void(QDialog &)> &user) {
-        InNextDialog(user);
-        world.Action("mnu_parambloc")->trigger();
-    }
-    static void Click(QDialog &dialog, const char *name) {
-        QTest::mouseClick(dialog.findChild<QPushButton *>(name), Qt::LeftButton);
-    }
-    static void Fill(QDialog &dialog, const char *name, const char *text) {
-        dialog.findChild<QLineEdit *>(name)->setText(text);
-    }
+    void Open(const User &user) { world.Run("mnu_parambloc", {user}); }
     bool Alive(const char *entry) const { return world.Action(entry)->isEnabled(); }
     RibModel &Rib() { return world.programme.rib; }
 
@@ -317,12 +309,12 @@ class TemplateCommandTest : public testing::Test {
 
 TEST_F(TemplateCommandTest, OpensWithoutHeelAndWithBothEntriesDead) {
     Rib().TypeGabarit = kGabaritTalon;
-    Open([this](QDialog &dialog) {
-        EXPECT_EQ(dialog.objectName(), "frmbloc");
+    Open([this](Seen &dialog) {
+        EXPECT_EQ(dialog.Name(), "frmbloc");
         EXPECT_EQ(Rib().TypeGabarit, 0);
         EXPECT_FALSE(Alive("mnu_profilTalon"));
         EXPECT_FALSE(Alive("mnu_parambloc"));
-        Click(dialog, "cmdannuler");
+        dialog.Click("cmdannuler");
     });
     EXPECT_TRUE(Alive("mnu_profilTalon"));
     EXPECT_TRUE(Alive("mnu_parambloc"));
@@ -333,9 +325,9 @@ TEST_F(TemplateCommandTest, OkMakesTextAndHeelHeightsAnew) {
     Rib().talon.TalonIntraAfich = "25";
     Rib().talon.TalonIntra = 25;
     Rib().IntradosMini = -0.05;
-    Open([](QDialog &dialog) {
-        Fill(dialog, "txt(4)", "40");
-        Click(dialog, "cmdok");
+    Open([](Seen &dialog) {
+        dialog.Fill("txt(4)", "40");
+        dialog.Click("cmdok");
     });
     EXPECT_EQ(Rib().TypeGabarit, kGabaritMousse);
     EXPECT_EQ(Rib().texte.InsTexte, "naca2412 Chord : 200");
@@ -345,13 +337,13 @@ TEST_F(TemplateCommandTest, OkMakesTextAndHeelHeightsAnew) {
 TEST_F(TemplateCommandTest, CancelLeavesTextAndHeelHeights) {
     Rib().talon.TalonIntraAfich = "25";
     Rib().texte.InsTexte = "old";
-    Open([](QDialog &dialog) { Click(dialog, "cmdannuler"); });
+    Open([](Seen &dialog) { dialog.Click("cmdannuler"); });
     EXPECT_EQ(Rib().talon.TalonIntraAfich, "25");
     EXPECT_EQ(Rib().texte.InsTexte, "old");
 }
 
 TEST_F(TemplateCommandTest, ARibThatWasClearedMeanwhileIsLeftAlone) {
-    Open([this](QDialog &) { world.window->affclear(); });
+    Open([this](Seen &) { world.window->affclear(); });
     EXPECT_FALSE(Alive("mnu_profilTalon"));
     EXPECT_TRUE(Alive("mnu_parambloc")); // in a menu that is dead
     EXPECT_FALSE(Alive("mnu_param"));

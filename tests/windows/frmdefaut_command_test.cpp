@@ -3,11 +3,6 @@
 #include "lang/ini_file.h"
 #include "support/qt_window_world.h"
 
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTest>
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -24,27 +19,22 @@ class Defaults : public testing::Test {
     }
     /// Opens the dialog, types a chord (none: leaves it), chooses a unit and presses a button.
     void Use(const char *unit, const char *chord, const char *button) const {
-        InNextDialog([unit, chord, button](QDialog &dialog) {
-            ASSERT_EQ(dialog.objectName(), "frmdefaut");
+        InNextDialog([unit, chord, button](Seen &dialog) {
+            ASSERT_EQ(dialog.Name(), "frmdefaut");
             if (*unit != '\0') {
-                dialog.findChild<QRadioButton *>(unit)->click();
+                dialog.Click(unit);
             }
             if (*chord != '\0') {
-                auto *box = dialog.findChild<QLineEdit *>("txtdef(0)");
-                box->selectAll();
-                QTest::keyClicks(box, chord);
+                dialog.Type("txtdef(0)", chord);
             }
-            QTest::mouseClick(dialog.findChild<QPushButton *>(button), Qt::LeftButton);
+            dialog.Click(button);
         });
         world->Action("mnu_affdefaut")->trigger();
     }
     /// What the next chord dialog shows, and its caption.
     std::pair<std::string, std::string> ChordDialog() const {
         std::pair<std::string, std::string> shown;
-        InNextDialog([&shown](QDialog &dialog) {
-            shown = {dialog.findChild<QLineEdit *>("infotxt")->text().toStdString(),
-                     dialog.windowTitle().toStdString()};
-        });
+        InNextDialog([&shown](Seen &dialog) { shown = {dialog.Text("infotxt"), dialog.Title()}; });
         world->Action("mnu_profilcorde")->trigger();
         return shown;
     }
@@ -60,7 +50,7 @@ TEST_F(Defaults, InchesWithYesClearTheRibAndHoldEverywhere) {
     world->platform.Expect(BoxAnswer::yes);
     Use("inches", "", "cmdok");
     EXPECT_FALSE(Rib().ProfilCharge);
-    EXPECT_EQ(world->window->findChild<PicView *>("Pic")->Dessin(), nullptr);
+    EXPECT_EQ(world->Find<PicView>("Pic")->Dessin(), nullptr);
     EXPECT_THAT(File(), HasSubstr("unit= in\r\n"));
     EXPECT_THAT(File(), HasSubstr("cordeAfich=8\r\n"));
     EXPECT_EQ(world->Panel(3), "unit : in");
@@ -127,9 +117,7 @@ TEST_F(Defaults, CancelPutsTheUnitBack) {
 
 TEST_F(Defaults, AnotherChordRedrawsTheRibThatIsThere) {
     Start();
-    InNextDialog([](QDialog &dialog) {
-        QTest::mouseClick(dialog.findChild<QPushButton *>("cmdok"), Qt::LeftButton);
-    });
+    InNextDialog([](Seen &dialog) { dialog.Click("cmdok"); });
     world->Action("mnu_affInstxt")->trigger();
     ASSERT_EQ(Rib().texte.InsTexte, "naca2412 Chord : 200");
     Use("", "150", "cmdok");

@@ -1,5 +1,7 @@
 #include "windows/frmdefaut_fixture.h"
 
+#include <QTest>
+
 #include <filesystem>
 
 namespace loftwing {
@@ -9,43 +11,42 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 TEST_F(FrmdefautTest, ShowsItsWords) {
-    Use([](frmdefaut &dialog) {
-        EXPECT_EQ(S(dialog.windowTitle()), "Template defaults");
+    Use([](Seen &dialog) {
+        EXPECT_EQ(dialog.Title(), "Template defaults");
         const char *captions[] = {"Chord",           "Sheeting thickness", "Leading Edge",
                                   "Template height", "Ramp Leading Edge",  "Ramp Traiding Edge"};
         for (int i = 0; i < kChampsDefaut; ++i) {
-            EXPECT_EQ(dialog.findChild<QLabel *>(QString("Label2(%1)").arg(i))->text(),
-                      captions[i]);
+            EXPECT_EQ(dialog.Label({"Label2", i}), captions[i]);
         }
-        EXPECT_EQ(Find<QGroupBox>(dialog, "Frame5").title(), "Units");
-        EXPECT_EQ(Find<QRadioButton>(dialog, "inches").text(), "English");
-        EXPECT_EQ(Find<QRadioButton>(dialog, "mm").text(), "Metric");
-        EXPECT_EQ(Find<QGroupBox>(dialog, "Frame3").title(), "Airfoils Coordinates Path");
-        EXPECT_EQ(Find<QGroupBox>(dialog, "Frame4").title(), "Set of ribs Coordinates Path");
-        EXPECT_EQ(Find<QPushButton>(dialog, "cmdrecherche").text(), "Browse...");
-        EXPECT_EQ(Find<QPushButton>(dialog, "cmdrechercheevol").text(), "Browse...");
-        EXPECT_EQ(Find<QPushButton>(dialog, "cmdok").text(), "Save");
-        EXPECT_EQ(Find<QPushButton>(dialog, "cmdannuler").text(), "Cancel");
-        EXPECT_EQ(Find<QPushButton>(dialog, "cmdaide").text(), "Help");
+        EXPECT_EQ(dialog.Frame("Frame5"), "Units");
+        EXPECT_EQ(dialog.Word("inches"), "English");
+        EXPECT_EQ(dialog.Word("mm"), "Metric");
+        EXPECT_EQ(dialog.Frame("Frame3"), "Airfoils Coordinates Path");
+        EXPECT_EQ(dialog.Frame("Frame4"), "Set of ribs Coordinates Path");
+        EXPECT_EQ(dialog.Word("cmdrecherche"), "Browse...");
+        EXPECT_EQ(dialog.Word("cmdrechercheevol"), "Browse...");
+        EXPECT_EQ(dialog.Word("cmdok"), "Save");
+        EXPECT_EQ(dialog.Word("cmdannuler"), "Cancel");
+        EXPECT_EQ(dialog.Word("cmdaide"), "Help");
     });
     Language("French");
-    Use([](frmdefaut &dialog) {
-        EXPECT_EQ(S(dialog.windowTitle()), "Valeurs par défaut");
-        EXPECT_EQ(S(Find<QRadioButton>(dialog, "mm").text()), "Métriques");
-        EXPECT_EQ(S(Find<QPushButton>(dialog, "cmdok").text()), "Enregistrer");
+    Use([](Seen &dialog) {
+        EXPECT_EQ(dialog.Title(), "Valeurs par défaut");
+        EXPECT_EQ(dialog.Word("mm"), "Métriques");
+        EXPECT_EQ(dialog.Word("cmdok"), "Enregistrer");
     });
 }
 
 TEST_F(FrmdefautTest, ShowsWhatIsOnFileAndNotTheRib) {
     programme.rib.cordeAfich = "321";
     programme.rib.EpBAAfich = "9";
-    Use([](frmdefaut &dialog) {
+    Use([](Seen &dialog) {
         EXPECT_EQ(Shown(dialog), kOnFile);
         ExpectUnit(dialog, " mm");
-        EXPECT_EQ(Find<QLineEdit>(dialog, "txtdefprof").text(), "/home/me/airfoils");
-        EXPECT_EQ(Find<QLineEdit>(dialog, "txtdefprofevol").text(), "/home/me/sets");
-        EXPECT_TRUE(Box(dialog, 0).hasFocus());
-        EXPECT_EQ(S(Box(dialog, 0).selectedText()), "180");
+        EXPECT_EQ(dialog.Text("txtdefprof"), "/home/me/airfoils");
+        EXPECT_EQ(dialog.Text("txtdefprofevol"), "/home/me/sets");
+        EXPECT_TRUE(dialog.Focused("txtdef(0)"));
+        EXPECT_EQ(dialog.Selected("txtdef(0)"), "180");
     });
 }
 
@@ -53,40 +54,35 @@ TEST_F(FrmdefautTest, ASettingsFileThatCannotBeReadIsTold) {
     std::filesystem::remove(programme.paths.fichier);
     std::filesystem::create_directory(programme.paths.fichier);
     platform.Expect(BoxAnswer::ok);
-    Use([](frmdefaut &dialog) { EXPECT_EQ(S(Box(dialog, 0).text()), ""); });
+    Use([](Seen &dialog) { EXPECT_EQ(dialog.Text("txtdef(0)"), ""); });
     EXPECT_EQ(platform.boxes.at(0).title, " GetINIFile");
 }
 
 TEST_F(FrmdefautTest, TabGoesFromTheLengthsOverUnitsAndFoldersToTheButtons) {
-    Use([](frmdefaut &dialog) {
-        for (const char *name :
-             {"txtdef(1)", "txtdef(2)", "txtdef(3)", "txtdef(4)", "txtdef(5)", "mm", "txtdefprof",
-              "cmdrecherche", "txtdefprofevol", "cmdrechercheevol", "cmdok", "cmdannuler",
-              "cmdaide", "txtdef(0)"}) {
-            QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
-            EXPECT_EQ(S(dialog.focusWidget()->objectName()), name);
-        }
+    Use([](Seen &dialog) {
+        dialog.ExpectTabs({"txtdef(1)", "txtdef(2)", "txtdef(3)", "txtdef(4)", "txtdef(5)", "mm",
+                           "txtdefprof", "cmdrecherche", "txtdefprofevol", "cmdrechercheevol",
+                           "cmdok", "cmdannuler", "cmdaide", "txtdef(0)"});
     });
 }
 
 TEST_F(FrmdefautTest, EveryFieldIsSelectedWhenItGetsTheFocus) {
-    Use([](frmdefaut &dialog) {
-        Box(dialog, 4).setFocus();
-        EXPECT_EQ(Box(dialog, 4).selectedText(), "10");
+    Use([](Seen &dialog) {
+        dialog.GoTo("txtdef(4)");
+        EXPECT_EQ(dialog.Selected("txtdef(4)"), "10");
         for (const char *name : {"txtdefprof", "txtdefprofevol"}) {
-            auto &field = Find<QLineEdit>(dialog, name);
-            field.setFocus();
-            EXPECT_EQ(field.selectedText(), field.text());
+            dialog.GoTo(name);
+            EXPECT_EQ(dialog.Selected(name), dialog.Text(name));
         }
     });
 }
 
 TEST_F(FrmdefautTest, SaveTakesTheValuesIntoRibAndFile) {
-    const Left left = Use([](frmdefaut &dialog) {
-        Type(dialog, 0, "190");
-        Type(dialog, 1, "2.5");
-        Type(dialog, 3, "40");
-        QTest::keyClick(&Box(dialog, 3), Qt::Key_Return);
+    const Left left = Use([](Seen &dialog) {
+        dialog.Type("txtdef(0)", "190");
+        dialog.Type("txtdef(1)", "2.5");
+        dialog.Type("txtdef(3)", "40");
+        dialog.Key("txtdef(3)", Qt::Key_Return);
     });
     EXPECT_EQ(left, Left::accepted);
     EXPECT_EQ(Rib().cordeAfich, "190");
@@ -107,10 +103,10 @@ TEST_F(FrmdefautTest, SaveTakesTheValuesIntoRibAndFile) {
 }
 
 TEST_F(FrmdefautTest, SaveKeepsTheFoldersEverywhere) {
-    Use([](frmdefaut &dialog) {
-        Find<QLineEdit>(dialog, "txtdefprof").setText("/new/airfoils");
-        Find<QLineEdit>(dialog, "txtdefprofevol").setText("/new/sets");
-        Click(dialog, "cmdok");
+    Use([](Seen &dialog) {
+        dialog.Fill("txtdefprof", "/new/airfoils");
+        dialog.Fill("txtdefprofevol", "/new/sets");
+        dialog.Click("cmdok");
     });
     const Repertoires &folders = programme.settings.repertoires;
     EXPECT_EQ(folders.RepProfil, "/new/airfoils");
@@ -125,12 +121,12 @@ TEST_F(FrmdefautTest, SaveKeepsTheFoldersEverywhere) {
 TEST_F(FrmdefautTest, AChordOfZeroKeepsTheDialogOpenAndStoresNothing) {
     platform.Expect(BoxAnswer::ok);
     const std::string file = folder.Bytes("Loftwing.ini");
-    EXPECT_EQ(Use([](frmdefaut &dialog) {
-                  Type(dialog, 1, "5");
-                  Type(dialog, 0, "");
-                  Click(dialog, "cmdok");
-                  EXPECT_TRUE(dialog.isVisible());
-                  EXPECT_TRUE(Box(dialog, 0).hasFocus());
+    EXPECT_EQ(Use([](Seen &dialog) {
+                  dialog.Type("txtdef(1)", "5");
+                  dialog.Type("txtdef(0)", "");
+                  dialog.Click("cmdok");
+                  EXPECT_TRUE(dialog.IsOpen());
+                  EXPECT_TRUE(dialog.Focused("txtdef(0)"));
               }),
               Left::open);
     EXPECT_EQ(platform.boxes.at(0).text, "Chord length : Please enter a chord");
@@ -143,10 +139,10 @@ TEST_F(FrmdefautTest, AChordOfZeroKeepsTheDialogOpenAndStoresNothing) {
 TEST_F(FrmdefautTest, AFailureIsToldAndTheDialogGoesOn) {
     platform.Expect(BoxAnswer::yes);
     platform.Expect(BoxAnswer::ok);
-    EXPECT_EQ(Use([](frmdefaut &dialog) {
-                  Click(dialog, "inches");
-                  Type(dialog, 4, "1/0");
-                  Click(dialog, "cmdok");
+    EXPECT_EQ(Use([](Seen &dialog) {
+                  dialog.Click("inches");
+                  dialog.Type("txtdef(4)", "1/0");
+                  dialog.Click("cmdok");
               }),
               Left::open);
     EXPECT_EQ(platform.boxes.at(1).title, " Defaut/OK");
@@ -155,12 +151,12 @@ TEST_F(FrmdefautTest, AFailureIsToldAndTheDialogGoesOn) {
 
 TEST_F(FrmdefautTest, AChosenFolderCountsAtOnce) {
     platform.folders_expected = {"/chosen/airfoils", "/chosen/sets"};
-    Use([](frmdefaut &dialog) {
-        Click(dialog, "cmdrecherche");
-        EXPECT_EQ(Find<QLineEdit>(dialog, "txtdefprof").text(), "/chosen/airfoils");
-        Click(dialog, "cmdrechercheevol");
-        EXPECT_EQ(Find<QLineEdit>(dialog, "txtdefprofevol").text(), "/chosen/sets");
-        Click(dialog, "cmdannuler");
+    Use([](Seen &dialog) {
+        dialog.Click("cmdrecherche");
+        EXPECT_EQ(dialog.Text("txtdefprof"), "/chosen/airfoils");
+        dialog.Click("cmdrechercheevol");
+        EXPECT_EQ(dialog.Text("txtdefprofevol"), "/chosen/sets");
+        dialog.Click("cmdannuler");
     });
     EXPECT_EQ(programme.settings.repertoires.RepProfil, "/chosen/airfoils");
     EXPECT_EQ(programme.settings.repertoires.RepProfilevol, "/chosen/sets");
@@ -169,22 +165,22 @@ TEST_F(FrmdefautTest, AChosenFolderCountsAtOnce) {
 
 TEST_F(FrmdefautTest, ACancelledChooserChangesNothing) {
     platform.folders_expected = {"", ""};
-    Use([](frmdefaut &dialog) {
-        Find<QLineEdit>(dialog, "txtdefprof").setText("/typed");
-        Click(dialog, "cmdrecherche");
-        Click(dialog, "cmdrechercheevol");
-        EXPECT_EQ(Find<QLineEdit>(dialog, "txtdefprof").text(), "/typed");
-        EXPECT_EQ(Find<QLineEdit>(dialog, "txtdefprofevol").text(), "/home/me/sets");
+    Use([](Seen &dialog) {
+        dialog.Fill("txtdefprof", "/typed");
+        dialog.Click("cmdrecherche");
+        dialog.Click("cmdrechercheevol");
+        EXPECT_EQ(dialog.Text("txtdefprof"), "/typed");
+        EXPECT_EQ(dialog.Text("txtdefprofevol"), "/home/me/sets");
     });
     EXPECT_EQ(programme.settings.repertoires.RepProfil, "/home/me/airfoils");
 }
 
 TEST_F(FrmdefautTest, TheChooserOpensWhereTheUserIs) {
     platform.folders_expected = {"", ""};
-    Use([this](frmdefaut &dialog) {
-        Find<QLineEdit>(dialog, "txtdefprof").setText(Q(folder.Path()));
-        Click(dialog, "cmdrecherche");
-        Click(dialog, "cmdrechercheevol"); // whose folder isn't there
+    Use([this](Seen &dialog) {
+        dialog.Fill("txtdefprof", folder.Path());
+        dialog.Click("cmdrecherche");
+        dialog.Click("cmdrechercheevol"); // whose folder isn't there
     });
     ASSERT_EQ(platform.folder_questions.size(), 2U);
     EXPECT_EQ(platform.folder_questions[0].title, "Choose a folder :");
@@ -193,9 +189,9 @@ TEST_F(FrmdefautTest, TheChooserOpensWhereTheUserIs) {
 }
 
 TEST_F(FrmdefautTest, HelpOpensAtItsPlace) {
-    Use([](frmdefaut &dialog) {
-        Click(dialog, "cmdaide");
-        QTest::keyClick(&Box(dialog, 0), Qt::Key_F1);
+    Use([](Seen &dialog) {
+        dialog.Click("cmdaide");
+        dialog.Key("txtdef(0)", Qt::Key_F1);
     });
     EXPECT_EQ(platform.help_contexts, (std::vector<int>{70, 70}));
 }
@@ -208,7 +204,7 @@ TEST_F(FrmdefautTest, EverythingHasItsRoomAtDoubleFont) {
         font.setPointSizeF(font.pointSizeF() * 2.0);
         dialog.setFont(font);
         dialog.show();
-        QTest::qWait(0);
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
         for (const QWidget *child : dialog.findChildren<QWidget *>()) {
             const bool placed = child->parentWidget() == &dialog ||
                                 qobject_cast<QGroupBox *>(child->parentWidget()) != nullptr;

@@ -8,29 +8,29 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 TEST_F(FrmdefautTest, FieldsTakeTheKeysOfTheUnit) {
-    Use([](frmdefaut &dialog) {
+    Use([](Seen &dialog) {
         for (int i = 0; i < kChampsDefaut; ++i) {
-            Type(dialog, i, "a-1/2.5%,");
-            EXPECT_EQ(Box(dialog, i).text(), "12.5");
+            dialog.Type({"txtdef", i}, "a-1/2.5%,");
+            EXPECT_EQ(dialog.Text({"txtdef", i}), "12.5");
         }
-        Click(dialog, "inches");
+        dialog.Click("inches");
         for (int i = 0; i < kChampsDefaut; ++i) {
-            Type(dialog, i, "a-1.1/2%,");
-            EXPECT_EQ(Box(dialog, i).text(), "1.1/2");
+            dialog.Type({"txtdef", i}, "a-1.1/2%,");
+            EXPECT_EQ(dialog.Text({"txtdef", i}), "1.1/2");
         }
-        Click(dialog, "mm");
-        Type(dialog, 0, "1/2");
-        EXPECT_EQ(Box(dialog, 0).text(), "12");
-        Type(dialog, 0, "");
-        QTest::keyClicks(&Find<QLineEdit>(dialog, "txtdefprof"), "/A b");
-        EXPECT_EQ(S(Find<QLineEdit>(dialog, "txtdefprof").text()), "/home/me/airfoils/A b");
+        dialog.Click("mm");
+        dialog.Type("txtdef(0)", "1/2");
+        EXPECT_EQ(dialog.Text("txtdef(0)"), "12");
+        dialog.Type("txtdef(0)", "");
+        dialog.Keys("txtdefprof", "/A b");
+        EXPECT_EQ(dialog.Text("txtdefprof"), "/home/me/airfoils/A b");
     });
 }
 
 TEST_F(FrmdefautTest, AUnitBringsItsFixedSetAndNoConversion) {
     programme.rib.cordeAfich = "200";
-    Use([this](frmdefaut &dialog) {
-        Click(dialog, "inches");
+    Use([this](Seen &dialog) {
+        dialog.Click("inches");
         EXPECT_EQ(Shown(dialog), kInches);
         ExpectUnit(dialog, " in");
         EXPECT_EQ(programme.settings.Unite, " in");
@@ -39,7 +39,7 @@ TEST_F(FrmdefautTest, AUnitBringsItsFixedSetAndNoConversion) {
         EXPECT_EQ(Page().YdprintAfich, "2");
         EXPECT_EQ(Rib().cordeAfich, "200");
         EXPECT_EQ(Rib().corde, 200.0F);
-        Click(dialog, "mm");
+        dialog.Click("mm");
         EXPECT_EQ(Shown(dialog), kMillimetres);
         ExpectUnit(dialog, " mm");
         EXPECT_EQ(Page().MargeBasAfich, "15");
@@ -51,18 +51,18 @@ TEST_F(FrmdefautTest, AUnitBringsItsFixedSetAndNoConversion) {
 
 TEST_F(FrmdefautTest, AClickOnTheUnitInForceChangesNothing) {
     programme.settings.page.MargeHautAfich = "12";
-    Use([this](frmdefaut &dialog) {
-        Type(dialog, 0, "190");
-        Click(dialog, "mm");
-        EXPECT_EQ(S(Box(dialog, 0).text()), "190");
+    Use([this](Seen &dialog) {
+        dialog.Type("txtdef(0)", "190");
+        dialog.Click("mm");
+        EXPECT_EQ(dialog.Text("txtdef(0)"), "190");
         EXPECT_EQ(Page().MargeHautAfich, "12");
     });
 }
 
 TEST_F(FrmdefautTest, TheKeyboardChoosesAUnitToo) {
-    Use([](frmdefaut &dialog) {
-        Find<QRadioButton>(dialog, "mm").setFocus();
-        QTest::keyClick(dialog.focusWidget(), Qt::Key_Up);
+    Use([](Seen &dialog) {
+        dialog.GoTo("mm");
+        dialog.Key(Qt::Key_Up);
         EXPECT_EQ(Shown(dialog), kInches);
         ExpectUnit(dialog, " in");
     });
@@ -72,9 +72,9 @@ TEST_F(FrmdefautTest, AnotherUnitWithYesClearsTheRib) {
     platform.Expect(BoxAnswer::yes);
     std::string unit_on_file_at_clear;
     view.on_clear = [&] { unit_on_file_at_clear = Stored("Defaut", "unit"); };
-    EXPECT_EQ(Use([](frmdefaut &dialog) {
-                  Click(dialog, "inches");
-                  Click(dialog, "cmdok");
+    EXPECT_EQ(Use([](Seen &dialog) {
+                  dialog.Click("inches");
+                  dialog.Click("cmdok");
               }),
               Left::accepted);
     EXPECT_THAT(view.asked, ElementsAre("affclear", "AfficheUnite", "AfficheCorde"));
@@ -94,16 +94,16 @@ TEST_F(FrmdefautTest, AnotherUnitWithNoLeavesEverythingAsTheDialogFoundIt) {
     programme.settings.page.MargeHaut = 12;
     const std::string file = folder.Bytes("Loftwing.ini");
     platform.Expect(BoxAnswer::no);
-    const Left left = Use([this](frmdefaut &dialog) {
-        Click(dialog, "inches");
-        Click(dialog, "cmdok");
-        EXPECT_TRUE(dialog.isVisible());
+    const Left left = Use([this](Seen &dialog) {
+        dialog.Click("inches");
+        dialog.Click("cmdok");
+        EXPECT_TRUE(dialog.IsOpen());
         EXPECT_EQ(Shown(dialog), kOnFile);
         ExpectUnit(dialog, " mm");
         EXPECT_EQ(programme.settings.Unite, " mm");
         EXPECT_THAT(view.asked, ElementsAre("AfficheUnite"));
-        Type(dialog, 0, "1/2");
-        EXPECT_EQ(S(Box(dialog, 0).text()), "12");
+        dialog.Type("txtdef(0)", "1/2");
+        EXPECT_EQ(dialog.Text("txtdef(0)"), "12");
     });
     EXPECT_EQ(left, Left::open);
     EXPECT_EQ(Page().MargeHautAfich, "12");
@@ -117,10 +117,10 @@ TEST_F(FrmdefautTest, AnotherUnitWithNoLeavesEverythingAsTheDialogFoundIt) {
 
 TEST_F(FrmdefautTest, AfterANoTheOldUnitCanBeSavedWithoutAQuestion) {
     platform.Expect(BoxAnswer::no);
-    EXPECT_EQ(Use([](frmdefaut &dialog) {
-                  Click(dialog, "inches");
-                  Click(dialog, "cmdok");
-                  Click(dialog, "cmdok");
+    EXPECT_EQ(Use([](Seen &dialog) {
+                  dialog.Click("inches");
+                  dialog.Click("cmdok");
+                  dialog.Click("cmdok");
               }),
               Left::accepted);
     EXPECT_EQ(Stored("Defaut", "unit"), "mm");
@@ -131,13 +131,13 @@ TEST_F(FrmdefautTest, AfterANoTheOldUnitCanBeSavedWithoutAQuestion) {
 TEST_F(FrmdefautTest, AYesHoldsWhileAChordIsTypedAgain) {
     platform.Expect(BoxAnswer::yes);
     platform.Expect(BoxAnswer::ok); // no chord
-    EXPECT_EQ(Use([](frmdefaut &dialog) {
-                  Click(dialog, "inches");
-                  Type(dialog, 0, "0");
-                  Click(dialog, "cmdok");
-                  EXPECT_EQ(S(Box(dialog, 0).selectedText()), "0");
-                  QTest::keyClicks(&Box(dialog, 0), "9");
-                  Click(dialog, "cmdok");
+    EXPECT_EQ(Use([](Seen &dialog) {
+                  dialog.Click("inches");
+                  dialog.Type("txtdef(0)", "0");
+                  dialog.Click("cmdok");
+                  EXPECT_EQ(dialog.Selected("txtdef(0)"), "0");
+                  dialog.Keys("txtdef(0)", "9");
+                  dialog.Click("cmdok");
               }),
               Left::accepted);
     EXPECT_THAT(view.asked, ElementsAre("affclear", "AfficheUnite", "AfficheCorde"));
@@ -148,22 +148,22 @@ TEST_F(FrmdefautTest, AYesIsForgottenWhenTheUnitIsChosenAnew) {
     platform.Expect(BoxAnswer::yes);
     platform.Expect(BoxAnswer::ok);
     platform.Expect(BoxAnswer::no);
-    Use([](frmdefaut &dialog) {
-        Click(dialog, "inches");
-        Type(dialog, 0, "0");
-        Click(dialog, "cmdok");
-        Click(dialog, "mm");
-        Click(dialog, "inches");
-        Click(dialog, "cmdok");
+    Use([](Seen &dialog) {
+        dialog.Click("inches");
+        dialog.Type("txtdef(0)", "0");
+        dialog.Click("cmdok");
+        dialog.Click("mm");
+        dialog.Click("inches");
+        dialog.Click("cmdok");
         ExpectUnit(dialog, " mm");
     });
 }
 
 TEST_F(FrmdefautTest, ThereAndBackNeedsNoQuestion) {
-    EXPECT_EQ(Use([](frmdefaut &dialog) {
-                  Click(dialog, "inches");
-                  Click(dialog, "mm");
-                  Click(dialog, "cmdok");
+    EXPECT_EQ(Use([](Seen &dialog) {
+                  dialog.Click("inches");
+                  dialog.Click("mm");
+                  dialog.Click("cmdok");
               }),
               Left::accepted);
     EXPECT_EQ(Stored("Defaut", "cordeAfich"), "200");
@@ -171,17 +171,16 @@ TEST_F(FrmdefautTest, ThereAndBackNeedsNoQuestion) {
 }
 
 TEST_F(FrmdefautTest, CancelEscapeAndTheClosingButtonPutBackTheUnitAlone) {
-    const std::function<void(frmdefaut &)> ways[] = {
-        [](frmdefaut &dialog) { Click(dialog, "cmdannuler"); },
-        [](frmdefaut &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); },
-        [](frmdefaut &dialog) { dialog.close(); }};
+    const User ways[] = {[](Seen &dialog) { dialog.Click("cmdannuler"); },
+                         [](Seen &dialog) { dialog.Key(Qt::Key_Escape); },
+                         [](Seen &dialog) { dialog.Close(); }};
     const std::string file = folder.Bytes("Loftwing.ini");
     for (const auto &leave : ways) {
         view.asked.clear();
         programme.settings.page = MiseEnPage{};
-        EXPECT_EQ(Use([&leave](frmdefaut &dialog) {
-                      Click(dialog, "inches");
-                      Find<QLineEdit>(dialog, "txtdefprof").setText("/elsewhere");
+        EXPECT_EQ(Use([&leave](Seen &dialog) {
+                      dialog.Click("inches");
+                      dialog.Fill("txtdefprof", "/elsewhere");
                       leave(dialog);
                   }),
                   Left::rejected);

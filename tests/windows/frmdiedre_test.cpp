@@ -12,13 +12,13 @@ class FrmDiedreTest : public BesideTest<frmdiedre> {
 
 TEST_F(FrmDiedreTest, OpensEmptyWithItsWords) {
     Open();
-    EXPECT_EQ(Titre(), "Compute the dihedral  mm");
+    EXPECT_EQ(Title(), "Compute the dihedral  mm");
     EXPECT_EQ(Label("Label1"), "Angle in degrees");
     for (const char *name : {"txt(0)", "txt(1)", "txt(2)"}) {
         EXPECT_EQ(Text(name), "");
         EXPECT_EQ(Tip(name), "Double click for result");
     }
-    EXPECT_TRUE(Box("txt(0)").hasFocus());
+    EXPECT_TRUE(Focused("txt(0)"));
     ExpectTabs({"txt(1)", "txt(2)", "cmdok", "cmdaide", "txt(0)"});
 }
 
@@ -43,16 +43,16 @@ TEST_F(FrmDiedreTest, ReturnComputesTheFieldThatItIsPressedIn) {
     Open();
     Type("txt(1)", "100");
     Type("txt(2)", "100");
-    QTest::keyClick(&Box("txt(0)"), Qt::Key_Return);
+    Key("txt(0)", Qt::Key_Return);
     EXPECT_EQ(Text("txt(0)"), " 45.00");
     Type("txt(2)", "50");
-    QTest::keyClick(&Box("txt(1)"), Qt::Key_Enter);
+    Key("txt(1)", Qt::Key_Enter);
     EXPECT_EQ(Text("txt(1)"), " 50."); // the tangent of 45 degrees is 1
-    EXPECT_TRUE(window->isVisible());
+    EXPECT_TRUE(IsOpen());
     // Where the focus is on no field, Return is OK.
-    Find("cmdok").setFocus();
-    QTest::keyClick(&Find("cmdok"), Qt::Key_Return);
-    EXPECT_FALSE(window->isVisible());
+    GoTo("cmdok");
+    Key("cmdok", Qt::Key_Return);
+    EXPECT_FALSE(IsOpen());
 }
 
 TEST_F(FrmDiedreTest, AnAngleBeyondTheLimitIsToldAndStillCounts) {
@@ -83,7 +83,7 @@ TEST_F(FrmDiedreTest, FieldsSwallowWhatIsNoNumber) {
     EXPECT_EQ(Text("txt(1)"), "12.5");
     Inches();
     Open();
-    EXPECT_EQ(Titre(), "Compute the dihedral  in");
+    EXPECT_EQ(Title(), "Compute the dihedral  in");
     Type("txt(1)", "a-1.1/2%");
     EXPECT_EQ(Text("txt(1)"), "1.1/2");
 }
@@ -103,23 +103,23 @@ TEST_F(FrmDiedreTest, AZeroDenominatorIsToldAndNothingChanges) {
 TEST_F(FrmDiedreTest, OkAndEscapeClose) {
     Open();
     Click("cmdok");
-    EXPECT_FALSE(window->isVisible());
+    EXPECT_FALSE(IsOpen());
     Open();
-    QTest::keyClick(window.get(), Qt::Key_Escape);
-    EXPECT_FALSE(window->isVisible());
+    Key(Qt::Key_Escape);
+    EXPECT_FALSE(IsOpen());
 }
 
 TEST_F(FrmDiedreTest, HelpOpensItsTopic) {
     Open();
     Click("cmdaide");
-    QTest::keyClick(window.get(), Qt::Key_F1);
+    Key(Qt::Key_F1);
     EXPECT_EQ(platform.help_contexts, (std::vector<int>{60, 60}));
 }
 
 TEST_F(FrmDiedreTest, SpeaksFrench) {
     Language("French");
     Open();
-    EXPECT_EQ(Titre(), "Calcul du dièdre  mm");
+    EXPECT_EQ(Title(), "Calcul du dièdre  mm");
     EXPECT_EQ(Label("Label1"), "Angle en degrés");
 }
 

@@ -1,7 +1,6 @@
 #include "utilities/frminclinaison.h"
 
 #include "support/qt_window_world.h"
-#include "support/temp_folder.h"
 #include "windows/addon_fixture.h"
 
 namespace loftwing {
@@ -21,64 +20,60 @@ class FrminclinaisonTest : public AddonTest<frminclinaison> {
         view.picked = chosen;
     }
 
-    void Refused(frminclinaison &window, const char *typed, const std::string &text) {
-        Type(window, "Text1", typed);
-        ExpectBox(text);
-        Click(window, "cmdok");
+    void Refused(Seen &window, const char *typed, const std::string &text) {
+        window.Type("Text1", typed);
+        platform.Expect(BoxAnswer::ok, {.text = text});
+        window.Click("cmdok");
         EXPECT_EQ(platform.boxes.back().title, "Dihedral rib");
-        EXPECT_TRUE(FocusedAndSelected(Box(window, "Text1")));
+        EXPECT_TRUE(window.FocusedAndSelected("Text1"));
     }
-    int Clears() const {
-        return static_cast<int>(std::count(view.asked.begin(), view.asked.end(), "affclear"));
-    }
-
-    TempFolder folder;
+    int Clears() const { return Asked("affclear"); }
 };
 
 TEST_F(FrminclinaisonTest, ShowsItsWords) {
-    Use([](frminclinaison &window) {
-        EXPECT_EQ(S(window.windowTitle()), "Dihedral rib");
-        EXPECT_EQ(Label(window, "Label1"), "Airfoil");
-        EXPECT_EQ(Label(window, "Label2"), "Angle");
-        EXPECT_EQ(Label(window, "Label3"), "Original");
-        EXPECT_EQ(Label(window, "Label4"), "To compute");
-        EXPECT_EQ(Word(window, "cmdok"), "Compute");
-        EXPECT_EQ(Tip(window, "cmdok"), "Compute and save on disk");
-        EXPECT_EQ(Tip(window, "cmdouvrir"), "Choose the airfoil of the rib");
-        EXPECT_EQ(Text(window, "Text1"), "");
-        EXPECT_TRUE(Box(window, "Text1").hasFocus());
+    Use([](Seen &window) {
+        EXPECT_EQ(window.Title(), "Dihedral rib");
+        EXPECT_EQ(window.Label("Label1"), "Airfoil");
+        EXPECT_EQ(window.Label("Label2"), "Angle");
+        EXPECT_EQ(window.Label("Label3"), "Original");
+        EXPECT_EQ(window.Label("Label4"), "To compute");
+        EXPECT_EQ(window.Word("cmdok"), "Compute");
+        EXPECT_EQ(window.Tip("cmdok"), "Compute and save on disk");
+        EXPECT_EQ(window.Tip("cmdouvrir"), "Choose the airfoil of the rib");
+        EXPECT_EQ(window.Text("Text1"), "");
+        EXPECT_TRUE(window.Focused("Text1"));
     });
 }
 
 TEST_F(FrminclinaisonTest, TheAngleTakesNoSlashInInchesEither) {
     Inches();
-    Use([](frminclinaison &window) {
-        Type(window, "Text1", "-a1/2.5%");
-        EXPECT_EQ(Text(window, "Text1"), "12.5");
+    Use([](Seen &window) {
+        window.Type("Text1", "-a1/2.5%");
+        EXPECT_EQ(window.Text("Text1"), "12.5");
     });
 }
 
 TEST_F(FrminclinaisonTest, RefusesAMissingAngleNinetyDegreesAndAMissingAirfoil) {
-    Use([this](frminclinaison &window) {
+    Use([this](Seen &window) {
         Refused(window, "", "Please enter the angle");
         Refused(window, "0", "Please enter the angle");
         Refused(window, "90", "The angle must not be more than 89° !");
-        Type(window, "Text1", "89.99");
-        ExpectBox("Please choose an airfoil");
-        Click(window, "cmdok");
-        EXPECT_TRUE(window.isVisible());
+        window.Type("Text1", "89.99");
+        platform.Expect(BoxAnswer::ok, {.text = "Please choose an airfoil"});
+        window.Click("cmdok");
+        EXPECT_TRUE(window.IsOpen());
     });
     EXPECT_TRUE(platform.file_questions.empty());
 }
 
 TEST_F(FrminclinaisonTest, WritesTheAirfoilWhereTheUserSaysAndStays) {
-    const Left left = Use([this](frminclinaison &window) {
-        Click(window, "cmdouvrir");
+    const Left left = Use([this](Seen &window) {
+        window.Click("cmdouvrir");
         EXPECT_EQ(view.asked.back(), "ChoisitProfil Dihedral rib");
-        EXPECT_EQ(Text(window, "txtprofil"), "naca");
-        Type(window, "Text1", "60");
+        EXPECT_EQ(window.Text("txtprofil"), "naca");
+        window.Type("Text1", "60");
         platform.files_expected.push_back(folder.Path("out.dat"));
-        QTest::keyClick(&Box(window, "Text1"), Qt::Key_Return);
+        window.Key("Text1", Qt::Key_Return);
     });
     EXPECT_EQ(left, Left::open);
     const FileQuestion &question = platform.file_questions.at(0);
@@ -94,30 +89,30 @@ TEST_F(FrminclinaisonTest, WritesTheAirfoilWhereTheUserSaysAndStays) {
 }
 
 TEST_F(FrminclinaisonTest, ACancelIsSilentAndAFailureClearsTheRib) {
-    Use([this](frminclinaison &window) {
-        Click(window, "cmdouvrir");
-        Type(window, "Text1", "5");
+    Use([this](Seen &window) {
+        window.Click("cmdouvrir");
+        window.Type("Text1", "5");
         platform.files_expected.emplace_back("");
-        Click(window, "cmdok");
+        window.Click("cmdok");
         EXPECT_EQ(Clears(), 0);
         platform.files_expected.push_back(folder.Path("nowhere/out.dat"));
         platform.Expect(BoxAnswer::ok);
-        Click(window, "cmdok");
+        window.Click("cmdok");
         EXPECT_EQ(platform.boxes.back().title, "Error Angle/OK");
-        EXPECT_TRUE(window.isVisible());
+        EXPECT_TRUE(window.IsOpen());
     });
     EXPECT_EQ(Clears(), 1);
 }
 
 TEST_F(FrminclinaisonTest, CancelEscapeAndCloseLeaveTheWindow) {
     for (const int way : {0, 1, 2}) {
-        const Left left = Use([way](frminclinaison &window) {
+        const Left left = Use([way](Seen &window) {
             if (way == 0) {
-                Click(window, "cmdannuler");
+                window.Click("cmdannuler");
             } else if (way == 1) {
-                QTest::keyClick(&Box(window, "Text1"), Qt::Key_Escape);
+                window.Key("Text1", Qt::Key_Escape);
             } else {
-                window.close();
+                window.Close();
             }
         });
         EXPECT_EQ(left, Left::rejected);
@@ -126,13 +121,13 @@ TEST_F(FrminclinaisonTest, CancelEscapeAndCloseLeaveTheWindow) {
 }
 
 TEST_F(FrminclinaisonTest, TabGoesThroughTheControlsInTheirOrder) {
-    Use([](frminclinaison &window) {
-        ExpectTabs(window, {"cmdok", "cmdannuler", "cmdaide", "cmdouvrir", "Text1"});
+    Use([](Seen &window) {
+        window.ExpectTabs({"cmdok", "cmdannuler", "cmdaide", "cmdouvrir", "Text1"});
     });
 }
 
 TEST_F(FrminclinaisonTest, HelpOpensItsPage) {
-    Use([](frminclinaison &window) { Click(window, "cmdaide"); });
+    Use([](Seen &window) { window.Click("cmdaide"); });
     EXPECT_EQ(platform.help_contexts, (std::vector<int>{63}));
 }
 
@@ -146,10 +141,10 @@ TEST(InclineCommand, OpensItsWindowAtOnceAndLeavesTheRib) {
     WindowWorld world;
     world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
     bool came = false;
-    InNextDialog([&came](QDialog &dialog) {
+    InNextDialog([&came](Seen &dialog) {
         came = true;
-        EXPECT_EQ(dialog.objectName(), "frminclinaison");
-        dialog.reject();
+        EXPECT_EQ(dialog.Name(), "frminclinaison");
+        dialog.Key(Qt::Key_Escape);
     });
     world.Action("mnu_outilInclinaison")->trigger();
     EXPECT_TRUE(came);

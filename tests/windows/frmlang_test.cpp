@@ -1,11 +1,9 @@
 #include "lang/frmlang.h"
 
-#include "platform/qt_text.h"
 #include "support/noted_view.h"
+#include "support/qt_seen.h"
 #include "support/scripted_platform.h"
 #include "support/temp_folder.h"
-
-#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -35,9 +33,7 @@ class FrmLangTest : public testing::Test {
 
     std::string Noted() const { return GetINIFile("Language", "Langue", programme.paths.fichier); }
 
-    static QComboBox &List(lang &window) { return *window.findChild<QComboBox *>("Combo1"); }
-    static QPushButton &Ok(lang &window) { return *window.findChild<QPushButton *>("ok"); }
-    static void Click(lang &window) { QTest::mouseClick(&Ok(window), Qt::LeftButton); }
+    static QComboBox &List(const Seen &window) { return window.Find<QComboBox>("Combo1"); }
 
     TempFolder folder;
     ScriptedPlatform platform;
@@ -52,56 +48,62 @@ TEST_F(FrmLangTest, OpeningClosesDialogsAndClearsTheRib) {
 }
 
 TEST_F(FrmLangTest, ListsTheLanguageFilesWithoutTheirExtension) {
-    lang window(programme, view, nullptr);
+    lang language(programme, view, nullptr);
+    const Seen window(language);
     ASSERT_EQ(List(window).count(), 2);
     EXPECT_EQ(S(List(window).itemText(0)), "English");
     EXPECT_EQ(S(List(window).itemText(1)), "French");
 }
 
 TEST_F(FrmLangTest, SpeaksPlainEnglishWhileNoLanguageIsLoaded) {
-    lang window(programme, view, nullptr);
-    EXPECT_EQ(S(window.windowTitle()), "Language");
-    EXPECT_EQ(S(Ok(window).text()), "OK");
+    lang language(programme, view, nullptr);
+    const Seen window(language);
+    EXPECT_EQ(window.Title(), "Language");
+    EXPECT_EQ(window.Word("ok"), "OK");
     EXPECT_EQ(List(window).currentIndex(), -1);
 }
 
 TEST_F(FrmLangTest, ShowsTheLanguageThatIsLoaded) {
     Speak("French");
-    lang window(programme, view, nullptr);
-    EXPECT_EQ(S(window.windowTitle()), "Langue");
+    lang language(programme, view, nullptr);
+    const Seen window(language);
+    EXPECT_EQ(window.Title(), "Langue");
     EXPECT_EQ(S(List(window).currentText()), "French");
 }
 
 TEST_F(FrmLangTest, OkWithoutAChangeJustCloses) {
     Speak("French");
-    lang window(programme, view, nullptr);
-    window.show();
+    lang language(programme, view, nullptr);
+    const Seen window(language);
+    language.show();
     view.asked.clear();
-    Click(window);
-    EXPECT_FALSE(window.isVisible());
+    window.Click("ok");
+    EXPECT_FALSE(window.IsOpen());
     EXPECT_TRUE(view.asked.empty());
     EXPECT_EQ(Noted(), "French");
 }
 
 TEST_F(FrmLangTest, OkWithNothingChosenLeavesNoLanguage) {
-    lang window(programme, view, nullptr);
-    window.show();
-    Click(window);
-    EXPECT_FALSE(window.isVisible());
+    lang language(programme, view, nullptr);
+    const Seen window(language);
+    language.show();
+    window.Click("ok");
+    EXPECT_FALSE(window.IsOpen());
     EXPECT_EQ(Noted(), "");
     EXPECT_EQ(programme.language.LangueCourante, "");
 }
 
 TEST_F(FrmLangTest, NewLanguageIsNotedAndAppliedAtOnce) {
     Speak("English");
-    lang window(programme, view, nullptr);
-    window.show();
+    lang language(programme, view, nullptr);
+    const Seen window(language);
+    language.show();
     view.asked.clear();
-    List(window).setFocus();
-    QTest::keyClick(&List(window), Qt::Key_Down);
+    window.GoTo("Combo1");
+    window.Key("Combo1", Qt::Key_Down);
     EXPECT_EQ(Noted(), "English");
-    Click(window);
-    EXPECT_FALSE(window.isVisible());
+    window.Click("ok");
+    EXPECT_FALSE(window.IsOpen());
     EXPECT_EQ(Noted(), "French");
     EXPECT_EQ(programme.language.LangueCourante, "French");
     EXPECT_EQ(programme.language.FichierLng, folder.Path("French.lng"));
@@ -111,21 +113,23 @@ TEST_F(FrmLangTest, NewLanguageIsNotedAndAppliedAtOnce) {
 
 TEST_F(FrmLangTest, RowSelectedAgainCountsAsAChange) {
     Speak("English");
-    lang window(programme, view, nullptr);
+    lang language(programme, view, nullptr);
+    const Seen window(language);
     view.asked.clear();
     Q_EMIT List(window).activated(0);
-    Click(window);
+    window.Click("ok");
     EXPECT_EQ(view.asked, (Asked{"AppliqueLangue", "RetraceVues", "affiche"}));
 }
 
 TEST_F(FrmLangTest, EscapeChangesNothing) {
     Speak("English");
-    lang window(programme, view, nullptr);
-    window.show();
+    lang language(programme, view, nullptr);
+    const Seen window(language);
+    language.show();
     view.asked.clear();
-    QTest::keyClick(&List(window), Qt::Key_Down);
-    QTest::keyClick(&window, Qt::Key_Escape);
-    EXPECT_FALSE(window.isVisible());
+    window.Key("Combo1", Qt::Key_Down);
+    window.Key(Qt::Key_Escape);
+    EXPECT_FALSE(window.IsOpen());
     EXPECT_EQ(Noted(), "English");
     EXPECT_EQ(programme.language.LangueCourante, "English");
     EXPECT_TRUE(view.asked.empty());
@@ -133,27 +137,29 @@ TEST_F(FrmLangTest, EscapeChangesNothing) {
 
 TEST_F(FrmLangTest, EmptyFolderLeavesTheListEmpty) {
     programme.paths.langues = folder.Path("gone");
-    lang window(programme, view, nullptr);
-    window.show();
+    lang language(programme, view, nullptr);
+    const Seen window(language);
+    language.show();
     EXPECT_EQ(List(window).count(), 0);
-    Click(window);
-    EXPECT_FALSE(window.isVisible());
+    window.Click("ok");
+    EXPECT_FALSE(window.IsOpen());
     EXPECT_EQ(Noted(), "");
 }
 
 TEST_F(FrmLangTest, LanguageThatCannotBeReadIsReportedAndTheOldOneKept) {
     Speak("English");
     const std::string broken = folder.File("Broken.lng", "");
-    lang window(programme, view, nullptr);
+    lang language(programme, view, nullptr);
+    const Seen window(language);
     std::filesystem::remove(broken);
     std::filesystem::create_directory(broken);
-    window.show();
+    language.show();
     view.asked.clear();
-    QTest::keyClick(&List(window), Qt::Key_Home);
+    window.Key("Combo1", Qt::Key_Home);
     ASSERT_EQ(S(List(window).currentText()), "Broken");
     platform.Expect(BoxAnswer::ok);
-    Click(window);
-    EXPECT_TRUE(window.isVisible());
+    window.Click("ok");
+    EXPECT_TRUE(window.IsOpen());
     EXPECT_EQ(platform.boxes.at(0).title, " GetINIFile");
     EXPECT_EQ(Noted(), "English");
     EXPECT_EQ(programme.language.LangueCourante, "English");
@@ -162,13 +168,14 @@ TEST_F(FrmLangTest, LanguageThatCannotBeReadIsReportedAndTheOldOneKept) {
 
 TEST_F(FrmLangTest, ChoiceThatCannotBeKeptIsReportedAndHoldsForThisRun) {
     programme.paths.fichier = folder.Path("no/such/folder/Loftwing.ini");
-    lang window(programme, view, nullptr);
-    window.show();
-    QTest::keyClick(&List(window), Qt::Key_Down);
+    lang language(programme, view, nullptr);
+    const Seen window(language);
+    language.show();
+    window.Key("Combo1", Qt::Key_Down);
     platform.Expect(BoxAnswer::ok);
-    Click(window);
+    window.Click("ok");
     EXPECT_EQ(platform.boxes.at(0).title, " WriteINIFile");
-    EXPECT_FALSE(window.isVisible());
+    EXPECT_FALSE(window.IsOpen());
     EXPECT_EQ(programme.language.LangueCourante, "English");
 }
 

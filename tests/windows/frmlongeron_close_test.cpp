@@ -2,6 +2,9 @@
 
 #include "windows/frmlongeron_fixture.h"
 
+#include <QApplication>
+#include <QTest>
+
 #include <QClipboard>
 #include <QGuiApplication>
 
@@ -11,7 +14,7 @@ namespace {
 // Apply and OK.
 
 TEST_F(FrmLongeronTest, ApplyDrawsAndKeepsTheWindowOpen) {
-    EXPECT_EQ(Use([this](Seen &window) {
+    EXPECT_EQ(Use([this](SeenSlots &window) {
                   TypeSpar(window, "50%", "10", "5");
                   window.Click("CmdApply");
                   EXPECT_EQ(Drawn(), 1);
@@ -25,7 +28,7 @@ TEST_F(FrmLongeronTest, ApplyDrawsAndKeepsTheWindowOpen) {
 
 TEST_F(FrmLongeronTest, ApplyWithASelectionModifiesItAndTheWorkSlotStays) {
     Spars(2);
-    Use([this](Seen &window) {
+    Use([this](SeenSlots &window) {
         window.ClickNumber(0);
         window.Type(0, "25");
         window.Click("CmdApply");
@@ -37,8 +40,8 @@ TEST_F(FrmLongeronTest, ApplyWithASelectionModifiesItAndTheWorkSlotStays) {
 
 TEST_F(FrmLongeronTest, AWrongSelectionDoesNotGetIntoTheWorkSlot) {
     Spars(2);
-    ExpectBoxes(1);
-    const Left left = Use([this](Seen &window) {
+    platform.Expect(BoxAnswer::ok);
+    const Left left = Use([this](SeenSlots &window) {
         window.ClickNumber(0);
         window.Type(0, "250");
         window.Click("cmdok");
@@ -50,8 +53,8 @@ TEST_F(FrmLongeronTest, AWrongSelectionDoesNotGetIntoTheWorkSlot) {
 
 TEST_F(FrmLongeronTest, RefusedValuesAreGoneWhenTheRibIsDrawn) {
     Spars(2);
-    ExpectBoxes(1);
-    Use([this](Seen &window) {
+    platform.Expect(BoxAnswer::ok);
+    Use([this](SeenSlots &window) {
         window.ClickNumber(0);
         window.Type(0, "2"); // its width reaches in front of the leading edge
         window.Click("Cmdmodif");
@@ -66,8 +69,8 @@ TEST_F(FrmLongeronTest, RefusedValuesAreGoneWhenTheRibIsDrawn) {
 
 TEST_F(FrmLongeronTest, RefusedValuesAreGoneWhenTheWindowCloses) {
     Spars(2);
-    ExpectBoxes(2);
-    EXPECT_EQ(Use([this](Seen &window) {
+    platform.ExpectBoxes(2);
+    EXPECT_EQ(Use([this](SeenSlots &window) {
                   window.ClickNumber(0);
                   window.Type(0, "2");
                   window.Click("Cmdmodif");
@@ -82,8 +85,8 @@ TEST_F(FrmLongeronTest, RefusedValuesAreGoneWhenTheWindowCloses) {
 
 TEST_F(FrmLongeronTest, CloseThatIsRefusedShowsTheEntryThatItSpeaksOf) {
     Spars(3);
-    ExpectBoxes(2);
-    Use([](Seen &window) {
+    platform.ExpectBoxes(2);
+    Use([](SeenSlots &window) {
         window.ClickNumber(1);
         window.Type(0, "250");
         window.Click("Cmdmodif");
@@ -96,7 +99,7 @@ TEST_F(FrmLongeronTest, CloseThatIsRefusedShowsTheEntryThatItSpeaksOf) {
 
 TEST_F(FrmLongeronTest, OkWithASelectionTakesItAndCloses) {
     Spars(2);
-    EXPECT_EQ(Use([](Seen &window) {
+    EXPECT_EQ(Use([](SeenSlots &window) {
                   window.ClickNumber(1);
                   window.Type(0, "33");
                   window.Click("cmdok");
@@ -107,36 +110,36 @@ TEST_F(FrmLongeronTest, OkWithASelectionTakesItAndCloses) {
 }
 
 TEST_F(FrmLongeronTest, OkOfAWrongEntryKeepsTheWindowOpenUntilItIsRight) {
-    ExpectBoxes(1);
-    EXPECT_EQ(Use([](Seen &window) {
+    platform.Expect(BoxAnswer::ok);
+    EXPECT_EQ(Use([](SeenSlots &window) {
                   TypeSpar(window, "100", "10", "0");
                   window.Click("cmdok");
-                  EXPECT_TRUE(window.Dialog().isVisible());
+                  EXPECT_TRUE(window.IsOpen());
                   EXPECT_EQ(window.Focus(), "Text1(0)");
                   window.Type(2, "4");
                   window.Click("cmdok");
               }),
               Left::accepted);
-    EXPECT_EQ(LastBox(), std::string(kBadSpar) + "0");
+    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "0");
 }
 
 TEST_F(FrmLongeronTest, AnEmptyFirstSlotCanBeLeftAfterItsNumberWasClicked) {
-    ExpectBoxes(1);
-    EXPECT_EQ(Use([](Seen &window) {
+    platform.Expect(BoxAnswer::ok);
+    EXPECT_EQ(Use([](SeenSlots &window) {
                   window.Click("cmdok");
-                  EXPECT_TRUE(window.Dialog().isVisible());
+                  EXPECT_TRUE(window.IsOpen());
                   window.ClickNumber(0);
                   window.Click("cmdok");
               }),
               Left::accepted);
-    EXPECT_EQ(LastBox(), std::string(kBadSpar) + "0");
+    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "0");
 }
 
 TEST_F(FrmLongeronTest, WithSparsAnEmptyWorkSlotIsRefusedEvenThen) {
     Spars(1);
     programme.rib.longeron[1] = Longeron{};
-    ExpectBoxes(1);
-    EXPECT_EQ(Use([](Seen &window) {
+    platform.Expect(BoxAnswer::ok);
+    EXPECT_EQ(Use([](SeenSlots &window) {
                   window.ClickNumber(1);
                   window.Click("cmdok");
               }),
@@ -144,8 +147,8 @@ TEST_F(FrmLongeronTest, WithSparsAnEmptyWorkSlotIsRefusedEvenThen) {
 }
 
 TEST_F(FrmLongeronTest, TheClickedNumberIsForgottenAfterAnAdd) {
-    ExpectBoxes(1);
-    Use([this](Seen &window) {
+    platform.Expect(BoxAnswer::ok);
+    Use([this](SeenSlots &window) {
         window.ClickNumber(0);
         TypeSpar(window, "50", "10", "5");
         window.Click("cmdajout");
@@ -153,11 +156,11 @@ TEST_F(FrmLongeronTest, TheClickedNumberIsForgottenAfterAnAdd) {
         window.Type(1, "0");
         window.Click("CmdApply");
     });
-    EXPECT_EQ(LastBox(), std::string(kBadSpar) + "0");
+    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "0");
 }
 
 TEST_F(FrmLongeronTest, ASparAtLocationZeroIsTakenWhenItHasNoWidth) {
-    EXPECT_EQ(Use([](Seen &window) {
+    EXPECT_EQ(Use([](SeenSlots &window) {
                   window.ClickNumber(0);
                   TypeSpar(window, "0", "0", "0");
                   window.Click("cmdok");
@@ -169,28 +172,28 @@ TEST_F(FrmLongeronTest, ASparAtLocationZeroIsTakenWhenItHasNoWidth) {
 
 TEST_F(FrmLongeronTest, ARefusalShowsInchesAsTyped) {
     Inches();
-    ExpectBoxes(1);
-    Use([](Seen &window) {
+    platform.Expect(BoxAnswer::ok);
+    Use([](SeenSlots &window) {
         TypeSpar(window, "8.3/8", "1/2", "1/4"); // 212.725 mm on 200
         window.Click("CmdApply");
     });
-    EXPECT_EQ(LastBox(), std::string(kBadSpar) + "8.3/8");
+    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "8.3/8");
 }
 
 TEST_F(FrmLongeronTest, ARefusalShowsAPercentageAsItsLength) {
-    ExpectBoxes(1);
-    Use([](Seen &window) {
+    platform.Expect(BoxAnswer::ok);
+    Use([](SeenSlots &window) {
         TypeSpar(window, "110%", "4", "3");
         window.Click("CmdApply");
     });
-    EXPECT_EQ(LastBox(), std::string(kBadSpar) + "220");
+    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "220");
 }
 
 TEST_F(FrmLongeronTest, PastedWordsAreCleanedAndTheRestIsTheLeadingNumber) {
     QGuiApplication::clipboard()->setText("x4.0.7y");
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         TypeSpar(window, "50", "4", "3");
-        window.Box(1).setFocus();
+        window.GoTo({"Text1", 1});
         QTest::keySequence(&window.Box(1), QKeySequence::Paste);
         EXPECT_EQ(window.Text("Text1(1)"), "4.0.7");
         window.Click("cmdok");
@@ -201,8 +204,8 @@ TEST_F(FrmLongeronTest, PastedWordsAreCleanedAndTheRestIsTheLeadingNumber) {
 TEST_F(FrmLongeronTest, AFractionOfZerothsIsToldAndKeepsTheWindowOpen) {
     Inches();
     for (const char *button : {"cmdajout", "CmdApply", "cmdok"}) {
-        ExpectBoxes(1);
-        EXPECT_EQ(Use([&](Seen &window) {
+        platform.Expect(BoxAnswer::ok);
+        EXPECT_EQ(Use([&](SeenSlots &window) {
                       TypeSpar(window, "3", "1/0", "1/4");
                       window.Click(button);
                       EXPECT_EQ(window.Focus(), "Text1(0)");
@@ -221,12 +224,12 @@ TEST_F(FrmLongeronTest, AFractionOfZerothsIsToldAndKeepsTheWindowOpen) {
 TEST_F(FrmLongeronTest, CloseStoresNothing) {
     Spars(1);
     for (const char *way : {"Cmdannuler", "Escape", "window"}) {
-        EXPECT_EQ(Use([&](Seen &window) {
+        EXPECT_EQ(Use([&](SeenSlots &window) {
                       TypeSpar(window, "77", "7", "7");
                       if (std::string(way) == "Escape") {
                           window.Key(Qt::Key_Escape);
                       } else if (std::string(way) == "window") {
-                          window.Dialog().close();
+                          window.Close();
                       } else {
                           window.Click(way);
                       }
@@ -240,7 +243,7 @@ TEST_F(FrmLongeronTest, CloseStoresNothing) {
 }
 
 TEST_F(FrmLongeronTest, CloseKeepsWhatWasAdded) {
-    EXPECT_EQ(Use([](Seen &window) {
+    EXPECT_EQ(Use([](SeenSlots &window) {
                   TypeSpar(window, "50", "10", "5");
                   window.Click("cmdajout");
                   window.Click("Cmdannuler");
@@ -252,15 +255,15 @@ TEST_F(FrmLongeronTest, CloseKeepsWhatWasAdded) {
 
 TEST_F(FrmLongeronTest, CloseWithAnotherNumberSelectedStaysWhileAValueIsWrong) {
     Spars(2);
-    ExpectBoxes(3);
-    EXPECT_EQ(Use([this](Seen &window) {
+    platform.ExpectBoxes(3);
+    EXPECT_EQ(Use([this](SeenSlots &window) {
                   window.ClickNumber(1);
                   window.Type(0, "250");
                   window.Click("Cmdmodif");
                   window.Click("Cmdannuler");
-                  EXPECT_TRUE(window.Dialog().isVisible());
+                  EXPECT_TRUE(window.IsOpen());
                   window.Key(Qt::Key_Escape);
-                  EXPECT_TRUE(window.Dialog().isVisible());
+                  EXPECT_TRUE(window.IsOpen());
                   EXPECT_EQ(platform.boxes.size(), 3U);
                   window.Type(0, "150");
                   window.Click("Cmdmodif");
@@ -273,8 +276,8 @@ TEST_F(FrmLongeronTest, CloseWithAnotherNumberSelectedStaysWhileAValueIsWrong) {
 
 TEST_F(FrmLongeronTest, CloseWithTheFirstNumberAlwaysCloses) {
     Spars(2);
-    ExpectBoxes(1);
-    EXPECT_EQ(Use([](Seen &window) {
+    platform.Expect(BoxAnswer::ok);
+    EXPECT_EQ(Use([](SeenSlots &window) {
                   window.ClickNumber(0);
                   window.Type(0, "250");
                   window.Click("Cmdmodif");
@@ -286,15 +289,15 @@ TEST_F(FrmLongeronTest, CloseWithTheFirstNumberAlwaysCloses) {
 TEST_F(FrmLongeronTest, CloseAfterAFailureWithoutAValueShowsAQuestionMark) {
     Inches();
     Spars(2);
-    ExpectBoxes(2);
-    EXPECT_EQ(Use([](Seen &window) {
+    platform.ExpectBoxes(2);
+    EXPECT_EQ(Use([](SeenSlots &window) {
                   window.ClickNumber(1);
                   window.Type(0, "1/0");
                   window.Click("Cmdmodif");
                   window.Click("Cmdannuler");
               }),
               Left::open);
-    EXPECT_EQ(LastBox(), std::string(kBadSpar) + "?");
+    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "?");
 }
 
 // When the drawing fails the main window clears the rib and closes this one.
@@ -310,10 +313,10 @@ TEST_F(FrmLongeronTest, AFailingDrawingClosesTheWindowInsideEveryCommand) {
                 }
             }
         };
-        EXPECT_EQ(Use([&](Seen &window) {
+        EXPECT_EQ(Use([&](SeenSlots &window) {
                       window.ClickNumber(1);
                       window.Click(button);
-                      EXPECT_FALSE(window.Dialog().isVisible());
+                      EXPECT_FALSE(window.IsOpen());
                   }),
                   Left::rejected)
             << button;

@@ -34,7 +34,8 @@ class FrmLongeronTest : public SlotsTest<frmlongeron> {
         }
         programme.rib.NbLongeron = static_cast<std::uint8_t>(finished);
     }
-    static void TypeSpar(Seen &window, const char *place, const char *width, const char *depth) {
+    static void TypeSpar(SeenSlots &window, const char *place, const char *width,
+                         const char *depth) {
         window.Type(0, place);
         window.Type(1, width);
         window.Type(2, depth);

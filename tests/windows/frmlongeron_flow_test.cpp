@@ -8,7 +8,7 @@ namespace {
 // Add.
 
 TEST_F(FrmLongeronTest, AddTakesWhatWasTypedAndOffersTheNext) {
-    Use([this](Seen &window) {
+    Use([this](SeenSlots &window) {
         TypeSpar(window, "50", "10", "5");
         window.Click("Opte(1)");
         window.Click("cmdajout");
@@ -17,8 +17,8 @@ TEST_F(FrmLongeronTest, AddTakesWhatWasTypedAndOffersTheNext) {
         EXPECT_EQ(window.Texts(4), "0|0|0|");
         EXPECT_TRUE(window.Chosen("Opte(0)"));
         EXPECT_EQ(window.Focus(), "Text1(0)");
-        EXPECT_TRUE(window.AllSelected(window.Box(0)));
-        QTest::keyClicks(&window.Box(0), "80");
+        EXPECT_TRUE(window.FocusedAndSelected({"Text1", 0}));
+        window.Keys({"Text1", 0}, "80");
         window.Type(1, "6");
         window.Type(2, "3");
         window.Click("cmdok");
@@ -31,32 +31,32 @@ TEST_F(FrmLongeronTest, AddTakesWhatWasTypedAndOffersTheNext) {
 }
 
 TEST_F(FrmLongeronTest, AddOfAnEmptyEntryIsRefused) {
-    ExpectBoxes(1);
-    Use([this](Seen &window) {
+    platform.Expect(BoxAnswer::ok);
+    Use([this](SeenSlots &window) {
         window.Click("cmdajout");
         EXPECT_EQ(Count(), 0);
         EXPECT_EQ(window.Focus(), "Text1(0)");
-        EXPECT_TRUE(window.AllSelected(window.Box(0)));
+        EXPECT_TRUE(window.FocusedAndSelected({"Text1", 0}));
     });
-    EXPECT_EQ(LastBox(), std::string(kBadSpar) + "0");
+    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "0");
     EXPECT_EQ(platform.boxes.at(0).title, "Spars setup 200  mm");
 }
 
 TEST_F(FrmLongeronTest, AddOfALocationBeyondTheChordIsRefusedAndKeepsItInTheSlot) {
-    ExpectBoxes(1);
-    Use([this](Seen &window) {
+    platform.Expect(BoxAnswer::ok);
+    Use([this](SeenSlots &window) {
         TypeSpar(window, "210", "10", "5");
         window.Click("cmdajout");
         EXPECT_EQ(Count(), 0);
         EXPECT_EQ(window.Texts(3), "210|10|5");
     });
-    EXPECT_EQ(LastBox(), std::string(kBadSpar) + "210");
+    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "210");
     EXPECT_EQ(Slot(0).PosLongAfich, "210");
 }
 
 TEST_F(FrmLongeronTest, AddWhileASparIsSelectedShowsAndAddsTheWorkSlot) {
     Spars(2); // work slot at 40
-    Use([this](Seen &window) {
+    Use([this](SeenSlots &window) {
         window.ClickNumber(0);
         window.Type(0, "99");
         window.Click("cmdajout");
@@ -68,7 +68,7 @@ TEST_F(FrmLongeronTest, AddWhileASparIsSelectedShowsAndAddsTheWorkSlot) {
 
 TEST_F(FrmLongeronTest, AddKeepsWhatWasTypedAfterTheWorkSlotsOwnNumberWasClicked) {
     Spars(1);
-    Use([this](Seen &window) {
+    Use([this](SeenSlots &window) {
         window.ClickNumber(1);
         window.Type(0, "99");
         window.Click("cmdajout");
@@ -78,8 +78,8 @@ TEST_F(FrmLongeronTest, AddKeepsWhatWasTypedAfterTheWorkSlotsOwnNumberWasClicked
 }
 
 TEST_F(FrmLongeronTest, ATwelfthAddShowsTheMessageAndTheCountStaysAt11) {
-    ExpectBoxes(2);
-    Use([this](Seen &window) {
+    platform.ExpectBoxes(2);
+    Use([this](SeenSlots &window) {
         for (int i = 1; i <= 12; ++i) {
             TypeSpar(window, std::to_string(10 * i).c_str(), "4", "3");
             window.Click("cmdajout");
@@ -96,8 +96,9 @@ TEST_F(FrmLongeronTest, ATwelfthAddShowsTheMessageAndTheCountStaysAt11) {
     });
     EXPECT_EQ(Slot(10).PosLongAfich, "110");
     EXPECT_EQ(Slot(12).PosLongAfich, "0");
-    EXPECT_EQ(LastBox(), "A rib has room for 12 spars. The one shown is the twelfth : it is kept, "
-                         "and can still be changed.");
+    EXPECT_EQ(platform.LastBox(),
+              "A rib has room for 12 spars. The one shown is the twelfth : it is kept, "
+              "and can still be changed.");
     EXPECT_EQ(platform.boxes.at(0).title, "Spars setup 200  mm");
 }
 
@@ -105,7 +106,7 @@ TEST_F(FrmLongeronTest, ATwelfthAddShowsTheMessageAndTheCountStaysAt11) {
 
 TEST_F(FrmLongeronTest, ModifyChangesTheSelectedSparAndDraws) {
     Spars(2);
-    Use([this](Seen &window) {
+    Use([this](SeenSlots &window) {
         window.ClickNumber(1);
         window.Type(0, "35");
         window.Click("Cmdmodif");
@@ -120,32 +121,32 @@ TEST_F(FrmLongeronTest, ModifyChangesTheSelectedSparAndDraws) {
 
 TEST_F(FrmLongeronTest, ModifyWithoutASelectionAsksForOne) {
     Spars(2);
-    ExpectBoxes(1);
-    Use([](Seen &window) {
+    platform.Expect(BoxAnswer::ok);
+    Use([](SeenSlots &window) {
         window.Type(0, "35");
         window.Click("Cmdmodif");
         EXPECT_EQ(window.Text("Text1(0)"), "35");
     });
-    EXPECT_EQ(LastBox(), "Please click the number of a spar first.");
+    EXPECT_EQ(platform.LastBox(), "Please click the number of a spar first.");
     EXPECT_EQ(Places(3), "20 30 40");
     EXPECT_FALSE(programme.rib.Modifie);
 }
 
 TEST_F(FrmLongeronTest, TheSelectionIsOverAfterModify) {
     Spars(2);
-    ExpectBoxes(1);
-    Use([](Seen &window) {
+    platform.Expect(BoxAnswer::ok);
+    Use([](SeenSlots &window) {
         window.ClickNumber(0);
         window.Click("Cmdmodif");
         window.Click("Cmdmodif");
     });
-    EXPECT_EQ(LastBox(), "Please click the number of a spar first.");
+    EXPECT_EQ(platform.LastBox(), "Please click the number of a spar first.");
 }
 
 TEST_F(FrmLongeronTest, AWrongModificationStaysShownAndStored) {
     Spars(2);
-    ExpectBoxes(1);
-    Use([this](Seen &window) {
+    platform.Expect(BoxAnswer::ok);
+    Use([this](SeenSlots &window) {
         window.ClickNumber(0);
         window.Type(1, "60"); // 20 - 30 lies before the leading edge
         window.Click("Cmdmodif");
@@ -153,7 +154,7 @@ TEST_F(FrmLongeronTest, AWrongModificationStaysShownAndStored) {
         EXPECT_EQ(window.Texts(3), "20|60|5");
         EXPECT_EQ(Drawn(), 0);
     });
-    EXPECT_EQ(LastBox(), std::string(kBadSpar) + "20");
+    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "20");
     EXPECT_EQ(Slot(0).LargLong, 60.0F);
     EXPECT_EQ(Places(3), "20 30 40");
 }
@@ -161,14 +162,14 @@ TEST_F(FrmLongeronTest, AWrongModificationStaysShownAndStored) {
 TEST_F(FrmLongeronTest, AfterAModificationAnEmptyWorkSlotIsRefused) {
     Spars(1);
     programme.rib.longeron[1] = Longeron{};
-    ExpectBoxes(1);
-    Use([this](Seen &window) {
+    platform.Expect(BoxAnswer::ok);
+    Use([this](SeenSlots &window) {
         window.ClickNumber(0);
         window.Type(0, "25");
         window.Click("Cmdmodif");
         EXPECT_EQ(window.Numbers(), "1 [2]");
     });
-    EXPECT_EQ(LastBox(), std::string(kBadSpar) + "0");
+    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "0");
     EXPECT_EQ(Slot(0).PosLongAfich, "25");
 }
 
@@ -176,7 +177,7 @@ TEST_F(FrmLongeronTest, AfterAModificationAnEmptyWorkSlotIsRefused) {
 
 TEST_F(FrmLongeronTest, RemoveClosesTheGapAndDraws) {
     Spars(3);
-    Use([this](Seen &window) {
+    Use([this](SeenSlots &window) {
         window.ClickNumber(1);
         window.Click("Cmdeffac");
         EXPECT_EQ(window.Numbers(), "1 2 [3]");
@@ -193,16 +194,16 @@ TEST_F(FrmLongeronTest, RemoveClosesTheGapAndDraws) {
 
 TEST_F(FrmLongeronTest, RemoveWithoutASelectionAsksForOne) {
     Spars(2);
-    ExpectBoxes(1);
-    Use([](Seen &window) { window.Click("Cmdeffac"); });
-    EXPECT_EQ(LastBox(), "Please click the number of a spar first.");
+    platform.Expect(BoxAnswer::ok);
+    Use([](SeenSlots &window) { window.Click("Cmdeffac"); });
+    EXPECT_EQ(platform.LastBox(), "Please click the number of a spar first.");
     EXPECT_EQ(Places(3), "20 30 40");
     EXPECT_FALSE(programme.rib.Modifie);
 }
 
 TEST_F(FrmLongeronTest, RemoveOfTheOnlySparLeavesAnEmptyListThatIsDrawn) {
     Spars(0);
-    const Left left = Use([this](Seen &window) {
+    const Left left = Use([this](SeenSlots &window) {
         window.ClickNumber(0);
         window.Click("Cmdeffac");
         EXPECT_EQ(window.Numbers(), "[1]");
@@ -220,7 +221,7 @@ TEST_F(FrmLongeronTest, RemoveOfTheOnlySparLeavesAnEmptyListThatIsDrawn) {
 TEST_F(FrmLongeronTest, RemoveOfAnEmptyWorkSlotMakesTheLastSparTheWorkSlot) {
     Spars(1);
     programme.rib.longeron[1] = Longeron{};
-    const Left left = Use([](Seen &window) {
+    const Left left = Use([](SeenSlots &window) {
         window.ClickNumber(1);
         window.Click("Cmdeffac");
         EXPECT_EQ(window.Numbers(), "[1]");
@@ -238,7 +239,7 @@ TEST_F(FrmLongeronTest, RemoveFromAFullList) {
         Longeron &spar = At(programme.rib.longeron, i);
         spar.PosLongAfich = std::to_string(15 * (i + 1));
     }
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         window.ClickNumber(0);
         window.Click("Cmdeffac");
         EXPECT_EQ(window.Numbers(), "1 2 3 4 5 6 7 8 9 10 [11]");

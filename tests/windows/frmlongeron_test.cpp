@@ -1,11 +1,14 @@
 #include "windows/frmlongeron_fixture.h"
 
+#include <QApplication>
+#include <QTest>
+
 namespace loftwing {
 namespace {
 
 TEST_F(FrmLongeronTest, ShowsTheWorkSlotOfANewRib) {
-    Use([](Seen &window) {
-        EXPECT_EQ(S(window.Dialog().windowTitle()), "Spars setup 200  mm");
+    Use([](SeenSlots &window) {
+        EXPECT_EQ(window.Title(), "Spars setup 200  mm");
         EXPECT_EQ(window.Numbers(), "[1]");
         EXPECT_EQ(window.Texts(4), "0|0|0|");
         EXPECT_TRUE(window.Chosen("OptDistance(0)"));
@@ -13,27 +16,27 @@ TEST_F(FrmLongeronTest, ShowsTheWorkSlotOfANewRib) {
         EXPECT_TRUE(window.Chosen("Opte(0)"));
         EXPECT_TRUE(window.Chosen("Opti(0)"));
         EXPECT_EQ(window.Focus(), "Text1(0)");
-        EXPECT_EQ(S(window.Box(0).selectedText()), "0");
+        EXPECT_EQ(window.Selected({"Text1", 0}), "0");
     });
     EXPECT_FALSE(programme.rib.Modifie);
 }
 
 TEST_F(FrmLongeronTest, SpeaksEnglishAndMm) {
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         EXPECT_EQ(window.Label("Label1"), "Location value        mm or %");
         EXPECT_EQ(window.Label("Label2"), "Width");
         EXPECT_EQ(window.Label("Label3"), "Depth");
         EXPECT_EQ(window.Label("Label4"), "From  Upper or  Lower surface");
         EXPECT_EQ(window.Label("Label6(1)"), " mm");
-        EXPECT_EQ(S(window.Find<QGroupBox>("Frame2").title()), "Dimensions");
-        EXPECT_EQ(S(window.Find<QGroupBox>("Frame3").title()), "Location");
-        EXPECT_EQ(S(window.Find<QGroupBox>("Frame4").title()), "Upper Surface");
-        EXPECT_EQ(S(window.Find<QGroupBox>("Frame5").title()), "Lower Surface");
-        EXPECT_EQ(S(window.Find<QGroupBox>("Frame6").title()), "Spar");
-        EXPECT_EQ(S(window.Find<QRadioButton>("OptDistance(0)").text()), "From L.E");
-        EXPECT_EQ(S(window.Find<QRadioButton>("OptDistance(1)").text()), "From T.E");
+        EXPECT_EQ(window.Frame("Frame2"), "Dimensions");
+        EXPECT_EQ(window.Frame("Frame3"), "Location");
+        EXPECT_EQ(window.Frame("Frame4"), "Upper Surface");
+        EXPECT_EQ(window.Frame("Frame5"), "Lower Surface");
+        EXPECT_EQ(window.Frame("Frame6"), "Spar");
+        EXPECT_EQ(window.Word("OptDistance(0)"), "From L.E");
+        EXPECT_EQ(window.Word("OptDistance(1)"), "From T.E");
         EXPECT_EQ(window.Label("LabelListe"), "Longeron N° :");
-        EXPECT_EQ(S(window.Box(0).toolTip()), "In percent   Ex 33%");
+        EXPECT_EQ(window.Tip({"Text1", 0}), "In percent   Ex 33%");
         EXPECT_EQ(S(window.Number(0).toolTip()), "click here to modiify");
         EXPECT_EQ(S(window.Number(1).toolTip()), "");
         const std::pair<const char *, const char *> buttons[] = {
@@ -42,7 +45,7 @@ TEST_F(FrmLongeronTest, SpeaksEnglishAndMm) {
             {"cmdaide", "Help"},
         };
         for (const auto &[name, word] : buttons) {
-            EXPECT_EQ(S(window.Find<QPushButton>(name).text()), word);
+            EXPECT_EQ(window.Word(name), word);
         }
     });
 }
@@ -51,16 +54,16 @@ TEST_F(FrmLongeronTest, SpeaksFrenchAndInches) {
     Language("French");
     Inches();
     programme.rib.cordeAfich = "8.1/2";
-    Use([](Seen &window) {
-        EXPECT_EQ(S(window.Dialog().windowTitle()), "Longerons 8.1/2  in");
+    Use([](SeenSlots &window) {
+        EXPECT_EQ(window.Title(), "Longerons 8.1/2  in");
         EXPECT_EQ(window.Label("Label1"), "Position        in ou %");
         EXPECT_EQ(window.Label("Label6(0)"), " in");
-        EXPECT_EQ(S(window.Find<QPushButton>("Cmdannuler").text()), "Fermer");
+        EXPECT_EQ(window.Word("Cmdannuler"), "Fermer");
     });
 }
 
 TEST_F(FrmLongeronTest, KeysOfTheFieldsInMm) {
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         window.Click("OptLong(3)");
         window.Type(0, "a1-2,3/4%5 6.7e");
         EXPECT_EQ(window.Text("Text1(0)"), "1234%56.7");
@@ -68,46 +71,46 @@ TEST_F(FrmLongeronTest, KeysOfTheFieldsInMm) {
         EXPECT_EQ(window.Text("Text1(0)"), "1234%56.");
         for (int i = 1; i < 4; ++i) {
             window.Type(i, "a1-2,3/4%5 6.7e");
-            EXPECT_EQ(S(window.Box(i).text()), "123456.7");
+            EXPECT_EQ(window.Text({"Text1", i}), "123456.7");
         }
     });
 }
 
 TEST_F(FrmLongeronTest, KeysOfTheFieldsInInches) {
     Inches();
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         window.Click("OptLong(3)");
         window.Type(0, "a1-2,3/4%5 6.7e");
         EXPECT_EQ(window.Text("Text1(0)"), "123/4%56.7");
         for (int i = 1; i < 4; ++i) {
             window.Type(i, "a1-2,3/4%5 6.7e");
-            EXPECT_EQ(S(window.Box(i).text()), "123/456.7");
+            EXPECT_EQ(window.Text({"Text1", i}), "123/456.7");
         }
     });
 }
 
 TEST_F(FrmLongeronTest, EachFocusSelectsAllFields) {
     Spars(0);
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         window.Click("OptLong(3)");
         for (int i = 0; i < 4; ++i) {
             window.Box(i).setText("7" + QString::number(i));
         }
-        window.Find<QPushButton>("cmdajout").setFocus();
-        window.Box(1).setFocus();
+        window.GoTo("cmdajout");
+        window.GoTo({"Text1", 1});
         for (int i = 0; i < 4; ++i) {
-            EXPECT_EQ(S(window.Box(i).selectedText()), "7" + std::to_string(i));
+            EXPECT_EQ(window.Selected({"Text1", i}), "7" + std::to_string(i));
         }
         window.Key(Qt::Key_3);
-        EXPECT_EQ(S(window.Box(1).text()), "3");
-        EXPECT_EQ(S(window.Box(2).text()), "72");
+        EXPECT_EQ(window.Text({"Text1", 1}), "3");
+        EXPECT_EQ(window.Text({"Text1", 2}), "72");
     });
 }
 
 TEST_F(FrmLongeronTest, TabGoesThroughTheWholeWindow) {
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         window.Click("OptLong(3)");
-        window.Box(0).setFocus();
+        window.GoTo({"Text1", 0});
         const char *const order[] = {
             "OptDistance(0)", "Text1(1)",   "Text1(2)", "Text1(3)", "OptLong(3)",
             "Opte(0)",        "Opti(0)",    "cmdajout", "Cmdmodif", "Cmdeffac",
@@ -121,17 +124,17 @@ TEST_F(FrmLongeronTest, TabGoesThroughTheWholeWindow) {
 }
 
 TEST_F(FrmLongeronTest, HelpIsPage42) {
-    EXPECT_EQ(Use([](Seen &window) {
+    EXPECT_EQ(Use([](SeenSlots &window) {
                   window.Click("cmdaide");
-                  QTest::keyClick(&window.Box(0), Qt::Key_F1);
+                  window.Key({"Text1", 0}, Qt::Key_F1);
               }),
               Left::open);
     EXPECT_EQ(platform.help_contexts, (std::vector<int>{42, 42}));
 }
 
 TEST_F(FrmLongeronTest, ANewUserTypesASparAndOkTakesAndDrawsIt) {
-    const Left left = Use([](Seen &window) {
-        QTest::keyClicks(&window.Box(0), "50");
+    const Left left = Use([](SeenSlots &window) {
+        window.Keys({"Text1", 0}, "50");
         window.Type(1, "10");
         window.Type(2, "5");
         window.Click("Opte(2)");
@@ -148,7 +151,7 @@ TEST_F(FrmLongeronTest, ANewUserTypesASparAndOkTakesAndDrawsIt) {
 }
 
 TEST_F(FrmLongeronTest, ReturnIsOk) {
-    const Left left = Use([](Seen &window) {
+    const Left left = Use([](SeenSlots &window) {
         TypeSpar(window, "50", "10", "5");
         window.Key(Qt::Key_Return);
     });
@@ -157,7 +160,7 @@ TEST_F(FrmLongeronTest, ReturnIsOk) {
 }
 
 TEST_F(FrmLongeronTest, AllOptionsAreStoredAndComeBack) {
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         window.Click("OptLong(3)");
         TypeSpar(window, "20", "10", "5");
         window.Type(3, "2");
@@ -172,7 +175,7 @@ TEST_F(FrmLongeronTest, AllOptionsAreStoredAndComeBack) {
     EXPECT_EQ(Slot(0).TypeLong, 3);
     EXPECT_EQ(Slot(0).OptLongExt, 1);
     EXPECT_EQ(Slot(0).OptLongInt, 2);
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         EXPECT_EQ(window.Texts(4), "20|10|5|2");
         EXPECT_TRUE(window.Chosen("OptDistance(1)"));
         EXPECT_TRUE(window.Chosen("OptLong(3)"));
@@ -184,7 +187,7 @@ TEST_F(FrmLongeronTest, AllOptionsAreStoredAndComeBack) {
 // Kinds.
 
 TEST_F(FrmLongeronTest, ARoundSparAsksForNoDepthAndTheFieldHoldsZero) {
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         TypeSpar(window, "50", "10", "5");
         window.Click("OptLong(2)");
         EXPECT_EQ(window.Label("Label2"), "Diameter");
@@ -196,7 +199,7 @@ TEST_F(FrmLongeronTest, ARoundSparAsksForNoDepthAndTheFieldHoldsZero) {
         EXPECT_TRUE(window.Enabled("Text1(3)"));
         EXPECT_TRUE(window.Enabled("Label4"));
         EXPECT_EQ(window.Focus(), "Text1(1)");
-        EXPECT_EQ(S(window.Box(1).selectedText()), "10");
+        EXPECT_EQ(window.Selected({"Text1", 1}), "10");
         window.Type(3, "4");
         window.Click("cmdok");
     });
@@ -207,7 +210,7 @@ TEST_F(FrmLongeronTest, ARoundSparAsksForNoDepthAndTheFieldHoldsZero) {
 }
 
 TEST_F(FrmLongeronTest, AtADistanceTheDistanceIsNext) {
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         EXPECT_FALSE(window.Enabled("Text1(3)"));
         EXPECT_FALSE(window.Enabled("Label4"));
         window.Click("OptLong(3)");
@@ -218,7 +221,7 @@ TEST_F(FrmLongeronTest, AtADistanceTheDistanceIsNext) {
 }
 
 TEST_F(FrmLongeronTest, BackAtTheSurfaceTheDistanceIsEmptied) {
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         for (const char *at_surface : {"OptLong(0)", "OptLong(1)"}) {
             window.Click("OptLong(2)");
             window.Type(3, "4");
@@ -234,14 +237,14 @@ TEST_F(FrmLongeronTest, BackAtTheSurfaceTheDistanceIsEmptied) {
 }
 
 TEST_F(FrmLongeronTest, TheArrowKeysChooseAKindToo) {
-    Use([](Seen &window) {
-        window.Find<QRadioButton>("OptLong(0)").setFocus();
+    Use([](SeenSlots &window) {
+        window.GoTo("OptLong(0)");
         window.Key(Qt::Key_Down);
         EXPECT_TRUE(window.Chosen("OptLong(1)"));
         window.Key(Qt::Key_Right);
         EXPECT_TRUE(window.Chosen("OptLong(3)"));
         EXPECT_TRUE(window.Enabled("Text1(3)"));
-        window.Find<QRadioButton>("OptLong(3)").setFocus(); // the distance has taken it
+        window.GoTo("OptLong(3)"); // the distance has taken it
         window.Key(Qt::Key_Up);
         EXPECT_TRUE(window.Chosen("OptLong(2)"));
         EXPECT_FALSE(window.Shown("Text1(2)"));
@@ -253,7 +256,7 @@ TEST_F(FrmLongeronTest, OptionsThatThereArentShowAsTheFirst) {
     Longeron &spar = programme.rib.longeron[0];
     spar.TypeLong = 9;
     spar.OptLongExt = spar.OptLongInt = spar.RefLong = 255;
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         for (const char *first : {"OptLong(0)", "Opte(0)", "Opti(0)", "OptDistance(0)"}) {
             EXPECT_TRUE(window.Chosen(first));
         }
@@ -269,7 +272,7 @@ TEST_F(FrmLongeronTest, ANumberShowsItsSpar) {
     Spars(2);
     programme.rib.longeron[0].TypeLong = 2;
     programme.rib.longeron[0].DistLongAfich = "4";
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         EXPECT_EQ(window.Numbers(), "1 2 [3]");
         window.ClickNumber(0);
         EXPECT_EQ(window.Numbers(), "[1] 2 3");
@@ -277,7 +280,7 @@ TEST_F(FrmLongeronTest, ANumberShowsItsSpar) {
         EXPECT_TRUE(window.Chosen("OptLong(2)"));
         EXPECT_TRUE(window.Chosen("Opte(1)"));
         EXPECT_EQ(window.Focus(), "Text1(0)");
-        EXPECT_TRUE(window.AllSelected(window.Box(0)));
+        EXPECT_TRUE(window.FocusedAndSelected({"Text1", 0}));
         window.ClickNumber(1);
         EXPECT_EQ(window.Numbers(), "1 [2] 3");
         EXPECT_EQ(window.Texts(4), "30|10|5|");
@@ -286,7 +289,7 @@ TEST_F(FrmLongeronTest, ANumberShowsItsSpar) {
 
 TEST_F(FrmLongeronTest, ANumberNotInUseDoesNothing) {
     Spars(1);
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         window.ClickNumber(2);
         window.ClickNumber(11);
         EXPECT_EQ(window.Numbers(), "1 [2]");
@@ -296,7 +299,7 @@ TEST_F(FrmLongeronTest, ANumberNotInUseDoesNothing) {
 
 TEST_F(FrmLongeronTest, ThePressMustEndOnTheNumber) {
     Spars(1);
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         ClickLabel &number = window.Number(0);
         QTest::mousePress(&number, Qt::LeftButton);
         QTest::mouseRelease(&number, Qt::LeftButton, {}, {-20, 5});
@@ -307,8 +310,8 @@ TEST_F(FrmLongeronTest, ThePressMustEndOnTheNumber) {
 
 TEST_F(FrmLongeronTest, TheNumbersAreChosenByKeysToo) {
     Spars(2);
-    Use([](Seen &window) {
-        window.Box(0).setFocus();
+    Use([](SeenSlots &window) {
+        window.GoTo({"Text1", 0});
         window.Key(Qt::Key_Backtab);
         EXPECT_EQ(window.Focus(), "LblNblongeron(2)");
         window.Key(Qt::Key_Right); // there is none
@@ -330,7 +333,7 @@ TEST_F(FrmLongeronTest, TheNumbersAreChosenByKeysToo) {
 
 TEST_F(FrmLongeronTest, ABorderMovesNothing) {
     Spars(2);
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         const QRect first = window.Number(0).geometry();
         const QRect last = window.Number(2).geometry();
         window.ClickNumber(0);

@@ -7,9 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QTest>
-
 namespace loftwing {
 namespace {
 
@@ -28,10 +25,10 @@ class BesideMainTest : public testing::Test {
     }
     void Run(const char *command) const { world.Action(command)->trigger(); }
     void EnterPoint() const {
-        auto *editor = Windows<frmCoord>().front();
-        editor->findChild<QLineEdit *>("txtinX")->setText("1");
-        editor->findChild<QLineEdit *>("txtinY")->setText("0");
-        editor->findChild<QPushButton *>("cmdentre")->click();
+        const Seen editor(*Windows<frmCoord>().front());
+        editor.Fill("txtinX", "1");
+        editor.Fill("txtinY", "0");
+        editor.Click("cmdentre");
     }
     template <class Window>
     void ExpectOneBeside(const char *command) {
@@ -79,7 +76,7 @@ TEST_F(BesideMainTest, CalculatorsDontKeepTheRibFromBeingDrawnAgain) {
     auto *picture = world.Find<PicView>("Pic");
     picture->Montre(nullptr);
     world.window->resize(world.window->width() + 60, world.window->height() + 40);
-    QTRY_VERIFY_WITH_TIMEOUT(picture->Dessin() != nullptr, 2000);
+    EXPECT_TRUE(Eventually([picture] { return picture->Dessin() != nullptr; }));
 }
 
 TEST_F(BesideMainTest, AnotherLanguageReachesWhatIsOpen) {
@@ -89,18 +86,15 @@ TEST_F(BesideMainTest, AnotherLanguageReachesWhatIsOpen) {
     EnterPoint();
     world.programme.language.Charge(LOFTWING_SOURCE_DIR "/resources/lng", "French");
     world.window->AppliqueLangue();
-    EXPECT_EQ(S(Windows<frmdiedre>().front()->windowTitle()), "Calcul du dièdre  mm");
-    const auto caption = [](QWidget &window, const char *name) {
-        return S(window.findChild<QLabel *>(name)->text());
-    };
-    EXPECT_EQ(caption(*Windows<frmdiedre>().front(), "Label1"), "Angle en degrés");
-    EXPECT_EQ(caption(*Windows<frmnervure>().front(), "Label2"),
-              world.programme.Text({"FrmNervure", "4"}));
-    EXPECT_EQ(S(Windows<frmnervure>().front()->windowTitle()),
-              world.programme.Text({"FrmNervure", "1"}) + "  mm");
-    frmCoord &editor = *Windows<frmCoord>().front();
-    EXPECT_EQ(S(editor.windowTitle()), world.programme.Text({"Frmcoord", "1"}));
-    EXPECT_EQ(editor.findChild<QListWidget *>("Liste_Valeurs")->count(), 1);
+    const Seen dihedral(*Windows<frmdiedre>().front());
+    EXPECT_EQ(dihedral.Title(), "Calcul du dièdre  mm");
+    EXPECT_EQ(dihedral.Label("Label1"), "Angle en degrés");
+    const Seen ribs(*Windows<frmnervure>().front());
+    EXPECT_EQ(ribs.Label("Label2"), world.programme.Text({"FrmNervure", "4"}));
+    EXPECT_EQ(ribs.Title(), world.programme.Text({"FrmNervure", "1"}) + "  mm");
+    const Seen editor(*Windows<frmCoord>().front());
+    EXPECT_EQ(editor.Title(), world.programme.Text({"Frmcoord", "1"}));
+    EXPECT_EQ(editor.Find<QListWidget>("Liste_Valeurs").count(), 1);
 }
 
 TEST_F(BesideMainTest, UnsavedLinesAreAskedForWhenTheProgramEnds) {

@@ -5,10 +5,15 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <sstream>
+
 namespace loftwing {
 namespace {
 
+using testing::AllOf;
 using testing::HasSubstr;
+using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
 
@@ -24,6 +29,39 @@ class ExportingDxf : public RibFiles {
         Choose("mnu_filedxf", path);
     }
     std::string Out(const char *name = "rib.dxf") const { return world.folder.Path(name); }
+    void ZoomAndScroll() {
+        Q_EMIT world.Find<QComboBox>("Combo1")->activated(0);
+        EXPECT_EQ(Rib().Zoom, 3.0F);
+        Rib().DecalX = 40;
+        world.window->affiche();
+    }
+
+    using Lines = std::vector<std::string>;
+    /// The lines of a file's entities.
+    Lines Entities(const char *name) const {
+        std::istringstream text(world.folder.Bytes(name));
+        Lines lines;
+        std::string line;
+        while (std::getline(text, line) && line != "ENTITIES\r") {
+        }
+        while (std::getline(text, line)) {
+            lines.push_back(line);
+        }
+        return lines;
+    }
+    /// The pairs of lines that differ, and what one of them has more.
+    static std::vector<std::pair<std::string, std::string>> Differences(const Lines &a,
+                                                                        const Lines &b) {
+        std::vector<std::pair<std::string, std::string>> pairs;
+        for (std::size_t i = 0; i < std::max(a.size(), b.size()); ++i) {
+            const std::string first = i < a.size() ? a[i] : "nothing";
+            const std::string second = i < b.size() ? b[i] : "nothing";
+            if (first != second) {
+                pairs.emplace_back(first, second);
+            }
+        }
+        return pairs;
+    }
 };
 
 TEST_F(ExportingDxf, WritesTheFormThatIsChosen) {
@@ -78,10 +116,11 @@ TEST_F(ExportingDxf, AnInvertedRibGoesToTheFormForCuttersOnly) {
     ComponentsText file = LadenRib("1", false);
     file.inverted = "1";
     OpenBytes("inverted.lfw", file.Current());
-    ExpectBox(BoxAnswer::ok,
-              "An inverted rib cannot be exported as DXF. Turn it back with View / Invert "
-              "Airfoil, or choose DXF for cutters.",
-              "Loftwing");
+    world.platform.Expect(
+        BoxAnswer::ok,
+        {.text = "An inverted rib cannot be exported as DXF. Turn it back with View / Invert "
+                 "Airfoil, or choose DXF for cutters.",
+         .title = "Loftwing"});
     Export(kInterchange, Out("interchange.dxf"));
     EXPECT_FALSE(Exists("interchange.dxf"));
     EXPECT_EQ(world.platform.pointer, Pointer::normal);
@@ -117,18 +156,32 @@ TEST_F(ExportingDxf, TurnedRoundTheFormForCuttersIsMirrored) {
 }
 
 TEST_F(ExportingDxf, TheZoomAndTheScrollOfTheScreenDoNotCount) {
-    OpenBytes("laden.lfw", LadenRib("1", false).Current());
+    for (const char *kind : {"1", "11"}) { // a template, a heel
+        OpenBytes("laden.lfw", LadenRib(kind, false).Current());
+        Export(kInterchange, Out("1.dxf"));
+        Export(kPlain, Out("1p.dxf"));
+        ZoomAndScroll();
+        Export(kPlain, Out("2p.dxf"));
+        EXPECT_EQ(world.folder.Bytes("2p.dxf"), world.folder.Bytes("1p.dxf"));
+        Export(kInterchange, Out("2.dxf"));
+        EXPECT_GT(Entities("1.dxf").size(), 1000U);
+        EXPECT_THAT(Differences(Entities("1.dxf"), Entities("2.dxf")), IsEmpty());
+        EXPECT_EQ(world.folder.Bytes("2.dxf"), world.folder.Bytes("1.dxf"));
+    }
+}
+
+TEST_F(ExportingDxf, OfTheInterchangeFormTheCuttingAllowanceAloneFollowsTheZoom) {
+    ComponentsText file = LadenRib("1", false);
+    file.cut = "3"; // 1.5 mm more than the sheeting
+    OpenBytes("laden.lfw", file.Current());
     Export(kInterchange, Out("1.dxf"));
-    Export(kPlain, Out("1p.dxf"));
-    Q_EMIT world.Find<QComboBox>("Combo1")->activated(0);
-    EXPECT_EQ(Rib().Zoom, 3.0F);
-    Rib().DecalX = 40;
-    world.window->affiche();
-    Export(kPlain, Out("2p.dxf"));
-    EXPECT_EQ(world.folder.Bytes("2p.dxf"), world.folder.Bytes("1p.dxf"));
+    ZoomAndScroll();
     Export(kInterchange, Out("2.dxf"));
-    EXPECT_EQ(world.folder.Bytes("2.dxf").substr(0, 4000),
-              world.folder.Bytes("1.dxf").substr(0, 4000));
+    const auto differences = Differences(Entities("1.dxf"), Entities("2.dxf"));
+    ASSERT_EQ(differences.size(), 1U);
+    const auto &[before, after] = differences.front();
+    // It stands in the file in device units, 56.7 of which are a mm.
+    EXPECT_NEAR(std::stod(before) - std::stod(after), 1.5 * 56.7 * (3 - 1), 1e-3);
 }
 
 TEST_F(ExportingDxf, TheExportLeavesThePictureAsItIs) {
@@ -147,12 +200,10 @@ TEST_F(ExportingDxf, AnotherDecimalSeparatorIsWarnedOfAndTheExportGoesOnWithPoin
     const auto &programme = world.programme;
     for (const int form : {kInterchange, kPlain}) {
         for (const BoxAnswer answer : {BoxAnswer::ok, BoxAnswer::cancel}) {
-            world.platform.boxes_expected.push_back(
-                {answer, [&](const MessageBox &box) {
-                     EXPECT_THAT(box.text, StartsWith(programme.Text({"Message", "11"}) + "\n"));
-                     EXPECT_THAT(box.text, HasSubstr(" : Export as DXF file\n"));
-                     EXPECT_EQ(box.title, "Decimal separator");
-                 }});
+            world.platform.Expect(
+                answer, {.text = AllOf(StartsWith(programme.Text({"Message", "11"}) + "\n"),
+                                       HasSubstr(" : Export as DXF file\n")),
+                         .title = "Decimal separator"});
             fs::remove(Out());
             Export(form, Out());
             ASSERT_TRUE(Exists("rib.dxf"));
@@ -165,9 +216,10 @@ TEST_F(ExportingDxf, AnotherDecimalSeparatorIsWarnedOfAndTheExportGoesOnWithPoin
 TEST_F(ExportingDxf, ARefusedWriteIsReported) {
     OpenBytes("rib.lfw", ComponentsText{}.Current());
     for (const int form : {kInterchange, kPlain}) {
-        ExpectBox(BoxAnswer::ok,
-                  "Error # 75 in Loftwing\nPath/file access error: " + Out("none/rib.dxf"),
-                  " Main/Mnu_DXF");
+        world.platform.Expect(
+            BoxAnswer::ok,
+            {.text = "Error # 75 in Loftwing\nPath/file access error: " + Out("none/rib.dxf"),
+             .title = " Main/Mnu_DXF"});
         Export(form, Out("none/rib.dxf"));
     }
     EXPECT_TRUE(Rib().ProfilCharge);

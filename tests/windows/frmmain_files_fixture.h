@@ -43,17 +43,11 @@ class RibFiles : public testing::Test {
         return path;
     }
 
-    void ExpectBox(BoxAnswer answer, const std::string &text, const std::string &title) {
-        world.platform.boxes_expected.push_back({answer, [text, title](const MessageBox &box) {
-                                                     EXPECT_EQ(box.text, text);
-                                                     EXPECT_EQ(box.title, title);
-                                                 }});
-    }
     /// The one report that every failure of an opening ends in.
     void ExpectReport(int number, const std::string &description) {
-        ExpectBox(BoxAnswer::ok,
-                  "Error # " + std::to_string(number) + " in Loftwing\n" + description,
-                  "Error LireEcrire/newLfw");
+        world.platform.Expect(BoxAnswer::ok, {.text = "Error # " + std::to_string(number) +
+                                                      " in Loftwing\n" + description,
+                                              .title = "Error LireEcrire/newLfw"});
     }
 
     RibModel &Rib() { return world.programme.rib; }

@@ -17,11 +17,12 @@ TEST_F(RibFiles, AMissingAirfoilGivesTwoBoxesAndAResetRib) {
     file.inverted = "1";
     world.window->OuvreFichier(WindowWorld::Sample("naca0012.dat"));
     Rib().Modifie = false;
-    ExpectBox(BoxAnswer::ok,
-              "The airfoil of this rib was not found : unknown.dat\n"
-              " It was searched in the airfoil folders, with all that is below them : \n" +
-                  world.folder.Path("airfoils") + " and " + world.folder.Path("sets"),
-              "Open rib components");
+    world.platform.Expect(
+        BoxAnswer::ok,
+        {.text = "The airfoil of this rib was not found : unknown.dat\n"
+                 " It was searched in the airfoil folders, with all that is below them : \n" +
+                 world.folder.Path("airfoils") + " and " + world.folder.Path("sets"),
+         .title = "Open rib components"});
     ExpectReport(0, "");
     OpenBytes("rib.lfw", file.Current());
     ASSERT_EQ(world.platform.boxes.size(), 2U);
@@ -80,11 +81,8 @@ TEST_F(RibFiles, DamagedFilesAreReportedOnceAndStayAsTheyAre) {
         std::string(100000, 'x')};
     for (std::size_t i = 0; i < damaged.size(); ++i) {
         const std::size_t before = world.platform.boxes.size();
-        world.platform.boxes_expected.push_back(
-            {BoxAnswer::ok, [](const MessageBox &box) {
-                 EXPECT_EQ(box.title, "Error LireEcrire/newLfw");
-                 EXPECT_THAT(box.text, testing::StartsWith("Error # "));
-             }});
+        world.platform.Expect(BoxAnswer::ok, {.text = testing::StartsWith("Error # "),
+                                              .title = "Error LireEcrire/newLfw"});
         OpenBytes("damaged.lfw", damaged[i]);
         EXPECT_EQ(world.platform.boxes.size(), before + 1) << i;
         ExpectResetRib();
@@ -104,11 +102,12 @@ TEST_F(RibFiles, WhatIsNoFileIsReported) {
 }
 
 TEST_F(RibFiles, AnEmptyFileNamesNoAirfoil) {
-    ExpectBox(BoxAnswer::ok,
-              "The airfoil of this rib was not found : .\n"
-              " It was searched in the airfoil folders, with all that is below them : \n" +
-                  world.folder.Path("airfoils") + " and " + world.folder.Path("sets"),
-              "Open rib components");
+    world.platform.Expect(
+        BoxAnswer::ok,
+        {.text = "The airfoil of this rib was not found : .\n"
+                 " It was searched in the airfoil folders, with all that is below them : \n" +
+                 world.folder.Path("airfoils") + " and " + world.folder.Path("sets"),
+         .title = "Open rib components"});
     ExpectReport(0, "");
     OpenBytes("empty.lfw", "");
     ExpectResetRib();
@@ -195,8 +194,7 @@ TEST_F(RibFiles, AnAirfoilThatIsRefusedEndsTheOpeningWithTheReadersOwnBox) {
     file.airfoil = "bad.dat";
     world.window->OuvreFichier(WindowWorld::Sample("naca0012.dat"));
     Rib().Modifie = false;
-    world.platform.boxes_expected.push_back(
-        {BoxAnswer::ok, [](const MessageBox &box) { EXPECT_EQ(box.title, "Open airfoil file"); }});
+    world.platform.Expect(BoxAnswer::ok, {.title = "Open airfoil file"});
     OpenBytes("rib.lfw", file.Current());
     EXPECT_EQ(world.platform.boxes.size(), 1U);
     EXPECT_FALSE(Rib().ProfilCharge);
@@ -211,8 +209,9 @@ TEST_F(RibFiles, AFailureOfTheAirfoilsReadingIsToldUnderItsOwnLabel) {
     world.folder.File("airfoils/bad.dat", "Title\n1.0 0.0\n0.5\n1.0 0.0\n");
     ComponentsText file;
     file.airfoil = "bad.dat";
-    ExpectBox(BoxAnswer::ok, "Error # 5 in Loftwing\nInvalid procedure call or argument",
-              " Open/FichierLecture");
+    world.platform.Expect(BoxAnswer::ok,
+                          {.text = "Error # 5 in Loftwing\nInvalid procedure call or argument",
+                           .title = " Open/FichierLecture"});
     OpenBytes("rib.lfw", file.Current());
     EXPECT_EQ(world.platform.boxes.size(), 1U);
     ExpectResetRib();
@@ -224,10 +223,7 @@ TEST_F(RibFiles, ValuesThatCannotBeDrawnAreReportedByThePlotAndCostTheRib) {
     file.spars = {{"900", "5", "3", "1", "1", "1", "0", "0", "0"}};
     for (const char *chord : {"200", "0"}) {
         file.chord = chord;
-        world.platform.boxes_expected.push_back(
-            {BoxAnswer::ok, [](const MessageBox &box) {
-                 EXPECT_THAT(box.title, testing::HasSubstr("Main/PrintSubroutine"));
-             }});
+        world.platform.Expect(BoxAnswer::ok, {.title = testing::HasSubstr("Main/PrintSubroutine")});
         const std::string path = OpenBytes("rib.lfw", file.Current());
         ExpectResetRib();
         EXPECT_EQ(ReadWholeFile(path), file.Current());
@@ -243,8 +239,7 @@ TEST(RibFilesInInches, LengthsThatAreNoneAreToldInOneBox) {
     for (std::string *length : {&file.sheeting, &file.edge, &file.notch, &file.ramp, &file.intra}) {
         *length = "2./8";
     }
-    world.platform.boxes_expected.push_back(
-        {BoxAnswer::ok, [](const MessageBox &box) { EXPECT_EQ(box.title, "Enter error"); }});
+    world.platform.Expect(BoxAnswer::ok, {.title = "Enter error"});
     world.Open().OuvreFichier(world.folder.File("rib.lfw", file.Current()));
     EXPECT_EQ(world.platform.boxes.size(), 1U);
     EXPECT_TRUE(world.programme.rib.ProfilCharge);

@@ -4,9 +4,6 @@
 
 #include <gmock/gmock.h>
 
-#include <QLineEdit>
-#include <QTest>
-
 #include <algorithm>
 #include <variant>
 
@@ -15,15 +12,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
+using testing::AllOf;
+using testing::HasSubstr;
+
 TEST_F(RibFiles, OpenAsksWhereChangesCouldBeLostAndStopsAtNo) {
     world.window->OuvreFichier(WindowWorld::Sample("naca0012.dat"));
     const std::string question =
         "The rib has changes that are not saved. Open another rib all the same?";
-    ExpectBox(BoxAnswer::no, question, "Open rib components");
+    world.platform.Expect(BoxAnswer::no, {.text = question, .title = "Open rib components"});
     world.Action("mnu_fileopen")->trigger();
     EXPECT_TRUE(world.platform.file_questions.empty());
     EXPECT_EQ(Rib().NomProfil, "naca0012");
-    ExpectBox(BoxAnswer::yes, question, "Open rib components");
+    world.platform.Expect(BoxAnswer::yes, {.text = question, .title = "Open rib components"});
     OpenBytes("rib.lfw", ComponentsText{}.Current());
     EXPECT_EQ(world.platform.file_questions.size(), 1U);
     EXPECT_EQ(Rib().NomProfil, "naca2412");
@@ -148,12 +148,10 @@ TEST_F(RibFiles, AChordInTheAirfoilsTitleDoesNotTouchTheRib) {
 /// Enters another chord by the menu.
 void EnterChord(WindowWorld &world, const char *chord) {
     bool came = false;
-    InNextDialog([&](QDialog &dialog) {
+    InNextDialog([&](Seen &dialog) {
         came = true;
-        auto *box = dialog.findChild<QLineEdit *>("infotxt");
-        box->selectAll();
-        QTest::keyClicks(box, chord);
-        QTest::keyClick(box, Qt::Key_Return);
+        dialog.Type("infotxt", chord);
+        dialog.Key("infotxt", Qt::Key_Return);
     });
     world.Action("mnu_profilcorde")->trigger();
     EXPECT_TRUE(came);
@@ -221,7 +219,7 @@ TEST_F(RibFiles, AFileHandedOverAsksWhereChangesCouldBeLost) {
 
 TEST_F(RibFiles, AFileDroppedOnTheWindowOpens) {
     const std::string path = world.folder.File("ribs/dropped.lfw", ComponentsText{}.Current());
-    world.Drop(path);
+    world.Drop(path, [this] { return Rib().ProfilCharge; });
     EXPECT_EQ(Rib().NomFichierRib, "dropped.lfw");
     EXPECT_NE(Drawing(), nullptr);
 }
@@ -239,11 +237,8 @@ TEST(RibFilesInFrench, OpenSpeaksFrench) {
     world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
     world.platform.files_expected = {world.folder.Path("a.lfw")};
     world.Action("mnu_filesaveas")->trigger();
-    world.platform.boxes_expected.push_back(
-        {BoxAnswer::ok, [](const MessageBox &box) {
-             EXPECT_THAT(box.text, testing::HasSubstr("naca2412.dat"));
-             EXPECT_THAT(box.text, testing::Not(testing::HasSubstr("was not found")));
-         }});
+    world.platform.Expect(BoxAnswer::ok, {.text = AllOf(HasSubstr("naca2412.dat"),
+                                                        testing::Not(HasSubstr("was not found")))});
     world.platform.Expect(BoxAnswer::ok);
     world.window->OuvreFichier(world.folder.Path("a.lfw"));
     EXPECT_FALSE(world.programme.rib.ProfilCharge);

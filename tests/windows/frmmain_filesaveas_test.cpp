@@ -110,8 +110,9 @@ TEST_F(SavingRibs, ARefusedWriteIsReportedAndNothingIsLost) {
     {
         const OrdinaryUser user;
         for (const std::string &where : {path, world.folder.Path("none/rib.lfw")}) {
-            ExpectBox(BoxAnswer::ok, "Error # 75 in Loftwing\nPath/file access error: " + where,
-                      " Main/Mnu_SaveAs");
+            world.platform.Expect(
+                BoxAnswer::ok, {.text = "Error # 75 in Loftwing\nPath/file access error: " + where,
+                                .title = " Main/Mnu_SaveAs"});
             Save(where);
         }
     }

@@ -8,10 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QPushButton>
 #include <QStatusBar>
 #include <QTest>
 #include <QWheelEvent>
@@ -48,7 +44,7 @@ const std::set<std::string> kAlwaysAlive = {
 
 bool Enabled(const WindowWorld &world, const std::string &name) {
     if (name.starts_with("cmd")) {
-        return world.Find<QPushButton>(name)->isEnabled();
+        return world.Main().Enabled(name);
     }
     return world.Action(name)->isEnabled();
 }
@@ -57,12 +53,6 @@ void ExpectEnabled(const WindowWorld &world, const std::set<std::string> &names,
     for (const std::string &name : names) {
         EXPECT_EQ(Enabled(world, name), enabled) << name;
     }
-}
-
-/// A box of an unknown text is expected and answered so.
-void ExpectBox(WindowWorld &world, BoxAnswer answer, const std::string &text) {
-    world.platform.boxes_expected.push_back(
-        {answer, [text](const MessageBox &box) { EXPECT_EQ(box.text, text); }});
 }
 
 TEST(MainWindow, AtTheStartOnlyTheOpenCommandsAreAlive) {
@@ -84,13 +74,13 @@ TEST(MainWindow, AnAirfoilBringsTheCommandsToLife) {
     EXPECT_EQ(world.Panel(2), "Airfoil : naca2412  Chord : 200 mm <> Information : NACA 2412");
     EXPECT_EQ(world.window->windowTitle().toStdString(), "Loftwing Airfoil : naca2412");
     EXPECT_TRUE(world.programme.rib.Modifie);
-    ASSERT_NE(world.window->findChild<PicView *>("Pic")->Dessin(), nullptr);
+    ASSERT_NE(world.Find<PicView>("Pic")->Dessin(), nullptr);
 }
 
 TEST(MainWindow, ClearingLeavesTheStateOfTheStartWithTheRibMenusAlive) {
     WindowWorld world;
     world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
-    ExpectBox(world, BoxAnswer::yes, world.programme.Text({"FrmMainMessage", "5"}));
+    world.platform.Expect(BoxAnswer::yes, {.text = world.programme.Text({"FrmMainMessage", "5"})});
     world.Action("mnu_affclear")->trigger();
     ExpectEnabled(world, kDeadAfterClear, false);
     std::set<std::string> alive = kBornWithARib;
@@ -99,7 +89,7 @@ TEST(MainWindow, ClearingLeavesTheStateOfTheStartWithTheRibMenusAlive) {
     }
     ExpectEnabled(world, alive, true);
     EXPECT_FALSE(world.programme.rib.ProfilCharge);
-    EXPECT_EQ(world.window->findChild<PicView *>("Pic")->Dessin(), nullptr);
+    EXPECT_EQ(world.Find<PicView>("Pic")->Dessin(), nullptr);
     EXPECT_EQ(world.Panel(2), "");
     EXPECT_EQ(world.window->windowTitle().toStdString(), "Loftwing");
     EXPECT_EQ(world.Find<QComboBox>("Combo1")->currentIndex(), 3);
@@ -108,7 +98,7 @@ TEST(MainWindow, ClearingLeavesTheStateOfTheStartWithTheRibMenusAlive) {
 TEST(MainWindow, ClearingStopsAtNo) {
     WindowWorld world;
     world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
-    ExpectBox(world, BoxAnswer::no, world.programme.Text({"FrmMainMessage", "5"}));
+    world.platform.Expect(BoxAnswer::no, {.text = world.programme.Text({"FrmMainMessage", "5"})});
     world.Action("mnu_affclear")->trigger();
     EXPECT_TRUE(world.programme.rib.ProfilCharge);
 }
@@ -293,7 +283,8 @@ TEST(MainWindow, TheFitBoxAppearsOnEachRedrawAndTheOldDrawingStays) {
     world.programme.rib.EpBA = 100;
     world.programme.rib.EpBF = 100.5F;
     for (int i = 0; i < 2; ++i) {
-        ExpectBox(world, BoxAnswer::ok, world.programme.Text({"FrmMainMessage", "13"}));
+        world.platform.Expect(BoxAnswer::ok,
+                              {.text = world.programme.Text({"FrmMainMessage", "13"})});
         world.window->affiche();
         EXPECT_EQ(pic->Dessin(), old);
     }
@@ -334,12 +325,9 @@ TEST(MainWindow, CheckedEntriesOfTheViewMenuChangeTheRib) {
 TEST(MainWindow, ATypedChordIsDrawn) {
     WindowWorld world;
     world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
-    InNextDialog([](QDialog &dialog) {
-        auto *box = dialog.findChild<QLineEdit *>("infotxt");
-        box->setFocus();
-        box->selectAll();
-        QTest::keyClicks(box, "250x");
-        QTest::keyClick(box, Qt::Key_Return);
+    InNextDialog([](Seen &dialog) {
+        dialog.Type("infotxt", "250x");
+        dialog.Key("infotxt", Qt::Key_Return);
     });
     world.Action("mnu_profilcorde")->trigger();
     EXPECT_EQ(world.programme.rib.corde, 250.0F);
@@ -349,22 +337,22 @@ TEST(MainWindow, ATypedChordIsDrawn) {
 TEST(MainWindow, ACancelledEntryChangesNothing) {
     WindowWorld world;
     world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
-    InNextDialog([](QDialog &dialog) {
-        dialog.findChild<QLineEdit *>("infotxt")->setText("90");
-        QTest::mouseClick(dialog.findChild<QPushButton *>("cmdannuler"), Qt::LeftButton);
+    InNextDialog([](Seen &dialog) {
+        dialog.Fill("infotxt", "90");
+        dialog.Click("cmdannuler");
     });
-    world.Find<QPushButton>("cmdcorde")->click();
+    world.Main().Click("cmdcorde");
     EXPECT_EQ(world.programme.rib.corde, 200.0F);
 }
 
 TEST(MainWindow, ClosingAsksAndNoRefuses) {
     WindowWorld world;
     world.Open();
-    ExpectBox(world, BoxAnswer::no, "Do you want to quit Loftwing ? ");
+    world.platform.Expect(BoxAnswer::no, {.text = "Do you want to quit Loftwing ? "});
     EXPECT_FALSE(world.window->close());
     EXPECT_TRUE(world.window->isVisible());
     EXPECT_EQ(world.platform.boxes[0].fallback, BoxAnswer::no);
-    ExpectBox(world, BoxAnswer::yes, "Do you want to quit Loftwing ? ");
+    world.platform.Expect(BoxAnswer::yes, {.text = "Do you want to quit Loftwing ? "});
     EXPECT_TRUE(world.window->close());
     EXPECT_EQ(world.platform.help_closed, 1);
 }
@@ -372,7 +360,7 @@ TEST(MainWindow, ClosingAsksAndNoRefuses) {
 TEST(MainWindow, ClosingWithChangesAsksInOtherWords) {
     WindowWorld world;
     world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
-    ExpectBox(world, BoxAnswer::yes, world.programme.Text({"FrmMainMessage", "4"}));
+    world.platform.Expect(BoxAnswer::yes, {.text = world.programme.Text({"FrmMainMessage", "4"})});
     world.Action("mnu_fileexit")->trigger();
     EXPECT_FALSE(world.window->isVisible());
 }
@@ -415,10 +403,12 @@ TEST(MainWindow, PrintingAsksFirstAndKeepsTheZoomOfTheScreen) {
     PrintInto(world, job);
     world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
     Q_EMIT world.Find<QComboBox>("Combo1")->activated(0);
-    ExpectBox(world, BoxAnswer::no, world.programme.Text({"TextButton", "14"}) + " naca2412");
+    world.platform.Expect(BoxAnswer::no,
+                          {.text = world.programme.Text({"TextButton", "14"}) + " naca2412"});
     world.Action("mnu_fileprint")->trigger();
     EXPECT_TRUE(job.calls.empty());
-    ExpectBox(world, BoxAnswer::yes, world.programme.Text({"TextButton", "14"}) + " naca2412");
+    world.platform.Expect(BoxAnswer::yes,
+                          {.text = world.programme.Text({"TextButton", "14"}) + " naca2412"});
     world.Action("mnu_fileprint")->trigger();
     ASSERT_FALSE(job.calls.empty());
     EXPECT_EQ(job.calls.back(), "end");
@@ -444,9 +434,9 @@ TEST(MainWindow, ALongRibOpensThePageSetupOnceAndIsTiled) {
     world.programme.rib.corde = 300;
     world.platform.Expect(BoxAnswer::yes);
     bool opened = false;
-    InNextDialog([&](QDialog &dialog) {
+    InNextDialog([&](Seen &dialog) {
         opened = true;
-        QTest::mouseClick(dialog.findChild<QPushButton *>("cmdok"), Qt::LeftButton);
+        dialog.Click("cmdok");
     });
     world.Action("mnu_fileprint")->trigger();
     EXPECT_TRUE(opened);
@@ -466,9 +456,7 @@ TEST(MainWindow, ACancelledPageSetupPrintsNothing) {
     world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
     world.programme.rib.corde = 300;
     world.platform.Expect(BoxAnswer::yes);
-    InNextDialog([](QDialog &dialog) {
-        QTest::mouseClick(dialog.findChild<QPushButton *>("cmdannuler"), Qt::LeftButton);
-    });
+    InNextDialog([](Seen &dialog) { dialog.Click("cmdannuler"); });
     world.Action("mnu_fileprint")->trigger();
     EXPECT_TRUE(world.platform.print_questions.empty());
 }
@@ -490,7 +478,7 @@ TEST(MainWindow, AMissingCalculatorIsSaid) {
     WindowWorld world;
     world.Open();
     world.platform.programs_start = false;
-    ExpectBox(world, BoxAnswer::ok, world.programme.Text({"Erreur", "6"}));
+    world.platform.Expect(BoxAnswer::ok, {.text = world.programme.Text({"Erreur", "6"})});
     world.Action("mnu_calc")->trigger();
     EXPECT_EQ(world.platform.boxes[0].title, "Loftwing No-Calc");
 }
@@ -515,8 +503,7 @@ TEST(MainWindow, SpeaksFrench) {
         }
     }
     EXPECT_EQ(world.platform.button_words.yes, "Oui");
-    EXPECT_EQ(world.Find<QPushButton>("cmdcorde")->text().toStdString(),
-              world.programme.Text({"MainTolbar", "13"}));
+    EXPECT_EQ(world.Main().Word("cmdcorde"), world.programme.Text({"MainTolbar", "13"}));
 }
 
 TEST(MainWindow, NoShortcutStandsForTwoCommands) {
@@ -532,8 +519,9 @@ TEST(MainWindow, NoShortcutStandsForTwoCommands) {
 TEST(MainWindow, AFileDroppedOnItOpens) {
     WindowWorld world;
     world.Open();
-    world.Drop(WindowWorld::Sample("naca4412.dat"));
-    EXPECT_EQ(world.programme.rib.NomProfil, "naca4412");
+    const RibModel &rib = world.programme.rib;
+    world.Drop(WindowWorld::Sample("naca4412.dat"), [&rib] { return rib.ProfilCharge; });
+    EXPECT_EQ(rib.NomProfil, "naca4412");
 }
 
 TEST(MainWindow, ShowsTheUnitInInches) {

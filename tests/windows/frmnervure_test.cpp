@@ -10,7 +10,7 @@ class FrmNervureTest : public BesideTest<frmnervure> {
   protected:
     void Fill(const std::vector<const char *> &values) const {
         for (std::size_t i = 0; i < values.size(); ++i) {
-            Type(("txtnerv(" + std::to_string(i) + ")").c_str(), values[i]);
+            Type({"txtnerv", static_cast<int>(i)}, values[i]);
         }
     }
     PicNervures &Paper() const { return Find<PicNervures>("PicNervures"); }
@@ -29,8 +29,8 @@ class FrmNervureTest : public BesideTest<frmnervure> {
         return texts;
     }
     double Top() const { return std::get<DrawnText>(Paper().Dessin()->Operations().front()).y; }
-    bool CanPrint() const { return Find("cmdprintnerv").isEnabled(); }
-    bool SparHeading() const { return Find("Label12").isVisible(); }
+    bool CanPrint() const { return Enabled("cmdprintnerv"); }
+    bool SparHeading() const { return Shown("Label12"); }
     void ExpectRefused(const std::string &text, const char *field) {
         ExpectBox(text, BoxIcon::warning);
         Click("cmdcalcul");
@@ -44,7 +44,7 @@ using Texts = std::vector<std::string>;
 
 TEST_F(FrmNervureTest, OpensEmptyWithItsWords) {
     Open();
-    EXPECT_EQ(Titre(), "Compute set of ribs  mm");
+    EXPECT_EQ(Title(), "Compute set of ribs  mm");
     const std::vector<std::pair<const char *, const char *>> words = {
         {"Label1", "Number of intermediate ribs"},
         {"Label2", "Major chord"},
@@ -69,7 +69,7 @@ TEST_F(FrmNervureTest, OpensEmptyWithItsWords) {
     EXPECT_EQ(Paper().Dessin(), nullptr);
     EXPECT_EQ(Bar().minimum(), 0);
     EXPECT_EQ(Bar().maximum(), 20);
-    EXPECT_TRUE(Box("txtnerv(0)").hasFocus());
+    EXPECT_TRUE(Focused("txtnerv(0)"));
     ExpectTabs(
         {"txtnerv(1)", "txtnerv(2)", "txtnerv(3)", "txtnerv(4)", "txtnerv(5)", "txtnerv(6)"});
 }
@@ -90,7 +90,7 @@ TEST_F(FrmNervureTest, ListsChordsAndSparPlaces) {
 TEST_F(FrmNervureTest, TheSparHeadingGoesAndComes) {
     Open();
     Fill({"200", "150", "1"});
-    QTest::keyClick(&Box("txtnerv(2)"), Qt::Key_Return);
+    Key("txtnerv(2)", Qt::Key_Return);
     EXPECT_FALSE(SparHeading());
     EXPECT_TRUE(Column(2551.5).empty());
     EXPECT_EQ(Label("Lblecart"), "0");
@@ -125,7 +125,7 @@ TEST_F(FrmNervureTest, TooManyRibsAreToldAndTheWindowStays) {
     platform.Expect(BoxAnswer::ok);
     Click("cmdcalcul");
     EXPECT_EQ(platform.boxes.front().title, " cmdcalcul");
-    EXPECT_TRUE(window->isVisible());
+    EXPECT_TRUE(IsOpen());
     EXPECT_FALSE(CanPrint());
 }
 
@@ -194,7 +194,7 @@ TEST_F(FrmNervureTest, FieldsSwallowWhatIsNoNumber) {
     EXPECT_EQ(Text("txtnerv(3)"), "12.5");
     Inches();
     Open();
-    EXPECT_EQ(Titre(), "Compute set of ribs  in");
+    EXPECT_EQ(Title(), "Compute set of ribs  in");
     Type("txtnerv(3)", "a-1.1/2%");
     EXPECT_EQ(Text("txtnerv(3)"), "1.1/2");
 }
@@ -202,10 +202,10 @@ TEST_F(FrmNervureTest, FieldsSwallowWhatIsNoNumber) {
 TEST_F(FrmNervureTest, CloseAndEscapeClose) {
     Open();
     Click("cmdfermer");
-    EXPECT_FALSE(window->isVisible());
+    EXPECT_FALSE(IsOpen());
     Open();
-    QTest::keyClick(window.get(), Qt::Key_Escape);
-    EXPECT_FALSE(window->isVisible());
+    Key(Qt::Key_Escape);
+    EXPECT_FALSE(IsOpen());
 }
 
 TEST_F(FrmNervureTest, HelpOpensItsTopic) {
@@ -217,7 +217,7 @@ TEST_F(FrmNervureTest, HelpOpensItsTopic) {
 TEST_F(FrmNervureTest, SpeaksFrench) {
     Language("French");
     Open();
-    EXPECT_EQ(Titre(), "Calcul d’un jeu de nervures  mm");
+    EXPECT_EQ(Title(), "Calcul d’un jeu de nervures  mm");
     EXPECT_EQ(Label("Label2"), "Corde maxi");
     EXPECT_EQ(Word("cmdcalcul"), "Calculer");
 }

@@ -1,9 +1,6 @@
 #include "mainwindow/frmopen.h"
 
-#include "platform/qt_text.h"
-#include "support/noted_view.h"
-#include "support/scripted_platform.h"
-#include "support/temp_folder.h"
+#include "windows/dialog_fixture.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -21,10 +18,10 @@ using Names = std::vector<std::string>;
 
 const char *const kFivePoints = "SMALL 5\n1 0\n0.5 0.125\n0 0\n0.5 -0.0625\n1 0\n";
 
-class FrmOpenTest : public testing::Test {
+/// A test that sees the picker that it has opened.
+class FrmOpenTest : public DialogTest, protected Seen {
   protected:
     FrmOpenTest() {
-        ChooseLanguage("English");
         fs::create_directory(folder.Path("lib"));
         programme.settings.repertoires.LastOpenProfil = folder.Path("lib");
         programme.rib.CheminProfil = "/before/old.cor";
@@ -35,33 +32,21 @@ class FrmOpenTest : public testing::Test {
         programme.rib.NbPoints = 61;
     }
 
-    void ChooseLanguage(const std::string &name) {
-        programme.language.Charge(LOFTWING_SOURCE_DIR "/resources/lng", name);
-    }
-
     void File(const std::string &name, const std::string &bytes = kFivePoints) const {
         folder.File("lib/" + name, bytes);
     }
 
     frmopen &Open() {
         window = std::make_unique<frmopen>(programme, view, nullptr);
+        Look(*window);
         window->show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
         return *window;
     }
 
-    template <class Widget>
-    Widget &Find(const char *name) const {
-        return *window->findChild<Widget *>(name);
-    }
-    std::string Label(const char *name) const { return S(Find<QLabel>(name).text()); }
     const Recording *Preview() const { return Find<Apercu>("Surface").Dessin(); }
     QListWidget &List(const char *name) const { return Find<QListWidget>(name); }
-    void Press(const char *button) const {
-        QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton);
-    }
-
-    Names Shown(const char *list) const {
+    Names Listed(const char *list) const {
         Names names;
         for (int row = 0; row < List(list).count(); ++row) {
             names.push_back(S(List(list).item(row)->text()));
@@ -94,12 +79,7 @@ class FrmOpenTest : public testing::Test {
         QApplication::processEvents();
     }
 
-    void TypePath(const std::string &path) const {
-        auto &field = Find<QLineEdit>("txtchemin");
-        field.setFocus();
-        field.selectAll();
-        QTest::keyClicks(&field, Q(path));
-    }
+    void TypePath(const std::string &path) const { Type("txtchemin", path); }
 
     void ExpectBefore() const {
         const RibModel &rib = programme.rib;
@@ -110,21 +90,17 @@ class FrmOpenTest : public testing::Test {
         EXPECT_TRUE(rib.ProfilCharge);
         EXPECT_TRUE(rib.Annule);
         EXPECT_FALSE(rib.MemProfil);
-        EXPECT_FALSE(window->isVisible());
+        EXPECT_FALSE(IsOpen());
     }
 
     void ExpectOpened(const std::string &path) const {
-        EXPECT_FALSE(window->isVisible());
+        EXPECT_FALSE(IsOpen());
         EXPECT_EQ(window->result(), QDialog::Accepted);
         EXPECT_EQ(programme.rib.CheminProfil, path);
         EXPECT_TRUE(programme.rib.ProfilCharge);
         EXPECT_FALSE(programme.rib.Annule);
     }
 
-    TempFolder folder;
-    ScriptedPlatform platform;
-    Programme programme{Paths{folder.Path(), {}, folder.Path("Loftwing.ini"), {}}, platform};
-    NotedView view;
     std::unique_ptr<frmopen> window;
 };
 
@@ -134,9 +110,9 @@ TEST_F(FrmOpenTest, OpensOnTheLastFolderWithNothingChosen) {
     File("c.cor");
     fs::create_directory(folder.Path("lib/more"));
     Open();
-    EXPECT_EQ(Shown("File1"), (Names{"A.DAT", "b.dat"}));
-    EXPECT_EQ(Shown("Dir1"), (Names{"..", "more"}));
-    EXPECT_EQ(S(Find<QLineEdit>("txtchemin").text()), folder.Path("lib"));
+    EXPECT_EQ(Listed("File1"), (Names{"A.DAT", "b.dat"}));
+    EXPECT_EQ(Listed("Dir1"), (Names{"..", "more"}));
+    EXPECT_EQ(Text("txtchemin"), folder.Path("lib"));
     EXPECT_EQ(Label("Lbchemin"), CheminAbrege(folder.Path("lib")));
     EXPECT_EQ(Label("Label1"), "");
     EXPECT_EQ(Label("Label2"), "");
@@ -150,25 +126,25 @@ TEST_F(FrmOpenTest, OpensOnTheLastFolderWithNothingChosen) {
 TEST_F(FrmOpenTest, OpensOnTheCurrentFolderWhenTheLastOneIsGone) {
     programme.settings.repertoires.LastOpenProfil = folder.Path("gone");
     Open();
-    EXPECT_EQ(S(Find<QLineEdit>("txtchemin").text()), fs::current_path().string());
+    EXPECT_EQ(Text("txtchemin"), fs::current_path().string());
 }
 
 TEST_F(FrmOpenTest, ShowsItsWordsAndTips) {
     Open();
-    EXPECT_EQ(S(window->windowTitle()), "Open airfoil file");
+    EXPECT_EQ(Title(), "Open airfoil file");
     EXPECT_EQ(Label("LbMem"), "Keep this airfoil in memory");
     EXPECT_EQ(Label("lbldossiers"), "Folders");
     EXPECT_EQ(Label("lblfichiers"), "Airfoil files");
     EXPECT_EQ(Label("lbltype"), "Type of file");
     EXPECT_EQ(Label("lblfichier"), "File :");
     EXPECT_EQ(Label("lbldossier"), "Folder :");
-    EXPECT_EQ(S(Find<QPushButton>("cmdouvrir").text()), "Open");
-    EXPECT_EQ(S(Find<QPushButton>("cmdannuler").text()), "Cancel");
-    EXPECT_EQ(S(Find<QPushButton>("cmdaide").text()), "Help");
-    EXPECT_EQ(S(Find<QLabel>("Label2").toolTip()), "Number of points in the file");
-    EXPECT_EQ(S(Find<QLabel>("Lbchemin").toolTip()), "Folder whose files are shown");
-    EXPECT_EQ(S(List("Dir1").toolTip()), "Double-click a folder to open it");
-    EXPECT_EQ(S(List("File1").toolTip()), "Click a file to see its airfoil");
+    EXPECT_EQ(Word("cmdouvrir"), "Open");
+    EXPECT_EQ(Word("cmdannuler"), "Cancel");
+    EXPECT_EQ(Word("cmdaide"), "Help");
+    EXPECT_EQ(Tip("Label2"), "Number of points in the file");
+    EXPECT_EQ(Tip("Lbchemin"), "Folder whose files are shown");
+    EXPECT_EQ(Tip("Dir1"), "Double-click a folder to open it");
+    EXPECT_EQ(Tip("File1"), "Click a file to see its airfoil");
     auto &types = Find<QComboBox>("Combo1");
     ASSERT_EQ(types.count(), 2);
     EXPECT_EQ(S(types.itemText(0)), "Selig Files (*.dat)");
@@ -177,12 +153,12 @@ TEST_F(FrmOpenTest, ShowsItsWordsAndTips) {
 }
 
 TEST_F(FrmOpenTest, SpeaksFrench) {
-    ChooseLanguage("French");
+    Language("French");
     File("a.dat");
     Open();
-    EXPECT_EQ(S(window->windowTitle()), "Ouvrir un fichier de profil");
-    EXPECT_EQ(S(Find<QPushButton>("cmdouvrir").text()), "Ouvrir");
-    EXPECT_EQ(S(Find<QPushButton>("cmdannuler").text()), "Annuler");
+    EXPECT_EQ(Title(), "Ouvrir un fichier de profil");
+    EXPECT_EQ(Word("cmdouvrir"), "Ouvrir");
+    EXPECT_EQ(Word("cmdannuler"), "Annuler");
     EXPECT_EQ(Label("lbldossiers"), "Dossiers");
 }
 
@@ -203,7 +179,7 @@ TEST_F(FrmOpenTest, ClickReadsTheFileAndShowsIt) {
     EXPECT_TRUE(rib.LectureEnCours);
     EXPECT_FALSE(rib.ProfilCharge);
     EXPECT_EQ(platform.pointer, Pointer::normal);
-    EXPECT_TRUE(window->isVisible());
+    EXPECT_TRUE(IsOpen());
 }
 
 TEST_F(FrmOpenTest, FileWithoutTitleShowsItsName) {
@@ -220,10 +196,10 @@ TEST_F(FrmOpenTest, ArrowKeysReadTheFilesOneByOne) {
     File("b.dat", "SECOND\n1 0\n0 0\n1 0\n");
     Open();
     EXPECT_TRUE(List("File1").hasFocus());
-    QTest::keyClick(&List("File1"), Qt::Key_Down);
+    Key("File1", Qt::Key_Down);
     QApplication::processEvents();
     EXPECT_EQ(Label("Label1"), "FIRST");
-    QTest::keyClick(&List("File1"), Qt::Key_Down);
+    Key("File1", Qt::Key_Down);
     QApplication::processEvents();
     EXPECT_EQ(Label("Label1"), "SECOND");
 }
@@ -242,7 +218,7 @@ TEST_F(FrmOpenTest, TypedLettersFindTheFile) {
     File("clarky.dat", "CLARK\n1 0\n0 0\n1 0\n");
     File("e205.dat", "EPPLER\n1 0\n0 0\n1 0\n");
     Open();
-    QTest::keyClicks(&List("File1"), "e2");
+    Keys("File1", "e2");
     QApplication::processEvents();
     EXPECT_EQ(Label("Label1"), "EPPLER");
 }
@@ -338,10 +314,10 @@ class FrmOpenRefusalTest : public FrmOpenTest, public testing::WithParamInterfac
         Open();
         ClickFile("a.dat");
         ASSERT_NE(Preview(), nullptr);
-        platform.boxes_expected.push_back({BoxAnswer::ok, [this](const MessageBox &) {
-                                               EXPECT_EQ(Preview(), nullptr);
-                                               EXPECT_EQ(Label("Label2"), "");
-                                           }});
+        platform.Expect(BoxAnswer::ok, {.meanwhile = [this] {
+                            EXPECT_EQ(Preview(), nullptr);
+                            EXPECT_EQ(Label("Label2"), "");
+                        }});
         ClickFile("bad.dat");
         EXPECT_EQ(Label("Label1"), label);
         EXPECT_EQ(Label("Label2"), "");
@@ -354,7 +330,7 @@ class FrmOpenRefusalTest : public FrmOpenTest, public testing::WithParamInterfac
         EXPECT_EQ(programme.rib.NbPoints, 0);
         EXPECT_FALSE(programme.rib.LectureEnCours);
         EXPECT_EQ(platform.pointer, Pointer::normal);
-        EXPECT_TRUE(window->isVisible());
+        EXPECT_TRUE(IsOpen());
         EXPECT_TRUE(view.asked.empty());
     }
 };
@@ -364,7 +340,7 @@ TEST_P(FrmOpenRefusalTest, IsToldInEnglish) {
 }
 
 TEST_P(FrmOpenRefusalTest, IsToldInFrench) {
-    ChooseLanguage("French");
+    Language("French");
     ExpectRefusal(GetParam().french_label, GetParam().french_box, "Ouvrir un fichier de profil");
 }
 
@@ -378,7 +354,7 @@ TEST_F(FrmOpenTest, BoxesCarryTheCaptionThatTheCommandGave) {
     ClickFile("bad.dat");
     EXPECT_EQ(platform.boxes.at(0).title, "Airfoil #2");
     platform.Expect(BoxAnswer::ok);
-    Press("cmdouvrir");
+    Click("cmdouvrir");
     EXPECT_EQ(platform.boxes.at(1).title, "Airfoil #2");
 }
 
@@ -426,7 +402,7 @@ TEST_F(FrmOpenTest, OpenTakesTheFileAndNotesItsFolder) {
     File("small.dat");
     Open();
     ClickFile("small.dat");
-    Press("cmdouvrir");
+    Click("cmdouvrir");
     ExpectOpened(folder.Path("lib/small.dat"));
     EXPECT_EQ(programme.settings.repertoires.LastOpenProfil, folder.Path("lib"));
     EXPECT_EQ(GetINIFile("Repertoires", "LastOpenProfil", programme.paths.fichier),
@@ -443,8 +419,8 @@ TEST_F(FrmOpenTest, DoubleClickOpens) {
 TEST_F(FrmOpenTest, ReturnOnAFileOpens) {
     File("small.dat");
     Open();
-    QTest::keyClick(&List("File1"), Qt::Key_Down);
-    QTest::keyClick(&List("File1"), Qt::Key_Return); // before the preview had its turn
+    Key("File1", Qt::Key_Down);
+    Key("File1", Qt::Key_Return); // before the preview had its turn
     ExpectOpened(folder.Path("lib/small.dat"));
     EXPECT_EQ(programme.rib.NbPoints, 5);
 }
@@ -453,7 +429,7 @@ TEST_F(FrmOpenTest, OpenWithoutAFileIsRefusedAndCancels) {
     File("small.dat");
     Open();
     platform.Expect(BoxAnswer::ok);
-    Press("cmdouvrir");
+    Click("cmdouvrir");
     EXPECT_EQ(platform.boxes.at(0).text, "No airfoil file has been chosen.");
     EXPECT_EQ(platform.boxes.at(0).title, "Open airfoil file");
     ExpectBefore();
@@ -465,20 +441,20 @@ TEST_F(FrmOpenTest, OpenWithFourPointsIsRefusedAndCancels) {
     ClickFile("four.dat");
     EXPECT_EQ(Label("Label2"), "4 points");
     platform.Expect(BoxAnswer::ok);
-    Press("cmdouvrir");
+    Click("cmdouvrir");
     EXPECT_EQ(platform.boxes.at(0).text, "An airfoil needs 5 points or more." + kClosing);
     ExpectBefore();
     EXPECT_EQ(GetINIFile("Repertoires", "LastOpenProfil", programme.paths.fichier), "");
 }
 
 TEST_F(FrmOpenTest, OpenOfARefusedFileIsRefusedInFrenchToo) {
-    ChooseLanguage("French");
+    Language("French");
     File("bad.dat", "\n");
     Open();
     platform.Expect(BoxAnswer::ok);
     ClickFile("bad.dat");
     platform.Expect(BoxAnswer::ok);
-    Press("cmdouvrir");
+    Click("cmdouvrir");
     EXPECT_EQ(platform.boxes.at(1).text, "Un profil doit avoir au moins 5 points." + kCloture);
     ExpectBefore();
 }
@@ -487,7 +463,7 @@ TEST_F(FrmOpenTest, CancelGivesTheAirfoilBeforeBack) {
     File("small.dat");
     Open();
     ClickFile("small.dat");
-    Press("cmdannuler");
+    Click("cmdannuler");
     ExpectBefore();
 }
 
@@ -495,7 +471,7 @@ TEST_F(FrmOpenTest, EscapeIsCancel) {
     File("small.dat");
     Open();
     ClickFile("small.dat");
-    QTest::keyClick(&List("File1"), Qt::Key_Escape);
+    Key("File1", Qt::Key_Escape);
     ExpectBefore();
 }
 
@@ -503,7 +479,7 @@ TEST_F(FrmOpenTest, ClosingTheWindowIsCancel) {
     File("small.dat");
     Open();
     ClickFile("small.dat");
-    window->close();
+    Close();
     ExpectBefore();
 }
 
@@ -514,7 +490,7 @@ TEST_F(FrmOpenTest, CancelWithNoAirfoilBeforeLeavesNone) {
     File("small.dat");
     Open();
     ClickFile("small.dat");
-    Press("cmdannuler");
+    Click("cmdannuler");
     EXPECT_EQ(programme.rib.CheminProfil, "");
     EXPECT_EQ(programme.rib.NomProfil, "");
     EXPECT_FALSE(programme.rib.ProfilCharge);
@@ -529,14 +505,14 @@ TEST_F(FrmOpenTest, TypeOfFileChangesTheListAndClearsTheTitle) {
     ClickFile("a.dat");
     auto &types = Find<QComboBox>("Combo1");
     types.setFocus();
-    QTest::keyClick(&types, Qt::Key_Down);
+    Key("Combo1", Qt::Key_Down);
     EXPECT_EQ(Label("Label1"), "");
-    EXPECT_EQ(Shown("File1"), (Names{"b.cor", "C.COR"}));
+    EXPECT_EQ(Listed("File1"), (Names{"b.cor", "C.COR"}));
     ClickFile("b.cor");
     EXPECT_EQ(Label("Label1"), "CORD");
     EXPECT_EQ(programme.rib.ExtProfil, "cor");
-    QTest::keyClick(&types, Qt::Key_Up);
-    EXPECT_EQ(Shown("File1"), Names{"a.dat"});
+    Key("Combo1", Qt::Key_Up);
+    EXPECT_EQ(Listed("File1"), Names{"a.dat"});
 }
 
 TEST_F(FrmOpenTest, DoubleClickOnAFolderEntersIt) {
@@ -546,13 +522,13 @@ TEST_F(FrmOpenTest, DoubleClickOnAFolderEntersIt) {
     Open();
     ClickFile("a.dat");
     DoubleClick("Dir1", "inner");
-    EXPECT_EQ(Shown("File1"), Names{"deep.dat"});
+    EXPECT_EQ(Listed("File1"), Names{"deep.dat"});
     EXPECT_EQ(Label("Lbchemin"), CheminAbrege(folder.Path("lib/inner")));
     EXPECT_EQ(Label("Label1"), "");
     EXPECT_EQ(Label("Label2"), "");
     EXPECT_EQ(Label("nomfile1"), "");
     DoubleClick("Dir1", "..");
-    EXPECT_EQ(Shown("File1"), Names{"a.dat"});
+    EXPECT_EQ(Listed("File1"), Names{"a.dat"});
     EXPECT_EQ(S(List("Dir1").currentItem()->text()), "inner");
 }
 
@@ -561,14 +537,14 @@ TEST_F(FrmOpenTest, KeysWalkThroughFolders) {
     folder.File("lib/inner/deep.dat", kFivePoints);
     Open();
     List("Dir1").setFocus();
-    QTest::keyClick(&List("Dir1"), Qt::Key_Down);
-    QTest::keyClick(&List("Dir1"), Qt::Key_Return);
-    EXPECT_EQ(Shown("File1"), Names{"deep.dat"});
-    EXPECT_TRUE(window->isVisible());
-    QTest::keyClick(&List("Dir1"), Qt::Key_Backspace);
-    EXPECT_EQ(S(Find<QLineEdit>("txtchemin").text()), folder.Path("lib"));
-    QTest::keyClick(window.get(), Qt::Key_Up, Qt::AltModifier);
-    EXPECT_EQ(S(Find<QLineEdit>("txtchemin").text()), folder.Path());
+    Key("Dir1", Qt::Key_Down);
+    Key("Dir1", Qt::Key_Return);
+    EXPECT_EQ(Listed("File1"), Names{"deep.dat"});
+    EXPECT_TRUE(IsOpen());
+    Key("Dir1", Qt::Key_Backspace);
+    EXPECT_EQ(Text("txtchemin"), folder.Path("lib"));
+    Key(Qt::Key_Up, Qt::AltModifier);
+    EXPECT_EQ(Text("txtchemin"), folder.Path());
     EXPECT_EQ(S(List("Dir1").currentItem()->text()), "lib");
 }
 
@@ -576,7 +552,7 @@ TEST_F(FrmOpenTest, TopFolderHasNoWayUp) {
     programme.settings.repertoires.LastOpenProfil = "/";
     Open();
     EXPECT_TRUE(List("Dir1").findItems("..", Qt::MatchExactly).isEmpty());
-    QTest::keyClick(&List("Dir1"), Qt::Key_Backspace);
+    Key("Dir1", Qt::Key_Backspace);
     EXPECT_EQ(Label("Lbchemin"), "/");
 }
 
@@ -588,8 +564,8 @@ TEST_F(FrmOpenTest, FolderThatHasGoneIsReportedAndThePresentOneStays) {
     platform.Expect(BoxAnswer::ok);
     DoubleClick("Dir1", "gone");
     EXPECT_NE(platform.boxes.at(0).text.find("# 76 "), std::string::npos);
-    EXPECT_EQ(Shown("File1"), Names{"a.dat"});
-    EXPECT_EQ(S(Find<QLineEdit>("txtchemin").text()), folder.Path("lib"));
+    EXPECT_EQ(Listed("File1"), Names{"a.dat"});
+    EXPECT_EQ(Text("txtchemin"), folder.Path("lib"));
     EXPECT_TRUE(view.asked.empty());
 }
 
@@ -612,7 +588,7 @@ TEST_F(FrmOpenTest, LongFolderIsShortened) {
     programme.settings.repertoires.LastOpenProfil = deep;
     Open();
     EXPECT_EQ(Label("Lbchemin"), deep.substr(0, 12) + "... long name");
-    EXPECT_EQ(S(Find<QLineEdit>("txtchemin").text()), deep);
+    EXPECT_EQ(Text("txtchemin"), deep);
 }
 
 TEST_F(FrmOpenTest, TypedFolderIsShown) {
@@ -620,12 +596,12 @@ TEST_F(FrmOpenTest, TypedFolderIsShown) {
     folder.File("other/x.dat", kFivePoints);
     Open();
     TypePath(folder.Path("other/"));
-    QTest::keyClick(&Find<QLineEdit>("txtchemin"), Qt::Key_Return);
-    EXPECT_TRUE(window->isVisible());
-    EXPECT_EQ(Shown("File1"), Names{"x.dat"});
+    Key("txtchemin", Qt::Key_Return);
+    EXPECT_TRUE(IsOpen());
+    EXPECT_EQ(Listed("File1"), Names{"x.dat"});
     TypePath("../lib");
-    QTest::keyClick(&Find<QLineEdit>("txtchemin"), Qt::Key_Return);
-    EXPECT_EQ(S(Find<QLineEdit>("txtchemin").text()), folder.Path("lib"));
+    Key("txtchemin", Qt::Key_Return);
+    EXPECT_EQ(Text("txtchemin"), folder.Path("lib"));
 }
 
 TEST_F(FrmOpenTest, TypedFileIsSelectedAndOpenTakesIt) {
@@ -633,11 +609,11 @@ TEST_F(FrmOpenTest, TypedFileIsSelectedAndOpenTakesIt) {
     folder.File("other/x.dat", kFivePoints);
     Open();
     TypePath(folder.Path("other/x.dat"));
-    QTest::keyClick(&Find<QLineEdit>("txtchemin"), Qt::Key_Return);
+    Key("txtchemin", Qt::Key_Return);
     QApplication::processEvents();
     EXPECT_EQ(Label("Label1"), "SMALL 5");
-    EXPECT_TRUE(window->isVisible());
-    Press("cmdouvrir");
+    EXPECT_TRUE(IsOpen());
+    Click("cmdouvrir");
     ExpectOpened(folder.Path("other/x.dat"));
 }
 
@@ -646,11 +622,11 @@ TEST_F(FrmOpenTest, OpenTakesATypedFileAtOnceAndOnlyShowsATypedFolder) {
     fs::create_directory(folder.Path("other"));
     Open();
     TypePath(folder.Path("other"));
-    Press("cmdouvrir");
-    EXPECT_TRUE(window->isVisible());
-    EXPECT_EQ(Shown("File1"), Names{});
+    Click("cmdouvrir");
+    EXPECT_TRUE(IsOpen());
+    EXPECT_EQ(Listed("File1"), Names{});
     TypePath(folder.Path("lib/a.dat"));
-    Press("cmdouvrir");
+    Click("cmdouvrir");
     ExpectOpened(folder.Path("lib/a.dat"));
 }
 
@@ -658,9 +634,9 @@ TEST_F(FrmOpenTest, TypedNonsenseIsReported) {
     Open();
     TypePath("/no/such/place");
     platform.Expect(BoxAnswer::ok);
-    QTest::keyClick(&Find<QLineEdit>("txtchemin"), Qt::Key_Return);
+    Key("txtchemin", Qt::Key_Return);
     EXPECT_NE(platform.boxes.at(0).text.find("# 76 "), std::string::npos);
-    EXPECT_EQ(S(Find<QLineEdit>("txtchemin").text()), folder.Path("lib"));
+    EXPECT_EQ(Text("txtchemin"), folder.Path("lib"));
 }
 
 TEST_F(FrmOpenTest, RibAndTextFilesAreWarnedOfAfterTheReading) {
@@ -668,14 +644,14 @@ TEST_F(FrmOpenTest, RibAndTextFilesAreWarnedOfAfterTheReading) {
     File("bad.txt", "\n");
     Open();
     TypePath(folder.Path("lib/rib.lfw"));
-    QTest::keyClick(&Find<QLineEdit>("txtchemin"), Qt::Key_Return);
+    Key("txtchemin", Qt::Key_Return);
     QApplication::processEvents();
     EXPECT_EQ(Label("Label1"), "This file is NOT an Airfoil file....");
     EXPECT_EQ(Preview(), nullptr);
     EXPECT_TRUE(platform.boxes.empty());
     TypePath(folder.Path("lib/bad.txt"));
     platform.Expect(BoxAnswer::ok);
-    QTest::keyClick(&Find<QLineEdit>("txtchemin"), Qt::Key_Return);
+    Key("txtchemin", Qt::Key_Return);
     QApplication::processEvents();
     EXPECT_EQ(platform.boxes.size(), 1U);
     EXPECT_EQ(Label("Label1"), "This file is NOT an Airfoil file....");
@@ -701,7 +677,7 @@ TEST_F(FrmOpenTest, OddFileNamesAreShownAndOpened) {
         ClickFile(shown);
         EXPECT_EQ(Label("nomfile1"), shown.substr(0, shown.size() - 4));
         EXPECT_EQ(Label("Label1"), "SMALL 5") << shown;
-        Press("cmdouvrir");
+        Click("cmdouvrir");
         ExpectOpened(CheminDans(folder.Path("lib"), name));
     }
 }
@@ -709,8 +685,8 @@ TEST_F(FrmOpenTest, OddFileNamesAreShownAndOpened) {
 TEST_F(FrmOpenTest, FolderNamedLikeAFileIsAFolder) {
     fs::create_directory(folder.Path("lib/box.dat"));
     Open();
-    EXPECT_EQ(Shown("File1"), Names{});
-    EXPECT_EQ(Shown("Dir1"), (Names{"..", "box.dat"}));
+    EXPECT_EQ(Listed("File1"), Names{});
+    EXPECT_EQ(Listed("Dir1"), (Names{"..", "box.dat"}));
 }
 
 TEST_F(FrmOpenTest, ThreeThousandFilesAreListedAndFound) {
@@ -720,9 +696,9 @@ TEST_F(FrmOpenTest, ThreeThousandFilesAreListedAndFound) {
     }
     Open();
     EXPECT_EQ(List("File1").count(), kFiles);
-    EXPECT_EQ(Shown("File1").front(), "naca10000.dat");
-    EXPECT_EQ(Shown("File1").back(), "naca12999.dat");
-    QTest::keyClicks(&List("File1"), "naca12999");
+    EXPECT_EQ(Listed("File1").front(), "naca10000.dat");
+    EXPECT_EQ(Listed("File1").back(), "naca12999.dat");
+    Keys("File1", "naca12999");
     QApplication::processEvents();
     EXPECT_EQ(Label("nomfile1"), "naca12999");
 }
@@ -742,16 +718,16 @@ TEST_F(FrmOpenTest, LongTitlesAndNamesDoNotStretchTheWindow) {
 
 TEST_F(FrmOpenTest, MemoryIsHiddenUntilACommandShowsIt) {
     Open();
-    EXPECT_FALSE(Find<QCheckBox>("memP1").isVisible());
-    EXPECT_FALSE(Find<QLabel>("LbMem").isVisible());
-    EXPECT_FALSE(Find<QLabel>("Label3").isVisible());
+    EXPECT_FALSE(Shown("memP1"));
+    EXPECT_FALSE(Shown("LbMem"));
+    EXPECT_FALSE(Shown("Label3"));
     window->MontreMemoire(true, {});
-    EXPECT_TRUE(Find<QCheckBox>("memP1").isVisible());
-    EXPECT_TRUE(Find<QLabel>("LbMem").isVisible());
-    EXPECT_FALSE(Find<QLabel>("Label3").isVisible());
+    EXPECT_TRUE(Shown("memP1"));
+    EXPECT_TRUE(Shown("LbMem"));
+    EXPECT_FALSE(Shown("Label3"));
     window->MontreMemoire(false, "Airfoil #1 = e205");
-    EXPECT_FALSE(Find<QCheckBox>("memP1").isVisible());
-    EXPECT_TRUE(Find<QLabel>("Label3").isVisible());
+    EXPECT_FALSE(Shown("memP1"));
+    EXPECT_TRUE(Shown("Label3"));
     EXPECT_EQ(Label("Label3"), "Airfoil #1 = e205");
 }
 
@@ -759,27 +735,27 @@ TEST_F(FrmOpenTest, MemoryCheckIsKeptByOpenAndClearedByCancel) {
     File("small.dat");
     Open();
     window->MontreMemoire(true, {});
-    QTest::keyClick(&Find<QCheckBox>("memP1"), Qt::Key_Space);
+    Key("memP1", Qt::Key_Space);
     EXPECT_TRUE(programme.rib.MemProfil);
-    QTest::mouseClick(&Find<QLabel>("LbMem"), Qt::LeftButton);
+    Click("LbMem");
     EXPECT_FALSE(programme.rib.MemProfil);
-    QTest::mouseClick(&Find<QLabel>("LbMem"), Qt::LeftButton);
+    Click("LbMem");
     EXPECT_TRUE(programme.rib.MemProfil);
-    Press("cmdannuler");
+    Click("cmdannuler");
     ExpectBefore();
     Open();
     window->MontreMemoire(true, {});
-    QTest::keyClick(&Find<QCheckBox>("memP1"), Qt::Key_Space);
+    Key("memP1", Qt::Key_Space);
     programme.rib.Annule = false;
     ClickFile("small.dat");
-    Press("cmdouvrir");
+    Click("cmdouvrir");
     EXPECT_TRUE(programme.rib.MemProfil);
 }
 
 TEST_F(FrmOpenTest, HelpOpensItsPage) {
     Open();
-    Press("cmdaide");
-    QTest::keyClick(window.get(), Qt::Key_F1);
+    Click("cmdaide");
+    Key(Qt::Key_F1);
     EXPECT_EQ(platform.help_contexts, (std::vector<int>{41, 41}));
 }
 

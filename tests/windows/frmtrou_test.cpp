@@ -23,7 +23,7 @@ class FrmTrouTest : public SlotsTest<frmtrou> {
         }
         programme.rib.NbTrou = static_cast<std::uint8_t>(finished);
     }
-    static void TypeHole(Seen &window, const char *place, const char *diameter) {
+    static void TypeHole(SeenSlots &window, const char *place, const char *diameter) {
         window.Type(0, place);
         window.Type(1, diameter);
     }
@@ -39,8 +39,8 @@ class FrmTrouTest : public SlotsTest<frmtrou> {
 };
 
 TEST_F(FrmTrouTest, ShowsTheWorkSlotOfANewRib) {
-    Use([](Seen &window) {
-        EXPECT_EQ(S(window.Dialog().windowTitle()), "Holes setup 200  mm");
+    Use([](SeenSlots &window) {
+        EXPECT_EQ(window.Title(), "Holes setup 200  mm");
         EXPECT_EQ(window.Numbers(), "[1]");
         EXPECT_EQ(window.Texts(3), "0|0|0");
         EXPECT_EQ(window.Text("Text2"), "0");
@@ -50,31 +50,31 @@ TEST_F(FrmTrouTest, ShowsTheWorkSlotOfANewRib) {
         EXPECT_TRUE(window.Enabled("Text2"));
         EXPECT_FALSE(window.Shown("Text1(2)"));
         EXPECT_EQ(window.Focus(), "Text1(0)");
-        EXPECT_EQ(S(window.Box(0).selectedText()), "0");
+        EXPECT_EQ(window.Selected({"Text1", 0}), "0");
     });
     EXPECT_FALSE(programme.rib.Modifie);
 }
 
 TEST_F(FrmTrouTest, SpeaksEnglishAndMm) {
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         EXPECT_EQ(window.Label("Label1"), "Location value            mm or %");
         EXPECT_EQ(window.Label("Label2"), "Diameter");
         EXPECT_EQ(window.Label("Label4"), "In the centrer of airfoil thickness");
         EXPECT_EQ(window.Label("Label5"), "Vertical distance from the reference line + or -");
         EXPECT_EQ(window.Label("Label6(2)"), " mm");
-        EXPECT_EQ(S(window.Find<QGroupBox>("Frame2").title()), "Dimensions");
-        EXPECT_EQ(S(window.Find<QGroupBox>("Frame6").title()), "Hole");
-        EXPECT_EQ(S(window.Find<QRadioButton>("OptTrouRec(0)").text()), "Circle");
-        EXPECT_EQ(S(window.Find<QRadioButton>("OptTrouRec(1)").text()), "Rectangular");
+        EXPECT_EQ(window.Frame("Frame2"), "Dimensions");
+        EXPECT_EQ(window.Frame("Frame6"), "Hole");
+        EXPECT_EQ(window.Word("OptTrouRec(0)"), "Circle");
+        EXPECT_EQ(window.Word("OptTrouRec(1)"), "Rectangular");
         EXPECT_EQ(window.Label("LabelListe"), "Hole # :");
-        EXPECT_EQ(S(window.Box(0).toolTip()), "In percent   Ex 33%");
+        EXPECT_EQ(window.Tip({"Text1", 0}), "In percent   Ex 33%");
         const std::pair<const char *, const char *> buttons[] = {
             {"cmdajout", "Add"},   {"Cmdmodif", "Modify"},  {"Cmdeffac", "Remove"},
             {"CmdApply", "Apply"}, {"Cmdannuler", "Close"}, {"cmdok", "OK"},
             {"cmdaide", "Help"},
         };
         for (const auto &[name, word] : buttons) {
-            EXPECT_EQ(S(window.Find<QPushButton>(name).text()), word);
+            EXPECT_EQ(window.Word(name), word);
         }
     });
 }
@@ -83,22 +83,22 @@ TEST_F(FrmTrouTest, SpeaksFrenchAndInches) {
     Language("French");
     Inches();
     programme.rib.cordeAfich = "8.1/2";
-    Use([](Seen &window) {
-        EXPECT_EQ(S(window.Dialog().windowTitle()), "Trous 8.1/2  in");
+    Use([](SeenSlots &window) {
+        EXPECT_EQ(window.Title(), "Trous 8.1/2  in");
         EXPECT_EQ(window.Label("Label1"), "Position            in ou %");
         EXPECT_EQ(window.Label("Label6(0)"), " in");
-        EXPECT_EQ(S(window.Find<QPushButton>("Cmdeffac").text()), "Supprimer");
+        EXPECT_EQ(window.Word("Cmdeffac"), "Supprimer");
     });
 }
 
 TEST_F(FrmTrouTest, OnlyTheDistanceTakesAMinusSign) {
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         window.Click("OptTrouRec(1)");
         window.Type(0, "a1-2,3/4%5 6.7e");
         EXPECT_EQ(window.Text("Text1(0)"), "1234%56.7");
         for (int i = 1; i < 3; ++i) {
             window.Type(i, "a1-2,3/4%5 6.7e");
-            EXPECT_EQ(S(window.Box(i).text()), "123456.7");
+            EXPECT_EQ(window.Text({"Text1", i}), "123456.7");
         }
         window.Type("Text2", "-1,3/4%5 6.7e");
         EXPECT_EQ(window.Text("Text2"), "-13456.7");
@@ -109,13 +109,13 @@ TEST_F(FrmTrouTest, OnlyTheDistanceTakesAMinusSign) {
 
 TEST_F(FrmTrouTest, KeysOfTheFieldsInInches) {
     Inches();
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         window.Click("OptTrouRec(1)");
         window.Type(0, "a1-2,3/4%5 6.7e");
         EXPECT_EQ(window.Text("Text1(0)"), "123/4%56.7");
         for (int i = 1; i < 3; ++i) {
             window.Type(i, "a1-2,3/4%5 6.7e");
-            EXPECT_EQ(S(window.Box(i).text()), "123/456.7");
+            EXPECT_EQ(window.Text({"Text1", i}), "123/456.7");
         }
         window.Type("Text2", "-1,3/4%5 6.7e");
         EXPECT_EQ(window.Text("Text2"), "-13/456.7");
@@ -123,25 +123,25 @@ TEST_F(FrmTrouTest, KeysOfTheFieldsInInches) {
 }
 
 TEST_F(FrmTrouTest, EachFocusSelectsAllFieldsInUse) {
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         window.Click("OptTrouRec(1)");
         window.Click("Chkcentr");
-        window.Box(1).setFocus();
+        window.GoTo({"Text1", 1});
         for (int i = 0; i < 3; ++i) {
-            EXPECT_EQ(S(window.Box(i).selectedText()), "0");
+            EXPECT_EQ(window.Selected({"Text1", i}), "0");
         }
-        EXPECT_EQ(S(window.Find<QLineEdit>("Text2").selectedText()), "");
+        EXPECT_EQ(window.Selected("Text2"), "");
         window.Click("Chkcentr");
-        window.Find<QLineEdit>("Text2").setFocus();
-        EXPECT_EQ(S(window.Find<QLineEdit>("Text2").selectedText()), "0");
-        EXPECT_EQ(S(window.Box(0).selectedText()), "0");
+        window.GoTo("Text2");
+        EXPECT_EQ(window.Selected("Text2"), "0");
+        EXPECT_EQ(window.Selected({"Text1", 0}), "0");
     });
 }
 
 TEST_F(FrmTrouTest, TabGoesThroughTheWholeWindow) {
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         window.Click("OptTrouRec(1)");
-        window.Box(0).setFocus();
+        window.GoTo({"Text1", 0});
         const char *const order[] = {"OptDistance(0)", "Text1(1)",      "Text1(2)",   "Text2",
                                      "Chkcentr",       "OptTrouRec(1)", "cmdajout",   "Cmdmodif",
                                      "Cmdeffac",       "cmdok",         "Cmdannuler", "CmdApply",
@@ -154,16 +154,16 @@ TEST_F(FrmTrouTest, TabGoesThroughTheWholeWindow) {
 }
 
 TEST_F(FrmTrouTest, HelpIsPage43) {
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         window.Click("cmdaide");
-        QTest::keyClick(&window.Box(0), Qt::Key_F1);
+        window.Key({"Text1", 0}, Qt::Key_F1);
     });
     EXPECT_EQ(platform.help_contexts, (std::vector<int>{43, 43}));
 }
 
 TEST_F(FrmTrouTest, ANewUserTypesAHoleAndOkTakesAndDrawsIt) {
-    const Left left = Use([](Seen &window) {
-        QTest::keyClicks(&window.Box(0), "33%");
+    const Left left = Use([](SeenSlots &window) {
+        window.Keys({"Text1", 0}, "33%");
         window.Type(1, "10");
         window.Type("Text2", "-2.5");
         window.Key(Qt::Key_Return);
@@ -178,7 +178,7 @@ TEST_F(FrmTrouTest, ANewUserTypesAHoleAndOkTakesAndDrawsIt) {
 }
 
 TEST_F(FrmTrouTest, AllOptionsAreStoredAndComeBack) {
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         window.Click("OptTrouRec(1)");
         TypeHole(window, "20", "10");
         window.Type(2, "6");
@@ -192,7 +192,7 @@ TEST_F(FrmTrouTest, AllOptionsAreStoredAndComeBack) {
     EXPECT_EQ(Slot(0).HautTrou, 6.0F);
     EXPECT_EQ(Slot(0).ChkCentre, 1.0F);
     EXPECT_EQ(Slot(0).DecalTrou, 0.0F);
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         EXPECT_EQ(window.Texts(3), "20|10|6");
         EXPECT_TRUE(window.Chosen("OptDistance(1)"));
         EXPECT_TRUE(window.Chosen("OptTrouRec(1)"));
@@ -203,7 +203,7 @@ TEST_F(FrmTrouTest, AllOptionsAreStoredAndComeBack) {
 }
 
 TEST_F(FrmTrouTest, TheMiddleOfTheThicknessGreysTheDistanceAndSetsItToZero) {
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         window.Type("Text2", "-3");
         window.Click("Chkcentr");
         EXPECT_FALSE(window.Enabled("Text2"));
@@ -214,7 +214,7 @@ TEST_F(FrmTrouTest, TheMiddleOfTheThicknessGreysTheDistanceAndSetsItToZero) {
         window.Click("Label4"); // its words tick it too
         EXPECT_TRUE(window.Chosen("Chkcentr"));
         EXPECT_FALSE(window.Enabled("Text2"));
-        window.Find<QCheckBox>("Chkcentr").setFocus();
+        window.GoTo("Chkcentr");
         window.Key(Qt::Key_Space);
         EXPECT_TRUE(window.Enabled("Text2"));
     });
@@ -225,7 +225,7 @@ TEST_F(FrmTrouTest, AHoleInTheMiddleLosesAnOldDistanceWhenItIsApplied) {
     programme.rib.trou[0].ChkCentre = 1;
     programme.rib.trou[0].DecalTrou = 4;
     programme.rib.trou[0].DecalTrouAfich = "4";
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         EXPECT_EQ(window.Text("Text2"), "0");
         window.Click("CmdApply");
     });
@@ -236,12 +236,12 @@ TEST_F(FrmTrouTest, AHoleInTheMiddleLosesAnOldDistanceWhenItIsApplied) {
 TEST_F(FrmTrouTest, AlmostTheMiddleIsNotTicked) {
     Holes(0);
     programme.rib.trou[0].ChkCentre = 0.5F;
-    Use([](Seen &window) { EXPECT_FALSE(window.Chosen("Chkcentr")); });
+    Use([](SeenSlots &window) { EXPECT_FALSE(window.Chosen("Chkcentr")); });
 }
 
 TEST_F(FrmTrouTest, ARectangleAsksForWidthAndHeight) {
-    Use([](Seen &window) {
-        window.Find<QPushButton>("cmdajout").setFocus();
+    Use([](SeenSlots &window) {
+        window.GoTo("cmdajout");
         window.Click("OptTrouRec(1)");
         EXPECT_EQ(window.Label("Label2"), "Width");
         EXPECT_EQ(window.Label("Label3"), "Height");
@@ -249,7 +249,7 @@ TEST_F(FrmTrouTest, ARectangleAsksForWidthAndHeight) {
             EXPECT_TRUE(window.Shown(name));
         }
         EXPECT_EQ(window.Focus(), "Text1(0)");
-        EXPECT_TRUE(window.AllSelected(window.Box(0)));
+        EXPECT_TRUE(window.FocusedAndSelected({"Text1", 0}));
         window.Click("OptTrouRec(0)");
         EXPECT_EQ(window.Label("Label2"), "Diameter");
         for (const char *name : {"Label3", "Text1(2)", "Label6(1)"}) {
@@ -260,7 +260,7 @@ TEST_F(FrmTrouTest, ARectangleAsksForWidthAndHeight) {
 }
 
 TEST_F(FrmTrouTest, ACircleKeepsAnOlderHeightUnasked) {
-    EXPECT_EQ(Use([](Seen &window) {
+    EXPECT_EQ(Use([](SeenSlots &window) {
                   window.Click("OptTrouRec(1)");
                   TypeHole(window, "50", "10");
                   window.Type(2, "7");
@@ -273,19 +273,19 @@ TEST_F(FrmTrouTest, ACircleKeepsAnOlderHeightUnasked) {
 }
 
 TEST_F(FrmTrouTest, ARectangleWithoutHeightIsRefused) {
-    ExpectBoxes(1);
-    EXPECT_EQ(Use([](Seen &window) {
+    platform.Expect(BoxAnswer::ok);
+    EXPECT_EQ(Use([](SeenSlots &window) {
                   window.Click("OptTrouRec(1)");
                   TypeHole(window, "50", "10");
                   window.Click("cmdok");
               }),
               Left::open);
-    EXPECT_EQ(LastBox(), std::string(kBad) + "0");
+    EXPECT_EQ(platform.LastBox(), std::string(kBad) + "0");
     EXPECT_EQ(platform.boxes.at(0).title, "Holes setup 200  mm");
 }
 
 TEST_F(FrmTrouTest, AHoleThatPokesOutOfTheRibIsAccepted) {
-    EXPECT_EQ(Use([](Seen &window) {
+    EXPECT_EQ(Use([](SeenSlots &window) {
                   TypeHole(window, "1", "40");
                   window.Click("cmdok");
               }),
@@ -294,12 +294,12 @@ TEST_F(FrmTrouTest, AHoleThatPokesOutOfTheRibIsAccepted) {
 }
 
 TEST_F(FrmTrouTest, ALocationBeyondTheChordIsRefused) {
-    ExpectBoxes(1);
-    Use([](Seen &window) {
+    platform.Expect(BoxAnswer::ok);
+    Use([](SeenSlots &window) {
         TypeHole(window, "210", "10");
         window.Click("CmdApply");
     });
-    EXPECT_EQ(LastBox(), std::string(kBad) + "210");
+    EXPECT_EQ(platform.LastBox(), std::string(kBad) + "210");
     EXPECT_EQ(Drawn(), 0);
     EXPECT_EQ(Slot(0).PosTrouAfich, "210");
 }
@@ -308,14 +308,14 @@ TEST_F(FrmTrouTest, OptionsThatThereArentShowAsTheFirst) {
     Holes(0);
     programme.rib.trou[0].TypeTrou = 7;
     programme.rib.trou[0].RefTrou = 200;
-    Use([](Seen &window) {
+    Use([](SeenSlots &window) {
         EXPECT_TRUE(window.Chosen("OptTrouRec(0)"));
         EXPECT_TRUE(window.Chosen("OptDistance(0)"));
     });
 }
 
 TEST_F(FrmTrouTest, AddTakesWhatWasTypedAndOffersTheNext) {
-    Use([this](Seen &window) {
+    Use([this](SeenSlots &window) {
         TypeHole(window, "50", "10");
         window.Click("Chkcentr");
         window.Click("cmdajout");
@@ -325,7 +325,7 @@ TEST_F(FrmTrouTest, AddTakesWhatWasTypedAndOffersTheNext) {
         EXPECT_FALSE(window.Chosen("Chkcentr"));
         EXPECT_TRUE(window.Enabled("Text2"));
         EXPECT_EQ(window.Focus(), "Text1(0)");
-        QTest::keyClicks(&window.Box(0), "80");
+        window.Keys({"Text1", 0}, "80");
         window.Type(1, "6");
         window.Click("cmdok");
     });
@@ -336,8 +336,8 @@ TEST_F(FrmTrouTest, AddTakesWhatWasTypedAndOffersTheNext) {
 }
 
 TEST_F(FrmTrouTest, OfTwelveHolesTheTwelfthStaysTheWorkSlotAndTheCountIs11) {
-    ExpectBoxes(1);
-    EXPECT_EQ(Use([this](Seen &window) {
+    platform.Expect(BoxAnswer::ok);
+    EXPECT_EQ(Use([this](SeenSlots &window) {
                   for (int i = 1; i <= 12; ++i) {
                       TypeHole(window, std::to_string(10 * i).c_str(), "4");
                       window.Click("cmdajout");
@@ -350,13 +350,14 @@ TEST_F(FrmTrouTest, OfTwelveHolesTheTwelfthStaysTheWorkSlotAndTheCountIs11) {
               Left::accepted);
     EXPECT_EQ(Slot(11).PosTrouAfich, "120");
     EXPECT_EQ(Slot(12).PosTrouAfich, "0");
-    EXPECT_EQ(LastBox(), "A rib has room for 12 holes. The one shown is the twelfth : it is kept, "
-                         "and can still be changed.");
+    EXPECT_EQ(platform.LastBox(),
+              "A rib has room for 12 holes. The one shown is the twelfth : it is kept, "
+              "and can still be changed.");
 }
 
 TEST_F(FrmTrouTest, ModifyChangesTheSelectedHoleAndDraws) {
     Holes(2);
-    Use([this](Seen &window) {
+    Use([this](SeenSlots &window) {
         window.ClickNumber(1);
         EXPECT_EQ(window.Numbers(), "1 [2] 3");
         EXPECT_EQ(window.Text("Text1(0)"), "30");
@@ -372,7 +373,7 @@ TEST_F(FrmTrouTest, ModifyChangesTheSelectedHoleAndDraws) {
 TEST_F(FrmTrouTest, RemoveClosesTheGapAndDraws) {
     Holes(3);
     programme.rib.trou[2].ChkCentre = 1;
-    Use([this](Seen &window) {
+    Use([this](SeenSlots &window) {
         window.ClickNumber(1);
         window.Click("Cmdeffac");
         EXPECT_EQ(window.Numbers(), "1 2 [3]");
@@ -387,7 +388,7 @@ TEST_F(FrmTrouTest, RemoveClosesTheGapAndDraws) {
 
 TEST_F(FrmTrouTest, RemoveOfTheOnlyHoleLeavesAnEmptyListThatIsDrawn) {
     Holes(0);
-    EXPECT_EQ(Use([this](Seen &window) {
+    EXPECT_EQ(Use([this](SeenSlots &window) {
                   window.ClickNumber(0);
                   window.Click("Cmdeffac");
                   EXPECT_EQ(window.Texts(2), "0|0");
@@ -400,8 +401,8 @@ TEST_F(FrmTrouTest, RemoveOfTheOnlyHoleLeavesAnEmptyListThatIsDrawn) {
 
 TEST_F(FrmTrouTest, ModifyAndRemoveWithoutASelectionAskForOne) {
     Holes(2);
-    ExpectBoxes(2);
-    Use([](Seen &window) {
+    platform.ExpectBoxes(2);
+    Use([](SeenSlots &window) {
         window.Click("Cmdmodif");
         window.Click("Cmdeffac");
     });
@@ -412,24 +413,24 @@ TEST_F(FrmTrouTest, ModifyAndRemoveWithoutASelectionAskForOne) {
 }
 
 TEST_F(FrmTrouTest, AnEmptyFirstSlotCanBeLeftAfterItsNumberWasClicked) {
-    ExpectBoxes(1);
-    EXPECT_EQ(Use([](Seen &window) {
+    platform.Expect(BoxAnswer::ok);
+    EXPECT_EQ(Use([](SeenSlots &window) {
                   window.Click("cmdok");
                   window.ClickNumber(0);
                   window.Click("cmdok");
               }),
               Left::accepted);
-    EXPECT_EQ(LastBox(), std::string(kBad) + "0");
+    EXPECT_EQ(platform.LastBox(), std::string(kBad) + "0");
 }
 
 TEST_F(FrmTrouTest, CloseStoresNothing) {
     Holes(1);
-    EXPECT_EQ(Use([](Seen &window) {
+    EXPECT_EQ(Use([](SeenSlots &window) {
                   TypeHole(window, "77", "7");
                   window.Click("Cmdannuler");
               }),
               Left::rejected);
-    EXPECT_EQ(Use([](Seen &window) {
+    EXPECT_EQ(Use([](SeenSlots &window) {
                   TypeHole(window, "77", "7");
                   window.Key(Qt::Key_Escape);
               }),
@@ -441,21 +442,21 @@ TEST_F(FrmTrouTest, CloseStoresNothing) {
 
 TEST_F(FrmTrouTest, CloseWithAnotherNumberSelectedStaysWhileAValueIsWrong) {
     Holes(2);
-    ExpectBoxes(2);
-    EXPECT_EQ(Use([](Seen &window) {
+    platform.ExpectBoxes(2);
+    EXPECT_EQ(Use([](SeenSlots &window) {
                   window.ClickNumber(1);
                   window.Type(0, "250");
                   window.Click("CmdApply");
                   window.Click("Cmdannuler");
               }),
               Left::open);
-    EXPECT_EQ(LastBox(), std::string(kBad) + "250");
+    EXPECT_EQ(platform.LastBox(), std::string(kBad) + "250");
 }
 
 TEST_F(FrmTrouTest, AFractionOfZerothsIsToldAndKeepsTheWindowOpen) {
     Inches();
-    ExpectBoxes(1);
-    EXPECT_EQ(Use([](Seen &window) {
+    platform.Expect(BoxAnswer::ok);
+    EXPECT_EQ(Use([](SeenSlots &window) {
                   TypeHole(window, "3", "1/2");
                   window.Type("Text2", "-1/0");
                   window.Click("cmdok");

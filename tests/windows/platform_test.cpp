@@ -14,11 +14,9 @@
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QInputDialog>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPageSetupDialog>
 #include <QPushButton>
-#include <QTest>
 #include <QUrl>
 
 #include <filesystem>
@@ -47,20 +45,10 @@ struct World {
     QtPlatform platform{LOFTWING_SOURCE_DIR "/resources"};
 };
 
-QMessageBox &BoxOf(QDialog &dialog) {
-    auto *box = qobject_cast<QMessageBox *>(&dialog);
-    if (box == nullptr) {
-        throw std::runtime_error("the dialog is no box");
-    }
-    return *box;
-}
-
 /// Types a name into a file chooser and accepts it.
-void TypeName(QDialog &chooser, const std::string &name) {
-    auto *edit = chooser.findChild<QLineEdit *>("fileNameEdit");
-    ASSERT_NE(edit, nullptr);
-    edit->setText(Q(name));
-    chooser.accept();
+void TypeName(Seen &chooser, const std::string &name) {
+    chooser.Fill("fileNameEdit", name);
+    chooser.As<QDialog>().accept();
 }
 
 /// Lets the next search for programs find nothing but those of `folder`.
@@ -87,7 +75,7 @@ void MakeProgram(const TempFolder &folder, const std::string &name) {
 }
 
 std::string Started(const TempFolder &folder) {
-    const bool there = QTest::qWaitFor([&] { return fs::exists(folder.Path("started")); }, 10'000);
+    const bool there = Eventually([&] { return fs::exists(folder.Path("started")); });
     return there ? folder.Bytes("started") : "nothing";
 }
 
@@ -95,8 +83,8 @@ std::string Started(const TempFolder &folder) {
 
 TEST(QtPlatformBox, ShowsPlainTextWithItsButtons) {
     World world;
-    InNextDialog([](QDialog &dialog) {
-        const QMessageBox &box = BoxOf(dialog);
+    InNextDialog([](Seen &dialog) {
+        const QMessageBox &box = dialog.As<QMessageBox>();
         EXPECT_EQ(box.text(), "<b>Not</b> bold\nsecond line");
         EXPECT_EQ(box.textFormat(), Qt::PlainText);
         EXPECT_EQ(box.windowTitle(), "Loftwing");
@@ -117,7 +105,7 @@ TEST(QtPlatformBox, EscapeIsNoOrCancelOrOk) {
                                                       {BoxButtons::retry_cancel, BoxAnswer::cancel},
                                                       {BoxButtons::ok, BoxAnswer::ok}};
     for (const auto &[buttons, answer] : cases) {
-        InNextDialog([](QDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+        InNextDialog([](Seen &dialog) { dialog.Key(Qt::Key_Escape); });
         EXPECT_EQ(world.platform.Show({"?", "t", BoxIcon::question, buttons, BoxAnswer::ok}),
                   answer);
     }
@@ -125,7 +113,7 @@ TEST(QtPlatformBox, EscapeIsNoOrCancelOrOk) {
 
 TEST(QtPlatformBox, ReturnIsTheDefaultButton) {
     World world;
-    InNextDialog([](QDialog &dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+    InNextDialog([](Seen &dialog) { dialog.Key(Qt::Key_Return); });
     EXPECT_EQ(world.platform.Show(
                   {"?", "t", BoxIcon::question, BoxButtons::retry_cancel, BoxAnswer::retry}),
               BoxAnswer::retry);
@@ -134,14 +122,14 @@ TEST(QtPlatformBox, ReturnIsTheDefaultButton) {
 TEST(QtPlatformBox, TakesTheWordsOfTheLanguage) {
     World world;
     world.platform.SetButtonWords({"Bien", "Annuler", "Oui", "", ""});
-    InNextDialog([](QDialog &dialog) {
-        const QMessageBox &box = BoxOf(dialog);
+    InNextDialog([](Seen &dialog) {
+        const QMessageBox &box = dialog.As<QMessageBox>();
         EXPECT_EQ(box.button(QMessageBox::Ok)->text(), "Bien");
         EXPECT_EQ(box.button(QMessageBox::Cancel)->text(), "Annuler");
     });
     world.platform.Show({"?", "t", BoxIcon::stop, BoxButtons::ok_cancel, BoxAnswer::ok});
-    InNextDialog([](QDialog &dialog) {
-        const QMessageBox &box = BoxOf(dialog);
+    InNextDialog([](Seen &dialog) {
+        const QMessageBox &box = dialog.As<QMessageBox>();
         EXPECT_EQ(box.button(QMessageBox::Yes)->text(), "Oui");
         EXPECT_FALSE(box.button(QMessageBox::No)->text().isEmpty()) << "the toolkit's own";
     });
@@ -153,31 +141,31 @@ TEST(QtPlatformBox, StandsOverTheActiveWindow) {
     QWidget window;
     window.show();
     QApplication::setActiveWindow(&window);
-    InNextDialog([&window](QDialog &dialog) { EXPECT_EQ(dialog.parentWidget(), &window); });
+    InNextDialog([&window](Seen &dialog) { EXPECT_EQ(dialog.Window().parentWidget(), &window); });
     world.platform.Show({"!", "t"});
 }
 
 TEST(QtPlatformAsk, GivesTheLineOrNothing) {
     World world;
-    InNextDialog([](QDialog &dialog) {
-        auto &input = dynamic_cast<QInputDialog &>(dialog);
+    InNextDialog([](Seen &dialog) {
+        auto &input = dialog.As<QInputDialog>();
         EXPECT_EQ(input.labelText(), "Name");
-        EXPECT_EQ(input.windowTitle(), "Title");
+        EXPECT_EQ(dialog.Title(), "Title");
         EXPECT_EQ(input.textValue(), "rib");
         input.setTextValue("rib é");
-        dialog.accept();
+        dialog.As<QDialog>().accept();
     });
     EXPECT_EQ(world.platform.Ask("Name", "Title", "rib"), "rib é");
-    InNextDialog([](QDialog &dialog) { dialog.reject(); });
+    InNextDialog([](Seen &dialog) { dialog.Key(Qt::Key_Escape); });
     EXPECT_EQ(world.platform.Ask("Name", "Title", "rib"), std::nullopt);
 }
 
 TEST(QtPlatformChooser, OpensAFileThatExists) {
     World world;
     const std::string path = world.folder.File("clark é.dat", "x");
-    InNextDialog([](QDialog &dialog) {
-        auto &chooser = dynamic_cast<QFileDialog &>(dialog);
-        EXPECT_EQ(chooser.windowTitle(), "Open");
+    InNextDialog([](Seen &dialog) {
+        const auto &chooser = dialog.As<QFileDialog>();
+        EXPECT_EQ(dialog.Title(), "Open");
         EXPECT_EQ(chooser.nameFilters(), QStringList("Airfoils (*.dat *.cor)"));
         TypeName(dialog, "clark é.dat");
     });
@@ -189,28 +177,28 @@ TEST(QtPlatformChooser, OpensAFileThatExists) {
 TEST(QtPlatformChooser, AnEmptyAnswerIsTheCancel) {
     World world;
     const FileQuestion question = {"t", world.folder.Path(), "rib", "PDF (*.pdf)", "pdf"};
-    InNextDialog([](QDialog &dialog) { dialog.reject(); });
+    InNextDialog([](Seen &dialog) { dialog.Key(Qt::Key_Escape); });
     EXPECT_EQ(world.platform.ChooseOpenFile(question), "");
-    InNextDialog([](QDialog &dialog) { dialog.reject(); });
+    InNextDialog([](Seen &dialog) { dialog.Key(Qt::Key_Escape); });
     EXPECT_EQ(world.platform.ChooseSaveFile(question), "");
-    InNextDialog([](QDialog &dialog) { dialog.reject(); });
+    InNextDialog([](Seen &dialog) { dialog.Key(Qt::Key_Escape); });
     EXPECT_EQ(world.platform.ChooseFolder("t", world.folder.Path()), "");
 }
 
 TEST(QtPlatformChooser, AddsTheExtensionToANameThatHasNone) {
     World world;
     const FileQuestion question = {"t", world.folder.Path(), "", "PDF (*.pdf)", "pdf"};
-    InNextDialog([](QDialog &dialog) { TypeName(dialog, "rib"); });
+    InNextDialog([](Seen &dialog) { TypeName(dialog, "rib"); });
     EXPECT_EQ(world.platform.ChooseSaveFile(question), world.folder.Path("rib.pdf"));
-    InNextDialog([](QDialog &dialog) { TypeName(dialog, "rib.PDF"); });
+    InNextDialog([](Seen &dialog) { TypeName(dialog, "rib.PDF"); });
     EXPECT_EQ(world.platform.ChooseSaveFile(question), world.folder.Path("rib.PDF"));
 }
 
 TEST(QtPlatformChooser, ProposesAName) {
     World world;
-    InNextDialog([](QDialog &dialog) {
-        EXPECT_EQ(dialog.findChild<QLineEdit *>("fileNameEdit")->text(), "Clark Y.pdf");
-        dialog.accept();
+    InNextDialog([](Seen &dialog) {
+        EXPECT_EQ(dialog.Text("fileNameEdit"), "Clark Y.pdf");
+        dialog.As<QDialog>().accept();
     });
     EXPECT_EQ(world.platform.ChooseSaveFile(
                   {"t", world.folder.Path(), "Clark Y.pdf", "PDF (*.pdf)", "pdf"}),
@@ -222,17 +210,19 @@ TEST(QtPlatformChooser, AsksBeforeAFileIsReplaced) {
     const std::string path = world.folder.File("rib.pdf", "older");
     const FileQuestion question = {"t", world.folder.Path(), "", "PDF (*.pdf)", "pdf"};
     // The question is about the name with its extension; No goes back to the chooser.
-    InNextDialog([](QDialog &chooser) {
-        InNextDialog([](QDialog &box) {
-            EXPECT_TRUE(BoxOf(box).text().contains("rib.pdf"));
-            EXPECT_EQ(BoxOf(box).defaultButton(), BoxOf(box).button(QMessageBox::No));
-            InNextDialog([](QDialog &again) {
-                EXPECT_EQ(again.findChild<QLineEdit *>("fileNameEdit")->text(), "rib.pdf");
-                InNextDialog(
-                    [](QDialog &box_again) { BoxOf(box_again).button(QMessageBox::Yes)->click(); });
-                again.accept();
+    InNextDialog([](Seen &chooser) {
+        InNextDialog([](Seen &box) {
+            EXPECT_TRUE(box.As<QMessageBox>().text().contains("rib.pdf"));
+            EXPECT_EQ(box.As<QMessageBox>().defaultButton(),
+                      box.As<QMessageBox>().button(QMessageBox::No));
+            InNextDialog([](Seen &again) {
+                EXPECT_EQ(again.Text("fileNameEdit"), "rib.pdf");
+                InNextDialog([](Seen &box_again) {
+                    box_again.As<QMessageBox>().button(QMessageBox::Yes)->click();
+                });
+                again.As<QDialog>().accept();
             });
-            BoxOf(box).button(QMessageBox::No)->click();
+            box.As<QMessageBox>().button(QMessageBox::No)->click();
         });
         TypeName(chooser, "rib");
     });
@@ -243,8 +233,8 @@ TEST(QtPlatformChooser, AsksBeforeAFileIsReplaced) {
 TEST(QtPlatformChooser, ChoosesAFolder) {
     World world;
     fs::create_directory(world.folder.Path("rib sets"));
-    InNextDialog([](QDialog &dialog) {
-        EXPECT_EQ(dialog.windowTitle(), "Folder");
+    InNextDialog([](Seen &dialog) {
+        EXPECT_EQ(dialog.Title(), "Folder");
         TypeName(dialog, "rib sets");
     });
     EXPECT_EQ(world.platform.ChooseFolder("Folder", world.folder.Path()),
@@ -267,7 +257,7 @@ TEST(QtPlatformPointer, IsNotBusyWhileABoxWaits) {
     World world;
     world.platform.SetPointer(Pointer::busy);
     InNextDialog(
-        [](QDialog &) { EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ArrowCursor); });
+        [](Seen &) { EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::ArrowCursor); });
     world.platform.Show({"!", "t"});
     EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
     world.platform.SetPointer(Pointer::normal);
@@ -362,9 +352,9 @@ TEST(QtPlatformPrinter, WithoutOneThereIsNoName) {
 TEST(QtPlatformPrinter, WithoutOneAsksForAPdf) {
     World world;
     const std::string path = world.folder.Path("Clark Y.pdf");
-    InNextDialog([&](QDialog &dialog) {
-        EXPECT_EQ(dialog.findChild<QLineEdit *>("fileNameEdit")->text(), "Clark Y.pdf");
-        dialog.accept();
+    InNextDialog([&](Seen &dialog) {
+        EXPECT_EQ(dialog.Text("fileNameEdit"), "Clark Y.pdf");
+        dialog.As<QDialog>().accept();
     });
     const auto printer = world.platform.OpenPrinter({"Clark Y", true, 297, 210, path});
     ASSERT_NE(printer, nullptr);
@@ -379,7 +369,7 @@ TEST(QtPlatformPrinter, WithoutOneAsksForAPdf) {
 
 TEST(QtPlatformPrinter, CancelIsNoPrinter) {
     World world;
-    InNextDialog([](QDialog &dialog) { dialog.reject(); });
+    InNextDialog([](Seen &dialog) { dialog.Key(Qt::Key_Escape); });
     EXPECT_EQ(world.platform.OpenPrinter({"rib", true, 0, 0, world.folder.Path("rib.pdf")}),
               nullptr);
     EXPECT_EQ(world.folder.Entries(), 0);
@@ -389,17 +379,16 @@ TEST(QtPlatformPrinter, ThePageSetUpChoosesThePrintersOwnPaper) {
     World world;
     {
         const ProgramsOnlyIn none(world.folder.Path());
-        InNextDialog([](QDialog &dialog) {
-            ASSERT_NE(qobject_cast<QPageSetupDialog *>(&dialog), nullptr);
-            auto *sizes = dialog.findChild<QComboBox *>("pageSizeCombo");
-            ASSERT_NE(sizes, nullptr);
-            sizes->setCurrentIndex(sizes->findText("A5", Qt::MatchStartsWith));
-            dialog.accept();
+        InNextDialog([](Seen &dialog) {
+            auto &setup = dialog.As<QPageSetupDialog>();
+            auto &sizes = dialog.Find<QComboBox>("pageSizeCombo");
+            sizes.setCurrentIndex(sizes.findText("A5", Qt::MatchStartsWith));
+            setup.accept();
         });
         world.platform.ShowPrinterSettings();
     }
     const std::string path = world.folder.Path("rib.pdf");
-    InNextDialog([](QDialog &dialog) { dialog.accept(); });
+    InNextDialog([](Seen &dialog) { dialog.As<QDialog>().accept(); });
     const auto printer = world.platform.OpenPrinter({"rib", true, 0, 0, path});
     ASSERT_NE(printer, nullptr);
     printer->SetOrientation(Orientation::landscape);

@@ -5,10 +5,7 @@
 #include "mainwindow/pic_view.h"
 #include "support/qt_window_world.h"
 
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTest>
+#include <QApplication>
 
 #include <gtest/gtest.h>
 
@@ -26,36 +23,23 @@ class RibFeatures : public testing::Test {
     }
 
     /// Uses the dialog that a command brings up.
-    void Use(const std::function<void()> &command, const char *dialog_name,
-             const std::function<void(QDialog &)> &act) {
-        bool came = false;
-        InNextDialog([&](QDialog &dialog) {
-            came = true;
-            EXPECT_EQ(dialog.objectName().toStdString(), dialog_name);
-            act(dialog);
+    void Use(const std::function<void()> &command, const char *dialog_name, const User &user) {
+        const bool came = BringsDialog(command, [&](Seen &dialog) {
+            EXPECT_EQ(dialog.Name(), dialog_name);
+            user(dialog);
         });
-        command();
         EXPECT_TRUE(came) << dialog_name;
     }
-    static void Type(QDialog &dialog, const char *name, const char *text) {
-        auto *box = dialog.findChild<QLineEdit *>(name);
-        box->setFocus();
-        box->selectAll();
-        QTest::keyClicks(box, text);
-    }
-    static void Press(QDialog &dialog, const char *name) {
-        dialog.findChild<QAbstractButton *>(name)->click();
-    }
-    static void TypeSpar(QDialog &dialog, const char *place) {
-        Type(dialog, "Text1(0)", place);
-        Type(dialog, "Text1(1)", "10");
-        Type(dialog, "Text1(2)", "5");
+    static void TypeSpar(Seen &dialog, const char *place) {
+        dialog.Type("Text1(0)", place);
+        dialog.Type("Text1(1)", "10");
+        dialog.Type("Text1(2)", "5");
     }
     std::function<void()> Menu(const char *name) {
         return [this, name] { world.Action(name)->trigger(); };
     }
     std::function<void()> Button(const char *name) {
-        return [this, name] { world.Find<QPushButton>(name)->click(); };
+        return [this, name] { world.Main().Click(name); };
     }
     const Recording *Drawing() { return world.Find<PicView>("Pic")->Dessin(); }
     std::size_t Operations() { return Drawing()->Operations().size(); }
@@ -64,7 +48,7 @@ class RibFeatures : public testing::Test {
 };
 
 TEST_F(RibFeatures, MenuAndButtonOpenTheSameWindow) {
-    const auto nothing = [](QDialog &dialog) { dialog.reject(); };
+    const auto nothing = [](Seen &dialog) { dialog.Key(Qt::Key_Escape); };
     Use(Menu("mnu_profillongeron"), "frmlongeron", nothing);
     Use(Button("cmdlongeron"), "frmlongeron", nothing);
     Use(Menu("mnu_profiltrou"), "frmtrou", nothing);
@@ -73,11 +57,11 @@ TEST_F(RibFeatures, MenuAndButtonOpenTheSameWindow) {
 
 TEST_F(RibFeatures, ASparTypedAndOkIsInThePicture) {
     const std::size_t before = Operations();
-    Use(Menu("mnu_profillongeron"), "frmlongeron", [](QDialog &dialog) {
+    Use(Menu("mnu_profillongeron"), "frmlongeron", [](Seen &dialog) {
         TypeSpar(dialog, "50");
-        Press(dialog, "Opte(2)");
-        Press(dialog, "cmdok");
-        EXPECT_FALSE(dialog.isVisible());
+        dialog.Click("Opte(2)");
+        dialog.Click("cmdok");
+        EXPECT_FALSE(dialog.IsOpen());
     });
     // The axis and the four edges of the notch.
     EXPECT_EQ(Operations(), before + 5);
@@ -85,33 +69,33 @@ TEST_F(RibFeatures, ASparTypedAndOkIsInThePicture) {
 
 TEST_F(RibFeatures, ApplyShowsTheSparWhileTheWindowIsOpen) {
     const std::size_t before = Operations();
-    Use(Menu("mnu_profillongeron"), "frmlongeron", [&](QDialog &dialog) {
+    Use(Menu("mnu_profillongeron"), "frmlongeron", [&](Seen &dialog) {
         TypeSpar(dialog, "50");
-        Press(dialog, "CmdApply");
+        dialog.Click("CmdApply");
         EXPECT_EQ(Operations(), before + 1); // no notch is chosen yet
-        EXPECT_TRUE(dialog.isVisible());
+        EXPECT_TRUE(dialog.IsOpen());
     });
 }
 
 TEST_F(RibFeatures, SparsThatWereAddedAreDrawnWhenTheWindowCloses) {
     const std::size_t before = Operations();
-    Use(Menu("mnu_profillongeron"), "frmlongeron", [](QDialog &dialog) {
+    Use(Menu("mnu_profillongeron"), "frmlongeron", [](Seen &dialog) {
         for (const char *place : {"50", "80"}) {
             TypeSpar(dialog, place);
-            Press(dialog, "cmdajout");
+            dialog.Click("cmdajout");
         }
-        Press(dialog, "Cmdannuler");
+        dialog.Click("Cmdannuler");
     });
     EXPECT_EQ(Operations(), before + 2);
 }
 
 TEST_F(RibFeatures, ASparAtLocationZeroHidesThoseBehindIt) {
     const std::size_t before = Operations();
-    Use(Menu("mnu_profillongeron"), "frmlongeron", [](QDialog &dialog) {
+    Use(Menu("mnu_profillongeron"), "frmlongeron", [](Seen &dialog) {
         TypeSpar(dialog, "50");
-        Press(dialog, "cmdajout");
+        dialog.Click("cmdajout");
         TypeSpar(dialog, "80");
-        Press(dialog, "CmdApply");
+        dialog.Click("CmdApply");
     });
     EXPECT_EQ(Operations(), before + 2);
     world.programme.rib.longeron[0].PosLongAfich = "0";
@@ -120,9 +104,9 @@ TEST_F(RibFeatures, ASparAtLocationZeroHidesThoseBehindIt) {
 }
 
 TEST_F(RibFeatures, AfterAChangeOfChordASparInPercentMovesWithoutAWindow) {
-    Use(Menu("mnu_profillongeron"), "frmlongeron", [](QDialog &dialog) {
+    Use(Menu("mnu_profillongeron"), "frmlongeron", [](Seen &dialog) {
         TypeSpar(dialog, "50%");
-        Press(dialog, "cmdok");
+        dialog.Click("cmdok");
     });
     EXPECT_EQ(world.programme.rib.longeron[0].PosLong, 100.0F);
     world.programme.rib.corde = 300;
@@ -131,11 +115,11 @@ TEST_F(RibFeatures, AfterAChangeOfChordASparInPercentMovesWithoutAWindow) {
 }
 
 TEST_F(RibFeatures, AHoleInTheMiddleFollowsTheThicknessOfAnotherAirfoil) {
-    Use(Button("cmdtrou"), "frmtrou", [](QDialog &dialog) {
-        Type(dialog, "Text1(0)", "60");
-        Type(dialog, "Text1(1)", "8");
-        Press(dialog, "Chkcentr");
-        Press(dialog, "cmdok");
+    Use(Button("cmdtrou"), "frmtrou", [](Seen &dialog) {
+        dialog.Type("Text1(0)", "60");
+        dialog.Type("Text1(1)", "8");
+        dialog.Click("Chkcentr");
+        dialog.Click("cmdok");
     });
     const auto centre = [this] {
         for (const Operation &operation : Drawing()->Operations()) {
@@ -163,10 +147,10 @@ TEST_F(RibFeatures, AHoleInTheMiddleFollowsTheThicknessOfAnotherAirfoil) {
 
 TEST_F(RibFeatures, AHoleThatPokesOutIsDrawn) {
     const std::size_t before = Operations();
-    Use(Button("cmdtrou"), "frmtrou", [](QDialog &dialog) {
-        Type(dialog, "Text1(0)", "1");
-        Type(dialog, "Text1(1)", "40");
-        Press(dialog, "cmdok");
+    Use(Button("cmdtrou"), "frmtrou", [](Seen &dialog) {
+        dialog.Type("Text1(0)", "1");
+        dialog.Type("Text1(1)", "40");
+        dialog.Click("cmdok");
     });
     EXPECT_EQ(Operations(), before); // what the empty work slot had drawn, only bigger
     EXPECT_TRUE(world.programme.rib.ProfilCharge);
@@ -175,11 +159,11 @@ TEST_F(RibFeatures, AHoleThatPokesOutIsDrawn) {
 TEST_F(RibFeatures, ARefusedSparDoesNotCostTheRib) {
     const std::size_t before = Operations();
     world.platform.Expect(BoxAnswer::ok);
-    Use(Menu("mnu_profillongeron"), "frmlongeron", [](QDialog &dialog) {
+    Use(Menu("mnu_profillongeron"), "frmlongeron", [](Seen &dialog) {
         TypeSpar(dialog, "2");
-        Press(dialog, "CmdApply");
-        Press(dialog, "Cmdannuler");
-        EXPECT_FALSE(dialog.isVisible());
+        dialog.Click("CmdApply");
+        dialog.Click("Cmdannuler");
+        EXPECT_FALSE(dialog.IsOpen());
     });
     EXPECT_TRUE(world.programme.rib.ProfilCharge);
     EXPECT_EQ(Operations(), before);
@@ -188,12 +172,12 @@ TEST_F(RibFeatures, ARefusedSparDoesNotCostTheRib) {
 TEST_F(RibFeatures, AHoleInFrontOfTheLeadingEdgeIsRefused) {
     const std::size_t before = Operations();
     world.platform.Expect(BoxAnswer::ok);
-    Use(Menu("mnu_profiltrou"), "frmtrou", [](QDialog &dialog) {
-        Type(dialog, "Text1(0)", "250");
-        Type(dialog, "Text1(1)", "10");
-        Press(dialog, "OptDistance(1)");
-        Press(dialog, "CmdApply");
-        Press(dialog, "Cmdannuler");
+    Use(Menu("mnu_profiltrou"), "frmtrou", [](Seen &dialog) {
+        dialog.Type("Text1(0)", "250");
+        dialog.Type("Text1(1)", "10");
+        dialog.Click("OptDistance(1)");
+        dialog.Click("CmdApply");
+        dialog.Click("Cmdannuler");
     });
     EXPECT_TRUE(world.programme.rib.ProfilCharge);
     EXPECT_EQ(Operations(), before);
@@ -206,10 +190,10 @@ TEST_F(RibFeatures, APlotThatFailsInsideApplyClosesTheWindowAndClearsTheRib) {
         world.programme.rib.longeron[0].PosLongAfich = "900";
         world.programme.rib.NbLongeron = 1;
         world.platform.Expect(BoxAnswer::ok);
-        Use(Menu("mnu_profillongeron"), "frmlongeron", [&](QDialog &dialog) {
+        Use(Menu("mnu_profillongeron"), "frmlongeron", [&](Seen &dialog) {
             TypeSpar(dialog, "50");
-            Press(dialog, button);
-            EXPECT_FALSE(dialog.isVisible());
+            dialog.Click(button);
+            EXPECT_FALSE(dialog.IsOpen());
         });
         EXPECT_FALSE(world.programme.rib.ProfilCharge);
         EXPECT_EQ(world.programme.rib.NbLongeron, 0);
@@ -229,10 +213,10 @@ TEST_F(RibFeatures, RemoveInsideAFailingPlotIsSafeToo) {
     rib.longeron[2].PosLongAfich = "50";
     rib.longeron[2].HautLongAfich = "5";
     world.platform.Expect(BoxAnswer::ok);
-    Use(Menu("mnu_profillongeron"), "frmlongeron", [&](QDialog &dialog) {
-        QTest::mouseClick(dialog.findChild<QWidget *>("LblNblongeron(0)"), Qt::LeftButton);
-        Press(dialog, "Cmdeffac");
-        EXPECT_FALSE(dialog.isVisible());
+    Use(Menu("mnu_profillongeron"), "frmlongeron", [&](Seen &dialog) {
+        dialog.Click("LblNblongeron(0)");
+        dialog.Click("Cmdeffac");
+        EXPECT_FALSE(dialog.IsOpen());
     });
     EXPECT_FALSE(rib.ProfilCharge);
 }
@@ -246,9 +230,9 @@ TEST_F(RibFeatures, NothingIsCutAtDoubleFontSize) {
         world.programme.language.Charge(world.programme.paths.langues, language);
         for (const char *command : {"mnu_profillongeron", "mnu_profiltrou"}) {
             const char *name = std::string(command) == "mnu_profiltrou" ? "frmtrou" : "frmlongeron";
-            Use(Menu(command), name, [](QDialog &dialog) {
+            Use(Menu(command), name, [](Seen &dialog) {
                 QApplication::processEvents();
-                for (QWidget *widget : dialog.findChildren<QWidget *>()) {
+                for (QWidget *widget : dialog.Window().findChildren<QWidget *>()) {
                     if (widget->isVisible() && widget->parentWidget() != nullptr &&
                         widget->objectName() != "qt_scrollarea_viewport") {
                         EXPECT_GE(widget->width(), widget->minimumSizeHint().width())
@@ -259,8 +243,8 @@ TEST_F(RibFeatures, NothingIsCutAtDoubleFontSize) {
                             << widget->objectName().toStdString();
                     }
                 }
-                EXPECT_GE(dialog.findChild<QLineEdit *>("Text1(0)")->width(),
-                          dialog.fontMetrics().horizontalAdvance("00.00/00"));
+                EXPECT_GE(dialog.Box("Text1(0)").width(),
+                          dialog.Window().fontMetrics().horizontalAdvance("00.00/00"));
             });
         }
     }

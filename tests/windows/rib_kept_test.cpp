@@ -3,11 +3,6 @@
 #include "mainwindow/pic_view.h"
 #include "support/qt_window_world.h"
 
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTest>
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -25,31 +20,17 @@ class RibKept : public testing::Test {
         const Recording *drawing = world.Find<PicView>("Pic")->Dessin();
         return drawing == nullptr ? 0 : drawing->Operations().size();
     }
-    static void Type(QDialog &dialog, const char *name, const char *text) {
-        dialog.findChild<QLineEdit *>(name)->setText(text);
-    }
-    static void Press(QDialog &dialog, const char *name) {
-        dialog.findChild<QAbstractButton *>(name)->click();
-    }
     /// The window system resizes the main window, which the dialog in front can't prevent.
-    void Resize() {
-        world.window->resize(world.window->size() + QSize(150, 90));
-        QTest::qWait(400); // the redraw waits until the size has settled
-    }
-    void Box(const std::string &part) {
-        world.platform.boxes_expected.push_back({BoxAnswer::ok, [part](const MessageBox &box) {
-                                                     EXPECT_THAT(box.text, HasSubstr(part));
-                                                 }});
-    }
+    void Resize() { world.Resize(world.window->size() + QSize(150, 90)); }
     /// Types a chord and OK; says whether the dialog was left by that.
     bool Chord(const char *text) {
         bool left = false;
-        InNextDialog([&](QDialog &dialog) {
-            Type(dialog, "infotxt", text);
-            Press(dialog, "cmdok");
-            left = !dialog.isVisible();
+        InNextDialog([&](Seen &dialog) {
+            dialog.Fill("infotxt", text);
+            dialog.Click("cmdok");
+            left = !dialog.IsOpen();
             if (!left) {
-                Press(dialog, "cmdannuler");
+                dialog.Click("cmdannuler");
             }
         });
         world.Action("mnu_profilcorde")->trigger();
@@ -69,41 +50,41 @@ class RibKept : public testing::Test {
 };
 
 TEST_F(RibKept, ResizingTheWindowDrawsNothingOfARefusedSpar) {
-    Box("leading or trailing edge");
-    InNextDialog([this](QDialog &dialog) {
-        Type(dialog, "Text1(0)", "2");
-        Type(dialog, "Text1(1)", "10");
-        Type(dialog, "Text1(2)", "5");
-        Press(dialog, "CmdApply");
+    world.platform.Expect(BoxAnswer::ok, {.text = HasSubstr("leading or trailing edge")});
+    InNextDialog([this](Seen &dialog) {
+        dialog.Fill("Text1(0)", "2");
+        dialog.Fill("Text1(1)", "10");
+        dialog.Fill("Text1(2)", "5");
+        dialog.Click("CmdApply");
         Resize();
-        EXPECT_TRUE(dialog.isVisible());
-        Press(dialog, "Cmdannuler");
+        EXPECT_TRUE(dialog.IsOpen());
+        dialog.Click("Cmdannuler");
     });
     world.Action("mnu_profillongeron")->trigger();
     EXPECT_TRUE(Rib().ProfilCharge);
 }
 
 TEST_F(RibKept, ResizingTheWindowDrawsNothingOfARampThatIsBeingTyped) {
-    InNextDialog([this](QDialog &dialog) {
-        Press(dialog, "CmdApply");
-        Type(dialog, "txt(2)", "500");
+    InNextDialog([this](Seen &dialog) {
+        dialog.Click("CmdApply");
+        dialog.Fill("txt(2)", "500");
         Resize();
-        EXPECT_TRUE(dialog.isVisible());
-        Press(dialog, "cmdannuler");
+        EXPECT_TRUE(dialog.IsOpen());
+        dialog.Click("cmdannuler");
     });
     world.Action("mnu_parambloc")->trigger();
     EXPECT_TRUE(Rib().ProfilCharge);
 }
 
 TEST_F(RibKept, ResizingTheWindowDrawsNothingOfMarginsThatAreBeingTyped) {
-    Box("longer than the chord");
-    InNextDialog([this](QDialog &dialog) {
-        Press(dialog, "CmdApply");
-        Type(dialog, "txt(1)", "150");
-        Type(dialog, "txt(2)", "90");
+    world.platform.Expect(BoxAnswer::ok, {.text = HasSubstr("longer than the chord")});
+    InNextDialog([this](Seen &dialog) {
+        dialog.Click("CmdApply");
+        dialog.Fill("txt(1)", "150");
+        dialog.Fill("txt(2)", "90");
         Resize();
-        EXPECT_TRUE(dialog.isVisible());
-        Press(dialog, "cmdannuler");
+        EXPECT_TRUE(dialog.IsOpen());
+        dialog.Click("cmdannuler");
     });
     world.Action("mnu_profilTalon")->trigger();
     EXPECT_TRUE(Rib().ProfilCharge);
@@ -112,8 +93,11 @@ TEST_F(RibKept, ResizingTheWindowDrawsNothingOfMarginsThatAreBeingTyped) {
 TEST_F(RibKept, ChordThatASparDoesNotFitIsRefusedAndNamesIt) {
     Spar("190");
     Rib().Modifie = false;
-    Box("The rib cannot be drawn with this value and stays as it was. What does not fit :\n"
-        "Subscript out of range: Spars 1");
+    world.platform.Expect(
+        BoxAnswer::ok,
+        {.text = HasSubstr(
+             "The rib cannot be drawn with this value and stays as it was. What does not fit :\n"
+             "Subscript out of range: Spars 1")});
     EXPECT_FALSE(Chord("80"));
     EXPECT_TRUE(Rib().ProfilCharge);
     EXPECT_EQ(Rib().corde, 200.0F);
@@ -124,7 +108,7 @@ TEST_F(RibKept, ChordThatASparDoesNotFitIsRefusedAndNamesIt) {
 
 TEST_F(RibKept, ChordThatNoDrawingCanHoldIsRefused) {
     // It fits into 32 bits as mm, but not as device units.
-    Box("Overflow");
+    world.platform.Expect(BoxAnswer::ok, {.text = HasSubstr("Overflow")});
     EXPECT_FALSE(Chord(std::string(38, '9').c_str()));
     EXPECT_EQ(Rib().cordeAfich, "200");
     EXPECT_TRUE(Chord("210"));
@@ -132,7 +116,7 @@ TEST_F(RibKept, ChordThatNoDrawingCanHoldIsRefused) {
 
 TEST_F(RibKept, ChordShorterThanTheHeelsMarginsIsRefused) {
     Heel(160);
-    Box("Levelling heel");
+    world.platform.Expect(BoxAnswer::ok, {.text = HasSubstr("Levelling heel")});
     EXPECT_FALSE(Chord("150"));
     EXPECT_EQ(Rib().corde, 200.0F);
     EXPECT_EQ(Rib().talon.TalonLong, 160.0);
@@ -141,7 +125,7 @@ TEST_F(RibKept, ChordShorterThanTheHeelsMarginsIsRefused) {
 TEST_F(RibKept, ChordShorterThanTheTemplatesRampIsRefused) {
     Rib().TypeGabarit = kGabaritMousse;
     Rib().bloc.BFbloc = 150;
-    Box("Foam");
+    world.platform.Expect(BoxAnswer::ok, {.text = HasSubstr("Foam")});
     EXPECT_FALSE(Chord("140"));
     EXPECT_TRUE(Rib().ProfilCharge);
 }
@@ -149,8 +133,8 @@ TEST_F(RibKept, ChordShorterThanTheTemplatesRampIsRefused) {
 TEST_F(RibKept, DefaultsThatTheRibCannotTakeAreForTheNextOne) {
     EXPECT_TRUE(Chord("500"));
     Spar("450");
-    Box("Spars 1");
-    InNextDialog([](QDialog &dialog) { Press(dialog, "cmdok"); });
+    world.platform.Expect(BoxAnswer::ok, {.text = HasSubstr("Spars 1")});
+    InNextDialog([](Seen &dialog) { dialog.Click("cmdok"); });
     world.Action("mnu_affdefaut")->trigger();
     EXPECT_TRUE(Rib().ProfilCharge);
     EXPECT_EQ(Rib().corde, 500.0F);
@@ -159,14 +143,14 @@ TEST_F(RibKept, DefaultsThatTheRibCannotTakeAreForTheNextOne) {
 
 TEST_F(RibKept, UnitThatCannotBeSavedDoesNotClearTheRib) {
     world.platform.Expect(BoxAnswer::yes);
-    Box("# 75 ");
-    InNextDialog([this](QDialog &dialog) {
+    world.platform.Expect(BoxAnswer::ok, {.text = HasSubstr("# 75 ")});
+    InNextDialog([this](Seen &dialog) {
         // Neither a folder nor what lies in it can be replaced by a file.
         world.programme.paths.fichier = world.folder.Path("missing/Loftwing.ini");
-        Press(dialog, "inches");
-        Press(dialog, "cmdok");
-        EXPECT_TRUE(dialog.isVisible());
-        Press(dialog, "cmdannuler");
+        dialog.Click("inches");
+        dialog.Click("cmdok");
+        EXPECT_TRUE(dialog.IsOpen());
+        dialog.Click("cmdannuler");
     });
     world.Action("mnu_affdefaut")->trigger();
     EXPECT_TRUE(Rib().ProfilCharge);
@@ -175,14 +159,14 @@ TEST_F(RibKept, UnitThatCannotBeSavedDoesNotClearTheRib) {
 }
 
 TEST_F(RibKept, UntouchedFirstSparWithANotchNeedsAWidth) {
-    Box("no width");
-    InNextDialog([](QDialog &dialog) {
-        QTest::mouseClick(dialog.findChild<QWidget *>("LblNblongeron(0)"), Qt::LeftButton);
-        Type(dialog, "Text1(0)", "50");
-        Press(dialog, "Opte(1)");
-        Press(dialog, "cmdok");
-        EXPECT_TRUE(dialog.isVisible());
-        Press(dialog, "Cmdannuler");
+    world.platform.Expect(BoxAnswer::ok, {.text = HasSubstr("no width")});
+    InNextDialog([](Seen &dialog) {
+        dialog.Click("LblNblongeron(0)");
+        dialog.Fill("Text1(0)", "50");
+        dialog.Click("Opte(1)");
+        dialog.Click("cmdok");
+        EXPECT_TRUE(dialog.IsOpen());
+        dialog.Click("Cmdannuler");
     });
     world.Action("mnu_profillongeron")->trigger();
     EXPECT_TRUE(Rib().ProfilCharge);

@@ -46,8 +46,7 @@ TEST_F(SimplePlot, FivePointsAreFourSegments) {
 
 TEST_F(SimplePlot, ThePickerSaysWhatItIsFor) {
     std::string title;
-    Run("mnu_Outilcoupl",
-        {[&title](QDialog &dialog) { title = dialog.windowTitle().toStdString(); }});
+    Run("mnu_Outilcoupl", {[&title](Seen &dialog) { title = dialog.Title(); }});
     EXPECT_EQ(title, "Open airfoil file for the simple plot");
 }
 
@@ -79,15 +78,14 @@ TEST_F(SimplePlot, ACancelledPickerLeavesAClearedPictureInTheMode) {
     EXPECT_EQ(Drawing(), nullptr);
     EXPECT_EQ(Caption(), "Loftwing");
     EXPECT_FALSE(Enabled("mnu_fileprint"));
-    world.window->resize(700, 400);
-    QTest::qWait(10);
+    world.Resize(QSize(700, 400));
     EXPECT_EQ(Drawing(), nullptr);
 }
 
 TEST_F(SimplePlot, AsksBeforeChangesAreLostAndNoKeepsTheRib) {
     OpenRib();
     Rib().Modifie = true;
-    ExpectBox(BoxAnswer::no, world.programme.Text({"FrmMainMessage", "5"}));
+    world.platform.Expect(BoxAnswer::no, {.text = world.programme.Text({"FrmMainMessage", "5"})});
     world.Action("mnu_Outilcoupl")->trigger();
     EXPECT_TRUE(Rib().ProfilCharge);
     EXPECT_FALSE(Rib().ModeCouple);
@@ -121,10 +119,10 @@ TEST_F(SimplePlot, ANewChordIsDrawn) {
 
 TEST_F(SimplePlot, AnInsertedTextIsDrawn) {
     Plot();
-    Run("mnu_affInstxt", {[](QDialog &dialog) {
-            Type(dialog, "infotxt(0)", "Root");
-            Type(dialog, "infotxt(1)", "40");
-            Click(dialog, "cmdok");
+    Run("mnu_affInstxt", {[](Seen &dialog) {
+            dialog.Type("infotxt(0)", "Root");
+            dialog.Type("infotxt(1)", "40");
+            dialog.Click("cmdok");
         }});
     EXPECT_THAT(TextsOf(Drawing()->Operations()), testing::ElementsAre("Root"));
 }
@@ -163,14 +161,11 @@ TEST_F(SimplePlot, OpeningAnAirfoilEndsTheView) {
 
 TEST_F(SimplePlot, ACancelledOrRefusedFileLeavesThePlot) {
     Plot();
-    Run("mnu_fileprofilopen", {[this](QDialog &dialog) {
+    Run("mnu_fileprofilopen", {[this](Seen &dialog) {
             // Looked at, and then not taken.
-            auto *path = dialog.findChild<QLineEdit *>("txtchemin");
-            path->setText(QString::fromStdString(WindowWorld::Sample("naca2412.dat")));
-            QTest::keyClick(path, Qt::Key_Return);
-            QTest::qWait(400);
+            LookAt(dialog, WindowWorld::Sample("naca2412.dat"));
             EXPECT_EQ(Rib().NomProfil, "naca2412");
-            dialog.reject();
+            dialog.Key(Qt::Key_Escape);
         }});
     world.window->RetraceVues();
     EXPECT_EQ(Outline().size(), 4U);
@@ -192,7 +187,7 @@ TEST_F(SimplePlot, ClearingEndsTheViewWithoutAQuestion) {
 TEST_F(SimplePlot, AComparisonThatIsCalledOffLeavesThePlot) {
     Plot();
     Rib().Modifie = true;
-    ExpectBox(BoxAnswer::no, world.programme.Text({"OutilCompare", "1"}));
+    world.platform.Expect(BoxAnswer::no, {.text = world.programme.Text({"OutilCompare", "1"})});
     world.Action("mnu_OutilCompare")->trigger();
     world.window->RetraceVues();
     EXPECT_TRUE(Rib().ModeCouple);

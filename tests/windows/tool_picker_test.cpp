@@ -34,7 +34,7 @@ class ToolPicker : public Views {
 };
 
 TEST_F(ToolPicker, GivesTheAirfoilAndLeavesTheRib) {
-    InDialogs({PickSample("naca6409.dat")});
+    InNextDialogs({PickSample("naca6409.dat")});
     const auto chosen = world.window->ChoisitProfil("Title");
     ASSERT_TRUE(chosen);
     EXPECT_EQ(chosen->NomProfil, "naca6409");
@@ -44,9 +44,9 @@ TEST_F(ToolPicker, GivesTheAirfoilAndLeavesTheRib) {
 }
 
 TEST_F(ToolPicker, CancelGivesNothingAndLeavesTheRib) {
-    InDialogs({[](QDialog &dialog) {
-        EXPECT_EQ(dialog.windowTitle(), "Title");
-        dialog.reject();
+    InNextDialogs({[](Seen &dialog) {
+        EXPECT_EQ(dialog.Title(), "Title");
+        dialog.Key(Qt::Key_Escape);
     }});
     EXPECT_FALSE(world.window->ChoisitProfil("Title"));
     ExpectUntouched();
@@ -55,14 +55,11 @@ TEST_F(ToolPicker, CancelGivesNothingAndLeavesTheRib) {
 TEST_F(ToolPicker, FileWhoseReadingFailsLeavesTheRib) {
     const std::string broken =
         world.folder.File("broken.dat", "Broken\n1 0\n0.5 0.1\n\n0.5 0\n1 0\n");
-    InDialogs({[this, broken](QDialog &dialog) {
+    InNextDialogs({[this, broken](Seen &dialog) {
         world.platform.Expect(BoxAnswer::ok);
-        auto *path = dialog.findChild<QLineEdit *>("txtchemin");
-        path->setText(QString::fromStdString(broken));
-        QTest::keyClick(path, Qt::Key_Return);
-        QTest::qWait(400); // the file is looked at
+        LookAt(dialog, broken);
         ASSERT_EQ(world.platform.boxes.size(), 1U);
-        dialog.reject();
+        dialog.Key(Qt::Key_Escape);
     }});
     EXPECT_FALSE(world.window->ChoisitProfil("Title"));
     ExpectUntouched();
@@ -72,7 +69,7 @@ TEST_F(ToolPicker, LeavesASimplePlotToo) {
     Rib().Modifie = false;
     Run("mnu_Outilcoupl", {PickSample("naca0012.dat")});
     const std::vector<double> plotted = Rib().ProfilY.Values();
-    InDialogs({PickSample("naca6409.dat")});
+    InNextDialogs({PickSample("naca6409.dat")});
     EXPECT_TRUE(world.window->ChoisitProfil("Title"));
     EXPECT_EQ(Rib().ProfilY.Values(), plotted);
     EXPECT_EQ(Rib().NomProfil, "naca0012");

@@ -8,12 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
-
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -26,59 +20,33 @@ class Views : public testing::Test {
         ValeursDefautTraits(world.programme.settings); // colours and styles that tell lines apart
     }
 
-    using Act = std::function<void(QDialog &)>;
-    /// Goes through the modal dialogs that come up one after the other.
-    static void InDialogs(std::vector<Act> acts) {
-        if (acts.empty()) {
-            return;
-        }
-        const Act first = acts.front();
-        acts.erase(acts.begin());
-        InNextDialog([first, acts](QDialog &dialog) {
-            InDialogs(acts);
-            first(dialog);
-        });
-    }
-
-    static void Click(QDialog &dialog, const char *name) {
-        auto *button = dialog.findChild<QPushButton *>(name);
-        ASSERT_NE(button, nullptr) << name;
-        QTest::mouseClick(button, Qt::LeftButton);
-    }
-    static std::string Text(QDialog &dialog, const char *name) {
-        auto *field = dialog.findChild<QLineEdit *>(name);
-        return field == nullptr ? "no field" : field->text().toStdString();
-    }
-    static void Type(QDialog &dialog, const char *name, const char *text) {
-        auto *field = dialog.findChild<QLineEdit *>(name);
-        ASSERT_NE(field, nullptr) << name;
-        field->selectAll();
-        QTest::keyClick(field, Qt::Key_Delete);
-        QTest::keyClicks(field, text);
-    }
-
     /// Acts in the value dialog and in the airfoil picker.
-    static Act Chord(const char *text) {
-        return [text](QDialog &dialog) {
-            ASSERT_EQ(dialog.objectName(), "frmInput");
-            Type(dialog, "infotxt", text);
-            Click(dialog, "cmdok");
+    static User Chord(const char *text) {
+        return [text](Seen &dialog) {
+            ASSERT_EQ(dialog.Name(), "frmInput");
+            dialog.Type("infotxt", text);
+            dialog.Click("cmdok");
         };
     }
-    static Act Pick(const std::string &path) {
-        return [path](QDialog &dialog) {
-            ASSERT_EQ(dialog.objectName(), "frmopen");
-            dialog.findChild<QLineEdit *>("txtchemin")->setText(QString::fromStdString(path));
-            Click(dialog, "cmdouvrir");
+    static User Pick(const std::string &path) {
+        return [path](Seen &dialog) {
+            ASSERT_EQ(dialog.Name(), "frmopen");
+            dialog.Fill("txtchemin", path);
+            dialog.Click("cmdouvrir");
         };
     }
-    static Act PickSample(const char *name) { return Pick(WindowWorld::Sample(name)); }
-    static void Cancel(QDialog &dialog) { dialog.reject(); }
+    static User PickSample(const char *name) { return Pick(WindowWorld::Sample(name)); }
+    /// Lets the picker read and show that file, without taking it.
+    static void LookAt(Seen &picker, const std::string &path) {
+        picker.Fill("txtchemin", path);
+        picker.Key("txtchemin", Qt::Key_Return);
+        EXPECT_TRUE(Eventually([&picker] { return !picker.Label("nomfile1").empty(); })) << path;
+    }
+    static void Cancel(Seen &dialog) { dialog.Key(Qt::Key_Escape); }
 
     /// Runs a command whose dialogs are gone through in this way.
-    void Run(const char *action, const std::vector<Act> &acts) {
-        InDialogs(acts);
-        world.Action(action)->trigger();
+    void Run(const char *command, const std::vector<User> &users) const {
+        world.Run(command, users);
     }
     void Compare() {
         Run("mnu_OutilCompare",
@@ -88,17 +56,13 @@ class Views : public testing::Test {
         world.window->OuvreFichier(WindowWorld::Sample("naca2412.dat"));
         Rib().Modifie = false;
     }
-    void ExpectBox(BoxAnswer answer, const std::string &text) {
-        world.platform.boxes_expected.push_back(
-            {answer, [text](const MessageBox &box) { EXPECT_EQ(box.text, text); }});
-    }
     /// Prints the view; the question is answered with Yes.
     std::vector<Operation> Printed(const std::string &question) {
         std::vector<Operation> sheet;
         world.platform.make_printer = [&](const PrintQuestion &) {
             return std::make_unique<Keeping>(sheet);
         };
-        ExpectBox(BoxAnswer::yes, question);
+        world.platform.Expect(BoxAnswer::yes, {.text = question});
         world.Action("mnu_fileprint")->trigger();
         return sheet;
     }
