@@ -11,6 +11,7 @@
 #include <QHBoxLayout>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QScreen>
@@ -137,6 +138,17 @@ void SelectField(QLineEdit &field) {
     field.selectAll();
 }
 
+void PlainText(std::initializer_list<QLabel *> labels) {
+    for (QLabel *label : labels) {
+        label->setTextFormat(Qt::PlainText);
+    }
+}
+
+void SetCaption(QLabel &caption, QWidget &field) {
+    PlainText({&caption});
+    caption.setBuddy(&field);
+}
+
 std::string ButtonWord(const LngIni &language, SharedWord word) {
     return language.LngText(KeyOf(word));
 }
@@ -185,6 +197,12 @@ void NameControl(QObject &control, const char *name) {
 
 void NameControl(QObject &control, const char *name, int index) {
     control.setObjectName(QString::fromLatin1("%1(%2)").arg(QLatin1String(name)).arg(index));
+}
+
+void NameControls(std::initializer_list<std::pair<QObject *, const char *>> names) {
+    for (const auto &[control, name] : names) {
+        NameControl(*control, name);
+    }
 }
 
 int ShowModal(QDialog &dialog) {
