@@ -166,6 +166,12 @@ QHBoxLayout *ButtonRow(std::initializer_list<QPushButton *> buttons) {
     return row;
 }
 
+void GardePlace(QWidget &widget) {
+    QSizePolicy kept = widget.sizePolicy();
+    kept.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(kept);
+}
+
 void SetTip(QWidget &widget, const std::string &tip) {
     const QString text = Q(tip).trimmed();
     widget.setToolTip(Qt::mightBeRichText(text) ? "<qt>" + text.toHtmlEscaped() + "</qt>" : text);

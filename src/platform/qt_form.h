@@ -106,6 +106,9 @@ void SetButtonWord(QAbstractButton &button, const LngIni &language, SharedWord w
 /// The row of buttons below a dialog, at its right end.
 QHBoxLayout *ButtonRow(std::initializer_list<QPushButton *> buttons);
 
+/// What is hidden keeps its place, so that nothing else moves.
+void GardePlace(QWidget &widget);
+
 /// Gives a widget a tool tip, shown as it stands even when it looks like markup.
 void SetTip(QWidget &widget, const std::string &tip);
 
