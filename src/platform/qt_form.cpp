@@ -8,12 +8,10 @@
 #include <QClipboard>
 #include <QDialog>
 #include <QFocusEvent>
-#include <QHBoxLayout>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
 
@@ -155,15 +153,6 @@ std::string ButtonWord(const LngIni &language, SharedWord word) {
 
 void SetButtonWord(QAbstractButton &button, const LngIni &language, SharedWord word) {
     button.setText(Q(ButtonWord(language, word)));
-}
-
-QHBoxLayout *ButtonRow(std::initializer_list<QPushButton *> buttons) {
-    auto *row = new QHBoxLayout;
-    row->addStretch();
-    for (QPushButton *button : buttons) {
-        row->addWidget(button);
-    }
-    return row;
 }
 
 void GardePlace(QWidget &widget) {

@@ -19,9 +19,7 @@
 
 class QAbstractButton;
 class QDialog;
-class QHBoxLayout;
 class QLabel;
-class QPushButton;
 
 namespace loftwing {
 
@@ -102,9 +100,6 @@ enum class SharedWord { ok, cancel, help, apply, close };
 
 std::string ButtonWord(const LngIni &language, SharedWord word);
 void SetButtonWord(QAbstractButton &button, const LngIni &language, SharedWord word);
-
-/// The row of buttons below a dialog, at its right end.
-QHBoxLayout *ButtonRow(std::initializer_list<QPushButton *> buttons);
 
 /// What is hidden keeps its place, so that nothing else moves.
 void GardePlace(QWidget &widget);
