@@ -20,7 +20,6 @@ frmInstxt::frmInstxt(Programme &programme, MainView &view, QWidget *parent)
 }
 
 void frmInstxt::Form_Load() {
-    programme_.rib.Annule = false;
     PoseTextes();
     const TexteTape shown = TexteAffiche(programme_.rib, programme_.messages);
     infotxt[kTexte].setText(Q(shown.texte));
@@ -83,7 +82,6 @@ void frmInstxt::cmdok_Click() {
 }
 
 void frmInstxt::cmdannuler_Click() {
-    programme_.rib.Annule = true;
     // A size counts as soon as it is chosen; only Apply and OK make it stay.
     programme_.rib.texte.TailleFont = taille_avant_;
     Garde(" InsText/Cancel", [this] { Redessine(); });

@@ -16,7 +16,6 @@ frmbacarre::frmbacarre(Programme &programme, MainView &view, QWidget *parent)
 }
 
 void frmbacarre::Form_Load() {
-    programme_.rib.Annule = false;
     setWindowTitle(Q(TitreCarre(programme_.SaisieEnCours())));
     Label1[kCarreCote].setText(Mot({"FrmBacarre", "2"}));
     Label1[kCarreX].setText(Mot({"FrmBacarre", "3"}));
@@ -48,11 +47,6 @@ void frmbacarre::cmdok_Click() {
     if (Applique()) {
         accept();
     }
-}
-
-void frmbacarre::cmdannuler_Click() {
-    programme_.rib.Annule = true;
-    QDialog::reject();
 }
 
 } // namespace loftwing

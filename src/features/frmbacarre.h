@@ -33,7 +33,6 @@ class frmbacarre : public Dialogue {
     void Form_Load();
     void CmdApply_Click() override;
     void cmdok_Click() override;
-    void cmdannuler_Click() override;
 
     bool Applique();
 };

@@ -15,8 +15,8 @@
 namespace loftwing {
 
 /// Paper, margins, overlap and place of the drawing; shows while the user types how many sheets the
-/// rib takes. OK stores the page and writes it to the settings file, Cancel leaves it; rib.Annule
-/// tells afterwards which it was.
+/// rib takes. OK stores the page and writes it to the settings file, Cancel leaves it. exec()
+/// tells afterwards which it was, and so does rib.Annule.
 class frmPrint : public Dialogue {
     Q_OBJECT
 

@@ -24,7 +24,6 @@ frmdefaut::frmdefaut(Programme &programme, MainView &view, QWidget *parent)
 }
 
 void frmdefaut::Form_Load() {
-    programme_.rib.Annule = false;
     PoseTextes();
     MontreUnite();
     MontreFichier();
@@ -159,7 +158,6 @@ void frmdefaut::cmdok_Click() {
 
 /// Leaves the page that a click on a unit has set: it holds until settings are read again.
 void frmdefaut::cmdannuler_Click() {
-    programme_.rib.Annule = true;
     programme_.settings.Unite = unite_avant_;
     view_.AfficheUnite();
     QDialog::reject();

@@ -225,11 +225,7 @@ void frmCoord::cmdouvrir_Click() {
 
 /// Whether the window may close.
 bool frmCoord::Form_Unload() {
-    if (!APerdre() || programme_.messages.Confirm(programme_.Text({"Frmcoord", "17"}), Titre())) {
-        return true;
-    }
-    programme_.rib.Annule = true;
-    return false;
+    return !APerdre() || programme_.messages.Confirm(programme_.Text({"Frmcoord", "17"}), Titre());
 }
 
 void frmCoord::cmdannuler_Click() {

@@ -17,7 +17,7 @@ namespace loftwing {
 
 /// Points typed by hand become lines of text, and these an airfoil file. Stays open beside the main
 /// window; nothing of it has to do with the rib. Closing it asks when lines aren't saved;
-/// rib.Annule tells that the user stayed.
+/// close() tells whether the user let it.
 class frmCoord : public Dialogue {
     Q_OBJECT
 

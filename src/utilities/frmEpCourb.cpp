@@ -25,7 +25,6 @@ frmEpCourb::frmEpCourb(Programme &programme, MainView &view, QWidget *parent)
 
 void frmEpCourb::Form_Load() {
     RibModel &rib = programme_.rib;
-    rib.Annule = false;
     setWindowTitle(Q(TitreEpCourb(rib, programme_.messages)));
     Garde(" EpCourb/Load", [this, &rib] {
         const TextesEpCourb shown = OuvreEpCourb(rib, programme_.settings.Unite);

@@ -351,11 +351,9 @@ TEST_F(FrmCoordTest, EveryWayOutAsksForUnsavedLines) {
         [this] { Close(); }, [this] { Click("cmdfermer"); },
         [this] { QTest::keyClick(window.get(), Qt::Key_Escape); }};
     for (const auto &way : ways) {
-        programme.rib.Annule = false;
         ExpectQuestion(question, BoxAnswer::no);
         way();
         EXPECT_TRUE(window->isVisible());
-        EXPECT_TRUE(programme.rib.Annule);
         ExpectQuestion(question, BoxAnswer::yes);
         way();
         EXPECT_FALSE(window->isVisible());
