@@ -3,18 +3,13 @@
 #include "features/longeron.h"
 #include "features/trou.h"
 #include "output/dxf_trace.h"
+#include "output/spar_face.h"
 
 #include <cmath>
 
 namespace loftwing {
 
 namespace {
-
-/// The heights of one surface at a spar.
-struct Face {
-    double f, r, c; ///< at the front edge, the rear edge and the centre
-    double inward;  ///< -1 on the upper surface, 1 on the lower one
-};
 
 /// A spar that cuts into one surface, in the file's unit.
 class DxfEncoche {
@@ -136,8 +131,8 @@ void DxfLongerons(const DxfTrace &trace) {
         const double x =
             trace.Longueur(spar.LargLong) / 2.0 + trace.X(static_cast<double>(place.kf));
         trace.Polyligne(kDxfAxe, kCalqueAxe, {{x, trace.Y(place.Uc)}, {x, trace.Y(place.Lc)}});
-        Encoche(trace, spar, place, {place.Uf, place.Ur, place.Uc, -1}, spar.OptLongExt);
-        Encoche(trace, spar, place, {place.Lf, place.Lr, place.Lc, 1}, spar.OptLongInt);
+        Encoche(trace, spar, place, FaceExtrados(place), spar.OptLongExt);
+        Encoche(trace, spar, place, FaceIntrados(place), spar.OptLongInt);
     }
 }
 
