@@ -37,7 +37,6 @@ struct RibModel : IdentiteProfil,
     // What dialogs tell the command that opened them.
     bool Annule = false; ///< the last picker, entry, page, heel or template dialog was cancelled
     bool SansApercu = false;
-    bool LectureEnCours = false; ///< how the last reading ended, beside its result
     bool MemProfil = false;
 };
 
