@@ -75,7 +75,7 @@ void TraceBloc(const Trace &trace) {
     const Point b = p + Point{-plot.BlocHaut * s * echelle, -plot.BlocHaut * c * echelle_y};
     const Point d{plot.BlocLong * c * c * echelle, -plot.BlocLong * c * s * echelle_y};
     // The tail's two lines end at the unsigned, the rib's own line starts at the signed height:
-    // upside down they don't meet, as ever.
+    // upside down they don't meet. A fixed oddity: sheets printed upside down have it.
     const Point tail{plot.BlocLong * echelle + p.x, corde * plot.BlocYBF + p.y};
     const Point tail_signed{tail.x, corde_y * plot.BlocYBF + p.y};
     const Point edge{(plot.BlocLong - fuite) * echelle + p.x,
