@@ -28,9 +28,9 @@ bool ControleLongeron(const Longeron &slot, const CasLongeron &cas, const Refus 
         passes = false;
         MessageValeur(mm);
     };
-    const double centre = static_cast<double>(slot.PosLong);
-    const double half = static_cast<double>(slot.LargLong) / 2.0;
-    if (centre + half > static_cast<double>(cas.corde)) {
+    const double centre = Wide(slot.PosLong);
+    const double half = Wide(slot.LargLong) / 2.0;
+    if (centre + half > Wide(cas.corde)) {
         refuse(slot.PosLong);
     }
     if (centre - half < 0.0) {

@@ -12,7 +12,7 @@ bool PlaceAdmise(const std::string &afich, std::uint8_t ref, float mm, float cor
     if (ref != 0 && afich.ends_with('%')) {
         // What the percentage takes of the chord is what counts: with 100 % the entry stands at the
         // leading edge and passes. No key types less than 0 %, so nothing else is asked.
-        return static_cast<double>(corde) - static_cast<double>(mm) <= static_cast<double>(corde);
+        return Wide(corde) - Wide(mm) <= Wide(corde);
     }
     return mm >= 0.0F && mm <= corde;
 }

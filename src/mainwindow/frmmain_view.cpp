@@ -55,8 +55,7 @@ bool frmmain::Dessine(const std::function<Affichage(const Trace &)> &draw) {
 /// One unit of a scroll bar: half the chord at the zoom in force, its millimetres taken for device
 /// units. The views move their origin by just as much.
 double frmmain::UniteDefilement() const {
-    return static_cast<double>(programme_.rib.corde) * static_cast<double>(programme_.rib.Zoom) /
-           2.0;
+    return Wide(programme_.rib.corde) * Wide(programme_.rib.Zoom) / 2.0;
 }
 
 void frmmain::RegleDefilement() {

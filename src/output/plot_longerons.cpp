@@ -12,11 +12,10 @@ namespace {
 class Encoche {
   public:
     Encoche(const Trace &trace, const Longeron &spar, const PlaceTracee &place, Face face)
-        : trace_(trace), face_(face), echelle_(static_cast<double>(trace.plot.Echelle)),
-          echelle_y_(-face.inward * static_cast<double>(trace.plot.EchelleY)),
-          w_(static_cast<double>(spar.LargLong)), h_(static_cast<double>(spar.HautLong)),
-          d_(static_cast<double>(spar.DistLong)), xf_(trace.X(static_cast<double>(place.kf))),
-          xr_(trace.X(static_cast<double>(place.kr))), colour_(trace.Couleur(Element::longeron)),
+        : trace_(trace), face_(face), echelle_(Wide(trace.plot.Echelle)),
+          echelle_y_(-face.inward * Wide(trace.plot.EchelleY)), w_(Wide(spar.LargLong)),
+          h_(Wide(spar.HautLong)), d_(Wide(spar.DistLong)), xf_(trace.X(Wide(place.kf))),
+          xr_(trace.X(Wide(place.kr))), colour_(trace.Couleur(Element::longeron)),
           axis_(trace.Couleur(Element::axe)) {}
 
     void Rond() const;
@@ -34,7 +33,7 @@ class Encoche {
 
     /// The surface that depths count from: the contour or the inner face of the sheeting.
     double Y(double height) const {
-        return trace_.Y(height + face_.inward * static_cast<double>(trace_.plot.DecalCoffr));
+        return trace_.Y(height + face_.inward * Wide(trace_.plot.DecalCoffr));
     }
 };
 
@@ -60,8 +59,8 @@ void Encoche::Droit() const {
 }
 
 void Encoche::SuitSurface() const {
-    const double corde = static_cast<double>(trace_.plot.CordeEchelle);
-    const double corde_y = static_cast<double>(trace_.plot.CordeEchelleY);
+    const double corde = Wide(trace_.plot.CordeEchelle);
+    const double corde_y = Wide(trace_.plot.CordeEchelleY);
     trace_.device.Line(xf_, Y(face_.f), xr_, Y(face_.r), colour_);
     const double t = Quotient(-face_.inward * (face_.r - face_.f), w_) * h_;
     trace_.device.LineStep(t * corde, h_ * echelle_y_, colour_);
@@ -91,17 +90,15 @@ void TraceEncoche(const Trace &trace, const Longeron &spar, const PlaceTracee &p
 /// Where a spar stands. Failure 9 where one of its edges is outside the rib.
 PlaceTracee PlaceDe(const Trace &trace, const Longeron &spar) {
     PlaceTracee place = trace.PlaceAutour(spar.PosLong, spar.LargLong);
-    place.Uf = trace.U(static_cast<double>(place.kf));
-    place.Ur = trace.U(static_cast<double>(place.kr));
-    place.Lf = trace.L(static_cast<double>(place.kf));
-    place.Lr = trace.L(static_cast<double>(place.kr));
+    place.Uf = trace.U(Wide(place.kf));
+    place.Ur = trace.U(Wide(place.kr));
+    place.Lf = trace.L(Wide(place.kf));
+    place.Lr = trace.L(Wide(place.kr));
     return place;
 }
 
 void TraceAxe(const Trace &trace, const Longeron &spar, const PlaceTracee &place) {
-    const double x =
-        trace.X(static_cast<double>(place.kf)) +
-        static_cast<double>(spar.LargLong) * static_cast<double>(trace.plot.Echelle) / 2.0;
+    const double x = trace.X(Wide(place.kf)) + Wide(spar.LargLong) * Wide(trace.plot.Echelle) / 2.0;
     PrendStyleSeul(trace.device, trace.settings, Element::axe);
     trace.device.Line(x, trace.Y(place.Uc), x, trace.Y(place.Lc), trace.Couleur(Element::axe));
 }
