@@ -283,7 +283,7 @@ std::string NumberText(float value, ZeroBeforePoint zero) {
 }
 
 std::string ShortestText(float value) {
-    Finite(static_cast<double>(value));
+    Finite(Wide(value));
     if (value == 0.0F) {
         return "0"; // not "-0"
     }

@@ -13,7 +13,7 @@ namespace loftwing {
 namespace {
 
 /// Words of a refusal: for the picker's label and for the box.
-struct Refus {
+struct RefusLecture {
     std::string etiquette;
     std::string boite;
     BoxIcon icone = BoxIcon::information;
@@ -58,12 +58,12 @@ double Ordonnee(std::string_view line, std::size_t blank) {
     return LeadingNumber(text.substr(0, text.find(' ', digit)));
 }
 
-class Lecteur {
+class LecteurProfil {
   public:
-    Lecteur(RibModel &rib, const Messages &messages) : rib_(rib), messages_(messages) {}
+    LecteurProfil(RibModel &rib, const Messages &messages) : rib_(rib), messages_(messages) {}
 
     /// Nothing when the airfoil was read.
-    std::optional<Refus> Lit();
+    std::optional<RefusLecture> Lit();
 
   private:
     RibModel &rib_;
@@ -73,40 +73,40 @@ class Lecteur {
 
     std::string_view Reste() const { return std::string_view(tampon_).substr(debut_); }
     void LitEntete();
-    std::optional<Refus> LitPoints();
-    std::optional<Refus> LitPoint(std::string_view line, bool &last);
+    std::optional<RefusLecture> LitPoints();
+    std::optional<RefusLecture> LitPoint(std::string_view line, bool &last);
 
-    Refus SansEntete() const;
-    Refus PremierX() const;
-    Refus PointsEgaux(double x, double before) const;
-    Refus DernierX() const;
+    RefusLecture SansEntete() const;
+    RefusLecture PremierX() const;
+    RefusLecture PointsEgaux(double x, double before) const;
+    RefusLecture DernierX() const;
 };
 
-Refus Lecteur::SansEntete() const {
+RefusLecture LecteurProfil::SansEntete() const {
     const std::string text = messages_.Text({"frmopen", "11"}) + "\n" + Cloture(messages_);
     return {text, text};
 }
 
-Refus Lecteur::PremierX() const {
+RefusLecture LecteurProfil::PremierX() const {
     return {messages_.Text({"frmopen", "12"}) + "\n" + Cloture(messages_),
             messages_.Text({"frmopen", "13"}) + "\n" + messages_.Text({"frmopen", "14"}) + "\n" +
                 Cloture(messages_)};
 }
 
-Refus Lecteur::PointsEgaux(double x, double before) const {
+RefusLecture LecteurProfil::PointsEgaux(double x, double before) const {
     const std::string text = messages_.Text({"frmopen", "16"}) + "= " + NumberText(x) +
                              messages_.Text({"frmopen", "17"}) + "= " + NumberText(before) + "\n" +
                              Cloture(messages_);
     return {text, text, BoxIcon::none};
 }
 
-Refus Lecteur::DernierX() const {
+RefusLecture LecteurProfil::DernierX() const {
     const std::string text = messages_.Text({"frmopen", "18"});
     return {text + "\n" + Cloture(messages_),
             messages_.Text({"frmopen", "19"}) + "\n" + text + "\n" + Cloture(messages_)};
 }
 
-void Lecteur::LitEntete() {
+void LecteurProfil::LitEntete() {
     const std::size_t end = std::min(tampon_.find('\n'), tampon_.size());
     const std::string_view line = std::string_view(tampon_).substr(0, end);
     rib_.EnteteProfil = Trim(line);
@@ -115,7 +115,7 @@ void Lecteur::LitEntete() {
     }
 }
 
-std::optional<Refus> Lecteur::LitPoint(std::string_view line, bool &last) {
+std::optional<RefusLecture> LecteurProfil::LitPoint(std::string_view line, bool &last) {
     const long k = rib_.ProfilX.Count();
     const std::size_t blank = line.find(' ');
     rib_.ProfilX(k) =
@@ -135,7 +135,7 @@ std::optional<Refus> Lecteur::LitPoint(std::string_view line, bool &last) {
     return std::nullopt;
 }
 
-std::optional<Refus> Lecteur::LitPoints() {
+std::optional<RefusLecture> LecteurProfil::LitPoints() {
     std::int16_t k = 1;
     rib_.ProfilX.Append(0.0);
     rib_.ProfilY.Append(0.0);
@@ -160,7 +160,7 @@ std::optional<Refus> Lecteur::LitPoints() {
     return std::nullopt;
 }
 
-std::optional<Refus> Lecteur::Lit() {
+std::optional<RefusLecture> LecteurProfil::Lit() {
     rib_.NbPoints = 0;
     rib_.ProfilX.Clear();
     rib_.ProfilY.Clear();
@@ -185,20 +185,17 @@ std::string RefusTropCourt(const Messages &messages) {
 }
 
 ResultatLecture FichierLecture(RibModel &rib, const Messages &messages, const std::string &titre) {
-    rib.LectureEnCours = true;
     try {
-        const std::optional<Refus> refus = Lecteur(rib, messages).Lit();
+        const std::optional<RefusLecture> refus = LecteurProfil(rib, messages).Lit();
         if (!refus) {
             return {Lecture::lu, {}};
         }
         messages.Tell(refus->boite, titre, refus->icone);
         rib.NbPoints = 0;
-        rib.LectureEnCours = false;
         rib.SansApercu = false;
         return {Lecture::refuse, refus->etiquette};
     } catch (const Failure &failure) {
         rib.NbPoints = 0;
-        rib.LectureEnCours = false;
         messages.Report(failure, " Open/FichierLecture");
         return {Lecture::echec, {}};
     }

@@ -22,8 +22,8 @@ struct ResultatLecture {
 };
 
 /// Reads the file CheminProfil (Selig order: x from 1 over the upper surface and back to 1) into
-/// ProfilX, ProfilY, NbPoints and EnteteProfil. LectureEnCours stays true on success; a refusal
-/// shows a box with title `titre` and clears NbPoints, LectureEnCours and SansApercu.
+/// ProfilX, ProfilY, NbPoints and EnteteProfil. A refusal shows a box with title `titre` and clears
+/// NbPoints and SansApercu.
 ResultatLecture FichierLecture(RibModel &rib, const Messages &messages, const std::string &titre);
 
 /// Fewer points than this make no rib; whoever lets the user choose a file refuses them.

@@ -27,8 +27,8 @@ void EachStep(double from, double to, Sample sample) {
     const float end = ToSingle(to);
     float v = ToSingle(from);
     while (step >= 0.0F ? v <= end : v >= end) {
-        const bool made = sample(static_cast<double>(v));
-        const float next = ToSingle(static_cast<double>(v) + static_cast<double>(step));
+        const bool made = sample(Wide(v));
+        const float next = ToSingle(Wide(v) + Wide(step));
         if (next == v && !made) {
             throw MakeFailure(kOverflow);
         }

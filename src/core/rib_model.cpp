@@ -66,8 +66,7 @@ void RemetVue(RibModel &rib) {
 }
 
 float LongueurBloc(const Bloc &bloc, float corde) {
-    return ToSingle(static_cast<double>(corde) + static_cast<double>(bloc.BAbloc) +
-                    static_cast<double>(bloc.BFbloc));
+    return ToSingle(Wide(corde) + Wide(bloc.BAbloc) + Wide(bloc.BFbloc));
 }
 
 float LongueurBloc(const RibModel &rib, float corde) {

@@ -35,9 +35,8 @@ struct RibModel : IdentiteProfil,
     JeuNervures jeu; ///< of a tool; it isn't the rib's
 
     // What dialogs tell the command that opened them.
-    bool Annule = false;
+    bool Annule = false; ///< the last picker, entry, page, heel or template dialog was cancelled
     bool SansApercu = false;
-    bool LectureEnCours = false; ///< how the last reading ended, beside its result
     bool MemProfil = false;
 };
 

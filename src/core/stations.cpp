@@ -16,11 +16,11 @@ double EnRadians(double degrees) {
 }
 
 float StationDepuisBF(double distance, float corde) {
-    return ToSingle(std::abs(Quotient(kLastStation * distance, static_cast<double>(corde))));
+    return ToSingle(std::abs(Quotient(kLastStation * distance, Wide(corde))));
 }
 
 float StationDepuisBA(double distance, float corde) {
-    return ToSingle(std::abs(Quotient(kLastStation * distance, static_cast<double>(corde)) -
+    return ToSingle(std::abs(Quotient(kLastStation * distance, Wide(corde)) -
                              static_cast<double>(kLastStation)));
 }
 
@@ -30,13 +30,13 @@ double Hauteur(const TableStation &table, double station) {
 
 double ValeurPourcent(const std::string &text, float corde, const Saisie &saisie) {
     if (text.ends_with('%')) {
-        return LeadingNumber(text.substr(0, text.size() - 1)) * static_cast<double>(corde) / 100.0;
+        return LeadingNumber(text.substr(0, text.size() - 1)) * Wide(corde) / 100.0;
     }
     return NombreMm(text, saisie);
 }
 
 double ValeurPourcentBF(const std::string &text, float corde, const Saisie &saisie) {
-    return static_cast<double>(corde) - ValeurPourcent(text, corde, saisie);
+    return Wide(corde) - ValeurPourcent(text, corde, saisie);
 }
 
 float PosDepuisBA(const std::string &text, float corde, const Saisie &saisie) {

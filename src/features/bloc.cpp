@@ -43,7 +43,7 @@ std::string TextePoint(const RibModel &rib, double fraction, const std::string &
         return {};
     }
     // In the 32 bits of the chord, or a fraction of an inch would not be found exact.
-    const float mm = ToSingle(static_cast<double>(rib.corde) * fraction);
+    const float mm = ToSingle(Wide(rib.corde) * fraction);
     const std::string text = TexteHauteur(std::abs(mm), Unite);
     return (mm < 0.0F && text != "0" ? "-" : "") + text + Unite;
 }

@@ -2,14 +2,11 @@
 #pragma once
 
 #include "features/inserted_text.h"
-#include "platform/qt_form.h"
 #include "programme/main_view.h"
-#include "programme/programme.h"
+#include "programme/qt_dialogue.h"
 
 #include <QComboBox>
-#include <QDialog>
 #include <QLabel>
-#include <QPushButton>
 
 #include <array>
 
@@ -17,17 +14,18 @@ namespace loftwing {
 
 /// Apply stores text and place and redraws; OK does so too, keeps the size in the settings file and
 /// closes. A size counts as soon as it is chosen. Cancel takes back nothing that was applied.
-class frmInstxt : public QDialog {
+class frmInstxt : public Dialogue {
     Q_OBJECT
 
   public:
     frmInstxt(Programme &programme, MainView &view, QWidget *parent);
 
-    /// Escape and the window's own close button do what Cancel does.
-    void reject() override;
-
   private:
-    Programme &programme_;
+    // The fields by their index.
+    static constexpr int kTexte = 0;
+    static constexpr int kPositionX = 1;
+    static constexpr int kPositionY = 2;
+
     MainView &view_;
     float taille_avant_ = 0; ///< the size that Cancel puts back, points
 
@@ -35,20 +33,16 @@ class frmInstxt : public QDialog {
     std::array<NumericField, 3> infotxt;
     QLabel Label2;
     QComboBox ComboTaille;
-    QPushButton CmdApply;
-    QPushButton cmdok;
-    QPushButton cmdannuler;
-    QPushButton cmdaide;
 
+    // frmInstxt_build.cpp
     void NameAll();
     void LayOut();
-    void ConnectAll();
-    void PoseTextes();
 
+    void PoseTextes();
     void Form_Load();
-    void CmdApply_Click();
-    void cmdok_Click();
-    void cmdannuler_Click();
+    void CmdApply_Click() override;
+    void cmdok_Click() override;
+    void cmdannuler_Click() override;
     void ComboTaille_Click();
 
     void Applique();

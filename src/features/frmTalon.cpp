@@ -2,8 +2,6 @@
 
 #include "base/number_text.h"
 
-#include <QScopedValueRollback>
-
 namespace loftwing {
 
 namespace {
@@ -13,11 +11,13 @@ constexpr int kAide = 40;
 } // namespace
 
 frmTalon::frmTalon(Programme &programme, MainView &view, QWidget *parent)
-    : QDialog(parent), programme_(programme), view_(view) {
+    : Dialogue(programme, "frmTalon", kAide, parent), view_(view) {
     NameAll();
     LayOut();
     Form_Load();
-    ConnectAll();
+    // Not before: what Form_Load shows is no entry of the user's.
+    ConnectEach(txt, &QLineEdit::textChanged, this, &frmTalon::txt_Change);
+    ConnectEach(OptTalon, &QRadioButton::clicked, this, &frmTalon::OptTalon_Click);
 }
 
 void frmTalon::Form_Load() {
@@ -26,12 +26,12 @@ void frmTalon::Form_Load() {
     setWindowTitle(Q(TitreTalon(programme_.rib, saisie)));
     PoseTextes();
     PoseBulles();
+    AdmetLongueurs(txt);
+    AdmetLongueurSignee(txt[kTalonVrillage]);
     // A stored text that is no length must not keep the window from putting it right.
     Seul(" Talon/Load", [&] { OuvreTalon(programme_.rib, saisie); });
     const TextesTalon shown = TextesDuTalon(programme_.rib);
-    for (int i = 0; i < kChampsTalon; ++i) {
-        At(txt, i).setText(Q(At(shown, i)));
-    }
+    ShowTexts(txt, shown);
     const auto opening = [&saisie](const std::string &afich) {
         return Q(Trim(afich)) + Q(saisie.Unite);
     };
@@ -41,7 +41,6 @@ void frmTalon::Form_Load() {
     OptTalon_Click(programme_.rib.talon.OptTalon);
     SelectField(txt[programme_.rib.talon.OptTalon == 0 ? kTalonIntra : kTalonExtra]);
     Retient();
-    FormeChargee = true;
 }
 
 void frmTalon::Retient() {
@@ -50,26 +49,16 @@ void frmTalon::Retient() {
 }
 
 void frmTalon::PoseTextes() {
-    const auto word = [this](LngKey key) { return Q(programme_.Text(key)); };
-    Label1.setText(word({"FrmTalon", "2"}) + " : -/+");
-    OptTalon[0].setText(word({"FrmTalon", "7"}));
-    OptTalon[1].setText(word({"FrmTalon", "6"}));
-    LabelHaut.setText(word({"FrmTalon", "8"}));
-    LabelBA.setText(word({"FrmTalon", "9"}));
-    LabelBF.setText(word({"FrmTalon", "10"}));
-    LabelLong.setText(word({"FrmTalon", "11"}));
-    LabelAvant.setText(word({"FrmTalon", "12"}));
-    LabelOpt.setText(word({"FrmTalon", "13"}));
-    Picture1.SetEdgeWords(word({"MainTolbar", "15"}), word({"MainTolbar", "21"}));
-    SetButtonWord(CmdApply, programme_.language, SharedWord::apply);
-    SetButtonWord(cmdok, programme_.language, SharedWord::ok);
-    SetButtonWord(cmdannuler, programme_.language, SharedWord::cancel);
-    SetButtonWord(cmdaide, programme_.language, SharedWord::help);
-    const std::string &Unite = programme_.settings.Unite;
-    for (NumericField &field : txt) {
-        field.SetKeys(TouchesSelonUnite(Unite, kTouchesPositif, kTouchesFraction));
-    }
-    txt[kTalonVrillage].SetKeys(TouchesSelonUnite(Unite, kTouchesSigne, kTouchesFractionSigne));
+    Label1.setText(Mot({"FrmTalon", "2"}) + " : -/+");
+    OptTalon[0].setText(Mot({"FrmTalon", "7"}));
+    OptTalon[1].setText(Mot({"FrmTalon", "6"}));
+    LabelHaut.setText(Mot({"FrmTalon", "8"}));
+    LabelBA.setText(Mot({"FrmTalon", "9"}));
+    LabelBF.setText(Mot({"FrmTalon", "10"}));
+    LabelLong.setText(Mot({"FrmTalon", "11"}));
+    LabelAvant.setText(Mot({"FrmTalon", "12"}));
+    LabelOpt.setText(Mot({"FrmTalon", "13"}));
+    Picture1.SetEdgeWords(Mot({"MainTolbar", "15"}), Mot({"MainTolbar", "21"}));
 }
 
 void frmTalon::PoseBulles() {
@@ -80,25 +69,6 @@ void frmTalon::PoseBulles() {
     SetTip(txt[kTalonExtra], programme_.Text({"FrmTalon", "8T"}));
     SetTip(txt[kTalonMargeBA], programme_.Text({"FrmTalon", "9T"}));
     SetTip(txt[kTalonMargeBF], programme_.Text({"FrmTalon", "10T"}));
-}
-
-/// Runs `action` unless another one is at work: a text that changes while a box is open, or by the
-/// window's own hand, starts nothing. A failure is told once; the window goes on.
-template <class Action>
-void frmTalon::Seul(const char *label, Action action) {
-    if (EnCours) {
-        return;
-    }
-    const QScopedValueRollback<bool> busy(EnCours, true);
-    programme_.messages.Garde(label, action);
-}
-
-TextesTalon frmTalon::TextesTapes() const {
-    TextesTalon typed;
-    for (int i = 0; i < kChampsTalon; ++i) {
-        At(typed, i) = S(At(txt, i).text());
-    }
-    return typed;
 }
 
 void frmTalon::MontreMarges() {
@@ -118,11 +88,9 @@ void frmTalon::OptTalon_Click(int index) {
 }
 
 void frmTalon::txt_Change(int index) {
-    if (!FormeChargee) {
-        return;
-    }
     Seul(" Talon/Txt", [this, index] {
-        if (SuitTalon(programme_.rib, index, TextesTapes(), programme_.SaisieEnCours(), Titre())) {
+        if (SuitTalon(programme_.rib, index, FieldTexts(txt), programme_.SaisieEnCours(),
+                      Titre())) {
             txt[kTalonVrillage].setText(kTexteVrillageMaxi);
             txt[kTalonVrillage].selectAll(); // ready to be typed over
         }
@@ -132,7 +100,7 @@ void frmTalon::txt_Change(int index) {
 
 /// Puts the heel on the rib; false when it was refused.
 bool frmTalon::Applique() {
-    Echec = !ValideTalon(programme_.rib, TextesTapes(), programme_.SaisieEnCours(), Titre());
+    Echec = !ValideTalon(programme_.rib, FieldTexts(txt), programme_.SaisieEnCours(), Titre());
     if (Echec) {
         const bool leading = programme_.rib.talon.TalonBA >= programme_.rib.talon.TalonBF;
         SelectField(txt[leading ? kTalonMargeBA : kTalonMargeBF]);
@@ -174,23 +142,6 @@ void frmTalon::Abandonne() {
     rib.Annule = true;
     view_.affiche();
     QDialog::reject();
-}
-
-void frmTalon::reject() {
-    cmdannuler_Click();
-}
-
-void frmTalon::ConnectAll() {
-    for (int i = 0; i < kChampsTalon; ++i) {
-        connect(&At(txt, i), &QLineEdit::textChanged, this, [this, i] { txt_Change(i); });
-    }
-    for (int i = 0; i < 2; ++i) {
-        connect(&At(OptTalon, i), &QRadioButton::clicked, this, [this, i] { OptTalon_Click(i); });
-    }
-    connect(&CmdApply, &QPushButton::clicked, this, &frmTalon::CmdApply_Click);
-    connect(&cmdok, &QPushButton::clicked, this, &frmTalon::cmdok_Click);
-    connect(&cmdannuler, &QPushButton::clicked, this, &frmTalon::cmdannuler_Click);
-    ConnectHelp(*this, cmdaide, programme_.platform, kAide);
 }
 
 } // namespace loftwing

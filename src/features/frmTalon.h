@@ -3,14 +3,11 @@
 
 #include "features/qt_talon_sketch.h"
 #include "features/talon.h"
-#include "platform/qt_form.h"
 #include "programme/main_view.h"
-#include "programme/programme.h"
+#include "programme/qt_dialogue.h"
 
-#include <QDialog>
 #include <QGridLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QRadioButton>
 
 #include <array>
@@ -20,22 +17,16 @@ namespace loftwing {
 /// Height, margins and washout of the heel. Margins, washout and side go into the rib while the
 /// user types; Apply and OK put the heel on the rib. rib.Annule tells afterwards whether the user
 /// cancelled. After a refused Apply there is no way out but to correct it.
-class frmTalon : public QDialog {
+class frmTalon : public Dialogue {
     Q_OBJECT
 
   public:
     frmTalon(Programme &programme, MainView &view, QWidget *parent);
 
-    /// Escape and the window's own close button do what Cancel does.
-    void reject() override;
-
   private:
-    Programme &programme_;
     MainView &view_;
-    bool FormeChargee = false;
-    bool EnCours = false; ///< a handler is at work, perhaps waiting in a box
-    bool Echec = false;   ///< the last Apply was refused
-    Talon talon_avant_;   ///< what Cancel puts back: the heel as loaded or last applied
+    bool Echec = false; ///< the last Apply was refused
+    Talon talon_avant_; ///< what Cancel puts back: the heel as loaded or last applied
     float vrillage_avant_ = 0;
 
     QLabel LabelOpt;
@@ -51,33 +42,25 @@ class frmTalon : public QDialog {
     QLabel Label1;
     std::array<NumericField, kChampsTalon> txt;
     TalonSketch Picture1;
-    QPushButton CmdApply;
-    QPushButton cmdok;
-    QPushButton cmdannuler;
-    QPushButton cmdaide;
 
+    // frmTalon_build.cpp
     void NameAll();
     void LayOut();
     void LayOutHeight(QGridLayout &grid);
-    void ConnectAll();
+
     void PoseTextes();
     void PoseBulles();
-
     void Form_Load();
     void Retient();
     void OptTalon_Click(int index);
     void txt_Change(int index);
-    void CmdApply_Click();
-    void cmdok_Click();
-    void cmdannuler_Click();
+    void CmdApply_Click() override;
+    void cmdok_Click() override;
+    void cmdannuler_Click() override;
 
-    template <class Action>
-    void Seul(const char *label, Action action);
     bool Applique();
     void Abandonne();
     void MontreMarges();
-    TextesTalon TextesTapes() const;
-    std::string Titre() const { return S(windowTitle()); }
 };
 
 } // namespace loftwing

@@ -8,17 +8,17 @@
 namespace loftwing {
 
 void frmTalon::NameAll() {
-    NameControl(*this, "frmTalon");
-    const std::pair<QObject *, const char *> names[] = {
-        {&LabelOpt, "LabelOpt"}, {&LabelHaut, "LabelHaut"},   {&LabelAvant, "LabelAvant"},
-        {&Label1, "Label1"},     {&Label2, "Label2"},         {&Label3, "Label3"},
-        {&LabelBA, "LabelBA"},   {&LabelBF, "LabelBF"},       {&LabelLong, "LabelLong"},
-        {&lbllongb, "lbllongb"}, {&Picture1, "Picture1"},     {&CmdApply, "CmdApply"},
-        {&cmdok, "cmdok"},       {&cmdannuler, "cmdannuler"}, {&cmdaide, "cmdaide"},
-    };
-    for (const auto &[control, name] : names) {
-        NameControl(*control, name);
-    }
+    NameControls({{&LabelOpt, "LabelOpt"},
+                  {&LabelHaut, "LabelHaut"},
+                  {&LabelAvant, "LabelAvant"},
+                  {&Label1, "Label1"},
+                  {&Label2, "Label2"},
+                  {&Label3, "Label3"},
+                  {&LabelBA, "LabelBA"},
+                  {&LabelBF, "LabelBF"},
+                  {&LabelLong, "LabelLong"},
+                  {&lbllongb, "lbllongb"},
+                  {&Picture1, "Picture1"}});
     NameControls(OptTalon, "OptTalon");
     NameControls(txt, "txt");
 }
@@ -40,12 +40,8 @@ void frmTalon::LayOut() {
     above->addWidget(&Picture1, 1);
     auto *rows = new QVBoxLayout(this);
     rows->addLayout(above);
-    rows->addLayout(ButtonRow({&CmdApply, &cmdok, &cmdannuler, &cmdaide}));
-    for (QLabel *label :
-         {&LabelOpt, &LabelHaut, &LabelAvant, &Label2, &Label3, &LabelLong, &lbllongb}) {
-        label->setTextFormat(Qt::PlainText);
-    }
-    cmdok.setDefault(true);
+    PoseBoutons(*rows, {SharedWord::apply, SharedWord::ok, SharedWord::cancel, SharedWord::help});
+    PlainText({&LabelOpt, &LabelHaut, &LabelAvant, &Label2, &Label3, &LabelLong, &lbllongb});
 }
 
 /// The side and the height, whose two fields share one place.

@@ -3,47 +3,36 @@
 
 #include "features/carre_bord.h"
 #include "features/qt_carre_sketch.h"
-#include "platform/qt_form.h"
 #include "programme/main_view.h"
-#include "programme/programme.h"
+#include "programme/qt_dialogue.h"
 
-#include <QDialog>
 #include <QLabel>
-#include <QPushButton>
 
 #include <array>
 
 namespace loftwing {
 
 /// Side and place of the square. Apply and OK put it on the rib, Cancel only leaves.
-class frmbacarre : public QDialog {
+class frmbacarre : public Dialogue {
     Q_OBJECT
 
   public:
     frmbacarre(Programme &programme, MainView &view, QWidget *parent);
 
-    /// Escape and the window's own close button do what Cancel does.
-    void reject() override;
-
   private:
-    Programme &programme_;
     MainView &view_;
 
     std::array<QLabel, kChampsCarre> Label1;
     std::array<NumericField, kChampsCarre> infotxt;
     CarreSketch Picture1;
-    QPushButton CmdApply;
-    QPushButton cmdok;
-    QPushButton cmdannuler;
-    QPushButton cmdaide;
 
+    // frmbacarre_build.cpp
     void NameAll();
     void LayOut();
 
     void Form_Load();
-    void CmdApply_Click();
-    void cmdok_Click();
-    void cmdannuler_Click();
+    void CmdApply_Click() override;
+    void cmdok_Click() override;
 
     bool Applique();
 };

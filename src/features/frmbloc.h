@@ -3,14 +3,11 @@
 
 #include "features/bloc.h"
 #include "features/qt_bloc_sketch.h"
-#include "platform/qt_form.h"
 #include "programme/main_view.h"
-#include "programme/programme.h"
+#include "programme/qt_dialogue.h"
 
-#include <QDialog>
 #include <QGridLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QRadioButton>
 
 #include <array>
@@ -20,21 +17,15 @@ namespace loftwing {
 /// Heights, ramps, trailing edge and washout of the template. Ramps, washout and tail go into the
 /// rib while the user types; Apply and OK put the template on the rib, Cancel takes it away.
 /// rib.Annule tells afterwards whether the user cancelled.
-class frmbloc : public QDialog {
+class frmbloc : public Dialogue {
     Q_OBJECT
 
   public:
     frmbloc(Programme &programme, MainView &view, QWidget *parent);
 
-    /// Escape and the window's own close button do what Cancel does.
-    void reject() override;
-
   private:
-    Programme &programme_;
     MainView &view_;
-    bool FormeChargee = false;
-    bool EnCours = false; ///< a handler is at work, perhaps waiting in a box
-    Bloc bloc_avant_;     ///< what Cancel puts back: the template as loaded or last applied
+    Bloc bloc_avant_; ///< what Cancel puts back: the template as loaded or last applied
     float vrillage_avant_ = 0;
 
     std::array<QLabel, kChampsBloc> Label1;
@@ -48,32 +39,24 @@ class frmbloc : public QDialog {
     QLabel LabelQueue;
     std::array<QRadioButton, 2> Optquebf;
     BlocSketch Picture1;
-    QPushButton CmdApply;
-    QPushButton cmdok;
-    QPushButton cmdannuler;
-    QPushButton cmdaide;
 
+    // frmbloc_build.cpp
     void NameAll();
     void LayOut();
     void LayOutMeasures(QGridLayout &grid);
-    void ConnectAll();
+
     void PoseTextes();
     void PoseBulles();
-
     void Form_Load();
     void Retient();
     void Optquebf_Click(int index);
     void txt_Change(int index);
-    void CmdApply_Click();
-    void cmdok_Click();
-    void cmdannuler_Click();
+    void CmdApply_Click() override;
+    void cmdok_Click() override;
+    void cmdannuler_Click() override;
 
-    template <class Action>
-    void Seul(const char *label, Action action);
     void Applique();
     void MontreLongueur();
-    TextesBloc TextesTapes() const;
-    std::string Titre() const { return S(windowTitle()); }
 };
 
 } // namespace loftwing

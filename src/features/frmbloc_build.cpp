@@ -8,24 +8,14 @@
 namespace loftwing {
 
 void frmbloc::NameAll() {
-    NameControl(*this, "frmbloc");
-    const std::pair<QObject *, const char *> names[] = {
-        {&LabelPointHaut, "LabelPointHaut"},
-        {&lblpointhaut, "lblpointhaut"},
-        {&LabelPointBas, "LabelPointBas"},
-        {&lblpointbas, "lblpointbas"},
-        {&LabelLong, "LabelLong"},
-        {&lbllongb, "lbllongb"},
-        {&LabelQueue, "LabelQueue"},
-        {&Picture1, "Picture1"},
-        {&CmdApply, "CmdApply"},
-        {&cmdok, "cmdok"},
-        {&cmdannuler, "cmdannuler"},
-        {&cmdaide, "cmdaide"},
-    };
-    for (const auto &[control, name] : names) {
-        NameControl(*control, name);
-    }
+    NameControls({{&LabelPointHaut, "LabelPointHaut"},
+                  {&lblpointhaut, "lblpointhaut"},
+                  {&LabelPointBas, "LabelPointBas"},
+                  {&lblpointbas, "lblpointbas"},
+                  {&LabelLong, "LabelLong"},
+                  {&lbllongb, "lbllongb"},
+                  {&LabelQueue, "LabelQueue"},
+                  {&Picture1, "Picture1"}});
     NameControls(Label1, "Label1");
     NameControls(txt, "txt");
     NameControls(Optquebf, "Optquebf");
@@ -39,12 +29,9 @@ void frmbloc::LayOut() {
     above->addWidget(&Picture1, 1);
     auto *rows = new QVBoxLayout(this);
     rows->addLayout(above);
-    rows->addLayout(ButtonRow({&CmdApply, &cmdok, &cmdannuler, &cmdaide}));
-    for (QLabel *label : {&LabelPointHaut, &lblpointhaut, &LabelPointBas, &lblpointbas, &LabelLong,
-                          &lbllongb, &LabelQueue}) {
-        label->setTextFormat(Qt::PlainText);
-    }
-    cmdok.setDefault(true);
+    PoseBoutons(*rows, {SharedWord::apply, SharedWord::ok, SharedWord::cancel, SharedWord::help});
+    PlainText({&LabelPointHaut, &lblpointhaut, &LabelPointBas, &lblpointbas, &LabelLong, &lbllongb,
+               &LabelQueue});
 }
 
 void frmbloc::LayOutMeasures(QGridLayout &grid) {

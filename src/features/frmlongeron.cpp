@@ -10,49 +10,47 @@ constexpr int kAide = 42;
 
 frmlongeron::frmlongeron(Programme &programme, MainView &view, QWidget *parent)
     : SlotsDialog(programme, view, parent,
-                  {"frmlongeron",
-                   "LblNblongeron",
-                   " Longeron",
-                   kAide,
-                   {{"Frmlongeron", "4"},
-                    {"Frmlongeron", "2"},
-                    {"Frmlongeron", "3"},
-                    {"Frmlongeron", "2T"},
-                    {"Frmlongeron", "5"},
-                    {"Frmlongeron", "9"},
-                    {"Frmlongeron", "21"},
-                    {"Frmlongeron", "21T"},
-                    {"Frmlongeron", "22"},
-                    {"Frmlongeron", "23"},
-                    {"Frmlongeron", "24"},
-                    {"Frmlongeron", "28"},
-                    {"Frmlongeron", "25"},
-                    {"Frmlongeron", "26"}},
-                   programme.rib.NbLongeron}) {
+                  {.fenetre = "frmlongeron",
+                   .etiquettes = "LblNblongeron",
+                   .label = " Longeron",
+                   .aide = kAide,
+                   .mots = {.cadre = {"Frmlongeron", "4"},
+                            .place_mm = {"Frmlongeron", "2"},
+                            .place_in = {"Frmlongeron", "3"},
+                            .place_tip = {"Frmlongeron", "2T"},
+                            .depuis_ba = {"Frmlongeron", "5"},
+                            .depuis_bf = {"Frmlongeron", "9"},
+                            .liste = {"Frmlongeron", "21"},
+                            .liste_tip = {"Frmlongeron", "21T"},
+                            .entree = {"Frmlongeron", "22"},
+                            .ajout = {"Frmlongeron", "23"},
+                            .modif = {"Frmlongeron", "24"},
+                            .effac = {"Frmlongeron", "28"},
+                            .plein = {"Frmlongeron", "25"},
+                            .sans_choix = {"Frmlongeron", "26"}},
+                   .count = programme.rib.NbLongeron}) {
     NameAll();
     SuitChamps({&Text1[0], &Text1[1], &Text1[2], &Text1[3]});
     LayOut();
     PoseTextes();
-    for (int i = 0; i < static_cast<int>(OptLong.size()); ++i) {
-        connect(&At(OptLong, i), &QRadioButton::clicked, this, [this, i] { OptLong_Click(i); });
-    }
+    ConnectEach(OptLong, &QRadioButton::clicked, this, &frmlongeron::OptLong_Click);
     Form_Load();
 }
 
 void frmlongeron::PoseTextes() {
     setWindowTitle(Q(TitreLongeron(programme_.rib, SaisieEnCours())));
-    Label4.setText(Q(programme_.Text({"Frmlongeron", "20"})).trimmed());
-    Frame3.setTitle(Q(programme_.Text({"Frmlongeron", "10"})));
-    Frame4.setTitle(Q(programme_.Text({"Frmlongeron", "15"})));
-    Frame5.setTitle(Q(programme_.Text({"Frmlongeron", "16"})));
-    OptLong[kLongeronSurface].setText(Q(programme_.Text({"Frmlongeron", "11"})));
-    OptLong[kLongeronDroit].setText(Q(programme_.Text({"Frmlongeron", "12"})));
-    OptLong[kLongeronRond].setText(Q(programme_.Text({"Frmlongeron", "13"})));
-    OptLong[kLongeronDistance].setText(Q(programme_.Text({"Frmlongeron", "14"})));
+    Label4.setText(Mot({"Frmlongeron", "20"}).trimmed());
+    Frame3.setTitle(Mot({"Frmlongeron", "10"}));
+    Frame4.setTitle(Mot({"Frmlongeron", "15"}));
+    Frame5.setTitle(Mot({"Frmlongeron", "16"}));
+    OptLong[kLongeronSurface].setText(Mot({"Frmlongeron", "11"}));
+    OptLong[kLongeronDroit].setText(Mot({"Frmlongeron", "12"}));
+    OptLong[kLongeronRond].setText(Mot({"Frmlongeron", "13"}));
+    OptLong[kLongeronDistance].setText(Mot({"Frmlongeron", "14"}));
     for (auto *surface : {&Opte, &Opti}) {
-        (*surface)[0].setText(Q(programme_.Text({"Frmlongeron", "17"})));
-        (*surface)[1].setText(Q(programme_.Text({"Frmlongeron", "18"})));
-        (*surface)[2].setText(Q(programme_.Text({"Frmlongeron", "19"})));
+        (*surface)[0].setText(Mot({"Frmlongeron", "17"}));
+        (*surface)[1].setText(Mot({"Frmlongeron", "18"}));
+        (*surface)[2].setText(Mot({"Frmlongeron", "19"}));
     }
 }
 
@@ -69,9 +67,8 @@ void frmlongeron::OptLong_Click(int index) {
 void frmlongeron::PoseGenre(std::uint8_t kind) {
     const bool round = kind == kLongeronRond;
     const bool at_distance = round || kind == kLongeronDistance;
-    Label2.setText(
-        Q(round ? programme_.Text({"Frmlongeron", "8"}) : programme_.Text({"Frmlongeron", "6"})));
-    Label3.setText(round ? QString() : Q(programme_.Text({"Frmlongeron", "7"})));
+    Label2.setText(round ? Mot({"Frmlongeron", "8"}) : Mot({"Frmlongeron", "6"}));
+    Label3.setText(round ? QString() : Mot({"Frmlongeron", "7"}));
     for (QLabel &unit : Label6) {
         unit.setText(Q(programme_.settings.Unite));
     }
@@ -89,9 +86,7 @@ void frmlongeron::PoseGenre(std::uint8_t kind) {
 
 ChampsLongeron frmlongeron::Champs() const {
     ChampsLongeron champs;
-    for (std::size_t i = 0; i < Text1.size(); ++i) {
-        champs.Text1[i] = S(Text1[i].text());
-    }
+    champs.Text1 = FieldTexts(Text1);
     champs.Opte = Choisi(Opte);
     champs.Opti = Choisi(Opti);
     champs.OptLong = Choisi(OptLong);

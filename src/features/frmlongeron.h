@@ -30,11 +30,12 @@ class frmlongeron : public SlotsDialog {
     std::array<QRadioButton, 3> Opte;
     std::array<QRadioButton, 3> Opti;
 
+    // frmlongeron_build.cpp
     void NameAll();
     void LayOut();
     void LayOutOptions();
-    void PoseTextes();
 
+    void PoseTextes();
     void OptLong_Click(int index);
 
     bool Stocke(int slot) override { return StockeLongeron(slot); }

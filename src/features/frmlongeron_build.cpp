@@ -9,10 +9,8 @@
 namespace loftwing {
 
 void frmlongeron::NameAll() {
-    NameControl(Frame3, "Frame3");
-    NameControl(Frame4, "Frame4");
-    NameControl(Frame5, "Frame5");
-    NameControl(Label4, "Label4");
+    NameControls(
+        {{&Frame3, "Frame3"}, {&Frame4, "Frame4"}, {&Frame5, "Frame5"}, {&Label4, "Label4"}});
     NameControls(Text1, "Text1");
     NameControls(OptLong, "OptLong");
     NameControls(Opte, "Opte");
@@ -35,8 +33,7 @@ void frmlongeron::LayOut() {
     rows->addLayout(entry);
     rows->addWidget(&Frame3);
     rows->addLayout(surfaces);
-    rows->addStretch();
-    rows->addLayout(LigneBoutons());
+    PoseBas(*rows);
     RegleTabulation({&OptLong[0], &OptLong[1], &OptLong[2], &OptLong[3], &Opte[0], &Opte[1],
                      &Opte[2], &Opti[0], &Opti[1], &Opti[2]});
 }

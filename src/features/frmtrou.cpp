@@ -10,48 +10,44 @@ constexpr int kAide = 43;
 
 frmtrou::frmtrou(Programme &programme, MainView &view, QWidget *parent)
     : SlotsDialog(programme, view, parent,
-                  {"frmtrou",
-                   "LblNbtrou",
-                   " Trou",
-                   kAide,
-                   {{"FrmTrou", "4"},
-                    {"FrmTrou", "2"},
-                    {"FrmTrou", "3"},
-                    {"FrmTrou", "2T"},
-                    {"FrmTrou", "5"},
-                    {"FrmTrou", "6"},
-                    {"FrmTrou", "14"},
-                    {"FrmTrou", "14T"},
-                    {"FrmTrou", "15"},
-                    {"FrmTrou", "16"},
-                    {"FrmTrou", "17"},
-                    {"FrmTrou", "18"},
-                    {"FrmTrou", "20"},
-                    {"FrmTrou", "21"}},
-                   programme.rib.NbTrou}) {
+                  {.fenetre = "frmtrou",
+                   .etiquettes = "LblNbtrou",
+                   .label = " Trou",
+                   .aide = kAide,
+                   .mots = {.cadre = {"FrmTrou", "4"},
+                            .place_mm = {"FrmTrou", "2"},
+                            .place_in = {"FrmTrou", "3"},
+                            .place_tip = {"FrmTrou", "2T"},
+                            .depuis_ba = {"FrmTrou", "5"},
+                            .depuis_bf = {"FrmTrou", "6"},
+                            .liste = {"FrmTrou", "14"},
+                            .liste_tip = {"FrmTrou", "14T"},
+                            .entree = {"FrmTrou", "15"},
+                            .ajout = {"FrmTrou", "16"},
+                            .modif = {"FrmTrou", "17"},
+                            .effac = {"FrmTrou", "18"},
+                            .plein = {"FrmTrou", "20"},
+                            .sans_choix = {"FrmTrou", "21"}},
+                   .count = programme.rib.NbTrou}) {
     NameAll();
     SuitChamps({&Text1[0], &Text1[1], &Text1[2], &Text2});
-    Text2.SetKeys(
-        TouchesSelonUnite(programme_.settings.Unite, kTouchesSigne, kTouchesFractionSigne));
+    AdmetLongueurSignee(Text2);
     LayOut();
     PoseTextes();
     connect(&Chkcentr, &QCheckBox::clicked, this, &frmtrou::Chkcentr_Click);
     connect(&Label4, &ClickLabel::Clicked, &Chkcentr, &QCheckBox::click);
-    for (int i = 0; i < static_cast<int>(OptTrouRec.size()); ++i) {
-        connect(&At(OptTrouRec, i), &QRadioButton::clicked, this,
-                [this, i] { OptTrouRec_Click(i); });
-    }
+    ConnectEach(OptTrouRec, &QRadioButton::clicked, this, &frmtrou::OptTrouRec_Click);
     Form_Load();
 }
 
 void frmtrou::PoseTextes() {
     setWindowTitle(Q(TitreTrou(programme_.rib, SaisieEnCours())));
-    Label4.setText(Q(programme_.Text({"FrmTrou", "13"})));
+    Label4.setText(Mot({"FrmTrou", "13"}));
     Chkcentr.setAccessibleName(Label4.text());
-    Label5.setText(Q(programme_.Text({"FrmTrou", "19"})));
-    Frame3.setTitle(Q(programme_.Text({"FrmTrou", "7"})));
-    OptTrouRec[kTrouRond].setText(Q(programme_.Text({"FrmTrou", "11"})));
-    OptTrouRec[kTrouRectangle].setText(Q(programme_.Text({"FrmTrou", "12"})));
+    Label5.setText(Mot({"FrmTrou", "19"}));
+    Frame3.setTitle(Mot({"FrmTrou", "7"}));
+    OptTrouRec[kTrouRond].setText(Mot({"FrmTrou", "11"}));
+    OptTrouRec[kTrouRectangle].setText(Mot({"FrmTrou", "12"}));
 }
 
 /// In the middle of the thickness a hole has no distance of its own.
@@ -71,9 +67,8 @@ void frmtrou::OptTrouRec_Click(int index) {
 /// A circle has no height; what an earlier rectangle had stays in its field.
 void frmtrou::PoseGenre(std::uint8_t kind) {
     const bool rectangle = kind == kTrouRectangle;
-    Label2.setText(
-        Q(rectangle ? programme_.Text({"FrmTrou", "8"}) : programme_.Text({"FrmTrou", "10"})));
-    Label3.setText(Q(programme_.Text({"FrmTrou", "9"})));
+    Label2.setText(rectangle ? Mot({"FrmTrou", "8"}) : Mot({"FrmTrou", "10"}));
+    Label3.setText(Mot({"FrmTrou", "9"}));
     Label3.setVisible(rectangle);
     Text1[2].setVisible(rectangle);
     Label6[1].setVisible(rectangle);
@@ -81,9 +76,7 @@ void frmtrou::PoseGenre(std::uint8_t kind) {
 
 ChampsTrou frmtrou::Champs() const {
     ChampsTrou champs;
-    for (std::size_t i = 0; i < Text1.size(); ++i) {
-        champs.Text1[i] = S(Text1[i].text());
-    }
+    champs.Text1 = FieldTexts(Text1);
     champs.Text2 = S(Text2.text());
     champs.Chkcentr = Chkcentr.isChecked();
     champs.OptDistance = Choisi(OptDistance);

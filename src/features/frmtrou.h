@@ -30,10 +30,11 @@ class frmtrou : public SlotsDialog {
     QCheckBox Chkcentr;
     std::array<QRadioButton, 2> OptTrouRec;
 
+    // frmtrou_build.cpp
     void NameAll();
     void LayOut();
-    void PoseTextes();
 
+    void PoseTextes();
     void Chkcentr_Click();
     void OptTrouRec_Click(int index);
 

@@ -9,11 +9,11 @@
 namespace loftwing {
 
 void frmtrou::NameAll() {
-    NameControl(Frame3, "Frame3");
-    NameControl(Label4, "Label4");
-    NameControl(Label5, "Label5");
-    NameControl(Text2, "Text2");
-    NameControl(Chkcentr, "Chkcentr");
+    NameControls({{&Frame3, "Frame3"},
+                  {&Label4, "Label4"},
+                  {&Label5, "Label5"},
+                  {&Text2, "Text2"},
+                  {&Chkcentr, "Chkcentr"}});
     NameControls(Text1, "Text1");
     NameControls(OptTrouRec, "OptTrouRec");
 }
@@ -40,8 +40,7 @@ void frmtrou::LayOut() {
     auto *rows = new QVBoxLayout(this);
     rows->addLayout(LigneListe());
     rows->addLayout(entry);
-    rows->addStretch();
-    rows->addLayout(LigneBoutons());
+    PoseBas(*rows);
     RegleTabulation({&Chkcentr, &OptTrouRec[0], &OptTrouRec[1]});
 }
 

@@ -11,6 +11,8 @@ bool StockeLongeron(Longeron &slot, const ChampsLongeron &champs, float corde, c
     if (!passes) {
         MessageValeur(slot.PosLong);
     }
+    // The rest is stored all the same: the window shows what was refused, to be corrected, and
+    // takes it back before a redraw.
     StockeLongueur(champs.Text1[1], saisie, slot.LargLongAfich, slot.LargLong);
     StockeLongueur(champs.Text1[2], saisie, slot.HautLongAfich, slot.HautLong);
     StockeLongueur(champs.Text1[3], saisie, slot.DistLongAfich, slot.DistLong);
@@ -26,9 +28,9 @@ bool ControleLongeron(const Longeron &slot, const CasLongeron &cas, const Refus 
         passes = false;
         MessageValeur(mm);
     };
-    const double centre = static_cast<double>(slot.PosLong);
-    const double half = static_cast<double>(slot.LargLong) / 2.0;
-    if (centre + half > static_cast<double>(cas.corde)) {
+    const double centre = Wide(slot.PosLong);
+    const double half = Wide(slot.LargLong) / 2.0;
+    if (centre + half > Wide(cas.corde)) {
         refuse(slot.PosLong);
     }
     if (centre - half < 0.0) {
@@ -69,6 +71,8 @@ void EffaceOptions(Longeron &slot) {
 }
 
 void RetireLongeron(RibModel &rib, int slot) {
+    // The place in mm follows its text at the next plot. The spare text belongs to the line of the
+    // rib components file, which stays where it is.
     const auto copie = [](const Longeron &from, Longeron &into) {
         Longeron moved = from;
         moved.PosLong = into.PosLong;

@@ -1,5 +1,7 @@
 #include "features/qt_sketch.h"
 
+#include "platform/qt_form.h"
+
 #include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
@@ -277,8 +279,7 @@ QLabel *MeasureLetter(const QString &letter) {
 void AddMeasure(QGridLayout &grid, int row, Sketch &sketch, const MeasureRow &measure) {
     auto *unit = new QLabel(measure.unit);
     unit->setTextFormat(Qt::PlainText);
-    measure.caption.setTextFormat(Qt::PlainText);
-    measure.caption.setBuddy(&measure.field);
+    SetCaption(measure.caption, measure.field);
     // A small screen may take room from the sketch, but not from what is typed.
     constexpr int kDigits = 11;
     measure.field.setMinimumWidth(measure.field.fontMetrics().horizontalAdvance('0') * kDigits);

@@ -5,7 +5,7 @@
 namespace loftwing {
 
 SlotsDialog::SlotsDialog(Programme &programme, MainView &view, QWidget *parent, const Genre &genre)
-    : QDialog(parent), programme_(programme), view_(view), genre_(genre) {
+    : Dialogue(programme, genre.fenetre, genre.aide, parent), view_(view), genre_(genre) {
     NameAll();
     PoseTextes();
     ConnectAll();
@@ -13,24 +13,20 @@ SlotsDialog::SlotsDialog(Programme &programme, MainView &view, QWidget *parent, 
 
 void SlotsDialog::PoseTextes() {
     const Mots &mots = genre_.mots;
-    Frame2.setTitle(Q(programme_.Text(mots.cadre)));
-    Frame6.setTitle(Q(programme_.Text(mots.entree)));
+    Frame2.setTitle(Mot(mots.cadre));
+    Frame6.setTitle(Mot(mots.entree));
     const bool inches = programme_.settings.Unite == kUniteIn;
-    Label1.setText(Q(programme_.Text(inches ? mots.place_in : mots.place_mm)));
+    Label1.setText(Mot(inches ? mots.place_in : mots.place_mm));
     for (QLabel &unit : Label6) {
         unit.setText(Q(programme_.settings.Unite));
     }
-    OptDistance[0].setText(Q(programme_.Text(mots.depuis_ba)));
-    OptDistance[1].setText(Q(programme_.Text(mots.depuis_bf)));
-    LabelListe.setText(Q(programme_.Text(mots.liste)));
+    OptDistance[0].setText(Mot(mots.depuis_ba));
+    OptDistance[1].setText(Mot(mots.depuis_bf));
+    LabelListe.setText(Mot(mots.liste));
     numeros_.SetTip(programme_.Text(mots.liste_tip));
-    cmdajout.setText(Q(programme_.Text(mots.ajout)));
-    Cmdmodif.setText(Q(programme_.Text(mots.modif)));
-    Cmdeffac.setText(Q(programme_.Text(mots.effac)));
-    SetButtonWord(CmdApply, programme_.language, SharedWord::apply);
-    SetButtonWord(cmdok, programme_.language, SharedWord::ok);
-    SetButtonWord(Cmdannuler, programme_.language, SharedWord::close);
-    SetButtonWord(cmdaide, programme_.language, SharedWord::help);
+    cmdajout.setText(Mot(mots.ajout));
+    Cmdmodif.setText(Mot(mots.modif));
+    Cmdeffac.setText(Mot(mots.effac));
 }
 
 void SlotsDialog::ConnectAll() {
@@ -38,20 +34,16 @@ void SlotsDialog::ConnectAll() {
     connect(&cmdajout, &QPushButton::clicked, this, &SlotsDialog::cmdajout_Click);
     connect(&Cmdmodif, &QPushButton::clicked, this, &SlotsDialog::Cmdmodif_Click);
     connect(&Cmdeffac, &QPushButton::clicked, this, &SlotsDialog::Cmdeffac_Click);
-    connect(&CmdApply, &QPushButton::clicked, this, &SlotsDialog::CmdApply_Click);
-    connect(&cmdok, &QPushButton::clicked, this, &SlotsDialog::cmdok_Click);
-    connect(&Cmdannuler, &QPushButton::clicked, this, &SlotsDialog::Cmdannuler_Click);
-    ConnectHelp(*this, cmdaide, programme_.platform, genre_.aide);
 }
 
 void SlotsDialog::SuitChamps(const std::array<NumericField *, 4> &champs) {
     champs_ = champs;
-    const std::string &Unite = programme_.settings.Unite;
     for (NumericField *field : champs_) {
-        field->SetKeys(TouchesSelonUnite(Unite, kTouchesPositif, kTouchesFraction));
+        AdmetLongueur(*field);
         field->installEventFilter(this);
     }
-    champs_.front()->SetKeys(TouchesSelonUnite(Unite, kTouchesPourcent, kTouchesFractionPourcent));
+    champs_.front()->SetKeys(
+        TouchesSelonUnite(programme_.settings.Unite, kTouchesPourcent, kTouchesFractionPourcent));
     SetTip(*champs_.front(), programme_.Text(genre_.mots.place_tip));
 }
 
@@ -66,7 +58,7 @@ bool SlotsDialog::eventFilter(QObject *watched, QEvent *event) {
             }
         }
     }
-    return QDialog::eventFilter(watched, event);
+    return Dialogue::eventFilter(watched, event);
 }
 
 void SlotsDialog::Selectionne(NumericField &field) const {
@@ -107,12 +99,12 @@ Refus SlotsDialog::MessageValeur() {
 
 void SlotsDialog::DitValeur(const std::string &valeur) {
     valeur_ = valeur;
-    programme_.messages.Inform(TexteRefus(valeur), S(windowTitle()));
+    programme_.messages.Inform(TexteRefus(valeur), Titre());
     SelectionneTexte();
 }
 
 void SlotsDialog::Informe(LngKey key) const {
-    programme_.messages.Inform(programme_.Text(key), S(windowTitle()));
+    programme_.messages.Inform(programme_.Text(key), Titre());
 }
 
 bool SlotsDialog::Verifie(bool passes) {
@@ -141,7 +133,7 @@ void SlotsDialog::RemetRefuses() {
 }
 
 /// Runs a command. A failure ("1/0" inches) is told and counts as a failed check without a value.
-void SlotsDialog::Garde(const char *what, const std::function<void()> &action) {
+void SlotsDialog::Commande(const char *what, const std::function<void()> &action) {
     try {
         action();
     } catch (const Failure &failure) {
@@ -165,7 +157,7 @@ void SlotsDialog::Numero_Click(int index) {
 }
 
 void SlotsDialog::cmdajout_Click() {
-    Garde("/Add", [this] { Ajoute(); });
+    Commande("/Add", [this] { Ajoute(); });
 }
 
 void SlotsDialog::Ajoute() {
@@ -189,7 +181,7 @@ void SlotsDialog::Ajoute() {
 }
 
 void SlotsDialog::Cmdmodif_Click() {
-    Garde("/Modify", [this] { Modifie(); });
+    Commande("/Modify", [this] { Modifie(); });
 }
 
 void SlotsDialog::Modifie() {
@@ -207,7 +199,7 @@ void SlotsDialog::Modifie() {
 }
 
 void SlotsDialog::Cmdeffac_Click() {
-    Garde("/Remove", [this] { Efface(); });
+    Commande("/Remove", [this] { Efface(); });
 }
 
 void SlotsDialog::Efface() {
@@ -224,7 +216,7 @@ void SlotsDialog::Efface() {
 }
 
 void SlotsDialog::CmdApply_Click() {
-    Garde("/Apply", [this] { Applique(); });
+    Commande("/Apply", [this] { Applique(); });
 }
 
 /// Stores and checks the work slot and draws the rib. The drawing can fail, which closes this
@@ -244,7 +236,7 @@ void SlotsDialog::Applique() {
 }
 
 void SlotsDialog::cmdok_Click() {
-    Garde("/OK", [this] {
+    Commande("/OK", [this] {
         Applique();
         if (!echec_ && isVisible()) {
             accept();
@@ -252,7 +244,7 @@ void SlotsDialog::cmdok_Click() {
     });
 }
 
-void SlotsDialog::Cmdannuler_Click() {
+void SlotsDialog::cmdannuler_Click() {
     // The first number lets the user go whatever has been refused.
     if (choisi_ == 0 || !echec_) {
         RemetRefuses();
@@ -264,10 +256,6 @@ void SlotsDialog::Cmdannuler_Click() {
         Numero_Click(refuses_.begin()->first);
     }
     DitValeur(valeur_.empty() ? "?" : valeur_);
-}
-
-void SlotsDialog::reject() {
-    Cmdannuler_Click();
 }
 
 } // namespace loftwing

@@ -2,15 +2,14 @@
 #pragma once
 
 #include "features/qt_numbered_list.h"
-#include "platform/qt_form.h"
 #include "programme/main_view.h"
-#include "programme/programme.h"
+#include "programme/qt_dialogue.h"
 
-#include <QDialog>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QVBoxLayout>
 
 #include <array>
 #include <cstdint>
@@ -39,19 +38,12 @@ void Choisit(Group &group, std::uint8_t index) {
     group[index < group.size() ? index : 0].setChecked(true);
 }
 
-/// What is hidden keeps its place, so that nothing else moves.
-void GardePlace(QWidget &widget);
-
 /// A table of up to twelve entries that is edited one entry at a time. A row of numbers says which
 /// entry the fields show: a finished one that was clicked (the selection), or else the work slot
 /// behind them. Whatever the fields say is stored before it is checked, and stays until the rib is
 /// drawn or the window closes; what was refused by then gives way to what stood there before.
-class SlotsDialog : public QDialog {
+class SlotsDialog : public Dialogue {
     Q_OBJECT
-
-  public:
-    /// Escape and the window's own close button do what Close does.
-    void reject() override;
 
   protected:
     /// Where the words come from that both windows have.
@@ -77,10 +69,10 @@ class SlotsDialog : public QDialog {
 
     SlotsDialog(Programme &programme, MainView &view, QWidget *parent, const Genre &genre);
 
-    Programme &programme_;
     MainView &view_;
 
-    // The frames go first, since what stands in them is destroyed before them.
+    // The frames stand first, so that they outlive what stands in them: a frame that goes takes
+    // along what it still holds.
     QGroupBox Frame2; ///< dimensions
     QGroupBox Frame6; ///< commands of the list
     QLabel LabelListe;
@@ -93,10 +85,6 @@ class SlotsDialog : public QDialog {
     QPushButton cmdajout;
     QPushButton Cmdmodif;
     QPushButton Cmdeffac;
-    QPushButton CmdApply;
-    QPushButton cmdok;
-    QPushButton Cmdannuler;
-    QPushButton cmdaide;
 
     // What a window does with one slot. Stocke and Controle tell whether the entry passes.
     virtual bool Stocke(int slot) = 0;
@@ -114,7 +102,7 @@ class SlotsDialog : public QDialog {
     void Form_Load();
     // qt_slots_dialog_build.cpp
     QLayout *LigneListe();
-    QLayout *LigneBoutons();
+    void PoseBas(QVBoxLayout &rows);
     void LayOutCommandes();
     /// A row each of label, field and unit; `label` is that of the fourth field.
     QGridLayout *LayOutDimensions(QLabel &label);
@@ -153,11 +141,11 @@ class SlotsDialog : public QDialog {
     void cmdajout_Click();
     void Cmdmodif_Click();
     void Cmdeffac_Click();
-    void CmdApply_Click();
-    void cmdok_Click();
-    void Cmdannuler_Click();
+    void CmdApply_Click() override;
+    void cmdok_Click() override;
+    void cmdannuler_Click() override;
 
-    void Garde(const char *what, const std::function<void()> &action);
+    void Commande(const char *what, const std::function<void()> &action);
     void Ajoute();
     void Modifie();
     void Efface();

@@ -10,12 +10,16 @@ float PlaceDepuis(const std::string &afich, std::uint8_t ref, float corde, const
 
 bool PlaceAdmise(const std::string &afich, std::uint8_t ref, float mm, float corde) {
     if (ref != 0 && afich.ends_with('%')) {
-        return static_cast<double>(corde) - static_cast<double>(mm) <= static_cast<double>(corde);
+        // What the percentage takes of the chord is what counts: with 100 % the entry stands at the
+        // leading edge and passes. No key types less than 0 %, so nothing else is asked.
+        return Wide(corde) - Wide(mm) <= Wide(corde);
     }
     return mm >= 0.0F && mm <= corde;
 }
 
 bool AvanceTravail(std::uint8_t &count) {
+    // The window has twelve numbers. That the next entry overwrites the twelfth is the ceiling; the
+    // slot behind it is there for the reader of rib components files alone.
     if (count + 1 >= kNumeros) {
         count = kNumeros - 1;
         return false;

@@ -15,7 +15,7 @@ std::string TexteHauteur(double mm, const std::string &Unite) {
 }
 
 double SansCoffrage(MesuresTalon mesures, double fraction) {
-    return static_cast<double>(mesures.corde) * fraction - static_cast<double>(mesures.EpCoffrage);
+    return Wide(mesures.corde) * fraction - Wide(mesures.EpCoffrage);
 }
 
 /// The margin of a text, an empty one being 0, with its number.
@@ -94,7 +94,7 @@ double HauteurTalon(const Talon &talon) {
 }
 
 double FaceTalon(const RibModel &rib, float EpRel, double station) {
-    const double sheeting = static_cast<double>(EpRel);
+    const double sheeting = Wide(EpRel);
     return rib.talon.OptTalon != 0 ? Hauteur(rib.TabExtrados, station) - sheeting
                                    : Hauteur(rib.TabIntrados, station) + sheeting;
 }

@@ -52,6 +52,7 @@ void EffaceOptions(Trou &slot) {
 }
 
 void RetireTrou(RibModel &rib, int slot) {
+    // The place in mm and the spare text stay for the same reasons as those of a spar.
     const auto copie = [](const Trou &from, Trou &into) {
         Trou moved = from;
         moved.PosTrou = into.PosTrou;

@@ -1,39 +1,13 @@
 #include "lang/frmlang.h"
 
-#include "platform/qt_form.h"
-
-#include <QHBoxLayout>
-#include <QVBoxLayout>
-
 namespace loftwing {
 
-namespace {
-
-constexpr int kUsualLetters = 30; // room for a caption and for names of languages
-
-} // namespace
-
 lang::lang(Programme &programme, MainView &view, QWidget *parent)
-    : QDialog(parent), programme_(programme), view_(view), Combo1(this), ok(this) {
-    NameControl(*this, "lang");
-    NameControl(Combo1, "Combo1");
-    NameControl(ok, "ok");
+    : Dialogue(programme, "lang", kSansAide, parent), view_(view) {
+    NameAll();
     LayOut();
     Form_Load();
     connect(&Combo1, &QComboBox::activated, this, &lang::Combo1_Click);
-    connect(&ok, &QPushButton::clicked, this, &lang::ok_Click);
-}
-
-void lang::LayOut() {
-    auto *button = new QHBoxLayout;
-    button->addStretch();
-    button->addWidget(&ok);
-    auto *rows = new QVBoxLayout(this);
-    rows->addWidget(&Combo1);
-    rows->addStretch();
-    rows->addLayout(button);
-    Combo1.setMinimumWidth(fontMetrics().averageCharWidth() * kUsualLetters);
-    ok.setDefault(true);
 }
 
 void lang::Form_Load() {
@@ -43,8 +17,10 @@ void lang::Form_Load() {
         Combo1.addItem(Q(name));
     }
     const bool none = programme_.language.LangueCourante.empty();
-    setWindowTitle(none ? "Language" : Q(programme_.Text({"LANGUAGE", "2"})));
-    ok.setText(none ? "OK" : Q(ButtonWord(programme_.language, SharedWord::ok)));
+    setWindowTitle(none ? "Language" : Mot({"LANGUAGE", "2"}));
+    if (none) {
+        Bouton(SharedWord::ok).setText("OK");
+    }
     Combo1.setAccessibleName(windowTitle());
     Combo1.setPlaceholderText(windowTitle());
     Combo1.setCurrentIndex(none ? -1 : Combo1.findText(Q(programme_.language.LangueCourante)));
@@ -68,7 +44,7 @@ bool lang::Prend(const std::string &name) {
     return true;
 }
 
-void lang::ok_Click() {
+void lang::cmdok_Click() {
     if (change_) {
         if (!Prend(S(Combo1.currentText()))) {
             return;

@@ -2,12 +2,10 @@
 #pragma once
 
 #include "mainwindow/rib_picture.h"
-#include "programme/programme.h"
+#include "programme/qt_dialogue.h"
 
-#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 
 #include <array>
 #include <string>
@@ -15,14 +13,13 @@
 namespace loftwing {
 
 /// Purpose, version, the folders that were installed for this user, the systems served, and a note.
-class frmAbout : public QDialog {
+class frmAbout : public Dialogue {
     Q_OBJECT
 
   public:
     frmAbout(Programme &programme, QWidget *parent);
 
   private:
-    Programme &programme_;
     RibPicture image;
     QLabel lblpresentation;
     QLabel lblversion;
@@ -30,10 +27,11 @@ class frmAbout : public QDialog {
     std::array<QLineEdit, 2> txtdossier; ///< the folders, to be read and copied
     QLabel lblsystemes;
     QLabel lblnote;
-    QPushButton cmdok;
 
+    // frmAbout_build.cpp
     void NameAll();
     void LayOut();
+
     void Form_Load();
     void ShowFolder(QLineEdit &field, const std::string &key);
 };

@@ -1,29 +1,22 @@
 #include "mainwindow/frmSplash.h"
 
 #include "base/version.h"
-#include "platform/qt_form.h"
+#include "platform/qt_text.h"
 
 #include <QShowEvent>
-#include <QVBoxLayout>
 
 namespace loftwing {
 
 namespace {
 
 constexpr int kShownFor = 3000; // ms
-constexpr double kTitleSize = 2.2;
 
 } // namespace
 
 frmSplash::frmSplash(Programme &programme, QWidget *parent)
     : QDialog(parent, Qt::SplashScreen | Qt::FramelessWindowHint), programme_(programme),
-      image(this), lbltitre(this), lblversion(this), lblpresentation(this) {
-    NameControl(*this, "frmSplash");
-    NameControl(image, "image");
-    NameControl(lbltitre, "lbltitre");
-    NameControl(lblversion, "lblversion");
-    NameControl(lblpresentation, "lblpresentation");
-    NameControl(Timer1, "Timer1");
+      image(this) {
+    NameAll();
     Timer1.setParent(this);
     // Keys that are typed meanwhile are meant for the main window.
     setAttribute(Qt::WA_ShowWithoutActivating);
@@ -32,20 +25,6 @@ frmSplash::frmSplash(Programme &programme, QWidget *parent)
     Form_Load();
     connect(&Timer1, &QTimer::timeout, this, &frmSplash::Ferme);
     connect(&image, &RibPicture::Clique, this, &frmSplash::Ferme);
-}
-
-void frmSplash::LayOut() {
-    auto *rows = new QVBoxLayout(this);
-    rows->addWidget(&image);
-    for (QLabel *label : {&lbltitre, &lblversion, &lblpresentation}) {
-        label->setTextFormat(Qt::PlainText);
-        label->setAlignment(Qt::AlignHCenter);
-        rows->addWidget(label);
-    }
-    QFont large = lbltitre.font();
-    large.setPointSizeF(large.pointSizeF() * kTitleSize);
-    lbltitre.setFont(large);
-    setSizeGripEnabled(false);
 }
 
 void frmSplash::Form_Load() {

@@ -30,7 +30,10 @@ class frmSplash : public QDialog {
     QLabel lblpresentation;
     QTimer Timer1;
 
+    // frmSplash_build.cpp
+    void NameAll();
     void LayOut();
+
     void Form_Load();
     void Ferme();
 };

@@ -46,7 +46,7 @@ void frmmain::BuildMenus() {
     for (const Command &command : MenuCommands()) {
         AddCommand(command);
     }
-    // The rib's menu also opens over the picture; its entries count where the chord is known.
+    // The recent files stand above the entry that ends the program.
     BuildRecentFiles(menus_.at("mnu_file"), actions_.at("mnu_fileexit"));
 }
 

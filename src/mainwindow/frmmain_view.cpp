@@ -52,9 +52,10 @@ bool frmmain::Dessine(const std::function<Affichage(const Trace &)> &draw) {
     return true;
 }
 
+/// One unit of a scroll bar: half the chord at the zoom in force, its millimetres taken for device
+/// units. The views move their origin by just as much.
 double frmmain::UniteDefilement() const {
-    return static_cast<double>(programme_.rib.corde) * static_cast<double>(programme_.rib.Zoom) /
-           2.0;
+    return Wide(programme_.rib.corde) * Wide(programme_.rib.Zoom) / 2.0;
 }
 
 void frmmain::RegleDefilement() {
@@ -143,6 +144,8 @@ void frmmain::Pic_Drag(const QPoint &pixels) {
 }
 
 void frmmain::Form_Resize() {
+    // A fixed oddity: a change of size leaves the plain caption, as users know it; the status bar
+    // has the airfoil's name. Nothing depends on it.
     setWindowTitle(QString::fromUtf8(kTitre));
     // What is typed in a dialog may not fit yet, and a plot that fails costs the rib.
     if (DialogueNervureOuvert()) {

@@ -2,50 +2,97 @@
 
 #include "base/text_encoding.h"
 #include "output/airfoil_preview.h"
-#include "platform/qt_form.h"
 
 #include <QKeyEvent>
-
-#include <cstdlib>
-#include <filesystem>
+#include <QShortcut>
 
 namespace loftwing {
 
 namespace {
 
-const char *const kAuDessus = "..";
-
-/// File names are bytes. What can't be shown as they stand must still open.
-void Ajoute(QListWidget &list, const std::string &name) {
-    auto *item = new QListWidgetItem(Q(ToUtf8(name)), &list);
-    item->setData(Qt::UserRole, QByteArray::fromStdString(name));
-}
-
-std::string NomDe(const QListWidgetItem &item) {
-    return item.data(Qt::UserRole).toByteArray().toStdString();
-}
-
-bool Selectionne(QListWidget &list, const std::string &name) {
-    for (int row = 0; row < list.count(); ++row) {
-        if (NomDe(*list.item(row)) == name) {
-            list.setCurrentRow(row);
-            list.scrollToItem(list.item(row));
-            return true;
-        }
-    }
-    return false;
-}
-
-/// A path as typed: "~" is the home folder, and it may start from the folder that is shown.
-std::filesystem::path CheminTape(const std::string &typed, const std::string &folder) {
-    const char *home = std::getenv("HOME");
-    const bool at_home = typed == "~" || typed.starts_with("~/");
-    const std::string text = at_home && home != nullptr ? home + typed.substr(1) : typed;
-    const std::filesystem::path path = (std::filesystem::path(folder) / text).lexically_normal();
-    return path.has_filename() ? path : path.parent_path();
-}
+constexpr int kAide = 41;
+constexpr int kTitleLines = 3;
 
 } // namespace
+
+frmopen::frmopen(Programme &programme, MainView &view, QWidget *parent)
+    : Dialogue(programme, "frmopen", kAide, parent), view_(view), rib_(programme.rib),
+      precedent_(programme.rib), txtchemin(this), lbldossiers(this), Dir1(this), lblfichiers(this),
+      File1(this), lbltype(this), Combo1(this), lblfichier(this), nomfile1(1, this),
+      lbldossier(this), Lbchemin(1, this), Surface(this), Label1(kTitleLines, this),
+      Label2(1, this), Label3(1, this), memP1(this), LbMem(this), cmdouvrir(this) {
+    NameAll();
+    PoseTextes();
+    PoseBulles();
+    LayOut();
+    ConnectAll();
+    Form_Load();
+}
+
+frmopen::~frmopen() {
+    // A list that goes loses its focus, and by then half of it is gone.
+    for (QObject *watched : Surveilles()) {
+        watched->removeEventFilter(this);
+    }
+}
+
+void frmopen::PoseTextes() {
+    setWindowTitle(Mot({"frmopen", "1"}));
+    LbMem.setText(Mot({"frmopen", "2"}));
+    lbldossiers.setText(Mot({"frmopen", "3"}));
+    lblfichiers.setText(Mot({"frmopen", "4"}));
+    lbltype.setText(Mot({"frmopen", "5"}));
+    lblfichier.setText(Mot({"frmopen", "6"}));
+    lbldossier.setText(Mot({"frmopen", "8"}));
+    cmdouvrir.setText(Mot({"frmopen", "7"}));
+    Combo1.addItem("Selig Files (*.dat)");
+    Combo1.addItem("Coordinates Files (*.cor)");
+}
+
+void frmopen::PoseBulles() {
+    SetTip(memP1, programme_.Text({"frmopen", "2t"}));
+    SetTip(LbMem, programme_.Text({"frmopen", "2t"}));
+    SetTip(Dir1, programme_.Text({"frmopen", "3t"}));
+    SetTip(File1, programme_.Text({"frmopen", "4t"}));
+    SetTip(Combo1, programme_.Text({"frmopen", "5t"}));
+    SetTip(cmdouvrir, programme_.Text({"frmopen", "7t"}));
+    SetTip(Lbchemin, programme_.Text({"frmopen", "8T"}));
+    SetTip(txtchemin, programme_.Text({"frmopen", "8T"}));
+    SetTip(Label2, programme_.Text({"frmopen", "24t"}));
+    Dir1.setAccessibleName(lbldossiers.text());
+    File1.setAccessibleName(lblfichiers.text());
+    Combo1.setAccessibleName(lbltype.text());
+    memP1.setAccessibleName(LbMem.text());
+    txtchemin.setAccessibleName(lbldossier.text());
+}
+
+std::array<QObject *, 5> frmopen::Surveilles() {
+    return {&txtchemin, &Dir1, &File1, &LbMem, File1.viewport()};
+}
+
+void frmopen::ConnectAll() {
+    for (QObject *watched : Surveilles()) {
+        watched->installEventFilter(this);
+    }
+    selection_.setSingleShot(true);
+    connect(&selection_, &QTimer::timeout, this, &frmopen::File1_Click);
+    connect(&Combo1, &QComboBox::activated, this, &frmopen::Combo1_Change);
+    connect(&Dir1, &QListWidget::itemDoubleClicked, this, &frmopen::Dir1_DblClick);
+    connect(&File1, &QListWidget::itemSelectionChanged, this, [this] {
+        if (!pressed_) {
+            selection_.start();
+        }
+    });
+    // After the mouse is done with the list, since the window may close.
+    connect(&File1, &QListWidget::itemDoubleClicked, this,
+            [this] { QTimer::singleShot(0, this, &frmopen::File1_DblClick); });
+    connect(&memP1, &QCheckBox::toggled, this, &frmopen::memP1_Click);
+    connect(&cmdouvrir, &QPushButton::clicked, this, &frmopen::cmdouvrir_Click);
+    connect(new QShortcut(QKeySequence(Qt::ALT | Qt::Key_Up), this), &QShortcut::activated, this,
+            &frmopen::Monte);
+    connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, this,
+            [this] { Ouvre(dossier_); });
+}
 
 void frmopen::Form_Load() {
     rib_.CheminProfil.clear();
@@ -60,106 +107,6 @@ void frmopen::MontreMemoire(bool check, const std::string &note) {
     LbMem.setVisible(check);
     Label3.setText(Q(note));
     Label3.setVisible(!note.empty());
-}
-
-std::string frmopen::Motif() const {
-    return MotifDeLigne(S(Combo1.currentText()));
-}
-
-bool frmopen::Ouvre(const std::string &folder, const std::string &came_from) {
-    try {
-        const ContenuDossier contenu = LitDossier(folder, Motif());
-        dossier_ = folder;
-        Dir1.clear();
-        if (!DossierParent(folder).empty()) {
-            Ajoute(Dir1, kAuDessus);
-        }
-        for (const std::string &name : contenu.dossiers) {
-            Ajoute(Dir1, name);
-        }
-        RemplitFile1(contenu.fichiers);
-        Dir1_Change(came_from);
-        return true;
-    } catch (const Failure &failure) {
-        programme_.messages.Report(failure, " Open/Dir1");
-        txtchemin.setText(Q(ToUtf8(dossier_)));
-        return false;
-    }
-}
-
-void frmopen::RemplitFile1(const std::vector<std::string> &names) {
-    const QSignalBlocker no_selection(File1);
-    selection_.stop();
-    File1.clear();
-    for (const std::string &name : names) {
-        Ajoute(File1, name);
-    }
-}
-
-void frmopen::Dir1_Change(const std::string &came_from) {
-    Label1.clear();
-    nomfile1.clear();
-    Label2.clear();
-    const std::string shown = ToUtf8(dossier_);
-    Lbchemin.setText(Q(CheminAbrege(shown)));
-    txtchemin.setText(Q(shown));
-    if (!Selectionne(Dir1, came_from)) {
-        Dir1.setCurrentRow(0, QItemSelectionModel::NoUpdate);
-    }
-}
-
-void frmopen::Monte() {
-    const std::string above = DossierParent(dossier_);
-    if (!above.empty()) {
-        Ouvre(above, std::filesystem::path(dossier_).filename().string());
-    }
-}
-
-void frmopen::Dir1_DblClick() {
-    const QListWidgetItem *item = Dir1.currentItem();
-    if (item == nullptr) {
-        return;
-    }
-    const std::string name = NomDe(*item);
-    if (name == kAuDessus) {
-        Monte();
-    } else {
-        Ouvre(CheminDans(dossier_, name));
-    }
-}
-
-bool frmopen::txtchemin_Return() {
-    const std::filesystem::path path = CheminTape(S(txtchemin.text().trimmed()), dossier_);
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(path, error)) {
-        Ouvre(path.string());
-        return false;
-    }
-    if (!Ouvre(path.parent_path().string())) {
-        return false;
-    }
-    // Who names a file means it, whatever files the list shows.
-    const std::string name = path.filename().string();
-    if (!Selectionne(File1, name)) {
-        Ajoute(File1, name);
-        Selectionne(File1, name);
-    }
-    File1.setFocus();
-    return true;
-}
-
-void frmopen::Combo1_Change() {
-    Label1.clear();
-    try {
-        RemplitFile1(LitDossier(dossier_, Motif()).fichiers);
-    } catch (const Failure &failure) {
-        programme_.messages.Report(failure, " Open/Combo1");
-    }
-}
-
-std::string frmopen::Choisi() const {
-    const QList<QListWidgetItem *> chosen = File1.selectedItems();
-    return chosen.isEmpty() ? std::string() : CheminDans(dossier_, NomDe(*chosen.front()));
 }
 
 void frmopen::LitSelection() {
@@ -181,7 +128,7 @@ void frmopen::File1_Click() {
     Surface.Efface();
     Label1.clear();
     Label2.clear();
-    MontreLecture(FichierLecture(rib_, programme_.messages, S(windowTitle())));
+    MontreLecture(FichierLecture(rib_, programme_.messages, Titre()));
     // Only now, so that a refusal's box may have come before.
     const std::string warning = NomEcarte(rib_);
     if (!warning.empty()) {
@@ -229,7 +176,7 @@ void frmopen::cmdouvrir_Click() {
         return;
     }
     LitSelection();
-    const std::string title = S(windowTitle());
+    const std::string title = Titre();
     if (rib_.CheminProfil.empty()) {
         programme_.messages.Inform(programme_.Text({"frmopen", "22"}), title);
         cmdannuler_Click();
@@ -255,42 +202,6 @@ void frmopen::cmdannuler_Click() {
     QDialog::reject();
 }
 
-void frmopen::reject() {
-    cmdannuler_Click();
-}
-
-bool frmopen::ListKey(QListWidget &list, int key) {
-    if (key == Qt::Key_Backspace) {
-        Monte();
-        return true;
-    }
-    if (IsReturn(key) && &list == &Dir1) {
-        Dir1_DblClick();
-        return true;
-    }
-    // The list takes its first file for the current one although nobody chose it.
-    if (key == Qt::Key_Down && &list == &File1 && Choisi().empty()) {
-        File1.setCurrentRow(0);
-        return true;
-    }
-    return false; // Return on a file is left to the default button
-}
-
-void frmopen::File1_Mouse(const QEvent &event) {
-    if (event.type() == QEvent::MouseButtonPress) {
-        pressed_ = true;
-    }
-    if (event.type() != QEvent::MouseButtonRelease || !pressed_) {
-        return;
-    }
-    // Not before the button is up: a box in between would keep the list dragging.
-    pressed_ = false;
-    const QPoint at = static_cast<const QMouseEvent &>(event).position().toPoint();
-    if (File1.itemAt(at) != nullptr || Choisi() != rib_.CheminProfil) {
-        selection_.start();
-    }
-}
-
 bool frmopen::eventFilter(QObject *watched, QEvent *event) {
     if (watched == File1.viewport()) {
         File1_Mouse(*event);
@@ -301,7 +212,7 @@ bool frmopen::eventFilter(QObject *watched, QEvent *event) {
         return true;
     }
     if (event->type() != QEvent::KeyPress) {
-        return QDialog::eventFilter(watched, event);
+        return Dialogue::eventFilter(watched, event);
     }
     const auto *pressed = static_cast<const QKeyEvent *>(event);
     const int key = pressed->key();

@@ -6,11 +6,10 @@
 #include "mainwindow/apercu.h"
 #include "mainwindow/fitted_label.h"
 #include "programme/main_view.h"
-#include "programme/programme.h"
+#include "programme/qt_dialogue.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDialog>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -25,7 +24,7 @@ namespace loftwing {
 /// at once, so that a bad one is refused before it is accepted. Open leaves the airfoil in the rib,
 /// every other way out puts back the identity of the one before and sets rib.Annule. The window's
 /// title is the title of its boxes; whoever opens it may set another.
-class frmopen : public QDialog {
+class frmopen : public Dialogue {
     Q_OBJECT
 
   public:
@@ -39,12 +38,9 @@ class frmopen : public QDialog {
     /// For a tool: a file whose reading fails leaves the rib alone. Without this it is cleared.
     void LaisseLeRib() { efface_ = false; }
 
-    /// Escape and the window's own close button do what Cancel does.
-    void reject() override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
   private:
-    Programme &programme_;
     MainView &view_;
     RibModel &rib_;
     ProfilPrecedent precedent_;
@@ -71,33 +67,35 @@ class frmopen : public QDialog {
     QCheckBox memP1;
     QLabel LbMem;
     QPushButton cmdouvrir;
-    QPushButton cmdannuler;
-    QPushButton cmdaide;
 
     // frmopen_build.cpp
     void NameAll();
     QLayout *LayOutLists();
     QLayout *LayOutPreview();
     void LayOut();
-    void SetWords();
-    void SetTips();
-    /// The controls whose events pass through eventFilter.
-    std::array<QObject *, 5> Surveilles();
-    void Connect();
 
     // frmopen.cpp
+    void PoseTextes();
+    void PoseBulles();
+    /// The controls whose events pass through eventFilter.
+    std::array<QObject *, 5> Surveilles();
+    void ConnectAll();
     void Form_Load();
+    void File1_Click();
+    void File1_DblClick();
+    void memP1_Click();
+    void cmdouvrir_Click();
+    void cmdannuler_Click() override;
+    /// Reads a file that is selected but still waits.
+    void LitSelection();
+    void MontreLecture(const ResultatLecture &lecture);
+
+    // frmopen_lists.cpp
     void Combo1_Change();
     void Dir1_Change(const std::string &came_from);
     void Dir1_DblClick();
-    void File1_Click();
-    void File1_DblClick();
     /// Goes where the path leads; true when it named a file, which is then selected.
     bool txtchemin_Return();
-    void memP1_Click();
-    void cmdouvrir_Click();
-    void cmdannuler_Click();
-
     /// Shows another folder. One that can't be listed is reported, and the present one stays.
     bool Ouvre(const std::string &folder, const std::string &came_from = {});
     void Monte();
@@ -105,9 +103,6 @@ class frmopen : public QDialog {
     std::string Motif() const;
     /// Path of the selected file, empty when none is.
     std::string Choisi() const;
-    /// Reads a file that is selected but still waits.
-    void LitSelection();
-    void MontreLecture(const ResultatLecture &lecture);
     bool ListKey(QListWidget &list, int key);
     void File1_Mouse(const QEvent &event);
 };

@@ -19,9 +19,9 @@ DxfPoint operator+(DxfPoint a, DxfPoint b) {
 double Coupe(const DxfTrace &trace) {
     const PlotState &plot = trace.source.plot;
     if (!trace.source.echelle_juste) {
-        return static_cast<double>(plot.CoupeDev);
+        return Wide(plot.CoupeDev);
     }
-    const double beyond = static_cast<double>(plot.CoupeRel) - static_cast<double>(plot.EpRel);
+    const double beyond = Wide(plot.CoupeRel) - Wide(plot.EpRel);
     return beyond > 0 ? beyond * trace.corde : 0.0;
 }
 
@@ -61,7 +61,7 @@ void DxfTalon(const DxfTrace &trace) {
         return q + DxfPoint{distance * c * c, distance * c * s};
     };
     const auto face = [&](double margin) {
-        return FaceTalon(rib, plot.EpRel, static_cast<double>(StationDepuisBF(margin, rib.corde)));
+        return FaceTalon(rib, plot.EpRel, Wide(StationDepuisBF(margin, rib.corde)));
     };
     trace.Polyligne(extra ? kDxfAxe : kDxfForme, kCalqueTalon, {foot(0), foot(trace.corde)});
     const double rear = trace.corde - trace.Longueur(talon.TalonBF);

@@ -24,7 +24,7 @@ void LigneReference(const DxfTrace &trace) {
 void BordAttaque(const DxfTrace &trace) {
     const RibModel &rib = trace.source.rib;
     if (rib.TypeBA == 1) {
-        const double k = static_cast<double>(trace.source.plot.StationBA);
+        const double k = Wide(trace.source.plot.StationBA);
         trace.Polyligne(kDxfTrait, kCalqueCoffrage,
                         {{trace.X(k), trace.Y(trace.U(k))}, {trace.X(k), trace.Y(trace.L(k))}});
         return;
@@ -39,7 +39,7 @@ void BordAttaque(const DxfTrace &trace) {
 void BordFuite(const DxfTrace &trace) {
     const double stock = trace.Longueur(trace.source.rib.EpBF);
     const double x = (1.0 - Quotient(stock, trace.corde)) * trace.corde + trace.Ox();
-    const double k = static_cast<double>(trace.source.plot.StationBF);
+    const double k = Wide(trace.source.plot.StationBF);
     trace.Polyligne(kDxfTrait, kCalqueCoffrage,
                     {{x, trace.Y(trace.U(k))}, {x, trace.Y(trace.L(k))}});
 }

@@ -38,8 +38,8 @@ class DxfFaces {
 };
 
 void DxfFaces::EntreBords() const {
-    const double first = static_cast<double>(trace_.source.plot.StationBF);
-    const double last = static_cast<double>(trace_.source.plot.StationBA);
+    const double first = Wide(trace_.source.plot.StationBF);
+    const double last = Wide(trace_.source.plot.StationBA);
     std::vector<DxfPoint> upper;
     std::vector<DxfPoint> lower;
     for (int i = 1; i <= ToInt(last - first + 1.0); ++i) {
@@ -55,10 +55,10 @@ void DxfFaces::EntreBords() const {
 void DxfFaces::JusquauBordFuite() const {
     const RibModel &rib = trace_.source.rib;
     const PlotState &plot = trace_.source.plot;
-    const double sheeting = static_cast<double>(plot.EpRel);
+    const double sheeting = Wide(plot.EpRel);
     const double cut = trace_.CoupeRel();
-    const double stock = static_cast<double>(rib.EpBA) /
-                         (trace_.source.echelle_juste ? trace_.diviseur : 1.0) / trace_.corde;
+    const double stock =
+        Wide(rib.EpBA) / (trace_.source.echelle_juste ? trace_.diviseur : 1.0) / trace_.corde;
     std::vector<DxfPoint> upper;
     std::vector<DxfPoint> lower;
     for (long k = 1; stock < static_cast<double>(kLastStation - k) / kLastStation; ++k) {

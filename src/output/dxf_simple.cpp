@@ -115,15 +115,15 @@ void Dessin::Reperes() {
     if (rib.NbRep == 0) {
         return;
     }
-    const double corde = static_cast<double>(rib.corde);
+    const double corde = Wide(rib.corde);
     const bool bloc = rib.TypeGabarit == kGabaritMousse;
     const double ramp = bloc ? source_.plot.BlocBA : 0.0;
     const double below = bloc ? source_.plot.BlocEp : 0.0;
     const int parts = rib.NbRep + 1;
     const float part = ToSingle(corde / parts);
     for (int i = 0; i <= parts; ++i) {
-        const double x = static_cast<double>(ToSingle(static_cast<double>(part) * i));
-        const auto k = static_cast<double>(StationDepuisBA(x, rib.corde));
+        const double x = Wide(ToSingle(Wide(part) * i));
+        const auto k = Wide(StationDepuisBA(x, rib.corde));
         const double up = Hauteur(rib.TabExtrados, k) * corde;
         double foot = (Hauteur(rib.TabIntrados, k) - kSousLeProfil -
                        (rib.AffHaut ? kSousLeProfilInverse : 0.0)) *
@@ -162,18 +162,17 @@ std::string EnPageDeCode(const std::string &text) {
 /// The inserted text as high as on paper; it stands upright whichever way up the rib is.
 void Dessin::TexteInsere() {
     const auto &texte = source_.rib.texte;
-    const double size = static_cast<double>(texte.TailleFont) * kUnitsPerPoint / kUnitsPerMm;
+    const double size = Wide(texte.TailleFont) * kUnitsPerPoint / kUnitsPerMm;
     const bool placed = texte.InsTextX != 0.0F || texte.InsTextY != 0.0F;
     if (texte.InsTexte.empty() || !placed || !(size > 0.0)) {
         return;
     }
     const bool bloc = source_.rib.TypeGabarit == kGabaritMousse;
     const double ramp = bloc ? source_.plot.BlocBA : 0.0;
-    const double top = static_cast<double>(texte.InsTextY) + kTexteAuDessus;
-    const double x = static_cast<double>(texte.InsTextX) + ramp;
+    const double top = Wide(texte.InsTextY) + kTexteAuDessus;
+    const double x = Wide(texte.InsTextX) + ramp;
     const double width =
-        MeasuredAdvance(texte.InsTexte, {"Arial", static_cast<double>(texte.TailleFont)}) /
-        kUnitsPerMm;
+        MeasuredAdvance(texte.InsTexte, {"Arial", Wide(texte.TailleFont)}) / kUnitsPerMm;
     const DxfPoint place{Mm(x), Mm(top - size * kAscent)};
     const double height = Mm(size * kCapitales);
     textes_.push_back({EnPageDeCode(texte.InsTexte), place, height, Mm(width)});

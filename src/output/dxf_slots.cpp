@@ -3,18 +3,13 @@
 #include "features/longeron.h"
 #include "features/trou.h"
 #include "output/dxf_trace.h"
+#include "output/spar_face.h"
 
 #include <cmath>
 
 namespace loftwing {
 
 namespace {
-
-/// The heights of one surface at a spar.
-struct Face {
-    double f, r, c; ///< at the front edge, the rear edge and the centre
-    double inward;  ///< -1 on the upper surface, 1 on the lower one
-};
 
 /// A spar that cuts into one surface, in the file's unit.
 class DxfEncoche {
@@ -23,9 +18,8 @@ class DxfEncoche {
                double decal)
         : trace_(trace), face_(face), decal_(decal), w_(trace.Longueur(spar.LargLong)),
           h_(face.inward * trace.Longueur(spar.HautLong)),
-          d_(face.inward * trace.Longueur(spar.DistLong)),
-          xf_(trace.X(static_cast<double>(place.kf))), xr_(trace.X(static_cast<double>(place.kr))) {
-    }
+          d_(face.inward * trace.Longueur(spar.DistLong)), xf_(trace.X(Wide(place.kf))),
+          xr_(trace.X(Wide(place.kr))) {}
 
     /// Above and below the axis runs through the circle's centre.
     void Rond() const {
@@ -66,8 +60,7 @@ void Encoche(const DxfTrace &trace, const Longeron &spar, const PlaceTracee &pla
     if (option != kEncocheCoffrage && option != kEncocheContour) {
         return;
     }
-    const double decal =
-        option == kEncocheContour ? 0.0 : static_cast<double>(trace.source.plot.EpRel);
+    const double decal = option == kEncocheContour ? 0.0 : Wide(trace.source.plot.EpRel);
     const DxfEncoche notch(trace, spar, place, face, decal);
     if (spar.TypeLong == kLongeronRond) {
         notch.Rond();
@@ -88,15 +81,14 @@ struct DxfPercage {
 DxfPercage PercageDe(const DxfTrace &trace, const Trou &trou, const PlaceTracee &place) {
     // The station is rounded down here, where the plot takes the nearest.
     const double station = std::abs(std::floor(
-        Quotient(kLastStation * static_cast<double>(trou.PosTrou) / trace.diviseur, trace.corde) -
-        kLastStation));
+        Quotient(kLastStation * Wide(trou.PosTrou) / trace.diviseur, trace.corde) - kLastStation));
     const double top = trace.U(station);
     const double base = trou.ChkCentre == 1.0F ? (top - trace.L(station)) / 2.0 : top;
     DxfPercage hole{};
     hole.w = trace.Longueur(trou.DiaTrou);
     hole.hh = trace.Longueur(trou.HautTrou);
-    hole.xf = trace.X(static_cast<double>(place.kf));
-    hole.xr = trace.X(static_cast<double>(place.kr));
+    hole.xf = trace.X(Wide(place.kf));
+    hole.xr = trace.X(Wide(place.kr));
     hole.xc = hole.w / 2.0 + hole.xf;
     hole.y = trace.Y(top - base) + trace.Longueur(trou.DecalTrou);
     return hole;
@@ -133,11 +125,10 @@ void DxfLongerons(const DxfTrace &trace) {
             return;
         }
         const PlaceTracee &place = At(trace.source.plot.longerons, slot);
-        const double x =
-            trace.Longueur(spar.LargLong) / 2.0 + trace.X(static_cast<double>(place.kf));
+        const double x = trace.Longueur(spar.LargLong) / 2.0 + trace.X(Wide(place.kf));
         trace.Polyligne(kDxfAxe, kCalqueAxe, {{x, trace.Y(place.Uc)}, {x, trace.Y(place.Lc)}});
-        Encoche(trace, spar, place, {place.Uf, place.Ur, place.Uc, -1}, spar.OptLongExt);
-        Encoche(trace, spar, place, {place.Lf, place.Lr, place.Lc, 1}, spar.OptLongInt);
+        Encoche(trace, spar, place, FaceExtrados(place), spar.OptLongExt);
+        Encoche(trace, spar, place, FaceIntrados(place), spar.OptLongInt);
     }
 }
 

@@ -6,7 +6,7 @@ namespace loftwing {
 
 DxfTrace::DxfTrace(const DxfSource &from, const std::function<void(const DxfEntite &)> &to)
     : source(from), recoit(to), diviseur(DiviseurDxf(from.Unite)),
-      corde(static_cast<double>(from.rib.corde) / diviseur) {}
+      corde(Wide(from.rib.corde) / diviseur) {}
 
 void DxfTrace::Avance(double distance) {
     ox_ = ToSingle(Ox() + distance);
@@ -25,8 +25,7 @@ double DxfTrace::L(double station) const {
 }
 
 double DxfTrace::CoupeRel() const {
-    return source.rib.TypeGabarit == kGabaritMousse ? static_cast<double>(source.plot.CoupeRel)
-                                                    : 0.0;
+    return source.rib.TypeGabarit == kGabaritMousse ? Wide(source.plot.CoupeRel) : 0.0;
 }
 
 void DxfTrace::Polyligne(int handle, std::string_view calque, std::vector<DxfPoint> points) const {

@@ -26,13 +26,13 @@ class DxfTrace {
     const double diviseur;
     const double corde; ///< in the file's unit
 
-    double Ox() const { return static_cast<double>(ox_); }
+    double Ox() const { return Wide(ox_); }
     double Oy() const { return 0.0; }
     /// Moves the origin behind the foam template's ramp.
     void Avance(double distance);
 
     double Longueur(double mm) const { return mm / diviseur; }
-    double Longueur(float mm) const { return static_cast<double>(mm) / diviseur; }
+    double Longueur(float mm) const { return Wide(mm) / diviseur; }
     /// Place of a station, which may lie between two, and of a height in fractions of the chord.
     double X(double station) const;
     double Y(double height) const { return height * corde + Oy(); }

@@ -1,7 +1,5 @@
 #include "output/frmPrint.h"
 
-#include <QScopedValueRollback>
-
 namespace loftwing {
 
 namespace {
@@ -17,11 +15,14 @@ void SetBold(QWidget &widget, bool bold) {
 } // namespace
 
 frmPrint::frmPrint(Programme &programme, QWidget *parent)
-    : QDialog(parent), programme_(programme), page_(programme.settings.page) {
+    : Dialogue(programme, "frmPrint", kAide, parent), page_(programme.settings.page) {
     NameAll();
     LayOut();
     Form_Load();
-    ConnectAll();
+    // Not before: what Form_Load shows is no entry of the user's.
+    connect(&Combo1, &QComboBox::currentIndexChanged, this, &frmPrint::Combo1_click);
+    ConnectEach(Text1, &QLineEdit::textChanged, this, &frmPrint::Text1_Change);
+    connect(&cmdconfigImprim, &QPushButton::clicked, this, &frmPrint::cmdconfigImprim_Click);
 }
 
 void frmPrint::Form_Load() {
@@ -31,39 +32,28 @@ void frmPrint::Form_Load() {
     }
     PoseTextes();
     RemplitCombo();
-    const TextesPage typed = TextesDe(page_);
-    for (int i = 0; i < kChampsPage; ++i) {
-        At(Text1, i).setText(Q(At(typed, i)));
-    }
+    ShowTexts(Text1, TextesDe(page_));
     CalculAuChargement();
-    FormeChargee = true;
 }
 
 void frmPrint::PoseTextes() {
-    const LngIni &language = programme_.language;
-    setWindowTitle(Q(TitrePage(language, programme_.platform.PrinterName())));
-    Frame6.setTitle(Q(programme_.Text({"FrmPrint", "3"})));
-    Frame5.setTitle(Q(programme_.Text({"FrmPrint", "7"})));
-    Frame4.setTitle(Q(programme_.Text({"FrmPrint", "13"})));
-    Frame2.setTitle(Q(programme_.Text({"FrmPrint", "18"})));
-    Option1.setText(Q(programme_.Text({"FrmPrint", "14"})));
-    Option2.setText(Q(programme_.Text({"FrmPrint", "15"})));
-    Label4.setText(Q(programme_.Text({"FrmPrint", "16"})));
-    Label1.setText(Q(programme_.Text({"FrmPrint", "19"})));
-    Label2.setText(Q(programme_.Text({"FrmPrint", "20"})));
-    cmdconfigImprim.setText(Q(programme_.Text({"TextButton", "15"})));
-    SetButtonWord(cmdok, language, SharedWord::ok);
-    SetButtonWord(cmdannuler, language, SharedWord::cancel);
-    SetButtonWord(cmdaide, language, SharedWord::help);
+    setWindowTitle(Q(TitrePage(programme_.language, programme_.platform.PrinterName())));
+    Frame6.setTitle(Mot({"FrmPrint", "3"}));
+    Frame5.setTitle(Mot({"FrmPrint", "7"}));
+    Frame4.setTitle(Mot({"FrmPrint", "13"}));
+    Frame2.setTitle(Mot({"FrmPrint", "18"}));
+    Option1.setText(Mot({"FrmPrint", "14"}));
+    Option2.setText(Mot({"FrmPrint", "15"}));
+    Label4.setText(Mot({"FrmPrint", "16"}));
+    Label1.setText(Mot({"FrmPrint", "19"}));
+    Label2.setText(Mot({"FrmPrint", "20"}));
+    cmdconfigImprim.setText(Mot({"TextButton", "15"}));
     Combo1.setAccessibleName(Frame6.title());
     Text1[kChampYdprint].setAccessibleName(Frame5.title());
     for (QLabel *unit : {&Label5, &Label6, &Label7, &Label8}) {
         unit->setText(Q(programme_.settings.Unite));
     }
-    for (NumericField &field : Text1) {
-        field.SetKeys(
-            TouchesSelonUnite(programme_.settings.Unite, kTouchesPositif, kTouchesFraction));
-    }
+    AdmetLongueurs(Text1);
 }
 
 void frmPrint::RemplitCombo() {
@@ -73,26 +63,22 @@ void frmPrint::RemplitCombo() {
     Combo1.setCurrentIndex(page_.NumIndex);
 }
 
-/// Runs `action` unless a box that it or another one shows is still open, so that no text which
-/// changes meanwhile starts a second one. A failure is told once; the dialog goes on.
+/// Runs what counts the sheets. After a failure there is no count to show.
 template <class Action>
-void frmPrint::Seul(const char *label, Action action) {
-    if (EnCalcul) {
-        return;
-    }
-    const QScopedValueRollback<bool> busy(EnCalcul, true);
-    try {
-        action();
-    } catch (const Failure &failure) {
-        Label10.setText(Q(TexteSansPages(programme_.language)));
-        programme_.messages.Report(failure, label);
-    }
+void frmPrint::Compte(const char *label, Action action) {
+    Seul(label, [this, &action] {
+        try {
+            action();
+        } catch (const Failure &) {
+            Label10.setText(Q(TexteSansPages(programme_.language)));
+            throw;
+        }
+    });
 }
 
 /// The first count. Only a missing overlap is worth a box before the user has done anything;
 /// whatever else is wrong shows as a missing count, and is told at the first change or at OK.
 void frmPrint::CalculAuChargement() {
-    const QScopedValueRollback<bool> busy(EnCalcul, true);
     try {
         longueur_ = ReprendLongueur(programme_.rib);
         Label9.setText(Q(TexteLongueur(programme_.rib, programme_.SaisieEnCours())));
@@ -105,10 +91,7 @@ void frmPrint::CalculAuChargement() {
 }
 
 void frmPrint::Combo1_click() {
-    if (!FormeChargee) {
-        return;
-    }
-    Seul(" Print/Combo1", [this] {
+    Compte(" Print/Combo1", [this] {
         page_.NumIndex = ToByte(Combo1.currentIndex());
         if (NommePapierImprimante(S(Combo1.currentText()), programme_.language)) {
             AnnoncePapierImprimante(programme_.rib, programme_.SaisieEnCours());
@@ -123,10 +106,7 @@ void frmPrint::Combo1_click() {
 }
 
 void frmPrint::Text1_Change(int index) {
-    if (!FormeChargee) {
-        return;
-    }
-    Seul(" Print/Text1", [this, index] {
+    Compte(" Print/Text1", [this, index] {
         // The other texts were read when they changed; reading them again would repeat their boxes.
         PrendTexte(page_, index, S(At(Text1, index).text()), programme_.SaisieEnCours());
         const Feuilles feuilles = CalculeEtMontre();
@@ -199,18 +179,10 @@ bool frmPrint::Avertit(Feuilles feuilles) {
     return true;
 }
 
-TextesPage frmPrint::TextesTapes() const {
-    TextesPage typed;
-    for (int i = 0; i < kChampsPage; ++i) {
-        At(typed, i) = S(At(Text1, i).text());
-    }
-    return typed;
-}
-
 void frmPrint::cmdok_Click() {
-    Seul(" Print/OK", [this] {
+    Compte(" Print/OK", [this] {
         programme_.rib.Annule = false;
-        PrendTextes(page_, TextesTapes(), programme_.SaisieEnCours());
+        PrendTextes(page_, FieldTexts(Text1), programme_.SaisieEnCours());
         // Kept even when it is refused below: the user gave his OK to these values.
         MiseEnPage &kept = programme_.settings.page;
         kept = page_;
@@ -236,24 +208,9 @@ void frmPrint::cmdannuler_Click() {
     QDialog::reject();
 }
 
-void frmPrint::reject() {
-    cmdannuler_Click();
-}
-
 void frmPrint::cmdconfigImprim_Click() {
     programme_.platform.ShowPrinterSettings();
     setWindowTitle(Q(TitrePage(programme_.language, programme_.platform.PrinterName())));
-}
-
-void frmPrint::ConnectAll() {
-    connect(&Combo1, &QComboBox::currentIndexChanged, this, &frmPrint::Combo1_click);
-    for (int i = 0; i < kChampsPage; ++i) {
-        connect(&At(Text1, i), &QLineEdit::textChanged, this, [this, i] { Text1_Change(i); });
-    }
-    connect(&cmdok, &QPushButton::clicked, this, &frmPrint::cmdok_Click);
-    connect(&cmdannuler, &QPushButton::clicked, this, &frmPrint::cmdannuler_Click);
-    connect(&cmdconfigImprim, &QPushButton::clicked, this, &frmPrint::cmdconfigImprim_Click);
-    ConnectHelp(*this, cmdaide, programme_.platform, kAide);
 }
 
 } // namespace loftwing

@@ -2,11 +2,9 @@
 #pragma once
 
 #include "output/page_entry.h"
-#include "platform/qt_form.h"
-#include "programme/programme.h"
+#include "programme/qt_dialogue.h"
 
 #include <QComboBox>
-#include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
@@ -17,25 +15,20 @@
 namespace loftwing {
 
 /// Paper, margins, overlap and place of the drawing; shows while the user types how many sheets the
-/// rib takes. OK stores the page and writes it to the settings file, Cancel leaves it; rib.Annule
-/// tells afterwards which it was.
-class frmPrint : public QDialog {
+/// rib takes. OK stores the page and writes it to the settings file, Cancel leaves it. exec()
+/// tells afterwards which it was, and so does rib.Annule.
+class frmPrint : public Dialogue {
     Q_OBJECT
 
   public:
     frmPrint(Programme &programme, QWidget *parent);
 
-    /// Escape and the window's own close button do what Cancel does.
-    void reject() override;
-
   private:
-    Programme &programme_;
     MiseEnPage page_; ///< what the dialog shows; the settings are untouched until OK
     LongueurRib longueur_;
-    bool FormeChargee = false;
-    bool EnCalcul = false; ///< a box of a computation is up, or it is setting texts itself
 
-    // The frames go last, since what stands in them is theirs.
+    // The frames stand first, so that they outlive what stands in them: a frame that goes takes
+    // along what it still holds.
     QGroupBox Frame6;
     QGroupBox Frame2;
     QGroupBox Frame5;
@@ -55,35 +48,31 @@ class frmPrint : public QDialog {
     QLabel Label4;
     QLabel Label9;
     QLabel Label10;
-    QPushButton cmdok;
-    QPushButton cmdannuler;
-    QPushButton cmdaide;
 
+    // frmPrint_build.cpp
     void NameAll();
     void LayOut();
     void LayOutPaper();
     void LayOutPlace();
     void LayOutPages();
-    void ConnectAll();
+
     void PoseTextes();
     void RemplitCombo();
-
     void Form_Load();
     void Combo1_click();
     void Text1_Change(int index);
-    void cmdok_Click();
-    void cmdannuler_Click();
+    void cmdok_Click() override;
+    void cmdannuler_Click() override;
     void cmdconfigImprim_Click();
 
     template <class Action>
-    void Seul(const char *label, Action action);
+    void Compte(const char *label, Action action);
     void CalculAuChargement();
     Feuilles CalculeEtMontre();
     void Montre(Feuilles feuilles);
     void MontreOptions(bool une_page);
     void ChoisitRecouvrement(Feuilles feuilles);
     bool Avertit(Feuilles feuilles);
-    TextesPage TextesTapes() const;
 };
 
 } // namespace loftwing

@@ -9,23 +9,24 @@
 namespace loftwing {
 
 void frmPrint::NameAll() {
-    NameControl(*this, "frmPrint");
-    const std::pair<QObject *, const char *> names[] = {
-        {&Frame6, "Frame6"},   {&Combo1, "Combo1"},
-        {&Label3, "Label3"},   {&cmdconfigImprim, "cmdconfigImprim"},
-        {&Frame2, "Frame2"},   {&Label1, "Label1"},
-        {&Label2, "Label2"},   {&Frame5, "Frame5"},
-        {&Label5, "Label5"},   {&Label6, "Label6"},
-        {&Label7, "Label7"},   {&Label8, "Label8"},
-        {&Frame4, "Frame4"},   {&Option1, "Option1"},
-        {&Option2, "Option2"}, {&Label4, "Label4"},
-        {&Label9, "Label9"},   {&Label10, "Label10"},
-        {&cmdok, "cmdok"},     {&cmdannuler, "cmdannuler"},
-        {&cmdaide, "cmdaide"},
-    };
-    for (const auto &[control, name] : names) {
-        NameControl(*control, name);
-    }
+    NameControls({{&Frame6, "Frame6"},
+                  {&Combo1, "Combo1"},
+                  {&Label3, "Label3"},
+                  {&cmdconfigImprim, "cmdconfigImprim"},
+                  {&Frame2, "Frame2"},
+                  {&Label1, "Label1"},
+                  {&Label2, "Label2"},
+                  {&Frame5, "Frame5"},
+                  {&Label5, "Label5"},
+                  {&Label6, "Label6"},
+                  {&Label7, "Label7"},
+                  {&Label8, "Label8"},
+                  {&Frame4, "Frame4"},
+                  {&Option1, "Option1"},
+                  {&Option2, "Option2"},
+                  {&Label4, "Label4"},
+                  {&Label9, "Label9"},
+                  {&Label10, "Label10"}});
     NameControls(Text1, "Text1");
 }
 
@@ -41,8 +42,7 @@ void frmPrint::LayOut() {
     rows->addLayout(place);
     rows->addWidget(&Frame4);
     rows->addStretch();
-    rows->addLayout(ButtonRow({&cmdok, &cmdannuler, &cmdaide}));
-    cmdok.setDefault(true);
+    PoseBoutons(*rows, {SharedWord::ok, SharedWord::cancel, SharedWord::help});
 }
 
 void frmPrint::LayOutPaper() {
@@ -82,10 +82,8 @@ void frmPrint::LayOutPages() {
     rows->addLayout(overlap);
     rows->addWidget(&Label9);
     rows->addWidget(&Label10);
-    for (QLabel *label : {&Label1, &Label2, &Label3, &Label4, &Label5, &Label6, &Label7, &Label8,
-                          &Label9, &Label10}) {
-        label->setTextFormat(Qt::PlainText);
-    }
+    PlainText({&Label1, &Label2, &Label3, &Label4, &Label5, &Label6, &Label7, &Label8, &Label9,
+               &Label10});
 }
 
 } // namespace loftwing

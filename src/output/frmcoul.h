@@ -3,10 +3,8 @@
 
 #include "output/qt_legend_view.h"
 #include "output/style_entry.h"
-#include "platform/qt_form.h"
-#include "programme/programme.h"
+#include "programme/qt_dialogue.h"
 
-#include <QDialog>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -18,17 +16,13 @@ namespace loftwing {
 /// A grid of numbers with a legend beside it that shows what they mean. OK checks the numbers and
 /// writes them to the settings file; numbers that it refuses are in force as long as the dialog is
 /// open. Cancel puts back what was in force before.
-class frmcoul : public QDialog {
+class frmcoul : public Dialogue {
     Q_OBJECT
 
   public:
     frmcoul(Programme &programme, QWidget *parent);
 
-    /// Escape and the window's own close button do what Cancel does.
-    void reject() override;
-
   private:
-    Programme &programme_;
     const Traits avant_; ///< in force when the dialog opened
 
     std::array<QLabel, 3> Label2; ///< heads of the columns
@@ -40,20 +34,17 @@ class frmcoul : public QDialog {
     QLabel LabelFixe; ///< in the place of the width that axes haven't
     LegendView Picture1;
     QPushButton cmdImprtest;
-    QPushButton cmdok;
-    QPushButton cmdannuler;
-    QPushButton cmdaide;
 
+    // frmcoul_build.cpp
     void NameAll();
     void LayOut();
     void LayOutGrid(QGridLayout &grid);
+
     void PoseTextes();
     void NommeChamps();
-    void ConnectAll();
-
     void Form_Load();
-    void cmdok_Click();
-    void cmdannuler_Click();
+    void cmdok_Click() override;
+    void cmdannuler_Click() override;
     void cmdImprtest_Click();
 
     TextesTraits TextesTapes() const;

@@ -23,21 +23,17 @@ void PrendMesures(const Trace &trace) {
     const Bloc &bloc = rib.bloc;
     PlotState &plot = trace.plot;
     plot.CoupeDev = 0;
-    plot.CoupeRel =
-        ToSingle(Quotient(static_cast<double>(bloc.CoupeBF), static_cast<double>(rib.corde)));
+    plot.CoupeRel = ToSingle(Quotient(Wide(bloc.CoupeBF), Wide(rib.corde)));
     if (plot.EpRel < plot.CoupeRel) {
         plot.CoupeDev =
-            ToSingle((static_cast<double>(plot.CoupeRel) - static_cast<double>(plot.EpRel)) *
-                     static_cast<double>(plot.CordeEchelle));
+            ToSingle((Wide(plot.CoupeRel) - Wide(plot.EpRel)) * Wide(plot.CordeEchelle));
     }
-    plot.BlocEp = static_cast<double>(bloc.HTbasbloc);
-    plot.BlocHaut = static_cast<double>(bloc.HTbloc) - static_cast<double>(bloc.HTbasbloc);
-    plot.BlocBA = static_cast<double>(bloc.BAbloc);
-    plot.BlocLong = static_cast<double>(bloc.BAbloc) + static_cast<double>(rib.corde) +
-                    static_cast<double>(bloc.BFbloc);
-    plot.VrillageRad = EnRadians(static_cast<double>(rib.vrillage));
-    const auto tail =
-        static_cast<double>(StationDepuisBF(static_cast<double>(bloc.BFbloc), rib.corde));
+    plot.BlocEp = Wide(bloc.HTbasbloc);
+    plot.BlocHaut = Wide(bloc.HTbloc) - Wide(bloc.HTbasbloc);
+    plot.BlocBA = Wide(bloc.BAbloc);
+    plot.BlocLong = Wide(bloc.BAbloc) + Wide(rib.corde) + Wide(bloc.BFbloc);
+    plot.VrillageRad = EnRadians(Wide(rib.vrillage));
+    const auto tail = Wide(StationDepuisBF(Wide(bloc.BFbloc), rib.corde));
     // Another choice than these two leaves the tail of the plot before.
     if (bloc.Optquebf == 0) {
         plot.BlocYBF = trace.U(tail);
@@ -52,9 +48,8 @@ void EcarteOrigine(const Trace &trace) {
     if (trace.rib.vrillage == 0.0F) {
         return;
     }
-    const double origine = static_cast<double>(plot.OrigineX);
-    const double moved =
-        origine - plot.BlocEp * std::sin(plot.VrillageRad) * static_cast<double>(plot.Echelle);
+    const double origine = Wide(plot.OrigineX);
+    const double moved = origine - plot.BlocEp * std::sin(plot.VrillageRad) * Wide(plot.Echelle);
     if (moved >= origine) {
         plot.OrigineX = ToSingle(moved);
     }
@@ -64,22 +59,22 @@ void TraceBloc(const Trace &trace) {
     const PlotState &plot = trace.plot;
     const double s = std::sin(plot.VrillageRad);
     const double c = std::cos(plot.VrillageRad);
-    const double echelle = static_cast<double>(plot.Echelle);
-    const double echelle_y = static_cast<double>(plot.EchelleY);
-    const double corde = static_cast<double>(plot.CordeEchelle);
-    const double corde_y = static_cast<double>(plot.CordeEchelleY);
-    const double fuite = static_cast<double>(trace.rib.bloc.BFbloc);
-    const Point p{static_cast<double>(plot.OrigineX), static_cast<double>(plot.OrigineY)};
+    const double echelle = Wide(plot.Echelle);
+    const double echelle_y = Wide(plot.EchelleY);
+    const double corde = Wide(plot.CordeEchelle);
+    const double corde_y = Wide(plot.CordeEchelleY);
+    const double fuite = Wide(trace.rib.bloc.BFbloc);
+    const Point p{Wide(plot.OrigineX), Wide(plot.OrigineY)};
     const Point ramp{plot.BlocBA * echelle + p.x, p.y};
     const Point a = p + Point{plot.BlocEp * s * echelle, plot.BlocEp * c * echelle_y};
     const Point b = p + Point{-plot.BlocHaut * s * echelle, -plot.BlocHaut * c * echelle_y};
     const Point d{plot.BlocLong * c * c * echelle, -plot.BlocLong * c * s * echelle_y};
     // The tail's two lines end at the unsigned, the rib's own line starts at the signed height:
-    // upside down they don't meet, as ever.
+    // upside down they don't meet. A fixed oddity: sheets printed upside down have it.
     const Point tail{plot.BlocLong * echelle + p.x, corde * plot.BlocYBF + p.y};
     const Point tail_signed{tail.x, corde_y * plot.BlocYBF + p.y};
     const Point edge{(plot.BlocLong - fuite) * echelle + p.x,
-                     p.y - corde_y * plot.DemiBF + static_cast<double>(plot.CoupeDev)};
+                     p.y - corde_y * plot.DemiBF + Wide(plot.CoupeDev)};
     const Colour colour = trace.Couleur(Element::bloc);
     const auto line = [&](Point from, Point to) {
         trace.device.Line(from.x, from.y, to.x, to.y, colour);

@@ -23,11 +23,10 @@ void TraceCoupe(const Trace &trace, double x, double station, Element element) {
 
 /// The height of the rib at `station` behind its word, above the rib at device position x.
 void EcritHauteur(const Trace &trace, double x, double station, LngKey word) {
-    const double corde = static_cast<double>(trace.rib.corde);
+    const double corde = Wide(trace.rib.corde);
     const double height = corde * trace.U(station) - corde * trace.L(station);
     trace.Ecrit(x,
-                static_cast<double>(trace.plot.OrigineY) -
-                    static_cast<double>(trace.plot.CordeEchelle) * trace.rib.ExtradosMaxi -
+                Wide(trace.plot.OrigineY) - Wide(trace.plot.CordeEchelle) * trace.rib.ExtradosMaxi -
                     kTexteBordAuDessus,
                 trace.messages.Text(word) + " = " + LongueurCalculee(height, trace.settings.Unite));
 }
@@ -36,20 +35,21 @@ void EcritHauteur(const Trace &trace, double x, double station, LngKey word) {
 void TraceCarreBord(const Trace &trace) {
     const CarreBord &carre = trace.rib.carre;
     const PlotState &plot = trace.plot;
-    const double d = Quotient(static_cast<double>(carre.CarreBA), kDiagonaleCarre);
-    const double x = static_cast<double>(carre.CarreBAX);
-    const double y = static_cast<double>(carre.CarreBAY);
-    const double echelle = static_cast<double>(plot.Echelle);
-    const double echelle_y = static_cast<double>(plot.EchelleY);
-    const double origine_x = static_cast<double>(plot.OrigineX);
-    const double origine_y = static_cast<double>(plot.OrigineY);
+    const double d = Quotient(Wide(carre.CarreBA), kDiagonaleCarre);
+    const double x = Wide(carre.CarreBAX);
+    const double y = Wide(carre.CarreBAY);
+    const double echelle = Wide(plot.Echelle);
+    const double echelle_y = Wide(plot.EchelleY);
+    const double origine_x = Wide(plot.OrigineX);
+    const double origine_y = Wide(plot.OrigineY);
     const Colour colour = trace.Couleur(Element::ba);
     trace.EnStyleDe(Element::ba);
     trace.device.Line(x * echelle + origine_x, origine_y - (d + y) * echelle_y,
                       (d + x) * echelle + origine_x, origine_y - y * echelle_y, colour);
     trace.device.LineStep(-d * echelle, d * echelle_y, colour);
     trace.device.LineStep(-d * echelle, -d * echelle_y, colour);
-    // Upside down the last side goes the wrong way and the diamond stays open, as ever.
+    // Upside down the last side goes the wrong way and the diamond stays open. A fixed oddity:
+    // sheets printed upside down have it.
     trace.device.LineStep(d * echelle, -d * echelle, colour);
     trace.FinDeStyle();
 }
@@ -64,22 +64,22 @@ void TraceBordAttaque(const Trace &trace) {
         TraceCarreBord(trace);
         return;
     }
-    plot.StationBA = StationDepuisBA(static_cast<double>(rib.EpBA), rib.corde);
-    const double station = static_cast<double>(plot.StationBA);
+    plot.StationBA = StationDepuisBA(Wide(rib.EpBA), rib.corde);
+    const double station = Wide(plot.StationBA);
     TraceCoupe(trace, trace.X(station), station, Element::ba);
     if (rib.EpBA != 0.0F && rib.AffHautBA) {
-        EcritHauteur(trace, static_cast<double>(plot.OrigineX), station, {"MainTolbar", "15"});
+        EcritHauteur(trace, Wide(plot.OrigineX), station, {"MainTolbar", "15"});
     }
 }
 
 void TraceBordFuite(const Trace &trace) {
     const RibModel &rib = trace.rib;
     PlotState &plot = trace.plot;
-    const double part = Quotient(static_cast<double>(rib.EpBF), static_cast<double>(rib.corde));
+    const double part = Quotient(Wide(rib.EpBF), Wide(rib.corde));
     plot.StationBF = ToSingle(std::abs(part * kLastStation));
-    const double station = static_cast<double>(plot.StationBF);
-    const double corde = static_cast<double>(plot.CordeEchelle);
-    const double origine = static_cast<double>(plot.OrigineX);
+    const double station = Wide(plot.StationBF);
+    const double corde = Wide(plot.CordeEchelle);
+    const double origine = Wide(plot.OrigineX);
     TraceCoupe(trace, (1.0 - part) * corde + origine, station, Element::bf);
     if (rib.EpBF != 0.0F && rib.AffHautBF) {
         EcritHauteur(trace, origine + corde - kTexteBordFuiteAvant, station, {"MainTolbar", "21"});

@@ -21,7 +21,7 @@ std::string AvecUnite(double mm, const std::string &Unite) {
 
 std::string TexteEpaisseur(const Trace &trace) {
     const std::string &Unite = trace.settings.Unite;
-    const double corde = static_cast<double>(trace.rib.corde);
+    const double corde = Wide(trace.rib.corde);
     const double place = trace.plot.PosEpDev;
     const std::string thickness = AvecUnite(corde * trace.rib.EpMaxi, Unite);
     const std::string percent = NumberText(Quotient(place * 100.0, corde)) + " %";
@@ -40,14 +40,13 @@ std::string TexteEpaisseur(const Trace &trace) {
 void PrepareTrace(const Trace &trace) {
     PlotState &plot = trace.plot;
     const RibModel &rib = trace.rib;
-    plot.Echelle = ToSingle(static_cast<double>(rib.Zoom) * kUnitsPerMm);
+    plot.Echelle = ToSingle(Wide(rib.Zoom) * kUnitsPerMm);
     plot.EpRel = EpaisseurRelative(rib);
     plot.IdxFinCoffr = 0;
     plot.EchelleY = rib.AffHaut ? -plot.Echelle : plot.Echelle;
     plot.CordeEchelleY = rib.AffHaut ? -plot.CordeEchelle : plot.CordeEchelle;
     trace.device.Font.name = "Arial";
-    trace.device.Font.size =
-        static_cast<double>(rib.Zoom) * static_cast<double>(rib.texte.TailleFont);
+    trace.device.Font.size = Wide(rib.Zoom) * Wide(rib.texte.TailleFont);
     trace.device.ForeColor = PaletteColour(0);
     trace.device.DrawWidth = 1;
 }
@@ -64,23 +63,21 @@ void TraceDemiBF(const Trace &trace) {
 
 void PlaceOrigine(const Trace &trace) {
     PlotState &plot = trace.plot;
-    plot.OrigineX = ToSingle(plot.BlocBA * static_cast<double>(plot.Echelle) +
-                             static_cast<double>(plot.OrigineX));
+    plot.OrigineX = ToSingle(plot.BlocBA * Wide(plot.Echelle) + Wide(plot.OrigineX));
 }
 
 void TraceTexteEpaisseur(const Trace &trace) {
     const RibModel &rib = trace.rib;
     PlotState &plot = trace.plot;
-    const double corde = static_cast<double>(rib.corde);
+    const double corde = Wide(rib.corde);
     plot.PosEpDev = (kLastStation - rib.PosEpMaxi) / kLastStation * corde;
     if (!rib.AffEpr) {
         return;
     }
-    trace.Ecrit(
-        corde / 3.0 * static_cast<double>(plot.Echelle) + static_cast<double>(plot.OrigineX),
-        static_cast<double>(plot.OrigineY) -
-            static_cast<double>(plot.CordeEchelle) * rib.ExtradosMaxi - kTexteEpaisseurAuDessus,
-        TexteEpaisseur(trace));
+    trace.Ecrit(corde / 3.0 * Wide(plot.Echelle) + Wide(plot.OrigineX),
+                Wide(plot.OrigineY) - Wide(plot.CordeEchelle) * rib.ExtradosMaxi -
+                    kTexteEpaisseurAuDessus,
+                TexteEpaisseur(trace));
 }
 
 void TraceTexteInsere(const Trace &trace, double rampe) {
@@ -89,18 +86,16 @@ void TraceTexteInsere(const Trace &trace, double rampe) {
         return;
     }
     const PlotState &plot = trace.plot;
-    const double echelle = static_cast<double>(plot.Echelle);
-    trace.Ecrit(rampe * echelle + static_cast<double>(plot.OrigineX) +
-                    static_cast<double>(texte.InsTextX) * echelle,
-                static_cast<double>(plot.OrigineY) - static_cast<double>(texte.InsTextY) * echelle -
-                    kTexteAuDessus * echelle,
+    const double echelle = Wide(plot.Echelle);
+    trace.Ecrit(rampe * echelle + Wide(plot.OrigineX) + Wide(texte.InsTextX) * echelle,
+                Wide(plot.OrigineY) - Wide(texte.InsTextY) * echelle - kTexteAuDessus * echelle,
                 texte.InsTexte);
 }
 
 void TraceContour(const Trace &trace) {
     const RibModel &rib = trace.rib;
-    const double corde = static_cast<double>(trace.plot.CordeEchelle);
-    const double origine = static_cast<double>(trace.plot.OrigineX);
+    const double corde = Wide(trace.plot.CordeEchelle);
+    const double origine = Wide(trace.plot.OrigineX);
     trace.EnStyleDe(Element::profil);
     const Colour colour = trace.Couleur(Element::profil);
     for (long i = 2; i <= rib.NbContour; ++i) {
@@ -112,11 +107,10 @@ void TraceContour(const Trace &trace) {
 
 void TraceLigneReference(const Trace &trace) {
     const PlotState &plot = trace.plot;
-    const double x = static_cast<double>(plot.OrigineX);
-    const double y = static_cast<double>(plot.OrigineY);
+    const double x = Wide(plot.OrigineX);
+    const double y = Wide(plot.OrigineY);
     PrendStyleSeul(trace.device, trace.settings, Element::axe);
-    trace.device.Line(x - 1, y, x + static_cast<double>(plot.CordeEchelle) + 1, y,
-                      trace.Couleur(Element::axe));
+    trace.device.Line(x - 1, y, x + Wide(plot.CordeEchelle) + 1, y, trace.Couleur(Element::axe));
 }
 
 } // namespace loftwing

@@ -2,26 +2,20 @@
 
 #include "features/longeron.h"
 #include "output/plot_steps.h"
+#include "output/spar_face.h"
 
 namespace loftwing {
 
 namespace {
 
-/// The heights of one surface at a spar.
-struct Face {
-    double f, r, c; ///< at the front edge, the rear edge and the centre
-    double inward;  ///< 1 on the upper surface: down on the device; -1 on the lower one
-};
-
 /// A spar that cuts into one surface, in device units.
 class Encoche {
   public:
     Encoche(const Trace &trace, const Longeron &spar, const PlaceTracee &place, Face face)
-        : trace_(trace), face_(face), echelle_(static_cast<double>(trace.plot.Echelle)),
-          echelle_y_(face.inward * static_cast<double>(trace.plot.EchelleY)),
-          w_(static_cast<double>(spar.LargLong)), h_(static_cast<double>(spar.HautLong)),
-          d_(static_cast<double>(spar.DistLong)), xf_(trace.X(static_cast<double>(place.kf))),
-          xr_(trace.X(static_cast<double>(place.kr))), colour_(trace.Couleur(Element::longeron)),
+        : trace_(trace), face_(face), echelle_(Wide(trace.plot.Echelle)),
+          echelle_y_(-face.inward * Wide(trace.plot.EchelleY)), w_(Wide(spar.LargLong)),
+          h_(Wide(spar.HautLong)), d_(Wide(spar.DistLong)), xf_(trace.X(Wide(place.kf))),
+          xr_(trace.X(Wide(place.kr))), colour_(trace.Couleur(Element::longeron)),
           axis_(trace.Couleur(Element::axe)) {}
 
     void Rond() const;
@@ -32,24 +26,24 @@ class Encoche {
     const Trace &trace_;
     Face face_;
     double echelle_;
-    double echelle_y_; ///< device units of one mm inward
+    double echelle_y_; ///< device units of one mm inward; heights grow against them
     double w_, h_, d_; ///< width, depth, distance from the surface, mm
     double xf_, xr_;
     Colour colour_, axis_;
 
     /// The surface that depths count from: the contour or the inner face of the sheeting.
     double Y(double height) const {
-        return trace_.Y(height - face_.inward * static_cast<double>(trace_.plot.DecalCoffr));
+        return trace_.Y(height + face_.inward * Wide(trace_.plot.DecalCoffr));
     }
 };
 
 void Encoche::Rond() const {
     const double y = Y(face_.c) + (d_ + h_) * echelle_y_;
-    if (face_.inward > 0) {
+    if (face_.inward < 0) {
         trace_.device.Line(xf_, y, xr_, y, axis_);
     } else {
         // Below, the depth is added instead of taken away, at the front by the unsigned scale: with
-        // a depth the axis misses the centre, as ever.
+        // a depth the axis misses the centre. A fixed oddity: ribs drawn before have it so.
         const double near = Y(face_.c) + d_ * echelle_y_;
         trace_.device.Line(xf_, near + h_ * echelle_, xr_, near - h_ * echelle_y_, axis_);
     }
@@ -65,10 +59,10 @@ void Encoche::Droit() const {
 }
 
 void Encoche::SuitSurface() const {
-    const double corde = static_cast<double>(trace_.plot.CordeEchelle);
-    const double corde_y = static_cast<double>(trace_.plot.CordeEchelleY);
+    const double corde = Wide(trace_.plot.CordeEchelle);
+    const double corde_y = Wide(trace_.plot.CordeEchelleY);
     trace_.device.Line(xf_, Y(face_.f), xr_, Y(face_.r), colour_);
-    const double t = Quotient(face_.inward * (face_.r - face_.f), w_) * h_;
+    const double t = Quotient(-face_.inward * (face_.r - face_.f), w_) * h_;
     trace_.device.LineStep(t * corde, h_ * echelle_y_, colour_);
     trace_.device.LineStep(-w_ * echelle_, (face_.r - face_.f) * corde_y, colour_);
     trace_.device.LineStep(-t * corde, -h_ * echelle_y_, colour_);
@@ -96,17 +90,15 @@ void TraceEncoche(const Trace &trace, const Longeron &spar, const PlaceTracee &p
 /// Where a spar stands. Failure 9 where one of its edges is outside the rib.
 PlaceTracee PlaceDe(const Trace &trace, const Longeron &spar) {
     PlaceTracee place = trace.PlaceAutour(spar.PosLong, spar.LargLong);
-    place.Uf = trace.U(static_cast<double>(place.kf));
-    place.Ur = trace.U(static_cast<double>(place.kr));
-    place.Lf = trace.L(static_cast<double>(place.kf));
-    place.Lr = trace.L(static_cast<double>(place.kr));
+    place.Uf = trace.U(Wide(place.kf));
+    place.Ur = trace.U(Wide(place.kr));
+    place.Lf = trace.L(Wide(place.kf));
+    place.Lr = trace.L(Wide(place.kr));
     return place;
 }
 
 void TraceAxe(const Trace &trace, const Longeron &spar, const PlaceTracee &place) {
-    const double x =
-        trace.X(static_cast<double>(place.kf)) +
-        static_cast<double>(spar.LargLong) * static_cast<double>(trace.plot.Echelle) / 2.0;
+    const double x = trace.X(Wide(place.kf)) + Wide(spar.LargLong) * Wide(trace.plot.Echelle) / 2.0;
     PrendStyleSeul(trace.device, trace.settings, Element::axe);
     trace.device.Line(x, trace.Y(place.Uc), x, trace.Y(place.Lc), trace.Couleur(Element::axe));
 }
@@ -121,8 +113,8 @@ bool TraceLongeron(const Trace &trace, Longeron &spar, PlaceTracee &place) {
     }
     place = PlaceDe(trace, spar);
     TraceAxe(trace, spar, place);
-    TraceEncoche(trace, spar, place, {place.Uf, place.Ur, place.Uc, 1}, spar.OptLongExt);
-    TraceEncoche(trace, spar, place, {place.Lf, place.Lr, place.Lc, -1}, spar.OptLongInt);
+    TraceEncoche(trace, spar, place, FaceExtrados(place), spar.OptLongExt);
+    TraceEncoche(trace, spar, place, FaceIntrados(place), spar.OptLongInt);
     return true;
 }
 

@@ -43,14 +43,13 @@ class Coffrage {
     }
     double Sur(const DecalageCoffrage &offsets, long k) const {
         return trace_.X(static_cast<double>(k)) +
-               static_cast<double>(trace_.plot.CordeEchelle) * At(offsets.DecalX, k);
+               Wide(trace_.plot.CordeEchelle) * At(offsets.DecalX, k);
     }
     double HautExtra(long k) const {
         return At(trace_.rib.TabExtrados, k) - At(trace_.plot.extra.DecalY, k);
     }
     double HautIntra(long k, const DecalageCoffrage &across) const {
-        return At(trace_.rib.TabIntrados, k) + At(across.DecalY, k) -
-               static_cast<double>(trace_.plot.CoupeRel);
+        return At(trace_.rib.TabIntrados, k) + At(across.DecalY, k) - Wide(trace_.plot.CoupeRel);
     }
     /// From station k to the next one up, on the upper and on the lower surface.
     void SegmentExtra(long k) const {
@@ -70,8 +69,8 @@ class Coffrage {
 /// compute: an earlier plot left them, or EtatAmorce. The lower line takes its height from the
 /// upper offsets.
 void Coffrage::EntreBords() const {
-    const int first = ToInt(static_cast<double>(trace_.plot.StationBF) + 1.0);
-    const int last = ToInt(static_cast<double>(trace_.plot.StationBA));
+    const int first = ToInt(Wide(trace_.plot.StationBF) + 1.0);
+    const int last = ToInt(Wide(trace_.plot.StationBA));
     for (int k = first; k <= last; ++k) {
         DecaleStation(k);
         SegmentExtra(k - 1);
@@ -84,7 +83,7 @@ void Coffrage::EntreBords() const {
 void Coffrage::JusquauBordFuite() const {
     PlotState &plot = trace_.plot;
     const float stock = ToSingle(Quotient(Wide(trace_.rib.EpBA), Wide(trace_.rib.corde)));
-    const double cut = static_cast<double>(plot.CoupeRel);
+    const double cut = Wide(plot.CoupeRel);
     for (long k = 0; stock < ToSingle(static_cast<double>(kLastStation - k) / kLastStation); ++k) {
         DecaleStation(k + 1);
         const double up = HautExtra(k);
@@ -106,9 +105,9 @@ void Coffrage::Ferme() const {
     const PlotState &plot = trace_.plot;
     const long k = plot.IdxFinCoffr;
     trace_.device.Line(trace_.X(static_cast<double>(k)),
-                       trace_.Y(At(trace_.rib.TabExtrados, k) - static_cast<double>(plot.EpRel)),
-                       static_cast<double>(plot.OrigineX) + static_cast<double>(plot.CordeEchelle),
-                       trace_.Y(plot.DemiBF), colour_);
+                       trace_.Y(At(trace_.rib.TabExtrados, k) - Wide(plot.EpRel)),
+                       Wide(plot.OrigineX) + Wide(plot.CordeEchelle), trace_.Y(plot.DemiBF),
+                       colour_);
 }
 
 } // namespace

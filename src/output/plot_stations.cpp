@@ -16,8 +16,8 @@ constexpr double kNumeroADroite = 20;          // device units from the line to 
 
 /// One line across the airfoil alone.
 void LigneDansProfil(const Trace &trace, double xs, double up, double lo) {
-    const double corde = static_cast<double>(trace.plot.CordeEchelle);
-    const double y = static_cast<double>(trace.plot.OrigineY);
+    const double corde = Wide(trace.plot.CordeEchelle);
+    const double y = Wide(trace.plot.OrigineY);
     const Colour colour = trace.Couleur(Element::rep);
     if (trace.rib.AffHaut) {
         trace.device.Line(xs, corde * up + y, xs, (lo - kSousLeProfilInverse) * corde + y, colour);
@@ -28,10 +28,10 @@ void LigneDansProfil(const Trace &trace, double xs, double up, double lo) {
 
 /// One line down to the bottom of the foam template; the number goes beside its foot.
 void LigneDansGabarit(const Trace &trace, double xs, double up) {
-    const double corde = static_cast<double>(trace.plot.CordeEchelle);
-    const double echelle = static_cast<double>(trace.plot.Echelle);
-    const double y = static_cast<double>(trace.plot.OrigineY);
-    const double bas = static_cast<double>(trace.rib.bloc.HTbasbloc);
+    const double corde = Wide(trace.plot.CordeEchelle);
+    const double echelle = Wide(trace.plot.Echelle);
+    const double y = Wide(trace.plot.OrigineY);
+    const double bas = Wide(trace.rib.bloc.HTbasbloc);
     const Colour colour = trace.Couleur(Element::rep);
     PlotDevice &device = trace.device;
     if (trace.rib.AffHaut) {
@@ -45,8 +45,7 @@ void LigneDansGabarit(const Trace &trace, double xs, double up) {
 }
 
 void TraceRepere(const Trace &trace, int i, float x) {
-    const double station =
-        static_cast<double>(StationDepuisBA(static_cast<double>(x), trace.rib.corde));
+    const double station = Wide(StationDepuisBA(Wide(x), trace.rib.corde));
     const double up = trace.U(station);
     const double lo = trace.L(station) - kSousLeProfil;
     trace.EnStyleDe(Element::rep);
@@ -56,7 +55,7 @@ void TraceRepere(const Trace &trace, int i, float x) {
         LigneDansGabarit(trace, trace.X(station), up);
     }
     trace.device.ForeColor = trace.Couleur(Element::rep);
-    trace.device.Font.size = static_cast<double>(trace.rib.Zoom) * kTailleNumero;
+    trace.device.Font.size = Wide(trace.rib.Zoom) * kTailleNumero;
     trace.device.Print(std::to_string(i));
 }
 
@@ -64,9 +63,9 @@ void TraceRepere(const Trace &trace, int i, float x) {
 
 void TraceReperes(const Trace &trace) {
     const int parts = trace.rib.NbRep + 1;
-    const float part = ToSingle(Quotient(static_cast<double>(trace.rib.corde), parts));
+    const float part = ToSingle(Quotient(Wide(trace.rib.corde), parts));
     for (int i = 0; i <= parts; ++i) {
-        TraceRepere(trace, i, ToSingle(static_cast<double>(part) * i));
+        TraceRepere(trace, i, ToSingle(Wide(part) * i));
     }
     trace.FinDeStyle();
     trace.device.ForeColor = PaletteColour(0);

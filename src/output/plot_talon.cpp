@@ -14,11 +14,10 @@ namespace {
 class Pied {
   public:
     Pied(const Trace &trace, double height)
-        : echelle_(static_cast<double>(trace.plot.Echelle)),
-          echelle_y_(static_cast<double>(trace.plot.EchelleY)),
+        : echelle_(Wide(trace.plot.Echelle)), echelle_y_(Wide(trace.plot.EchelleY)),
           s_(std::sin(trace.plot.VrillageRad)), c_(std::cos(trace.plot.VrillageRad)),
-          x_(s_ * height * echelle_ + static_cast<double>(trace.plot.OrigineX)),
-          y_(c_ * height * echelle_y_ + static_cast<double>(trace.plot.OrigineY)) {}
+          x_(s_ * height * echelle_ + Wide(trace.plot.OrigineX)),
+          y_(c_ * height * echelle_y_ + Wide(trace.plot.OrigineY)) {}
 
     /// Device position of the foot `distance` mm behind its start.
     double X(double distance) const { return x_ + distance * c_ * c_ * echelle_; }
@@ -36,14 +35,13 @@ void TraceTalon(const Trace &trace) {
     const RibModel &rib = trace.rib;
     const Talon &talon = rib.talon;
     PlotState &plot = trace.plot;
-    plot.VrillageRad = EnRadians(static_cast<double>(rib.vrillage));
-    const double corde = static_cast<double>(rib.corde);
-    const double echelle = static_cast<double>(plot.Echelle);
-    const double origine = static_cast<double>(plot.OrigineX);
-    const double rear =
-        FaceTalon(rib, plot.EpRel, static_cast<double>(StationDepuisBF(talon.TalonBF, rib.corde)));
-    const double front = FaceTalon(
-        rib, plot.EpRel, static_cast<double>(StationDepuisBF(talon.TalonLong, rib.corde)));
+    plot.VrillageRad = EnRadians(Wide(rib.vrillage));
+    const double corde = Wide(rib.corde);
+    const double echelle = Wide(plot.Echelle);
+    const double origine = Wide(plot.OrigineX);
+    const double rear = FaceTalon(rib, plot.EpRel, Wide(StationDepuisBF(talon.TalonBF, rib.corde)));
+    const double front =
+        FaceTalon(rib, plot.EpRel, Wide(StationDepuisBF(talon.TalonLong, rib.corde)));
     const Pied pied(trace, HauteurTalon(talon));
     trace.EnStyleDe(Element::bloc);
     trace.device.Line(pied.X(0), pied.Y(0), pied.X(corde), pied.Y(corde),
@@ -54,7 +52,7 @@ void TraceTalon(const Trace &trace) {
     const double e = corde - talon.TalonLong;
     // The lean of the front line is that of a chord of 170.1 mm on every rib; jigs are built to it.
     const double lean =
-        front * Quotient(3.0, static_cast<double>(rib.Zoom)) * echelle * std::tan(plot.VrillageRad);
+        front * Quotient(3.0, Wide(rib.Zoom)) * echelle * std::tan(plot.VrillageRad);
     trace.device.Line(pied.X(e), pied.Y(e), (corde - (lean + talon.TalonLong)) * echelle + origine,
                       trace.Y(front), colour);
     TraceTexteInsere(trace);

@@ -43,18 +43,18 @@ void TraceRond(const Trace &trace, const Percage &hole) {
 
 Percage PercageDe(const Trace &trace, const Trou &trou, const PlaceTracee &place) {
     const PlotState &plot = trace.plot;
-    const double echelle = static_cast<double>(plot.Echelle);
-    const double echelle_y = static_cast<double>(plot.EchelleY);
+    const double echelle = Wide(plot.Echelle);
+    const double echelle_y = Wide(plot.EchelleY);
     // Midway between the surfaces, or on the reference line.
     const double base = trou.ChkCentre == 1.0F ? (place.Uc - place.Lc) / 2.0 : place.Uc;
     Percage hole{};
-    hole.xf = trace.X(static_cast<double>(place.kf));
-    hole.xr = trace.X(static_cast<double>(place.kr));
-    hole.w = static_cast<double>(trou.DiaTrou) * echelle;
+    hole.xf = trace.X(Wide(place.kf));
+    hole.xr = trace.X(Wide(place.kr));
+    hole.w = Wide(trou.DiaTrou) * echelle;
     hole.xc = hole.xf + hole.w / 2.0;
-    hole.y = trace.Y(place.Uc - base) - static_cast<double>(trou.DecalTrou) * echelle_y;
-    hole.hh = static_cast<double>(trou.HautTrou) * echelle_y;
-    hole.hh_unsigned = static_cast<double>(trou.HautTrou) * echelle;
+    hole.y = trace.Y(place.Uc - base) - Wide(trou.DecalTrou) * echelle_y;
+    hole.hh = Wide(trou.HautTrou) * echelle_y;
+    hole.hh_unsigned = Wide(trou.HautTrou) * echelle;
     return hole;
 }
 

@@ -55,7 +55,7 @@ FinImpression Conduit(const Impression &run, Printer &printer, Job job) {
     }
 }
 
-/// One cross in device units around (x, y), all given in mm from the sheet's corner and `origin`.
+/// One cross around (x, y), all in device units.
 void Croix(PlotDevice &device, double x, double y, Colour colour) {
     const double arm = kBras * kUnitsPerMm;
     device.Line(x, y - arm, x, y + arm, colour);

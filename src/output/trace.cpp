@@ -5,12 +5,11 @@
 namespace loftwing {
 
 double Trace::X(double station) const {
-    return (kLastStation - station) / kLastStation * static_cast<double>(plot.CordeEchelle) +
-           static_cast<double>(plot.OrigineX);
+    return (kLastStation - station) / kLastStation * Wide(plot.CordeEchelle) + Wide(plot.OrigineX);
 }
 
 double Trace::Y(double height) const {
-    return static_cast<double>(plot.OrigineY) - static_cast<double>(plot.CordeEchelleY) * height;
+    return Wide(plot.OrigineY) - Wide(plot.CordeEchelleY) * height;
 }
 
 double Trace::U(double station) const {
@@ -26,14 +25,14 @@ PlaceTracee Trace::PlaceAutour(float centre, float width) const {
     if (centre > rib.corde) {
         throw MakeFailure(kSubscriptOutOfRange);
     }
-    const double middle = static_cast<double>(centre);
-    const double half = static_cast<double>(width) / 2.0;
+    const double middle = Wide(centre);
+    const double half = Wide(width) / 2.0;
     PlaceTracee place;
     place.kr = StationDepuisBA(middle + half, rib.corde);
     place.kf = StationDepuisBA(middle - half, rib.corde);
     place.kc = StationDepuisBA(middle, rib.corde);
-    place.Uc = U(static_cast<double>(place.kc));
-    place.Lc = L(static_cast<double>(place.kc));
+    place.Uc = U(Wide(place.kc));
+    place.Lc = L(Wide(place.kc));
     return place;
 }
 

@@ -1,7 +1,7 @@
 /// The drawings that may stand in the rib's place: two airfoils compared, an airfoil with its new
 /// thickness and camber, the bare points of a file. Each routine is of the rib plot's kind: it
-/// draws at the scale and origin set by its caller, doesn't read `factor`, reports a failure under
-/// its label and then gives false.
+/// draws at the scale and origin set by its caller, reports a failure under its label and then
+/// gives false. None reads `factor`: it is there so that all four plot routines are called alike.
 #pragma once
 
 #include "core/comparaison.h"

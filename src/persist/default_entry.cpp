@@ -64,8 +64,7 @@ float LongueurBlocPour(const RibModel &rib, const Longueurs &mm) {
     if (rib.TypeGabarit != kGabaritMousse) {
         return rib.bloc.LongBloc;
     }
-    return ToSingle(static_cast<double>(mm[kDefautCorde]) + static_cast<double>(mm[kDefautBAbloc]) +
-                    static_cast<double>(mm[kDefautBFbloc]));
+    return ToSingle(Wide(mm[kDefautCorde]) + Wide(mm[kDefautBAbloc]) + Wide(mm[kDefautBFbloc]));
 }
 
 /// Stores texts and numbers; whether that changed a text.

@@ -2,11 +2,9 @@
 #pragma once
 
 #include "persist/default_entry.h"
-#include "platform/qt_form.h"
 #include "programme/main_view.h"
-#include "programme/programme.h"
+#include "programme/qt_dialogue.h"
 
-#include <QDialog>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
@@ -19,23 +17,20 @@ namespace loftwing {
 /// A click on a unit brings that unit, its page settings and its usual values into the fields;
 /// Cancel puts back the unit alone. OK asks before another unit clears the rib; after a No all is
 /// as the dialog found it and the dialog stays.
-class frmdefaut : public QDialog {
+class frmdefaut : public Dialogue {
     Q_OBJECT
 
   public:
     frmdefaut(Programme &programme, MainView &view, QWidget *parent);
 
-    /// Escape and the window's own close button do what Cancel does.
-    void reject() override;
-
   private:
-    Programme &programme_;
     MainView &view_;
     const std::string unite_avant_;
     const MiseEnPage page_avant_;
     bool unite_acceptee_ = false; ///< Yes was said to the unit that is chosen now
 
-    // The frames go last, since what stands in them is theirs.
+    // The frames stand first, so that they outlive what stands in them: a frame that goes takes
+    // along what it still holds.
     QGroupBox Frame5;
     QGroupBox Frame3;
     QGroupBox Frame4;
@@ -48,21 +43,19 @@ class frmdefaut : public QDialog {
     QPushButton cmdrecherche;
     NumericField txtdefprofevol;
     QPushButton cmdrechercheevol;
-    QPushButton cmdok;
-    QPushButton cmdannuler;
-    QPushButton cmdaide;
 
+    // frmdefaut_build.cpp
     void NameAll();
     void LayOut();
     void LayOutFolder(QGroupBox &frame, NumericField &field, QPushButton &browse);
+
     void ConnectAll();
     void PoseTextes();
-
     void Form_Load();
     void mm_Click();
     void inches_Click();
-    void cmdok_Click();
-    void cmdannuler_Click();
+    void cmdok_Click() override;
+    void cmdannuler_Click() override;
     void cmdrecherche_Click();
     void cmdrechercheevol_Click();
 
@@ -75,7 +68,6 @@ class frmdefaut : public QDialog {
     bool UniteGardee() const;
     void Enregistre();
     void ChoisitDossier(NumericField &field, std::string &folder);
-    TextesDefaut TextesTapes() const;
 };
 
 } // namespace loftwing

@@ -8,11 +8,10 @@
 #include <QClipboard>
 #include <QDialog>
 #include <QFocusEvent>
-#include <QHBoxLayout>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMouseEvent>
-#include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
 
@@ -137,6 +136,17 @@ void SelectField(QLineEdit &field) {
     field.selectAll();
 }
 
+void PlainText(std::initializer_list<QLabel *> labels) {
+    for (QLabel *label : labels) {
+        label->setTextFormat(Qt::PlainText);
+    }
+}
+
+void SetCaption(QLabel &caption, QWidget &field) {
+    PlainText({&caption});
+    caption.setBuddy(&field);
+}
+
 std::string ButtonWord(const LngIni &language, SharedWord word) {
     return language.LngText(KeyOf(word));
 }
@@ -145,13 +155,10 @@ void SetButtonWord(QAbstractButton &button, const LngIni &language, SharedWord w
     button.setText(Q(ButtonWord(language, word)));
 }
 
-QHBoxLayout *ButtonRow(std::initializer_list<QPushButton *> buttons) {
-    auto *row = new QHBoxLayout;
-    row->addStretch();
-    for (QPushButton *button : buttons) {
-        row->addWidget(button);
-    }
-    return row;
+void GardePlace(QWidget &widget) {
+    QSizePolicy kept = widget.sizePolicy();
+    kept.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(kept);
 }
 
 void SetTip(QWidget &widget, const std::string &tip) {
@@ -185,6 +192,12 @@ void NameControl(QObject &control, const char *name) {
 
 void NameControl(QObject &control, const char *name, int index) {
     control.setObjectName(QString::fromLatin1("%1(%2)").arg(QLatin1String(name)).arg(index));
+}
+
+void NameControls(std::initializer_list<std::pair<QObject *, const char *>> names) {
+    for (const auto &[control, name] : names) {
+        NameControl(*control, name);
+    }
 }
 
 int ShowModal(QDialog &dialog) {

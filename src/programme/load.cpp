@@ -38,6 +38,8 @@ void ChargeReglages(Programme &programme) {
         ValeursDefaut(programme.ReglagesEnCours(), programme.paths.programme);
     }
     ControlRep(programme.ReglagesEnCours(), programme.paths.programme);
+    // Sheets of different days have the reference line at one height: another place holds for one
+    // run of the program.
     ReplaceYdprint(programme.settings.page, programme.settings.Unite);
 }
 
@@ -68,8 +70,11 @@ FichiersRecents FichiersRecentsConnus(Programme &programme) {
 void VideRib(Programme &programme) {
     RibModel &rib = programme.rib;
     RazRib(rib, ToSingle(NombreMm(rib.EpBAAfich, programme.SaisieEnCours())));
+    // A cleared rib has the usual size of text again, and the next start begins with that.
     WriteINIFile("InsText", "TailleFont", NumberText(rib.texte.TailleFont),
                  programme.paths.fichier);
+    // Compare and thickness views end with the view's reset, and the contour stays: nothing draws
+    // it without an airfoil.
     rib.EpMaxi = 0;
     rib.CambrureMaxi = 0;
     rib.Partie<Vue>() = {};

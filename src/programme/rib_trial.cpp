@@ -23,7 +23,7 @@ bool RibTracable(Programme &programme, const std::string &titre) {
     try {
         Recording nowhere;
         PlotState apart = programme.plot;
-        apart.CordeEchelle = ToSingle(static_cast<double>(rib.corde) * kUnitsPerMm);
+        apart.CordeEchelle = ToSingle(Wide(rib.corde) * kUnitsPerMm);
         DrawRib({nowhere, programme.rib, programme.settings, apart, programme.messages});
     } catch (const Failure &failure) {
         programme.messages.Inform(

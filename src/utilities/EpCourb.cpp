@@ -92,7 +92,7 @@ bool Applique(RibModel &rib, double courbure, ChampsEpCourb &champs, const Messa
 /// anew: its rounding is part of the files that there are.
 class Points {
   public:
-    void Avance(double pas) { x_ = ToSingle(static_cast<double>(x_) + pas); }
+    void Avance(double pas) { x_ = ToSingle(Wide(x_) + pas); }
     void Ajoute(double y) {
         // A number that isn't negative has a blank for its sign.
         lignes.push_back(Format(x_, "0.000") + " " + (y < 0.0 ? "" : " ") + NumberText(y) + " ");
@@ -135,7 +135,7 @@ std::string TitreEpCourb(const RibModel &rib, const Messages &messages) {
 }
 
 std::string TexteEpaisseurMaxi(const RibModel &rib, double part, const std::string &Unite) {
-    const std::string shown = DepuisMm(static_cast<double>(rib.corde) * part, Unite);
+    const std::string shown = DepuisMm(Wide(rib.corde) * part, Unite);
     return FormatAffiche(shown, kPictureThreeDecimals) + Unite;
 }
 

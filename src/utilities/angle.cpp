@@ -13,7 +13,7 @@ namespace {
 constexpr float kAngleDroit = 90;
 
 double Sinus(const NervureOblique &oblique) {
-    return std::sin(EnRadians(static_cast<double>(oblique.AngleNervure)));
+    return std::sin(EnRadians(Wide(oblique.AngleNervure)));
 }
 
 bool InterneDonnee(const NervureOblique &oblique) {
@@ -60,10 +60,10 @@ std::string Affiche(float corde, const std::string &Unite) {
 void CalculeCorde(NervureOblique &oblique, const std::string &Unite) {
     const double sinus = Sinus(oblique);
     if (InterneDonnee(oblique)) {
-        oblique.CordeExterne = ToSingle(Quotient(static_cast<double>(oblique.CordeInterne), sinus));
+        oblique.CordeExterne = ToSingle(Quotient(Wide(oblique.CordeInterne), sinus));
         oblique.CordeExterneAfich = Affiche(oblique.CordeExterne, Unite);
     } else {
-        oblique.CordeInterne = ToSingle(static_cast<double>(oblique.CordeExterne) * sinus);
+        oblique.CordeInterne = ToSingle(Wide(oblique.CordeExterne) * sinus);
         oblique.CordeInterneAfich = Affiche(oblique.CordeInterne, Unite);
     }
 }

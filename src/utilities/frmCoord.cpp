@@ -1,7 +1,6 @@
 #include "utilities/frmCoord.h"
 
 #include <QKeyEvent>
-#include <QScopedValueRollback>
 
 #include <algorithm>
 #include <functional>
@@ -14,7 +13,8 @@ constexpr int kAide = 80;
 
 } // namespace
 
-frmCoord::frmCoord(Programme &programme, QWidget *parent) : QDialog(parent), programme_(programme) {
+frmCoord::frmCoord(Programme &programme, QWidget *parent)
+    : Dialogue(programme, "frmCoord", kAide, parent) {
     NameAll();
     LayOut();
     ConnectAll();
@@ -31,40 +31,33 @@ void frmCoord::Form_Load() {
 }
 
 void frmCoord::PoseTextes() {
-    const auto word = [this](LngKey key) { return Q(programme_.Text(key)); };
-    setWindowTitle(word({"Frmcoord", "1"}));
-    Label1[kNom].setText(word({"Frmcoord", "2"}));
-    Label1[kTitreFichier].setText(word({"Frmcoord", "3"}));
-    Label1[kDiviseur].setText(word({"Frmcoord", "4"}));
+    setWindowTitle(Mot({"Frmcoord", "1"}));
+    Label1[kNom].setText(Mot({"Frmcoord", "2"}));
+    Label1[kTitreFichier].setText(Mot({"Frmcoord", "3"}));
+    Label1[kDiviseur].setText(Mot({"Frmcoord", "4"}));
     SetTip(txt[kTitreFichier], programme_.Text({"Frmcoord", "3T"}));
     SetTip(txt[kDiviseur], programme_.Text({"Frmcoord", "4T"}));
-    Label2.setText(word({"Frmcoord", "5"}));
+    Label2.setText(Mot({"Frmcoord", "5"}));
     txtinX.setAccessibleName("X");
     txtinY.setAccessibleName("Y");
-    cmdentre.setText(word({"TextButton", "18"}));
+    cmdentre.setText(Mot({"TextButton", "18"}));
     SetTip(cmdentre, programme_.Text({"TextButton", "18T"}));
-    cmdajouter.setText(word({"TextButton", "19"}));
+    cmdajouter.setText(Mot({"TextButton", "19"}));
     SetTip(cmdajouter, programme_.Text({"TextButton", "19T"}));
-    cmdeffaceligne.setText(word({"TextButton", "20"}));
+    cmdeffaceligne.setText(Mot({"TextButton", "20"}));
     SetTip(cmdeffaceligne, programme_.Text({"TextButton", "20T"}));
-    cmdeffacetout.setText(word({"TextButton", "21"}));
+    cmdeffacetout.setText(Mot({"TextButton", "21"}));
     SetTip(cmdeffacetout, programme_.Text({"TextButton", "21T"}));
-    cmdsave.setText(word({"Frmcoord", "20"}));
+    cmdsave.setText(Mot({"Frmcoord", "20"}));
     SetTip(cmdsave, programme_.Text({"Frmcoord", "20T"}));
-    cmdouvrir.setText(word({"Frmcoord", "21"}));
+    cmdouvrir.setText(Mot({"Frmcoord", "21"}));
     SetTip(cmdouvrir, programme_.Text({"Frmcoord", "21T"}));
-    SetButtonWord(cmdfermer, programme_.language, SharedWord::close);
-    SetButtonWord(cmdaide, programme_.language, SharedWord::help);
+    PoseMotsPartages();
 }
 
 void frmCoord::txt_Change() {
-    if (EnChangement) {
-        return;
-    }
-    const QScopedValueRollback<bool> changing(EnChangement, true);
     QLineEdit &divisor = txt[kDiviseur];
-    programme_.messages.Garde(" Coord/Txt",
-                              [&] { divisor.setText(Q(TexteDiviseur(S(divisor.text())))); });
+    Seul(" Coord/Txt", [&] { divisor.setText(Q(TexteDiviseur(S(divisor.text())))); });
     divisor.end(false);
 }
 
@@ -84,7 +77,7 @@ void frmCoord::Entre() {
 }
 
 void frmCoord::cmdentre_Click() {
-    programme_.messages.Garde(" Coord/Enter", [this] { Entre(); });
+    Garde(" Coord/Enter", [this] { Entre(); });
 }
 
 /// The selected lines, from the last one back.
@@ -120,7 +113,7 @@ void frmCoord::Ajoute() {
 }
 
 void frmCoord::cmdajouter_Click() {
-    programme_.messages.Garde(" Coord/Insert", [this] { Ajoute(); });
+    Garde(" Coord/Insert", [this] { Ajoute(); });
 }
 
 void frmCoord::Modifie() {
@@ -136,7 +129,7 @@ void frmCoord::Modifie() {
 }
 
 void frmCoord::Liste_Valeurs_DblClick() {
-    programme_.messages.Garde(" Coord/Edit", [this] { Modifie(); });
+    Garde(" Coord/Edit", [this] { Modifie(); });
 }
 
 void frmCoord::cmdeffaceligne_Click() {
@@ -194,7 +187,7 @@ void frmCoord::Enregistre() {
 }
 
 void frmCoord::cmdsave_Click() {
-    programme_.messages.Garde(" Coord/Save", [this] { Enregistre(); });
+    Garde(" Coord/Save", [this] { Enregistre(); });
 }
 
 void frmCoord::Ouvre() {
@@ -227,23 +220,15 @@ void frmCoord::Ouvre() {
 }
 
 void frmCoord::cmdouvrir_Click() {
-    programme_.messages.Garde(" Coord/Open", [this] { Ouvre(); });
-}
-
-void frmCoord::cmdfermer_Click() {
-    reject();
+    Garde(" Coord/Open", [this] { Ouvre(); });
 }
 
 /// Whether the window may close.
 bool frmCoord::Form_Unload() {
-    if (!APerdre() || programme_.messages.Confirm(programme_.Text({"Frmcoord", "17"}), Titre())) {
-        return true;
-    }
-    programme_.rib.Annule = true;
-    return false;
+    return !APerdre() || programme_.messages.Confirm(programme_.Text({"Frmcoord", "17"}), Titre());
 }
 
-void frmCoord::reject() {
+void frmCoord::cmdannuler_Click() {
     if (Form_Unload()) {
         QDialog::reject();
     }
@@ -266,7 +251,7 @@ bool frmCoord::eventFilter(QObject *watched, QEvent *event) {
             return true;
         }
     }
-    return QDialog::eventFilter(watched, event);
+    return Dialogue::eventFilter(watched, event);
 }
 
 void frmCoord::ConnectAll() {
@@ -282,10 +267,8 @@ void frmCoord::ConnectAll() {
     connect(&cmdeffacetout, &QPushButton::clicked, this, &frmCoord::cmdeffacetout_Click);
     connect(&cmdouvrir, &QPushButton::clicked, this, &frmCoord::cmdouvrir_Click);
     connect(&cmdsave, &QPushButton::clicked, this, &frmCoord::cmdsave_Click);
-    connect(&cmdfermer, &QPushButton::clicked, this, &frmCoord::cmdfermer_Click);
     Liste_Valeurs.installEventFilter(this);
     Liste_Valeurs.viewport()->installEventFilter(this);
-    ConnectHelp(*this, cmdaide, programme_.platform, kAide);
 }
 
 } // namespace loftwing

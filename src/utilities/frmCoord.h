@@ -1,11 +1,9 @@
 /// The coordinate editor.
 #pragma once
 
-#include "platform/qt_form.h"
-#include "programme/programme.h"
+#include "programme/qt_dialogue.h"
 #include "utilities/coord.h"
 
-#include <QDialog>
 #include <QGridLayout>
 #include <QLabel>
 #include <QListWidget>
@@ -19,8 +17,8 @@ namespace loftwing {
 
 /// Points typed by hand become lines of text, and these an airfoil file. Stays open beside the main
 /// window; nothing of it has to do with the rib. Closing it asks when lines aren't saved;
-/// rib.Annule tells that the user stayed.
-class frmCoord : public QDialog {
+/// close() tells whether the user let it.
+class frmCoord : public Dialogue {
     Q_OBJECT
 
   public:
@@ -28,9 +26,6 @@ class frmCoord : public QDialog {
 
     /// Words in the language in force.
     void PoseTextes();
-
-    /// Escape and the window's own close button do what Close does.
-    void reject() override;
 
   protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -40,10 +35,8 @@ class frmCoord : public QDialog {
     static constexpr int kTitreFichier = 1;
     static constexpr int kDiviseur = 2;
 
-    Programme &programme_;
     std::int16_t NbLignes = 0; ///< of the list at the last entry, load or clearing
     bool Sauve = false;        ///< the list is as it was saved or loaded
-    bool EnChangement = false; ///< the divisor is being put into its form
 
     std::array<QLabel, 3> Label1; ///< of the boxes below
     std::array<NumericField, 3> txt;
@@ -57,15 +50,14 @@ class frmCoord : public QDialog {
     QPushButton cmdeffacetout;
     QPushButton cmdouvrir;
     QPushButton cmdsave;
-    QPushButton cmdfermer;
-    QPushButton cmdaide;
 
+    // frmCoord_build.cpp
     void NameAll();
     void LayOut();
     QGridLayout *LayOutEntries();
     QVBoxLayout *LayOutCommands();
-    void ConnectAll();
 
+    void ConnectAll();
     void Form_Load();
     bool Form_Unload();
     void txt_Change();
@@ -75,7 +67,7 @@ class frmCoord : public QDialog {
     void cmdeffacetout_Click();
     void cmdouvrir_Click();
     void cmdsave_Click();
-    void cmdfermer_Click();
+    void cmdannuler_Click() override;
     void Liste_Valeurs_DblClick();
 
     void Entre();
@@ -88,7 +80,6 @@ class frmCoord : public QDialog {
     std::string LigneChoisie() const;
     bool APerdre() const { return !Sauve && NbLignes != 0; }
     std::string Texte(int index) const { return S(At(txt, index).text()); }
-    std::string Titre() const { return S(windowTitle()); }
 };
 
 } // namespace loftwing

@@ -19,24 +19,16 @@ QFont ColumnFont(const QFont &usual) {
 } // namespace
 
 void frmCoord::NameAll() {
-    NameControl(*this, "frmCoord");
-    const std::pair<QObject *, const char *> names[] = {
-        {&Label2, "Label2"},
-        {&txtinX, "txtinX"},
-        {&txtinY, "txtinY"},
-        {&Liste_Valeurs, "Liste_Valeurs"},
-        {&cmdentre, "cmdentre"},
-        {&cmdajouter, "cmdajouter"},
-        {&cmdeffaceligne, "cmdeffaceligne"},
-        {&cmdeffacetout, "cmdeffacetout"},
-        {&cmdouvrir, "cmdouvrir"},
-        {&cmdsave, "cmdsave"},
-        {&cmdfermer, "cmdfermer"},
-        {&cmdaide, "cmdaide"},
-    };
-    for (const auto &[control, name] : names) {
-        NameControl(*control, name);
-    }
+    NameControls({{&Label2, "Label2"},
+                  {&txtinX, "txtinX"},
+                  {&txtinY, "txtinY"},
+                  {&Liste_Valeurs, "Liste_Valeurs"},
+                  {&cmdentre, "cmdentre"},
+                  {&cmdajouter, "cmdajouter"},
+                  {&cmdeffaceligne, "cmdeffaceligne"},
+                  {&cmdeffacetout, "cmdeffacetout"},
+                  {&cmdouvrir, "cmdouvrir"},
+                  {&cmdsave, "cmdsave"}});
     NameControls(Label1, "Label1");
     NameControls(txt, "txt");
 }
@@ -56,7 +48,7 @@ void frmCoord::LayOut() {
     auto *rows = new QVBoxLayout(this);
     rows->addLayout(LayOutEntries());
     rows->addLayout(list, 1);
-    rows->addLayout(ButtonRow({&cmdfermer, &cmdaide}));
+    PoseBoutons(*rows, {SharedWord::close, SharedWord::help});
     // Return in the name or the title must not enter the last point a second time.
     for (QPushButton *button : findChildren<QPushButton *>()) {
         button->setAutoDefault(false);
@@ -68,11 +60,9 @@ QGridLayout *frmCoord::LayOutEntries() {
     for (int i = 0; i < 3; ++i) {
         grid->addWidget(&At(Label1, i), i, 0);
         grid->addWidget(&At(txt, i), i, 1, 1, 3);
-        At(Label1, i).setTextFormat(Qt::PlainText);
-        At(Label1, i).setBuddy(&At(txt, i));
+        SetCaption(At(Label1, i), At(txt, i));
     }
-    Label2.setTextFormat(Qt::PlainText);
-    Label2.setBuddy(&txtinX);
+    SetCaption(Label2, txtinX);
     grid->addWidget(&Label2, 3, 0);
     grid->addWidget(&txtinX, 3, 1);
     grid->addWidget(&txtinY, 3, 2);

@@ -3,10 +3,6 @@
 #include "platform/busy_pointer.h"
 #include "utilities/tool_files.h"
 
-#include <QGridLayout>
-#include <QScopedValueRollback>
-#include <QVBoxLayout>
-
 #include <optional>
 
 namespace loftwing {
@@ -14,24 +10,23 @@ namespace loftwing {
 namespace {
 
 constexpr int kAide = 60;
-constexpr const char *kValeurUsuelle = "100.00--";
 
 } // namespace
 
 frmEpCourb::frmEpCourb(Programme &programme, MainView &view, QWidget *parent)
-    : QDialog(parent), programme_(programme), view_(view) {
+    : Dialogue(programme, "frmEpCourb", kAide, parent), view_(view) {
     NameAll();
     LayOut();
     PoseTextes();
     Form_Load();
-    ConnectAll();
+    connect(&cmdsave, &QPushButton::clicked, this, &frmEpCourb::cmdsave_Click);
+    connect(&cmdprintEC, &QPushButton::clicked, this, &frmEpCourb::cmdprintEC_Click);
 }
 
 void frmEpCourb::Form_Load() {
     RibModel &rib = programme_.rib;
-    rib.Annule = false;
     setWindowTitle(Q(TitreEpCourb(rib, programme_.messages)));
-    programme_.messages.Garde(" EpCourb/Load", [this, &rib] {
+    Garde(" EpCourb/Load", [this, &rib] {
         const TextesEpCourb shown = OuvreEpCourb(rib, programme_.settings.Unite);
         txtEpROr.setText(Q(shown.txtEpROr));
         txtCourbureOr.setText(Q(shown.txtCourbureOr));
@@ -44,31 +39,16 @@ void frmEpCourb::Form_Load() {
 }
 
 void frmEpCourb::PoseTextes() {
-    const auto word = [this](LngKey key) { return Q(programme_.Text(key)); };
-    Label3[0].setText(word({"FrmEpCourb", "2"}));
-    Label1.setText(word({"FrmEpCourb", "3"}));
-    Label2.setText(word({"FrmEpCourb", "4"}));
-    Label3[1].setText(word({"FrmEpCourb", "5"}));
-    cmdsave.setText(word({"TextButton", "10"}));
+    Label3[0].setText(Mot({"FrmEpCourb", "2"}));
+    Label1.setText(Mot({"FrmEpCourb", "3"}));
+    Label2.setText(Mot({"FrmEpCourb", "4"}));
+    Label3[1].setText(Mot({"FrmEpCourb", "5"}));
+    cmdsave.setText(Mot({"TextButton", "10"}));
     SetTip(cmdsave, programme_.Text({"FrmEpCourb", "6"}));
-    cmdprintEC.setText(word({"TextButton", "14"}));
-    SetButtonWord(CmdApply, programme_.language, SharedWord::apply);
-    SetButtonWord(cmdok, programme_.language, SharedWord::ok);
-    SetButtonWord(cmdannuler, programme_.language, SharedWord::cancel);
-    SetButtonWord(cmdaide, programme_.language, SharedWord::help);
+    cmdprintEC.setText(Mot({"TextButton", "14"}));
     // Percentages: no fraction even in inches.
     txtEpR.SetKeys(kTouchesPositif);
     txtCourbure.SetKeys(kTouchesPositif);
-}
-
-/// Runs `action` unless another one is at work. A failure is told once; the window goes on.
-template <class Action>
-void frmEpCourb::Seul(const char *label, Action action) {
-    if (EnCours) {
-        return;
-    }
-    const QScopedValueRollback<bool> busy(EnCours, true);
-    programme_.messages.Garde(label, action);
 }
 
 ChampsEpCourb frmEpCourb::Champs() const {
@@ -179,79 +159,6 @@ void frmEpCourb::cmdannuler_Click() {
         view_.affclear();
         QDialog::reject();
     });
-}
-
-void frmEpCourb::reject() {
-    cmdannuler_Click();
-}
-
-void frmEpCourb::NameAll() {
-    NameControl(*this, "frmEpCourb");
-    const std::pair<QObject *, const char *> names[] = {
-        {&Label1, "Label1"},     {&Label2, "Label2"},
-        {&Label4, "Label4"},     {&Label5, "Label5"},
-        {&txtEpROr, "txtEpROr"}, {&txtCourbureOr, "txtCourbureOr"},
-        {&txtEpR, "txtEpR"},     {&txtCourbure, "txtCourbure"},
-        {&CmdApply, "CmdApply"}, {&cmdsave, "cmdsave"},
-        {&cmdok, "cmdok"},       {&cmdprintEC, "cmdprintEC"},
-        {&cmdaide, "cmdaide"},   {&cmdannuler, "cmdannuler"},
-    };
-    for (const auto &[control, name] : names) {
-        NameControl(*control, name);
-    }
-    NameControls(Label3, "Label3");
-}
-
-void frmEpCourb::LayOut() {
-    auto *grid = new QGridLayout;
-    grid->addWidget(&Label3[0], 0, 1);
-    grid->addWidget(&Label3[1], 0, 2);
-    grid->addWidget(&Label1, 1, 0);
-    grid->addWidget(&txtEpROr, 1, 1);
-    grid->addWidget(&txtEpR, 1, 2);
-    grid->addWidget(&Label4, 2, 1);
-    grid->addWidget(&Label5, 2, 2);
-    grid->addWidget(&Label2, 3, 0);
-    grid->addWidget(&txtCourbureOr, 3, 1);
-    grid->addWidget(&txtCourbure, 3, 2);
-    grid->setColumnStretch(1, 1);
-    grid->setColumnStretch(2, 1);
-    grid->setHorizontalSpacing(grid->horizontalSpacing() * 2);
-    for (QLineEdit *field :
-         std::initializer_list<QLineEdit *>{&txtEpROr, &txtCourbureOr, &txtEpR, &txtCourbure}) {
-        field->setMinimumWidth(fontMetrics().horizontalAdvance(kValeurUsuelle));
-        field->setAlignment(Qt::AlignRight);
-    }
-    for (QLineEdit *shown : {&txtEpROr, &txtCourbureOr}) {
-        shown->setReadOnly(true);
-        shown->setFocusPolicy(Qt::NoFocus);
-        shown->setFrame(false);
-        QPalette on_window;
-        on_window.setColor(QPalette::Base, Qt::transparent);
-        shown->setPalette(on_window);
-    }
-    for (QLabel *label : {&Label3[0], &Label3[1], &Label4, &Label5}) {
-        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    }
-    for (QLabel *label : {&Label1, &Label2, &Label3[0], &Label3[1], &Label4, &Label5}) {
-        label->setTextFormat(Qt::PlainText);
-    }
-    Label1.setBuddy(&txtEpR);
-    Label2.setBuddy(&txtCourbure);
-    auto *rows = new QVBoxLayout(this);
-    rows->addLayout(grid);
-    rows->addStretch();
-    rows->addLayout(ButtonRow({&CmdApply, &cmdsave, &cmdprintEC, &cmdok, &cmdannuler, &cmdaide}));
-    cmdok.setDefault(true);
-}
-
-void frmEpCourb::ConnectAll() {
-    connect(&CmdApply, &QPushButton::clicked, this, &frmEpCourb::CmdApply_Click);
-    connect(&cmdsave, &QPushButton::clicked, this, &frmEpCourb::cmdsave_Click);
-    connect(&cmdprintEC, &QPushButton::clicked, this, &frmEpCourb::cmdprintEC_Click);
-    connect(&cmdok, &QPushButton::clicked, this, &frmEpCourb::cmdok_Click);
-    connect(&cmdannuler, &QPushButton::clicked, this, &frmEpCourb::cmdannuler_Click);
-    ConnectHelp(*this, cmdaide, programme_.platform, kAide);
 }
 
 } // namespace loftwing

@@ -1,12 +1,10 @@
 /// Thickness and camber.
 #pragma once
 
-#include "platform/qt_form.h"
 #include "programme/main_view.h"
-#include "programme/programme.h"
+#include "programme/qt_dialogue.h"
 #include "utilities/EpCourb.h"
 
-#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -19,7 +17,7 @@ namespace loftwing {
 /// Changes thickness and camber of the rib's airfoil: Apply shows the new section over the old one
 /// in the main window, Save as writes it as an airfoil of its own. OK, which saves first where that
 /// wasn't done, ends in that file being opened by whoever showed the dialog. Cancel clears the rib.
-class frmEpCourb : public QDialog {
+class frmEpCourb : public Dialogue {
     Q_OBJECT
 
   public:
@@ -27,13 +25,9 @@ class frmEpCourb : public QDialog {
 
     /// Path of the file that was saved.
     const std::string &Fichier() const { return FichierEpCourb; }
-    /// Escape and the window's own close button do what Cancel does.
-    void reject() override;
 
   private:
-    Programme &programme_;
     MainView &view_;
-    bool EnCours = false;      ///< a handler is at work, perhaps waiting in a box
     bool EpCourbSauve = false; ///< the new airfoil went to a file since the dialog was opened
     std::string FichierEpCourb;
 
@@ -46,32 +40,25 @@ class frmEpCourb : public QDialog {
     QLabel Label2;
     QLineEdit txtCourbureOr;
     NumericField txtCourbure;
-    QPushButton CmdApply;
     QPushButton cmdsave;
     QPushButton cmdprintEC;
-    QPushButton cmdok;
-    QPushButton cmdannuler;
-    QPushButton cmdaide;
 
+    // frmEpCourb_build.cpp
     void NameAll();
     void LayOut();
+
     void PoseTextes();
     void Form_Load();
-    void ConnectAll();
-
-    template <class Action>
-    void Seul(const char *label, Action action);
-    std::string Titre() const { return S(windowTitle()); }
     ChampsEpCourb Champs() const;
     void Avertit(const std::string &text) const;
     void Applique();
     void Sauve();
     void Ecrit(const std::string &path);
-    void CmdApply_Click();
+    void CmdApply_Click() override;
     void cmdsave_Click();
     void cmdprintEC_Click();
-    void cmdok_Click();
-    void cmdannuler_Click();
+    void cmdok_Click() override;
+    void cmdannuler_Click() override;
 };
 
 } // namespace loftwing

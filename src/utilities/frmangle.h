@@ -1,13 +1,11 @@
 /// The oblique rib.
 #pragma once
 
-#include "platform/qt_form.h"
 #include "programme/main_view.h"
-#include "programme/programme.h"
+#include "programme/qt_dialogue.h"
 #include "utilities/angle.h"
 #include "utilities/qt_angle_sketch.h"
 
-#include <QDialog>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -19,14 +17,13 @@ namespace loftwing {
 /// Computes one chord of a rib at an angle from the other and writes the rib's airfoil. The rib of
 /// the main window isn't touched; only a failure while writing clears it. The window stays open for
 /// the next rib.
-class frmangle : public QDialog {
+class frmangle : public Dialogue {
     Q_OBJECT
 
   public:
     frmangle(Programme &programme, MainView &view, QWidget *parent);
 
   private:
-    Programme &programme_;
     MainView &view_;
     NervureOblique oblique_;
     ProfilChoisi profil_;
@@ -38,25 +35,20 @@ class frmangle : public QDialog {
     QPushButton cmdouvrir;
     std::array<QLabel, 2> Label2; ///< leading and trailing edge of the picture
     ObliqueSketch Picture1;
-    QPushButton cmdok;
-    QPushButton cmdannuler;
-    QPushButton cmdaide;
 
+    // frmangle_build.cpp
     void NameAll();
     void LayOut();
-    void ConnectAll();
-    void PoseTextes();
 
+    void PoseTextes();
     void Form_Load();
     void Option1_Click(int index);
     void cmdouvrir_Click();
-    void cmdok_Click();
-    void cmdannuler_Click();
+    void cmdok_Click() override;
 
     /// Computes and shows; false when something was refused.
     bool Calcule();
     void Enregistre();
-    std::string Titre() const { return S(windowTitle()); }
 };
 
 } // namespace loftwing

@@ -9,14 +9,7 @@
 namespace loftwing {
 
 void frmangle::NameAll() {
-    NameControl(*this, "frmangle");
-    const std::pair<QObject *, const char *> names[] = {
-        {&txtprofil, "txtprofil"}, {&cmdouvrir, "cmdouvrir"},   {&Picture1, "Picture1"},
-        {&cmdok, "cmdok"},         {&cmdannuler, "cmdannuler"}, {&cmdaide, "cmdaide"},
-    };
-    for (const auto &[control, name] : names) {
-        NameControl(*control, name);
-    }
+    NameControls({{&txtprofil, "txtprofil"}, {&cmdouvrir, "cmdouvrir"}, {&Picture1, "Picture1"}});
     NameControls(Option1, "Option1");
     NameControls(Label1, "Label1");
     NameControls(Label2, "Label2");
@@ -48,11 +41,8 @@ void frmangle::LayOut() {
     above->addLayout(panel, 1);
     auto *rows = new QVBoxLayout(this);
     rows->addLayout(above);
-    rows->addLayout(ButtonRow({&cmdok, &cmdannuler, &cmdaide}));
-    for (QLabel *label : {&Label1[3], &Label2[0], &Label2[1]}) {
-        label->setTextFormat(Qt::PlainText);
-    }
-    cmdok.setDefault(true);
+    PoseBoutons(*rows, {SharedWord::ok, SharedWord::cancel, SharedWord::help});
+    PlainText({&Label1[3], &Label2[0], &Label2[1]});
 }
 
 } // namespace loftwing

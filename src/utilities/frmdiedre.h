@@ -1,14 +1,11 @@
 /// The dihedral calculator.
 #pragma once
 
-#include "platform/qt_form.h"
-#include "programme/programme.h"
+#include "programme/qt_dialogue.h"
 #include "utilities/diedre.h"
 #include "utilities/qt_diedre_sketch.h"
 
-#include <QDialog>
 #include <QLabel>
-#include <QPushButton>
 
 #include <array>
 
@@ -16,7 +13,7 @@ namespace loftwing {
 
 /// Angle, length and height; a double click into one of the fields, or Return in it, computes it
 /// from the other two. Stays open beside the main window and has nothing to do with the rib.
-class frmdiedre : public QDialog {
+class frmdiedre : public Dialogue {
     Q_OBJECT
 
   public:
@@ -29,19 +26,17 @@ class frmdiedre : public QDialog {
     bool eventFilter(QObject *watched, QEvent *event) override;
 
   private:
-    Programme &programme_;
     std::array<NumericField, kChampsDiedre> txt;
     QLabel Label1;
     QLabel Label2;
     QLabel Label3;
     DiedreSketch Image1;
-    QPushButton cmdok;
-    QPushButton cmdaide;
 
+    // frmdiedre_build.cpp
     void NameAll();
     void LayOut();
+
     void Form_Load();
-    void cmdok_Click();
     void txt_dblClick(int index);
 };
 

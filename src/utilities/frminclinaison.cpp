@@ -3,10 +3,6 @@
 #include "core/units.h"
 #include "utilities/tool_files.h"
 
-#include <QGridLayout>
-#include <QHBoxLayout>
-#include <QVBoxLayout>
-
 namespace loftwing {
 
 namespace {
@@ -16,33 +12,30 @@ constexpr int kAide = 63;
 } // namespace
 
 frminclinaison::frminclinaison(Programme &programme, MainView &view, QWidget *parent)
-    : QDialog(parent), programme_(programme), view_(view) {
+    : Dialogue(programme, "frminclinaison", kAide, parent), view_(view) {
     NameAll();
     LayOut();
     Form_Load();
-    ConnectAll();
+    connect(&cmdouvrir, &QPushButton::clicked, this, &frminclinaison::cmdouvrir_Click);
 }
 
 void frminclinaison::Form_Load() {
-    const auto word = [this](LngKey key) { return Q(programme_.Text(key)); };
-    setWindowTitle(word({"FrmInclinaisonNervure", "1"}));
-    Label1.setText(word({"FrmInclinaisonNervure", "2"}));
-    Label2.setText(word({"FrmInclinaisonNervure", "3"}));
-    Label3.setText(word({"FrmInclinaisonNervure", "4"}));
-    Label4.setText(word({"FrmInclinaisonNervure", "5"}));
+    setWindowTitle(Mot({"FrmInclinaisonNervure", "1"}));
+    Label1.setText(Mot({"FrmInclinaisonNervure", "2"}));
+    Label2.setText(Mot({"FrmInclinaisonNervure", "3"}));
+    Label3.setText(Mot({"FrmInclinaisonNervure", "4"}));
+    Label4.setText(Mot({"FrmInclinaisonNervure", "5"}));
     txtprofil.setAccessibleName(Label1.text());
-    cmdouvrir.setText(word({"FrmDefaut", "14"}));
+    cmdouvrir.setText(Mot({"FrmDefaut", "14"}));
     SetTip(cmdouvrir, programme_.Text({"FrmInclinaisonNervure", "5T"}));
-    cmdok.setText(word({"TextButton", "6"}));
-    SetTip(cmdok, programme_.Text({"TextButton", "6T"}));
-    SetButtonWord(cmdannuler, programme_.language, SharedWord::cancel);
-    SetButtonWord(cmdaide, programme_.language, SharedWord::help);
+    Bouton(SharedWord::ok).setText(Mot({"TextButton", "6"}));
+    SetTip(Bouton(SharedWord::ok), programme_.Text({"TextButton", "6T"}));
     Text1.SetKeys(kTouchesPositif);
     SelectField(Text1);
 }
 
 void frminclinaison::cmdouvrir_Click() {
-    programme_.messages.Garde(" Angle/Open", [this] {
+    Garde(" Angle/Open", [this] {
         if (const auto chosen =
                 view_.ChoisitProfil(programme_.Text({"FrmInclinaisonNervure", "1"}))) {
             profil_ = *chosen;
@@ -85,55 +78,7 @@ void frminclinaison::cmdok_Click() {
         programme_.messages.Inform(programme_.Text({"FrmInclinaisonNervure", "8"}), Titre());
         return;
     }
-    programme_.messages.Garde(" Angle/OK", [this, &angle] { Enregistre(*angle); });
-}
-
-void frminclinaison::cmdannuler_Click() {
-    reject();
-}
-
-void frminclinaison::NameAll() {
-    NameControl(*this, "frminclinaison");
-    const std::pair<QObject *, const char *> names[] = {
-        {&Label1, "Label1"},         {&txtprofil, "txtprofil"}, {&cmdouvrir, "cmdouvrir"},
-        {&Label2, "Label2"},         {&Text1, "Text1"},         {&Label3, "Label3"},
-        {&Label4, "Label4"},         {&Picture1, "Picture1"},   {&cmdok, "cmdok"},
-        {&cmdannuler, "cmdannuler"}, {&cmdaide, "cmdaide"},
-    };
-    for (const auto &[control, name] : names) {
-        NameControl(*control, name);
-    }
-}
-
-void frminclinaison::LayOut() {
-    auto *grid = new QGridLayout;
-    grid->addWidget(&Label1, 0, 1);
-    grid->addWidget(&txtprofil, 0, 2);
-    grid->addWidget(&cmdouvrir, 0, 3);
-    AddMeasure(*grid, 1, Picture1, {InclineSketch::kAngle, Label2, Text1, "°"});
-    grid->addWidget(MeasureLetter(InclineSketch::kOriginal), 2, 0);
-    grid->addWidget(&Label3, 2, 1);
-    grid->addWidget(MeasureLetter(InclineSketch::kACalculer), 3, 0);
-    grid->addWidget(&Label4, 3, 1);
-    grid->setRowStretch(4, 1);
-    for (QLabel *label : {&Label1, &Label3, &Label4}) {
-        label->setTextFormat(Qt::PlainText);
-    }
-    MakeNameDisplay(txtprofil, kNameLetters);
-    auto *above = new QHBoxLayout;
-    above->addLayout(grid);
-    above->addWidget(&Picture1, 1);
-    auto *rows = new QVBoxLayout(this);
-    rows->addLayout(above);
-    rows->addLayout(ButtonRow({&cmdok, &cmdannuler, &cmdaide}));
-    cmdok.setDefault(true);
-}
-
-void frminclinaison::ConnectAll() {
-    connect(&cmdouvrir, &QPushButton::clicked, this, &frminclinaison::cmdouvrir_Click);
-    connect(&cmdok, &QPushButton::clicked, this, &frminclinaison::cmdok_Click);
-    connect(&cmdannuler, &QPushButton::clicked, this, &frminclinaison::cmdannuler_Click);
-    ConnectHelp(*this, cmdaide, programme_.platform, kAide);
+    Garde(" Angle/OK", [this, &angle] { Enregistre(*angle); });
 }
 
 } // namespace loftwing

@@ -10,7 +10,7 @@ constexpr int kHautEcran = 2; // mm over the list
 } // namespace
 
 frmnervure::frmnervure(Programme &programme, QWidget *parent)
-    : QDialog(parent), programme_(programme) {
+    : Dialogue(programme, "frmnervure", kAide, parent) {
     NameAll();
     LayOut();
     Form_Load();
@@ -19,41 +19,28 @@ frmnervure::frmnervure(Programme &programme, QWidget *parent)
 
 void frmnervure::Form_Load() {
     PoseTextes();
-    for (NumericField &field : txtnerv) {
-        field.SetKeys(
-            TouchesSelonUnite(programme_.settings.Unite, kTouchesPositif, kTouchesFraction));
-    }
+    AdmetLongueurs(txtnerv);
     cmdprintnerv.setEnabled(false);
     SelectField(txtnerv[kNervCordeMaj]);
 }
 
 void frmnervure::PoseTextes() {
-    const auto word = [this](LngKey key) { return Q(programme_.Text(key)); };
     setWindowTitle(Q(programme_.Text({"FrmNervure", "1"}) + " " + programme_.settings.Unite));
-    Label1.setText(word({"FrmNervure", "7"}));
-    Label2.setText(word({"FrmNervure", "4"}));
-    Label3.setText(word({"FrmNervure", "5"}));
-    Label4[0].setText(word({"FrmNervure", "2"}));
-    Label4[1].setText(word({"FrmNervure", "2"}));
-    Label5.setText(word({"FrmNervure", "3"}));
-    Label6.setText(word({"FrmNervure", "6"}));
-    Label7.setText(word({"FrmNervure", "8"}));
-    Label10.setText(word({"FrmNervure", "9"}));
-    Label11.setText(word({"FrmNervure", "10"}));
-    Label12.setText(word({"FrmNervure", "11"}));
-    Liste.setAccessibleName(word({"FrmNervure", "1"}));
-    cmdcalcul.setText(word({"TextButton", "6"}));
-    cmdprintnerv.setText(word({"TextButton", "14"}));
-    SetButtonWord(cmdfermer, programme_.language, SharedWord::close);
-    SetButtonWord(cmdaide, programme_.language, SharedWord::help);
-}
-
-TextesNervure frmnervure::TextesTapes() const {
-    TextesNervure typed;
-    for (int i = 0; i < kChampsNervure; ++i) {
-        At(typed, i) = S(At(txtnerv, i).text());
-    }
-    return typed;
+    Label1.setText(Mot({"FrmNervure", "7"}));
+    Label2.setText(Mot({"FrmNervure", "4"}));
+    Label3.setText(Mot({"FrmNervure", "5"}));
+    Label4[0].setText(Mot({"FrmNervure", "2"}));
+    Label4[1].setText(Mot({"FrmNervure", "2"}));
+    Label5.setText(Mot({"FrmNervure", "3"}));
+    Label6.setText(Mot({"FrmNervure", "6"}));
+    Label7.setText(Mot({"FrmNervure", "8"}));
+    Label10.setText(Mot({"FrmNervure", "9"}));
+    Label11.setText(Mot({"FrmNervure", "10"}));
+    Label12.setText(Mot({"FrmNervure", "11"}));
+    Liste.setAccessibleName(Mot({"FrmNervure", "1"}));
+    cmdcalcul.setText(Mot({"TextButton", "6"}));
+    cmdprintnerv.setText(Mot({"TextButton", "14"}));
+    PoseMotsPartages();
 }
 
 void frmnervure::Calcule() {
@@ -63,7 +50,7 @@ void frmnervure::Calcule() {
     Lblecart.clear();
     Label12.show();
     const auto refused =
-        CalculeNervures(panneau_, TextesTapes(), programme_.SaisieEnCours(), Titre());
+        CalculeNervures(panneau_, FieldTexts(txtnerv), programme_.SaisieEnCours(), Titre());
     if (refused) {
         SelectField(At(txtnerv, *refused));
         return;
@@ -90,35 +77,28 @@ void frmnervure::Trace() {
 }
 
 void frmnervure::cmdcalcul_Click() {
-    programme_.messages.Garde(" cmdcalcul", [this] { Calcule(); });
+    Garde(" cmdcalcul", [this] { Calcule(); });
 }
 
 void frmnervure::cmdprintnerv_Click() {
     // On paper the list has a place of its own; the one on the screen stays where it is.
-    programme_.messages.Garde(" cmdprintnerv", [this] {
-        ImprimeNervures(panneau_, programme_.SaisieEnCours(), Titre());
-    });
-}
-
-void frmnervure::cmdfermer_Click() {
-    reject();
+    Garde(" cmdprintnerv",
+          [this] { ImprimeNervures(panneau_, programme_.SaisieEnCours(), Titre()); });
 }
 
 void frmnervure::Vbar_Change(int value) {
     place_.DecalListe = -value;
-    programme_.messages.Garde(" Vbar", [this] { Trace(); });
+    Garde(" Vbar", [this] { Trace(); });
 }
 
 void frmnervure::ConnectAll() {
     connect(&cmdcalcul, &QPushButton::clicked, this, &frmnervure::cmdcalcul_Click);
     connect(&cmdprintnerv, &QPushButton::clicked, this, &frmnervure::cmdprintnerv_Click);
-    connect(&cmdfermer, &QPushButton::clicked, this, &frmnervure::cmdfermer_Click);
     connect(&Vbar, &QScrollBar::valueChanged, this, &frmnervure::Vbar_Change);
     connect(&Liste, &PicNervures::Redimensionne, this,
-            [this] { programme_.messages.Garde(" PicNervures", [this] { Trace(); }); });
+            [this] { Garde(" PicNervures", [this] { Trace(); }); });
     connect(&Liste, &PicNervures::Roule, this,
             [this](int notches) { Vbar.setValue(Vbar.value() - notches); });
-    ConnectHelp(*this, cmdaide, programme_.platform, kAide);
 }
 
 } // namespace loftwing

@@ -1,13 +1,11 @@
 /// The set of ribs of a tapered panel.
 #pragma once
 
-#include "platform/qt_form.h"
-#include "programme/programme.h"
+#include "programme/qt_dialogue.h"
 #include "utilities/nervure.h"
 #include "utilities/qt_panneau_sketch.h"
 #include "utilities/qt_pic_nervures.h"
 
-#include <QDialog>
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
@@ -21,7 +19,7 @@ namespace loftwing {
 
 /// Chord and spar place of every rib between two chords, as a list that can be printed. Stays open
 /// beside the main window and has nothing to do with the rib.
-class frmnervure : public QDialog {
+class frmnervure : public Dialogue {
     Q_OBJECT
 
   public:
@@ -31,7 +29,6 @@ class frmnervure : public QDialog {
     void PoseTextes();
 
   private:
-    Programme &programme_;
     Nervures panneau_;
     PlaceListe place_;
     bool calcule_ = false; ///< there is a list
@@ -54,25 +51,21 @@ class frmnervure : public QDialog {
     QScrollBar Vbar;
     QPushButton cmdcalcul;
     QPushButton cmdprintnerv;
-    QPushButton cmdfermer;
-    QPushButton cmdaide;
 
+    // frmnervure_build.cpp
     void NameAll();
     void LayOut();
     QGridLayout *LayOutFields();
     QVBoxLayout *LayOutList();
-    void ConnectAll();
 
+    void ConnectAll();
     void Form_Load();
     void cmdcalcul_Click();
     void cmdprintnerv_Click();
-    void cmdfermer_Click();
     void Vbar_Change(int value);
 
     void Calcule();
     void Trace();
-    TextesNervure TextesTapes() const;
-    std::string Titre() const { return S(windowTitle()); }
 };
 
 } // namespace loftwing

@@ -13,21 +13,22 @@ constexpr int kScrollSteps = 20;
 } // namespace
 
 void frmnervure::NameAll() {
-    NameControl(*this, "frmnervure");
-    const std::pair<QObject *, const char *> names[] = {
-        {&Label1, "Label1"},       {&Label2, "Label2"},
-        {&Label3, "Label3"},       {&Label5, "Label5"},
-        {&Label6, "Label6"},       {&Label7, "Label7"},
-        {&Label10, "Label10"},     {&Label11, "Label11"},
-        {&Label12, "Label12"},     {&Lblecart, "Lblecart"},
-        {&Frame1, "Frame1"},       {&Image1, "Image1"},
-        {&Liste, "PicNervures"},   {&Vbar, "Vbar"},
-        {&cmdcalcul, "cmdcalcul"}, {&cmdprintnerv, "cmdprintnerv"},
-        {&cmdfermer, "cmdfermer"}, {&cmdaide, "cmdaide"},
-    };
-    for (const auto &[control, name] : names) {
-        NameControl(*control, name);
-    }
+    NameControls({{&Label1, "Label1"},
+                  {&Label2, "Label2"},
+                  {&Label3, "Label3"},
+                  {&Label5, "Label5"},
+                  {&Label6, "Label6"},
+                  {&Label7, "Label7"},
+                  {&Label10, "Label10"},
+                  {&Label11, "Label11"},
+                  {&Label12, "Label12"},
+                  {&Lblecart, "Lblecart"},
+                  {&Frame1, "Frame1"},
+                  {&Image1, "Image1"},
+                  {&Liste, "PicNervures"},
+                  {&Vbar, "Vbar"},
+                  {&cmdcalcul, "cmdcalcul"},
+                  {&cmdprintnerv, "cmdprintnerv"}});
     NameControls(Label4, "Label4");
     NameControls(txtnerv, "txtnerv");
 }
@@ -45,10 +46,8 @@ void frmnervure::LayOut() {
     above->addLayout(LayOutList(), 1);
     auto *rows = new QVBoxLayout(this);
     rows->addLayout(above, 1);
-    rows->addLayout(ButtonRow({&cmdcalcul, &cmdprintnerv, &cmdfermer, &cmdaide}));
-    for (QLabel *label : {&Label5, &Label10, &Label11, &Label12, &Lblecart}) {
-        label->setTextFormat(Qt::PlainText);
-    }
+    PoseBoutons(*rows, {&cmdcalcul, &cmdprintnerv, SharedWord::close, SharedWord::help});
+    PlainText({&Label5, &Label10, &Label11, &Label12, &Lblecart});
     cmdcalcul.setDefault(true);
 }
 

@@ -1,7 +1,5 @@
 #include "utilities/frmribevol.h"
 
-#include <QHBoxLayout>
-
 namespace loftwing {
 
 namespace {
@@ -11,52 +9,21 @@ constexpr int kAide = 61;
 } // namespace
 
 frmribevol::frmribevol(Programme &programme, MainView &view, QWidget *parent)
-    : RibSetDialog(programme, view, kAide, parent) {
+    : RibSetDialog(programme, view, "frmribevol", kAide, parent) {
     NameAll();
     LayOut();
     Form_Load();
 }
 
-void frmribevol::NameAll() {
-    NameControl(*this, "frmribevol");
-    NameControl(Frame3, "Frame3");
-    NameControl(Label3, "Label3");
-    NameControl(txtnervI, "txtnervI");
-    NameControls(Label4, "Label4");
-}
-
-void frmribevol::LayOut() {
-    auto *ends = new QHBoxLayout;
-    for (const std::size_t end : {0U, 1U}) {
-        const auto index = static_cast<long>(end);
-        QLabel &unit = At(Label4, index);
-        unit.setTextFormat(Qt::PlainText);
-        Grille(end).addWidget(&unit, 1, 2);
-        ends->addWidget(&At(Frame1, index), 1);
-    }
-    auto *count = new QHBoxLayout(&Frame3);
-    count->addWidget(&Label3);
-    count->addWidget(&txtnervI);
-    count->addStretch();
-    Label3.setTextFormat(Qt::PlainText);
-    Label3.setBuddy(&txtnervI);
-    Elargit(txtnervI);
-    auto *rows = new QVBoxLayout(this);
-    rows->addLayout(ends);
-    rows->addWidget(&Frame3);
-    PoseBas(*rows);
-}
-
 void frmribevol::Form_Load() {
-    const auto word = [this](LngKey key) { return Q(programme_.Text(key)); };
-    setWindowTitle(word({"FrmRibevol", "1"}));
-    Frame1[0].setTitle(word({"FrmRibevol", "2"}));
-    Frame1[1].setTitle(word({"FrmRibevol", "3"}));
-    Frame3.setTitle(word({"FrmRibevol", "6"}));
-    Label3.setText(word({"FrmRibevol", "7"}));
+    setWindowTitle(Mot({"FrmRibevol", "1"}));
+    Frame1[0].setTitle(Mot({"FrmRibevol", "2"}));
+    Frame1[1].setTitle(Mot({"FrmRibevol", "3"}));
+    Frame3.setTitle(Mot({"FrmRibevol", "6"}));
+    Label3.setText(Mot({"FrmRibevol", "7"}));
     for (int i = 0; i < 2; ++i) {
-        At(Label1, i).setText(word({"FrmRibevol", "4"}));
-        At(Label2, i).setText(word({"FrmRibevol", "5"}));
+        At(Label1, i).setText(Mot({"FrmRibevol", "4"}));
+        At(Label2, i).setText(Mot({"FrmRibevol", "5"}));
         At(Label4, i).setText(Q(programme_.settings.Unite));
     }
     txtnervI.SetKeys(kTouchesEntier);

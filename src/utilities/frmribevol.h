@@ -23,8 +23,10 @@ class frmribevol : public RibSetDialog {
     QLabel Label3;
     NumericField txtnervI;
 
+    // frmribevol_build.cpp
     void NameAll();
     void LayOut();
+
     void Form_Load();
 };
 

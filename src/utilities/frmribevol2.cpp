@@ -19,12 +19,42 @@ constexpr const char *kBleu = "bleu";
 } // namespace
 
 frmribevol2::frmribevol2(Programme &programme, MainView &view, QWidget *parent)
-    : RibSetDialog(programme, view, kAide, parent), jeu_(programme.rib.jeu) {
+    : RibSetDialog(programme, view, "frmribevol2", kAide, parent), jeu_(programme.rib.jeu) {
     NameAll();
     LayOut();
     PoseTextes();
     Form_Load();
     ConnectAll();
+}
+
+void frmribevol2::PoseTextes() {
+    const QString unit = " (" + Q(programme_.settings.Unite) + " )";
+    setWindowTitle(Mot({"FrmRibevol2", "1"}));
+    Frame1[0].setTitle(Mot({"FrmRibevol2", "2"}) + unit);
+    Frame1[1].setTitle(Mot({"FrmRibevol2", "3"}) + unit);
+    for (int i = 0; i < 2; ++i) {
+        At(Label1, i).setText(Mot({"FrmRibevol2", "4"}));
+        At(Label2, i).setText(Mot({"FrmRibevol2", "5"}));
+        At(Label3, i).setText(Mot({"FrmRibevol2", "9"}));
+    }
+    FrameNervInterm.setTitle(Mot({"FrmRibevol2", "7"}));
+    Label5.setText(Mot({"FrmRibevol2", "7T"}));
+    FrameDimensions.setTitle(Mot({"FrmRibevol2", "8"}) + unit);
+    LblLongTot.setText(Mot({"FrmRibevol2", "11"}));
+    for (QLabel *label : {&LblEprNervureCMax, &LblEprNervureCmin, &LblEprNervure}) {
+        label->setText(Mot({"FrmRibevol2", "12"}));
+    }
+    lblstep.setText(Mot({"FrmRibevol2", "13"}));
+    for (NumericField *field : {&txtEpR0, &txtEpR13, &TextEprNevure, &TextEcartNevure}) {
+        AdmetLongueur(*field);
+    }
+    for (int k = 1; k <= DernierEcart(); ++k) {
+        ClickLabel &label = At(LblNoNervInterm, k - 1);
+        label.setText(QString::number(k));
+        label.setFocusPolicy(Qt::TabFocus);
+        label.setCursor(Qt::PointingHandCursor);
+        SetTip(label, programme_.Text({"FrmRibevol2", "7T"}));
+    }
 }
 
 void frmribevol2::Form_Load() {
@@ -41,8 +71,6 @@ void frmribevol2::ConnectAll() {
     }
     TextEprNevure.installEventFilter(this);
     TextEcartNevure.installEventFilter(this);
-    connect(&CmdApply, &QPushButton::clicked, this,
-            [this] { Essaie([this] { CmdApply_Click(); }); });
 }
 
 QLineEdit *frmribevol2::Champ(ChampJeu champ) {
@@ -90,7 +118,7 @@ void frmribevol2::changeEvent(QEvent *event) {
 /// In the fields of a gap Return is Apply: Compute would take what was applied before.
 bool frmribevol2::eventFilter(QObject *watched, QEvent *event) {
     if (event->type() == QEvent::FocusIn) {
-        CmdApply.setDefault(true);
+        Bouton(SharedWord::apply).setDefault(true);
     } else if (event->type() == QEvent::FocusOut) {
         cmdcalcul.setDefault(true);
     }
@@ -135,13 +163,17 @@ void frmribevol2::MontreEcart() {
     SelectField(root ? TextEcartNevure : TextEprNevure);
 }
 
-void frmribevol2::CmdApply_Click() {
+void frmribevol2::Applique() {
     AppliqueEcart(S(TextEprNevure.text()), S(TextEcartNevure.text()), programme_.SaisieEnCours(),
                   jeu_, set_);
     ClickLabel &label = At(LblNoNervInterm, set_.NervCourante - 1);
     Bleuit(label);
     label.setFrameStyle(static_cast<int>(QFrame::Box) | static_cast<int>(QFrame::Plain));
     LblLongTotAffich.setText(Q(set_.LongTotaleAfich));
+}
+
+void frmribevol2::CmdApply_Click() {
+    Essaie([this] { Applique(); });
 }
 
 void frmribevol2::Calcule() {

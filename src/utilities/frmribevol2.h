@@ -39,7 +39,6 @@ class frmribevol2 : public RibSetDialog {
     NumericField TextEprNevure;
     QLabel lblstep;
     NumericField TextEcartNevure;
-    QPushButton CmdApply;
     QLabel LblLongTot;
     QLabel LblLongTotAffich;
 
@@ -49,16 +48,17 @@ class frmribevol2 : public RibSetDialog {
     void LayOutEnds(QVBoxLayout &rows);
     void LayOutGaps();
     void LayOutDimensions();
-    void PoseTextes();
 
+    void PoseTextes();
     void Form_Load();
     void ConnectAll();
     void LblNoNervInterm_Click(int k);
-    void CmdApply_Click();
+    void CmdApply_Click() override;
 
     int DernierEcart() const { return jeu_.NbNervInter + 1; }
     bool Valide();
     void MontreEcart();
+    void Applique();
     void MarqueEcart();
     void Bleuit(QLabel &label);
 };

@@ -30,7 +30,7 @@ std::string NomIncline(const std::string &NomProfil, float AngleDiedre) {
 std::string TexteIncline(float AngleDiedre, const ProfilChoisi &profil) {
     // A title of a file, the same in every language.
     const std::string title = "diedre " + Format(AngleDiedre, kPictureTwoWithZero) + kDegre;
-    return TexteEtire(title, profil, std::cos(EnRadians(static_cast<double>(AngleDiedre))));
+    return TexteEtire(title, profil, std::cos(EnRadians(Wide(AngleDiedre))));
 }
 
 } // namespace loftwing

@@ -1,12 +1,10 @@
 /// What the windows of both kinds of rib sets have in common.
 #pragma once
 
-#include "platform/qt_form.h"
 #include "programme/main_view.h"
-#include "programme/programme.h"
+#include "programme/qt_dialogue.h"
 #include "utilities/rib_set.h"
 
-#include <QDialog>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -22,20 +20,17 @@ namespace loftwing {
 /// Two airfoils with their chords, the folder of the files, and the writing. Index 0 is the root
 /// (major chord), 1 the tip. The window stays open for the next set; a failure while writing closes
 /// it and clears the rib, and so does leaving it, which asks first.
-class RibSetDialog : public QDialog {
+class RibSetDialog : public Dialogue {
     Q_OBJECT
 
   public:
-    /// Escape and the window's own close button do what Close does.
-    void reject() override;
-
   protected:
-    RibSetDialog(Programme &programme, MainView &view, int aide, QWidget *parent);
+    RibSetDialog(Programme &programme, MainView &view, const char *nom, int aide, QWidget *parent);
 
-    Programme &programme_;
     MainView &view_;
 
-    // The frames go last, since what stands in them is theirs.
+    // The frames stand first, so that they outlive what stands in them: a frame that goes takes
+    // along what it still holds.
     std::array<QGroupBox, 2> Frame1;
     std::array<QLabel, 2> Label1; ///< captions of the airfoils
     std::array<QLineEdit, 2> txtprofil;
@@ -46,8 +41,6 @@ class RibSetDialog : public QDialog {
     QLineEdit txtdefprofevol;
     QPushButton cmdrechercheevol;
     QPushButton cmdcalcul;
-    QPushButton cmdfermer;
-    QPushButton cmdaide;
 
     /// The grid of an end's frame: airfoil and chord in rows 0 and 1, columns 0 to 2.
     QGridLayout &Grille(std::size_t end);
@@ -59,7 +52,6 @@ class RibSetDialog : public QDialog {
     /// Folder and buttons, below what stands in `rows`.
     void PoseBas(QVBoxLayout &rows);
     void PoseMotsCommuns();
-    std::string Titre() const { return S(windowTitle()); }
     std::string Profil(std::size_t end) const {
         return S(At(txtprofil, static_cast<long>(end)).text());
     }
@@ -85,7 +77,7 @@ class RibSetDialog : public QDialog {
     void cmdouvrir_Click(int index);
     void cmdrechercheevol_Click();
     void cmdcalcul_Click();
-    void cmdfermer_Click();
+    void cmdannuler_Click() override;
 
     void EcritFichiers(const JeuDeNervures &jeu);
     bool EssaieEcrire(const std::function<void()> &action);

@@ -36,7 +36,6 @@ class Reader : public testing::Test {
         const ResultatLecture result = Read(bytes);
         EXPECT_EQ(result.issue, Lecture::lu) << bytes;
         EXPECT_EQ(result.etiquette, "");
-        EXPECT_TRUE(rib.LectureEnCours);
         EXPECT_EQ(rib.NbPoints, rib.ProfilX.Count());
         EXPECT_EQ(rib.NbPoints, rib.ProfilY.Count());
     }
@@ -54,7 +53,6 @@ class Reader : public testing::Test {
         EXPECT_EQ(words.LastBox().icon, icon);
         EXPECT_EQ(words.LastBox().buttons, BoxButtons::ok);
         EXPECT_EQ(rib.NbPoints, 0);
-        EXPECT_FALSE(rib.LectureEnCours);
         EXPECT_FALSE(rib.SansApercu);
     }
     void RefusedWithoutTitle(std::string_view bytes) {
@@ -78,7 +76,6 @@ class Reader : public testing::Test {
         EXPECT_EQ(words.LastBox().text.substr(0, report.size()), report);
         EXPECT_EQ(words.LastBox().title, " Open/FichierLecture");
         EXPECT_EQ(rib.NbPoints, 0);
-        EXPECT_FALSE(rib.LectureEnCours);
     }
     void FailedBytes(std::string_view bytes, const std::string &report) {
         words.platform.Expect(BoxAnswer::ok);

@@ -181,7 +181,6 @@ TEST_F(FrmInstxtTest, OkByReturnStoresAndKeepsTheSize) {
     EXPECT_EQ(Text().InsTexte, "left");
     EXPECT_EQ(Text().TailleFont, 14.0F);
     EXPECT_EQ(StoredSize(), "14");
-    EXPECT_FALSE(programme.rib.Annule);
     EXPECT_THAT(view.asked, ElementsAre("RetraceVues", "affiche"));
 }
 
@@ -259,7 +258,6 @@ TEST_F(FrmInstxtTest, CancelEscapeAndTheClosingButtonStoreNothing) {
                          [](Seen &dialog) { dialog.Key(Qt::Key_Escape); },
                          [](Seen &dialog) { dialog.Close(); }};
     for (const auto &leave : ways) {
-        programme.rib.Annule = false;
         view.asked.clear();
         EXPECT_EQ(Use([&leave](Seen &dialog) {
                       dialog.Type("infotxt(0)", "left");
@@ -267,18 +265,12 @@ TEST_F(FrmInstxtTest, CancelEscapeAndTheClosingButtonStoreNothing) {
                       leave(dialog);
                   }),
                   Left::rejected);
-        EXPECT_TRUE(programme.rib.Annule);
         EXPECT_EQ(Text().InsTexte, "");
         EXPECT_EQ(Text().InsTextXAfich, "0");
         EXPECT_FALSE(Text().TexteUtilisateur);
         EXPECT_FALSE(programme.rib.Modifie);
         EXPECT_THAT(view.asked, ElementsAre("RetraceVues", "affiche"));
     }
-}
-
-TEST_F(FrmInstxtTest, AnEarlierCancelIsForgotten) {
-    programme.rib.Annule = true;
-    Use([this](Seen &) { EXPECT_FALSE(programme.rib.Annule); });
 }
 
 TEST_F(FrmInstxtTest, HelpOpensAtItsPlace) {

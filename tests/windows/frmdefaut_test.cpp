@@ -98,7 +98,6 @@ TEST_F(FrmdefautTest, SaveTakesTheValuesIntoRibAndFile) {
     EXPECT_EQ(Stored("Defaut", "unit"), "mm");
     EXPECT_EQ(Stored("Marges", "MargeHaut"), "10");
     EXPECT_THAT(view.asked, ElementsAre("AfficheUnite", "AfficheCorde"));
-    EXPECT_FALSE(Rib().Annule);
     EXPECT_THAT(platform.boxes, IsEmpty());
 }
 

@@ -102,10 +102,8 @@ TEST_F(BesideMainTest, UnsavedLinesAreAskedForWhenTheProgramEnds) {
     EnterPoint();
     world.platform.Expect(BoxAnswer::yes); // quit?
     world.platform.Expect(BoxAnswer::no);  // the lines
-    world.programme.rib.Annule = false;
     EXPECT_FALSE(world.window->close());
     EXPECT_TRUE(world.window->isVisible());
-    EXPECT_TRUE(world.programme.rib.Annule);
     EXPECT_EQ(world.platform.boxes.back().text, "The lines are not saved. Close all the same?");
     EXPECT_EQ(world.platform.help_closed, 0);
     // A No to the first question asks no second.

@@ -176,7 +176,6 @@ TEST_F(FrmOpenTest, ClickReadsTheFileAndShowsIt) {
     EXPECT_EQ(rib.NomProfil, "small");
     EXPECT_EQ(rib.ExtProfil, "dat");
     EXPECT_EQ(rib.NbPoints, 5);
-    EXPECT_TRUE(rib.LectureEnCours);
     EXPECT_FALSE(rib.ProfilCharge);
     EXPECT_EQ(platform.pointer, Pointer::normal);
     EXPECT_TRUE(IsOpen());
@@ -328,7 +327,6 @@ class FrmOpenRefusalTest : public FrmOpenTest, public testing::WithParamInterfac
         EXPECT_EQ(platform.boxes[0].title, title);
         EXPECT_EQ(platform.boxes[0].icon, GetParam().icon);
         EXPECT_EQ(programme.rib.NbPoints, 0);
-        EXPECT_FALSE(programme.rib.LectureEnCours);
         EXPECT_EQ(platform.pointer, Pointer::normal);
         EXPECT_TRUE(IsOpen());
         EXPECT_TRUE(view.asked.empty());
@@ -368,7 +366,6 @@ TEST_F(FrmOpenTest, FailureOfTheReadingClearsTheRib) {
     EXPECT_EQ(view.asked, Names{"affclear"});
     EXPECT_EQ(platform.boxes.at(0).title, " Open/FichierLecture");
     EXPECT_NE(platform.boxes.at(0).text.find("# 5 "), std::string::npos);
-    EXPECT_FALSE(programme.rib.LectureEnCours);
     EXPECT_EQ(programme.rib.NbPoints, 0);
     EXPECT_EQ(Preview(), nullptr);
     EXPECT_EQ(Label("Label1"), "");
