@@ -46,8 +46,9 @@ void frmtrou::PoseTextes() {
     Chkcentr.setAccessibleName(Label4.text());
     Label5.setText(Mot({"FrmTrou", "19"}));
     Frame3.setTitle(Mot({"FrmTrou", "7"}));
-    OptTrouRec[kTrouRond].setText(Mot({"FrmTrou", "11"}));
-    OptTrouRec[kTrouRectangle].setText(Mot({"FrmTrou", "12"}));
+    for (std::size_t kind = 0; kind < OptTrouRec.size(); ++kind) {
+        OptTrouRec[kind].setText(Mot(kGenresTrou[kind].nom));
+    }
 }
 
 /// In the middle of the thickness a hole has no distance of its own.
@@ -66,12 +67,12 @@ void frmtrou::OptTrouRec_Click(int index) {
 
 /// A circle has no height; what an earlier rectangle had stays in its field.
 void frmtrou::PoseGenre(std::uint8_t kind) {
-    const bool rectangle = kind == kTrouRectangle;
-    Label2.setText(rectangle ? Mot({"FrmTrou", "8"}) : Mot({"FrmTrou", "10"}));
+    const GenreTrou &genre = At(kGenresTrou, kind);
+    Label2.setText(Mot(genre.largeur));
     Label3.setText(Mot({"FrmTrou", "9"}));
-    Label3.setVisible(rectangle);
-    Text1[2].setVisible(rectangle);
-    Label6[1].setVisible(rectangle);
+    Label3.setVisible(genre.avec_hauteur);
+    Text1[2].setVisible(genre.avec_hauteur);
+    Label6[1].setVisible(genre.avec_hauteur);
 }
 
 ChampsTrou frmtrou::Champs() const {

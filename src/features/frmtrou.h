@@ -28,7 +28,7 @@ class frmtrou : public SlotsDialog {
     std::array<NumericField, 3> Text1;
     NumericField Text2;
     QCheckBox Chkcentr;
-    std::array<QRadioButton, 2> OptTrouRec;
+    std::array<QRadioButton, kGenresTrou.size()> OptTrouRec;
 
     // frmtrou_build.cpp
     void NameAll();

@@ -6,6 +6,8 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include <vector>
+
 namespace loftwing {
 
 void frmtrou::NameAll() {
@@ -41,7 +43,11 @@ void frmtrou::LayOut() {
     rows->addLayout(LigneListe());
     rows->addLayout(entry);
     PoseBas(*rows);
-    RegleTabulation({&Chkcentr, &OptTrouRec[0], &OptTrouRec[1]});
+    std::vector<QWidget *> order = {&Chkcentr};
+    for (QRadioButton &kind : OptTrouRec) {
+        order.push_back(&kind);
+    }
+    RegleTabulation(order);
 }
 
 } // namespace loftwing

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "features/slot_rules.h"
+#include "lang/LngIni.h"
 
 #include <array>
 #include <cstdint>
@@ -9,9 +10,19 @@
 
 namespace loftwing {
 
-/// Values of TypeTrou.
+/// Values of TypeTrou, the places in the table below. A rib file may hold others, which are drawn
+/// as nothing.
 inline constexpr std::uint8_t kTrouRond = 0;
 inline constexpr std::uint8_t kTrouRectangle = 1;
+
+/// What a kind of hole asks for. Plot and DXF have a function for each, in the same order.
+struct GenreTrou {
+    LngKey nom;
+    LngKey largeur;    ///< caption of its first size
+    bool avec_hauteur; ///< has a height besides
+};
+inline constexpr std::array<GenreTrou, 2> kGenresTrou = {
+    {{{"FrmTrou", "11"}, {"FrmTrou", "10"}, false}, {{"FrmTrou", "12"}, {"FrmTrou", "8"}, true}}};
 
 /// What the user typed and chose for one hole.
 struct ChampsTrou {

@@ -5,6 +5,7 @@
 #include "output/dxf_trace.h"
 #include "output/spar_face.h"
 
+#include <array>
 #include <cmath>
 
 namespace loftwing {
@@ -115,6 +116,9 @@ void Rectangle(const DxfTrace &trace, const DxfPercage &hole) {
     Axes(trace, hole, hole.hh / 1.5);
 }
 
+constexpr std::array kFormes = {Rond, Rectangle}; // in the order of kGenresTrou
+static_assert(kFormes.size() == kGenresTrou.size());
+
 } // namespace
 
 void DxfLongerons(const DxfTrace &trace) {
@@ -137,10 +141,8 @@ void DxfTrous(const DxfTrace &trace) {
     for (int slot = 0; slot <= rib.NbTrou; ++slot) {
         const Trou &trou = At(rib.trou, slot);
         const DxfPercage hole = PercageDe(trace, trou, At(trace.source.plot.trous, slot));
-        if (trou.TypeTrou == kTrouRond) {
-            Rond(trace, hole);
-        } else if (trou.TypeTrou == kTrouRectangle) {
-            Rectangle(trace, hole);
+        if (trou.TypeTrou < kFormes.size()) {
+            kFormes[trou.TypeTrou](trace, hole);
         }
     }
 }

@@ -3,6 +3,8 @@
 #include "features/trou.h"
 #include "output/plot_steps.h"
 
+#include <array>
+
 namespace loftwing {
 
 namespace {
@@ -41,6 +43,9 @@ void TraceRond(const Trace &trace, const Percage &hole) {
     TraceAxes(trace, hole, hole.w / 2.0);
 }
 
+constexpr std::array kFormes = {TraceRond, TraceRectangle}; // in the order of kGenresTrou
+static_assert(kFormes.size() == kGenresTrou.size());
+
 Percage PercageDe(const Trace &trace, const Trou &trou, const PlaceTracee &place) {
     const PlotState &plot = trace.plot;
     const double echelle = Wide(plot.Echelle);
@@ -64,10 +69,8 @@ void TraceTrou(const Trace &trace, Trou &trou, PlaceTracee &place) {
     place = trace.PlaceAutour(trou.PosTrou, trou.DiaTrou);
     const Percage hole = PercageDe(trace, trou, place);
     trace.EnStyleDe(Element::trou);
-    if (trou.TypeTrou == kTrouRectangle) {
-        TraceRectangle(trace, hole);
-    } else if (trou.TypeTrou == kTrouRond) {
-        TraceRond(trace, hole);
+    if (trou.TypeTrou < kFormes.size()) {
+        kFormes[trou.TypeTrou](trace, hole);
     }
 }
 
