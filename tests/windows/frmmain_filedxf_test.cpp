@@ -1,5 +1,6 @@
 // Exporting DXF from the main window.
 
+#include "base/number_text.h"
 #include "support/ordinary_user.h"
 #include "windows/frmmain_files_fixture.h"
 
@@ -148,7 +149,7 @@ TEST_F(ExportingDxf, TurnedRoundTheFormForCuttersIsMirrored) {
         const std::string text = world.folder.Bytes(name);
         const std::string mark = variable + "\r\n10\r\n";
         const std::size_t y = text.find("20\r\n", text.find(mark) + mark.size());
-        return std::stod(text.substr(y + 4));
+        return LeadingNumber(text.substr(y + 4, text.find('\r', y + 4) - y - 4));
     };
     EXPECT_NEAR(extent("inverted.dxf", "$EXTMIN"), -extent("upright.dxf", "$EXTMAX"), 1e-6);
     EXPECT_NEAR(extent("inverted.dxf", "$EXTMAX"), -extent("upright.dxf", "$EXTMIN"), 1e-6);
@@ -181,7 +182,7 @@ TEST_F(ExportingDxf, OfTheInterchangeFormTheCuttingAllowanceAloneFollowsTheZoom)
     ASSERT_EQ(differences.size(), 1U);
     const auto &[before, after] = differences.front();
     // It stands in the file in device units, 56.7 of which are a mm.
-    EXPECT_NEAR(std::stod(before) - std::stod(after), 1.5 * 56.7 * (3 - 1), 1e-3);
+    EXPECT_NEAR(LeadingNumber(before) - LeadingNumber(after), 1.5 * 56.7 * (3 - 1), 1e-3);
 }
 
 TEST_F(ExportingDxf, TheExportLeavesThePictureAsItIs) {
