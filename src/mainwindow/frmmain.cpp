@@ -176,7 +176,7 @@ void frmmain::ViewReset() {
     RemetVue(programme_.rib);
     programme_.plot.BlocBA = 0;
     programme_.plot.BlocEp = 0;
-    RemetDefilement();
+    picture_->RemetDefilement();
 }
 
 bool frmmain::ConfirmePerte(LngKey text, LngKey title) {
@@ -206,10 +206,10 @@ void frmmain::ClearRib() {
     ControlRep(programme_.ReglagesEnCours(), programme_.paths.programme);
     Panel(2, "");
     setWindowTitle(QString::fromUtf8(kTitre));
-    Pic->Montre(nullptr);
+    picture_->Montre(nullptr);
     Combo1->setCurrentIndex(kZoomRow100);
     programme_.rib.Zoom = FacteurZoom(kZoomRows[kZoomRow100]);
-    RegleDefilement();
+    picture_->RegleDefilement();
     LitDefauts(programme_.ReglagesEnCours());
 }
 

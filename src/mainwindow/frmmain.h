@@ -3,7 +3,7 @@
 
 #include "core/contour.h"
 #include "mainwindow/commands.h"
-#include "mainwindow/pic_view.h"
+#include "mainwindow/picture_area.h"
 #include "mainwindow/toolkit_words.h"
 #include "output/screen_plot.h"
 #include "programme/main_view.h"
@@ -13,8 +13,6 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QPushButton>
-#include <QScrollBar>
-#include <QTimer>
 #include <QToolBar>
 
 #include <array>
@@ -120,13 +118,9 @@ class frmmain : public QMainWindow, public MainView {
     std::map<int, QAction *> tools_; ///< buttons of Toolbar1 by index
     std::map<std::string, QPushButton *> buttons_;
     QComboBox *Combo1 = nullptr;
-    PicView *Pic = nullptr;
-    QScrollBar *Hsbpic = nullptr;
-    QScrollBar *Vsbpic = nullptr;
+    PictureArea *picture_ = nullptr;
     std::array<QLabel *, 3> panels_{}; ///< StatusBar 1 to 3
-    QTimer resized_;
-    bool drawing_ = false; ///< a redraw is under way, perhaps waiting in a box
-    QPoint drag_rest_;     ///< pixels dragged that made no whole unit yet
+    bool drawing_ = false;             ///< a redraw is under way, perhaps waiting in a box
 
     // frmmain_build.cpp
     void BuildMenus();
@@ -135,7 +129,6 @@ class frmmain : public QMainWindow, public MainView {
     void BuildToolbar();
     void BuildPicture();
     void BuildStatusBar();
-    void ConnectPicture();
 
     // frmmain.cpp
     void Form_Load();
@@ -186,15 +179,8 @@ class frmmain : public QMainWindow, public MainView {
     /// Draws on a new recording and shows that. False when there is nothing new to be seen; after a
     /// failure, which has been reported, the rib is cleared.
     bool Dessine(const std::function<Affichage(const Trace &)> &draw);
-    double UniteDefilement() const;
-    void RegleDefilement();
-    void RemetDefilement();
-    void ZoomSur(int row);
+    void ZoomSur(int steps);
     void Combo1_Click(int row);
-    void Hsbpic_Change(int value);
-    void Vsbpic_Change(int value);
-    void Pic_Wheel(double across, double down);
-    void Pic_Drag(const QPoint &pixels);
     void Form_Resize();
     void LitPlace();
     void EcritPlace();

@@ -5,7 +5,6 @@
 #include "output/screen_plot.h"
 #include "platform/qt_form.h"
 
-#include <QGridLayout>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QStyle>
@@ -102,42 +101,16 @@ void frmmain::BuildToolbar() {
 }
 
 void frmmain::BuildPicture() {
-    auto *area = new QWidget(this);
-    auto *grid = new QGridLayout(area);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(0);
-    Pic = new PicView(area);
-    Hsbpic = new QScrollBar(Qt::Horizontal, area);
-    Hsbpic->setObjectName("Hsbpic");
-    Vsbpic = new QScrollBar(Qt::Vertical, area);
-    Vsbpic->setObjectName("Vsbpic");
-    // Runs from 0 at the top to a negative value at the bottom.
-    Vsbpic->setInvertedAppearance(true);
-    Vsbpic->setInvertedControls(true);
-    for (QScrollBar *bar : {Hsbpic, Vsbpic}) {
-        bar->setRange(0, 0);
-    }
-    grid->addWidget(Pic, 0, 0);
-    grid->addWidget(Vsbpic, 0, 1);
-    grid->addWidget(Hsbpic, 1, 0);
-    setCentralWidget(area);
-    ConnectPicture();
-}
-
-void frmmain::ConnectPicture() {
-    connect(Hsbpic, &QScrollBar::valueChanged, this, &frmmain::Hsbpic_Change);
-    connect(Vsbpic, &QScrollBar::valueChanged, this, &frmmain::Vsbpic_Change);
-    connect(Pic, &PicView::MenuDemande, this,
+    picture_ = new PictureArea(programme_.rib, this);
+    setCentralWidget(picture_);
+    connect(picture_, &PictureArea::Defile, this, [this] {
+        RetraceVues();
+        affiche();
+    });
+    connect(picture_, &PictureArea::MenuDemande, this,
             [this](const QPoint &place) { menus_.at("mnuprofil")->popup(place); });
-    connect(Pic, &PicView::ZoomDemande, this,
-            [this](int steps) { ZoomSur(Combo1->currentIndex() - steps); });
-    connect(Pic, &PicView::Roule, this, &frmmain::Pic_Wheel);
-    connect(Pic, &PicView::Tire, this, &frmmain::Pic_Drag);
-    // One redraw when the window has come to rest, not one at each step of a drag.
-    resized_.setSingleShot(true);
-    resized_.setInterval(0);
-    connect(Pic, &PicView::Redimensionne, &resized_, qOverload<>(&QTimer::start));
-    connect(&resized_, &QTimer::timeout, this, &frmmain::Form_Resize);
+    connect(picture_, &PictureArea::ZoomDemande, this, &frmmain::ZoomSur);
+    connect(picture_, &PictureArea::Redimensionne, this, &frmmain::Form_Resize);
 }
 
 void frmmain::BuildStatusBar() {

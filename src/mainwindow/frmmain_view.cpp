@@ -2,7 +2,6 @@
 
 #include "base/version.h"
 #include "mainwindow/frmmain.h"
-#include "output/scroll_range.h"
 #include "output/view_screen.h"
 #include "platform/qt_form.h"
 #include "platform/qt_plot_device.h"
@@ -10,10 +9,6 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QSettings>
-#include <QSignalBlocker>
-
-#include <algorithm>
-#include <cmath>
 
 namespace loftwing {
 
@@ -33,7 +28,7 @@ void frmmain::affiche() {
     if (Dessine([](const Trace &trace) { return afficheRib(trace); })) {
         Panel(2, TexteEtat(programme_.rib, programme_.settings, programme_.messages));
     }
-    RegleDefilement();
+    picture_->RegleDefilement();
 }
 
 bool frmmain::Dessine(const std::function<Affichage(const Trace &)> &draw) {
@@ -47,53 +42,13 @@ bool frmmain::Dessine(const std::function<Affichage(const Trace &)> &draw) {
     if (result != Affichage::dessine) {
         return false;
     }
-    Pic->Montre(std::move(recording));
+    picture_->Montre(std::move(recording));
     Panel(1, kVersion);
     return true;
 }
 
-double frmmain::UniteDefilement() const {
-    return static_cast<double>(programme_.rib.corde) * static_cast<double>(programme_.rib.Zoom) /
-           2.0;
-}
-
-void frmmain::RegleDefilement() {
-    const Recording *drawing = Pic->Dessin();
-    const RibModel &rib = programme_.rib;
-    const double unit = UniteDefilement();
-    ScrollRange across;
-    ScrollRange down;
-    if (drawing != nullptr && unit > 0.0) {
-        const Extent seen = drawing->Bounds();
-        const double x = rib.DecalX * unit;
-        const double y = -rib.DecalY * unit;
-        across = RangeOver(seen.left - x, seen.right - x, Pic->width() * kUnitsPerPixel, unit);
-        if (DefileEnHauteur(rib)) {
-            down = RangeOver(seen.top - y, seen.bottom - y, Pic->height() * kUnitsPerPixel, unit);
-        }
-    }
-    const auto set = [](QScrollBar *bar, const ScrollRange &range, int lowest, int highest) {
-        bar->setRange(lowest, highest);
-        bar->setPageStep(range.page);
-        bar->setSingleStep(range.step);
-        bar->setEnabled(lowest != highest);
-    };
-    // A value that falls out of the new range comes back through the bar's own change.
-    set(Hsbpic, across, across.lowest, across.highest);
-    set(Vsbpic, down, -down.highest, -down.lowest);
-}
-
-void frmmain::RemetDefilement() {
-    const QSignalBlocker across(Hsbpic);
-    const QSignalBlocker down(Vsbpic);
-    programme_.rib.DecalX = 0;
-    programme_.rib.DecalY = 0;
-    Hsbpic->setValue(0);
-    Vsbpic->setValue(0);
-}
-
-void frmmain::ZoomSur(int row) {
-    const int wanted = std::clamp(row, 0, Combo1->count() - 1);
+void frmmain::ZoomSur(int steps) {
+    const int wanted = ZoomRow(Combo1->currentIndex(), steps);
     if (wanted != Combo1->currentIndex()) {
         Combo1->setCurrentIndex(wanted);
         Combo1_Click(wanted);
@@ -102,44 +57,9 @@ void frmmain::ZoomSur(int row) {
 
 void frmmain::Combo1_Click(int row) {
     programme_.rib.Zoom = FacteurZoom(S(Combo1->itemText(row)));
-    RemetDefilement();
+    picture_->RemetDefilement();
     RetraceVues();
     affiche();
-}
-
-void frmmain::Hsbpic_Change(int value) {
-    programme_.rib.DecalX = static_cast<std::int16_t>(-value);
-    RetraceVues();
-    affiche();
-}
-
-void frmmain::Vsbpic_Change(int value) {
-    programme_.rib.DecalY = static_cast<std::int16_t>(-value);
-    RetraceVues();
-    affiche();
-}
-
-void frmmain::Pic_Wheel(double across, double down) {
-    constexpr double kLinesPerNotch = 3.0;
-    const auto lines = [](double notches) {
-        return static_cast<int>(std::lround(notches * kLinesPerNotch));
-    };
-    Hsbpic->setValue(Hsbpic->value() - lines(across) * Hsbpic->singleStep());
-    Vsbpic->setValue(Vsbpic->value() + lines(down) * Vsbpic->singleStep());
-}
-
-void frmmain::Pic_Drag(const QPoint &pixels) {
-    const double unit = UniteDefilement() / kUnitsPerPixel;
-    if (!(unit > 0.0)) {
-        return;
-    }
-    drag_rest_ += pixels;
-    const int x = static_cast<int>(drag_rest_.x() / unit);
-    const int y = static_cast<int>(drag_rest_.y() / unit);
-    drag_rest_ -=
-        QPoint(static_cast<int>(std::lround(x * unit)), static_cast<int>(std::lround(y * unit)));
-    Hsbpic->setValue(Hsbpic->value() - x);
-    Vsbpic->setValue(Vsbpic->value() + y);
 }
 
 void frmmain::Form_Resize() {

@@ -37,7 +37,7 @@ void frmmain::afficheCompare() {
         setWindowTitle(Q(TitreCompare(compare, programme_.messages)));
         Panel(2, EtatCompare(programme_.rib, compare, programme_.SaisieEnCours()));
     }
-    RegleDefilement();
+    picture_->RegleDefilement();
 }
 
 void frmmain::afficheEpcourb() {
@@ -47,7 +47,7 @@ void frmmain::afficheEpcourb() {
     if (Dessine([](const Trace &trace) { return loftwing::afficheEpcourb(trace); })) {
         Panel(2, EtatEpCourb(programme_.rib, programme_.SaisieEnCours()));
     }
-    RegleDefilement();
+    picture_->RegleDefilement();
 }
 
 void frmmain::afficheCouple() {
@@ -57,7 +57,7 @@ void frmmain::afficheCouple() {
     if (Dessine([](const Trace &trace) { return loftwing::afficheCouple(trace); })) {
         Panel(2, TexteEtat(programme_.rib, programme_.settings, programme_.messages));
     }
-    RegleDefilement();
+    picture_->RegleDefilement();
 }
 
 void frmmain::mnu_OutilCompare_Click() {
@@ -104,8 +104,8 @@ bool frmmain::DemandeProfil1(const VueAvant &before) {
     const Sablier sablier(programme_.platform);
     DesactiveCommandes();
     ActiveCommandesVue();
-    Pic->Montre(nullptr);
-    RegleDefilement();
+    picture_->Montre(nullptr);
+    picture_->RegleDefilement();
     setWindowTitle(QString::fromUtf8(kTitre));
     NoteRecent(programme_, rib.CheminProfil);
     AfficheFichiersRecents();
