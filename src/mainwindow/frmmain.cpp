@@ -4,7 +4,6 @@
 #include "core/airfoil_reader.h"
 #include "features/rib_entry.h"
 #include "mainwindow/frmInput.h"
-#include "mainwindow/tool_icons.h"
 #include "output/screen_plot.h"
 #include "output/view_plots.h"
 #include "platform/busy_pointer.h"
@@ -16,7 +15,6 @@
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
-#include <QMenuBar>
 #include <QMimeData>
 #include <QUrl>
 
@@ -53,11 +51,15 @@ const DialogueFerme *EntreeDe(const QDialog &dialog) {
 
 } // namespace
 
-frmmain::frmmain(Programme &programme) : programme_(programme) {
+frmmain::frmmain(Programme &programme)
+    : programme_(programme),
+      commands_(*this,
+                {[this](const char *name, CommandHandler handler) { Execute(name, handler); },
+                 [this](const EntreeExport &entree) { Exporte(entree); },
+                 [this](const std::string &path) { mnuFileMRU_Click(path); },
+                 [this](int row) { Combo1_Click(row); }}) {
     setObjectName("frmmain");
     setAcceptDrops(true);
-    BuildMenus();
-    BuildToolbar();
     BuildPicture();
     BuildStatusBar();
     LitPlace();
@@ -71,16 +73,13 @@ void frmmain::Form_Load() {
     Panel(2, "");
     AfficheUnite();
     setWindowTitle(QString::fromUtf8(kTitre));
-    SetChecked("mnu_affTrac", true);
-    SetChecked("mnu_afflignRef", true);
+    commands_.MontreCoches(programme_.rib);
     AppliqueLangue();
     AfficheFichiersRecents();
-    // The window's own data: what a rib brings to life is dead until there is one.
-    EnableGroup(kWithRib, false);
-    DesactiveCommandes();
+    commands_.Met(EtatCommandes::depart);
 }
 
-void frmmain::Execute(const char *name, void (frmmain::*handler)()) {
+void frmmain::Execute(const char *name, CommandHandler handler) {
     if (handler != nullptr) {
         Garde(std::string(" Main/") + name, [this, handler] { (this->*handler)(); });
     }
@@ -109,44 +108,21 @@ void frmmain::AfficheCorde() {
     Panel(2, programme_.Text({"FrmPrint", "26"}) + " : " + programme_.rib.cordeAfich);
 }
 
-bool frmmain::Checked(const char *name) const {
-    return actions_.at(name)->isChecked();
-}
-
-void frmmain::SetChecked(const char *name, bool checked) {
-    actions_.at(name)->setChecked(checked);
-}
-
-void frmmain::EnableGroup(unsigned group, bool enabled) {
-    for (const Command &command : MenuCommands()) {
-        if ((command.groups & group) != 0) {
-            actions_.at(command.name)->setEnabled(enabled);
-        }
-    }
-    for (const PushButton &button : PushButtons()) {
-        if ((button.groups & group) != 0) {
-            buttons_.at(button.name)->setEnabled(enabled);
-        }
-    }
-    for (const ToolButton &button : ToolButtons()) {
-        if ((button.groups & group) != 0) {
-            tools_.at(button.index)->setEnabled(enabled);
-        }
-    }
+void frmmain::PrendCoche(const char *name) {
+    Coche(programme_.rib, name) = commands_.Entree(name).isChecked();
 }
 
 void frmmain::ActiveCommandes() {
     FermeDialogues();
-    EnableGroup(kWithRib, true);
+    commands_.Met(EtatCommandes::rib);
 }
 
 void frmmain::DesactiveCommandes() {
-    EnableGroup(kDiesOnClear, false);
+    commands_.Met(EtatCommandes::sans);
 }
 
 void frmmain::ActiveCommandesVue() {
-    EnableGroup(kNotInView, false);
-    EnableGroup(kAliveInView, true);
+    commands_.Met(EtatCommandes::vue);
 }
 
 bool frmmain::DialogueNervureOuvert() const {
@@ -195,19 +171,13 @@ void frmmain::ClearRib() {
     FermeDialogues();
     VideRib(programme_);
     ViewReset();
-    DesactiveCommandes();
-    EnableGroup(kAliveAfterClear, true);
-    for (const char *name : {"mnu_affinver", "mnu_affhautba", "mnu_affhautbf", "mnu_affepr"}) {
-        SetChecked(name, false);
-    }
-    for (const char *name : {"mnu_affTrac", "mnu_afflignRef"}) {
-        SetChecked(name, true);
-    }
+    commands_.Met(EtatCommandes::vide);
+    commands_.MontreCoches(programme_.rib);
     ControlRep(programme_.ReglagesEnCours(), programme_.paths.programme);
     Panel(2, "");
     setWindowTitle(QString::fromUtf8(kTitre));
     picture_->Montre(nullptr);
-    Combo1->setCurrentIndex(kZoomRow100);
+    commands_.ListeZoom().setCurrentIndex(kZoomRow100);
     programme_.rib.Zoom = FacteurZoom(kZoomRows[kZoomRow100]);
     picture_->RegleDefilement();
     LitDefauts(programme_.ReglagesEnCours());
@@ -270,18 +240,7 @@ void frmmain::LitEtReprend(const std::string &path) {
 }
 
 void frmmain::AfficheFichiersRecents() {
-    const FichiersRecents recent = FichiersRecentsConnus(programme_);
-    bool any = false;
-    for (std::size_t i = 0; i < recent.size(); ++i) {
-        const QString path = Q(recent[i]);
-        QString shown = path;
-        shown.replace('&', "&&");
-        mnuFileMRU_[i]->setText(QStringLiteral("&%1 %2").arg(i + 1).arg(shown));
-        mnuFileMRU_[i]->setData(path);
-        mnuFileMRU_[i]->setVisible(!path.isEmpty());
-        any = any || !path.isEmpty();
-    }
-    mnuFileMRUTrait_->setVisible(any);
+    commands_.MontreFichiersRecents(FichiersRecentsConnus(programme_));
 }
 
 bool frmmain::Saisit(const std::string &ModeSaisie) {
@@ -291,26 +250,11 @@ bool frmmain::Saisit(const std::string &ModeSaisie) {
 }
 
 void frmmain::AppliqueLangue() {
-    const auto caption = [this](LngKey key) { return Q(programme_.Text(key)); };
-    for (const Command &command : MenuCommands()) {
-        actions_.at(command.name)->setText(caption(command.text));
-    }
-    actions_.at("mnu_helpVersion")->setText("Check " + caption({"FrmAbout", "3"}));
-    for (const PushButton &button : PushButtons()) {
-        buttons_.at(button.name)->setText(caption(button.text));
-        buttons_.at(button.name)->setToolTip(caption(button.tip));
-    }
-    for (const ToolButton &button : ToolButtons()) {
-        tools_.at(button.index)->setToolTip(caption(button.tip));
-        tools_.at(button.index)->setText(caption(button.tip));
-        tools_.at(button.index)->setIcon(ToolIcon(button.index, palette()));
-    }
+    commands_.PoseTextes(programme_.language);
     programme_.platform.SetButtonWords(
         {programme_.Text({"TextButton", "1"}), programme_.Text({"TextButton", "2"}),
          programme_.Text({"TextButton", "30"}), programme_.Text({"TextButton", "31"}),
          programme_.Text({"TextButton", "32"})});
-    Combo1->setToolTip(tools_.at(8)->toolTip());
-    Combo1->setAccessibleName(tools_.at(8)->toolTip());
     toolkit_words_.Follow(programme_.language.LangueCourante);
     AppliqueLangueOutils();
 }

@@ -2,22 +2,18 @@
 #pragma once
 
 #include "core/contour.h"
-#include "mainwindow/commands.h"
+#include "mainwindow/command_bars.h"
 #include "mainwindow/picture_area.h"
 #include "mainwindow/toolkit_words.h"
 #include "output/screen_plot.h"
 #include "programme/main_view.h"
 #include "programme/programme.h"
 
-#include <QComboBox>
 #include <QLabel>
 #include <QMainWindow>
-#include <QPushButton>
-#include <QToolBar>
 
 #include <array>
 #include <functional>
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -110,36 +106,23 @@ class frmmain : public QMainWindow, public MainView {
 
     Programme &programme_;
     ToolkitWords toolkit_words_;
-    std::map<std::string, QAction *> actions_; ///< menus and entries by control name
-    std::map<std::string, QMenu *> menus_;
-    std::array<QAction *, kFichiersRecents> mnuFileMRU_{};
-    QAction *mnuFileMRUTrait_ = nullptr;
-    QToolBar *Toolbar1 = nullptr;
-    std::map<int, QAction *> tools_; ///< buttons of Toolbar1 by index
-    std::map<std::string, QPushButton *> buttons_;
-    QComboBox *Combo1 = nullptr;
+    CommandBars commands_;
     PictureArea *picture_ = nullptr;
     std::array<QLabel *, 3> panels_{}; ///< StatusBar 1 to 3
     bool drawing_ = false;             ///< a redraw is under way, perhaps waiting in a box
 
     // frmmain_build.cpp
-    void BuildMenus();
-    void AddCommand(const Command &command);
-    void BuildRecentFiles(QMenu *menu, QAction *before);
-    void BuildToolbar();
     void BuildPicture();
     void BuildStatusBar();
 
     // frmmain.cpp
     void Form_Load();
-    void Execute(const char *name, void (frmmain::*handler)());
+    void Execute(const char *name, CommandHandler handler);
     /// Runs what an event asks for: no failure may pass into the toolkit's event loop.
     void Garde(const std::string &label, const std::function<void()> &action);
     void Panel(int number, const std::string &text);
-    bool Checked(const char *name) const;
-    void SetChecked(const char *name, bool checked);
-    /// Enables or disables every control of a group.
-    void EnableGroup(unsigned group, bool enabled);
+    /// Takes a check of the view menu into the rib.
+    void PrendCoche(const char *name);
     void ActiveCommandes();
     void DesactiveCommandes();
     void ActiveCommandesVue();

@@ -82,7 +82,7 @@ void frmmain::mnu_fileexit_Click() {
 }
 
 void frmmain::mnu_affinver_Click() {
-    programme_.rib.AffHaut = Checked("mnu_affinver");
+    PrendCoche("mnu_affinver");
     if (programme_.rib.ModeCouple) {
         afficheCouple();
     } else {
@@ -98,27 +98,27 @@ void frmmain::mnu_affcouleur_Click() {
 }
 
 void frmmain::mnu_affhautba_Click() {
-    programme_.rib.AffHautBA = Checked("mnu_affhautba");
+    PrendCoche("mnu_affhautba");
     affiche();
 }
 
 void frmmain::mnu_affhautbf_Click() {
-    programme_.rib.AffHautBF = Checked("mnu_affhautbf");
+    PrendCoche("mnu_affhautbf");
     affiche();
 }
 
 void frmmain::mnu_affepr_Click() {
-    programme_.rib.AffEpr = Checked("mnu_affepr");
+    PrendCoche("mnu_affepr");
     affiche();
 }
 
 void frmmain::mnu_affTrac_Click() {
-    programme_.rib.AffTrac = Checked("mnu_affTrac");
+    PrendCoche("mnu_affTrac");
     affiche();
 }
 
 void frmmain::mnu_afflignRef_Click() {
-    programme_.rib.AffLignRef = Checked("mnu_afflignRef");
+    PrendCoche("mnu_afflignRef");
     affiche();
     // A fixed oddity: the entry is dead in the compare view, and this is what it does there.
     if (programme_.rib.ModeCompare) {

@@ -54,7 +54,7 @@ void frmmain::newLfw(const std::string &path) {
     }
     if (end == OuvertureComposants::ouverte) {
         setWindowTitle(Q(TitreComposants(programme_, " ")));
-        SetChecked("mnu_affinver", programme_.rib.AffHaut);
+        commands_.MontreCoches(programme_.rib);
         RecalculProfil();
     } else if (end != OuvertureComposants::sans_profil) {
         affclear();

@@ -48,15 +48,16 @@ bool frmmain::Dessine(const std::function<Affichage(const Trace &)> &draw) {
 }
 
 void frmmain::ZoomSur(int steps) {
-    const int wanted = ZoomRow(Combo1->currentIndex(), steps);
-    if (wanted != Combo1->currentIndex()) {
-        Combo1->setCurrentIndex(wanted);
+    QComboBox &zoom = commands_.ListeZoom();
+    const int wanted = ZoomRow(zoom.currentIndex(), steps);
+    if (wanted != zoom.currentIndex()) {
+        zoom.setCurrentIndex(wanted);
         Combo1_Click(wanted);
     }
 }
 
 void frmmain::Combo1_Click(int row) {
-    programme_.rib.Zoom = FacteurZoom(S(Combo1->itemText(row)));
+    programme_.rib.Zoom = FacteurZoom(S(commands_.ListeZoom().itemText(row)));
     picture_->RemetDefilement();
     RetraceVues();
     affiche();

@@ -187,26 +187,19 @@ void frmmain::mnu_Outilcoupl_Click() {
     if (rib.ProfilCharge) {
         return; // the user keeps the rib
     }
-    const auto enable = [this] {
-        ActiveCommandesVue();
-        for (const char *name : {"mnu_affinver", "mnu_affInstxt", "mnu_filedxf"}) {
-            actions_.at(name)->setEnabled(true);
-        }
-    };
     rib.ModeCouple = true;
-    enable();
+    commands_.Met(EtatCommandes::couple);
     frmopen picker(programme_, *this, this);
     picker.setWindowTitle(Q(programme_.Text({"frmopen", "35"})));
     ShowModal(picker);
     if (rib.Annule) {
         // Nothing to print or save: the commands are those of a cleared rib.
-        DesactiveCommandes();
-        EnableGroup(kAliveAfterClear, true);
+        commands_.Met(EtatCommandes::vide);
         return;
     }
     const Sablier sablier(programme_.platform);
     rib.ModeCouple = true; // a file that couldn't be read in the picker has cleared everything
-    enable();
+    commands_.Met(EtatCommandes::couple);
     rib.NomFichierRib = rib.NomProfil;
     setWindowTitle(Q(TitreCouple(rib)));
     PrepareTraceSimple(programme_);
