@@ -3,7 +3,9 @@
 #include "base/version.h"
 #include "core/airfoil_reader.h"
 #include "features/rib_entry.h"
+#include "mainwindow/beside.h"
 #include "mainwindow/frmInput.h"
+#include "mainwindow/window_place.h"
 #include "output/screen_plot.h"
 #include "output/view_plots.h"
 #include "platform/busy_pointer.h"
@@ -11,45 +13,13 @@
 #include "programme/export.h"
 #include "programme/load.h"
 #include "programme/rib_file.h"
-#include "utilities/frmCoord.h"
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QMimeData>
 #include <QUrl>
 
-#include <algorithm>
-#include <string_view>
-
 namespace loftwing {
-
-namespace {
-
-/// What closes with the rib.
-struct DialogueFerme {
-    std::string_view nom;
-    /// Works on the rib that is shown. The calculators work on none, but their lengths are in the
-    /// unit that was in force when they were opened, and a clear may bring another.
-    bool sur_nervure;
-};
-constexpr std::array<DialogueFerme, 9> kDialogues = {{{"frmInput", true},
-                                                      {"frmlongeron", true},
-                                                      {"frmtrou", true},
-                                                      {"frmTalon", true},
-                                                      {"frmbacarre", true},
-                                                      {"frmbloc", true},
-                                                      {"frmInstxt", true},
-                                                      {"frmnervure", false},
-                                                      {"frmdiedre", false}}};
-
-const DialogueFerme *EntreeDe(const QDialog &dialog) {
-    const auto *entry =
-        std::find_if(kDialogues.begin(), kDialogues.end(),
-                     [&](const DialogueFerme &each) { return each.nom == S(dialog.objectName()); });
-    return entry == kDialogues.end() ? nullptr : entry;
-}
-
-} // namespace
 
 frmmain::frmmain(Programme &programme)
     : programme_(programme),
@@ -57,20 +27,20 @@ frmmain::frmmain(Programme &programme)
                 {[this](const char *name, CommandHandler handler) { Execute(name, handler); },
                  [this](const EntreeExport &entree) { Exporte(entree); },
                  [this](const std::string &path) { mnuFileMRU_Click(path); },
-                 [this](int row) { Combo1_Click(row); }}) {
+                 [this](int row) { Combo1_Click(row); }}),
+      picture_(new PictureArea(programme.rib, this)), panels_(*this) {
     setObjectName("frmmain");
     setAcceptDrops(true);
-    BuildPicture();
-    BuildStatusBar();
-    LitPlace();
+    ConnectPicture();
+    LitPlace(*this);
     Form_Load();
 }
 
 void frmmain::Form_Load() {
     programme_.platform.SetPointer(Pointer::normal);
     ChargeReglages(programme_);
-    Panel(1, std::string(" V. ") + kVersion);
-    Panel(2, "");
+    panels_.Montre(1, std::string(" V. ") + kVersion);
+    panels_.Montre(2, "");
     AfficheUnite();
     setWindowTitle(QString::fromUtf8(kTitre));
     commands_.MontreCoches(programme_.rib);
@@ -94,18 +64,12 @@ void frmmain::Garde(const std::string &label, const std::function<void()> &actio
     }
 }
 
-void frmmain::Panel(int number, const std::string &text) {
-    QLabel *panel = At(panels_, number - 1);
-    panel->setText(Q(text));
-    panel->setToolTip(number == 2 ? Q(text).toHtmlEscaped() : QString());
-}
-
 void frmmain::AfficheUnite() {
-    Panel(3, "unit :" + programme_.settings.Unite);
+    panels_.Montre(3, "unit :" + programme_.settings.Unite);
 }
 
 void frmmain::AfficheCorde() {
-    Panel(2, programme_.Text({"FrmPrint", "26"}) + " : " + programme_.rib.cordeAfich);
+    panels_.Montre(2, programme_.Text({"FrmPrint", "26"}) + " : " + programme_.rib.cordeAfich);
 }
 
 void frmmain::PrendCoche(const char *name) {
@@ -125,27 +89,8 @@ void frmmain::ActiveCommandesVue() {
     commands_.Met(EtatCommandes::vue);
 }
 
-bool frmmain::DialogueNervureOuvert() const {
-    const QList<QDialog *> dialogs = findChildren<QDialog *>();
-    return std::any_of(dialogs.begin(), dialogs.end(), [](const QDialog *dialog) {
-        const DialogueFerme *entry = EntreeDe(*dialog);
-        return entry != nullptr && entry->sur_nervure && dialog->isVisible();
-    });
-}
-
 void frmmain::FermeDialogues() {
-    for (QDialog *dialog : findChildren<QDialog *>()) {
-        if (EntreeDe(*dialog) != nullptr) {
-            // done() and not close(): nothing of the rib may be asked for or put back any more.
-            dialog->done(QDialog::Rejected);
-        }
-    }
-}
-
-bool frmmain::FermeCoordonnees() {
-    const QList<frmCoord *> editors = findChildren<frmCoord *>();
-    return std::all_of(editors.begin(), editors.end(),
-                       [](frmCoord *editor) { return !editor->isVisible() || editor->close(); });
+    loftwing::FermeDialogues(*this);
 }
 
 void frmmain::ViewReset() {
@@ -174,7 +119,7 @@ void frmmain::ClearRib() {
     commands_.Met(EtatCommandes::vide);
     commands_.MontreCoches(programme_.rib);
     ControlRep(programme_.ReglagesEnCours(), programme_.paths.programme);
-    Panel(2, "");
+    panels_.Montre(2, "");
     setWindowTitle(QString::fromUtf8(kTitre));
     picture_->Montre(nullptr);
     commands_.ListeZoom().setCurrentIndex(kZoomRow100);
@@ -256,7 +201,7 @@ void frmmain::AppliqueLangue() {
          programme_.Text({"TextButton", "30"}), programme_.Text({"TextButton", "31"}),
          programme_.Text({"TextButton", "32"})});
     toolkit_words_.Follow(programme_.language.LangueCourante);
-    AppliqueLangueOutils();
+    AppliqueLangueOutils(*this);
 }
 
 bool frmmain::QuestionFin() {
@@ -270,11 +215,11 @@ bool frmmain::QuestionFin() {
 
 void frmmain::closeEvent(QCloseEvent *event) {
     // The program's own question first: a No to it leaves everything open.
-    if (!QuestionFin() || !FermeCoordonnees()) {
+    if (!QuestionFin() || !FermeCoordonnees(*this)) {
         event->ignore();
         return;
     }
-    EcritPlace();
+    EcritPlace(*this);
     programme_.platform.CloseHelp();
     FermeDialogues();
     event->accept();

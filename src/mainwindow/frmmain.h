@@ -4,15 +4,14 @@
 #include "core/contour.h"
 #include "mainwindow/command_bars.h"
 #include "mainwindow/picture_area.h"
+#include "mainwindow/status_panels.h"
 #include "mainwindow/toolkit_words.h"
 #include "output/screen_plot.h"
 #include "programme/main_view.h"
 #include "programme/programme.h"
 
-#include <QLabel>
 #include <QMainWindow>
 
-#include <array>
 #include <functional>
 #include <optional>
 #include <string>
@@ -107,30 +106,21 @@ class frmmain : public QMainWindow, public MainView {
     Programme &programme_;
     ToolkitWords toolkit_words_;
     CommandBars commands_;
-    PictureArea *picture_ = nullptr;
-    std::array<QLabel *, 3> panels_{}; ///< StatusBar 1 to 3
-    bool drawing_ = false;             ///< a redraw is under way, perhaps waiting in a box
-
-    // frmmain_build.cpp
-    void BuildPicture();
-    void BuildStatusBar();
+    PictureArea *picture_;
+    StatusPanels panels_;
+    bool drawing_ = false; ///< a redraw is under way, perhaps waiting in a box
 
     // frmmain.cpp
     void Form_Load();
     void Execute(const char *name, CommandHandler handler);
     /// Runs what an event asks for: no failure may pass into the toolkit's event loop.
     void Garde(const std::string &label, const std::function<void()> &action);
-    void Panel(int number, const std::string &text);
     /// Takes a check of the view menu into the rib.
     void PrendCoche(const char *name);
     void ActiveCommandes();
     void DesactiveCommandes();
     void ActiveCommandesVue();
     void ViewReset();
-    /// Whether a dialog is open that works on the rib that is shown.
-    bool DialogueNervureOuvert() const;
-    /// Closes the coordinate editor; false when the user stays there for lines that aren't saved.
-    bool FermeCoordonnees();
     /// Whether to go on where changes could be lost.
     bool ConfirmePerte(LngKey text, LngKey title);
     void ClearRib();
@@ -145,8 +135,6 @@ class frmmain : public QMainWindow, public MainView {
     bool QuestionFin();
 
     // frmmain_tools.cpp
-    /// Gives the tools that stay open the words of the language in force.
-    void AppliqueLangueOutils();
     /// Clears the rib for a set of ribs; false when the user keeps it.
     bool FaitPlaceAuJeu();
     /// The number of intermediate ribs; 0 when the user gives up.
@@ -159,14 +147,13 @@ class frmmain : public QMainWindow, public MainView {
     void Exporte(const EntreeExport &entree);
 
     // frmmain_view.cpp
+    void ConnectPicture();
     /// Draws on a new recording and shows that. False when there is nothing new to be seen; after a
     /// failure, which has been reported, the rib is cleared.
     bool Dessine(const std::function<Affichage(const Trace &)> &draw);
     void ZoomSur(int steps);
     void Combo1_Click(int row);
     void Form_Resize();
-    void LitPlace();
-    void EcritPlace();
 
     // frmmain_views.cpp
     /// The chord and airfoil 1 of a comparison; false when it ends here.

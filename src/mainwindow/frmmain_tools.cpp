@@ -1,5 +1,6 @@
 // The tools of the main window.
 
+#include "mainwindow/beside.h"
 #include "mainwindow/frmmain.h"
 #include "mainwindow/frmopen.h"
 #include "platform/qt_form.h"
@@ -13,40 +14,6 @@
 #include "utilities/frmribevol2.h"
 
 namespace loftwing {
-
-namespace {
-
-/// Shows a window that stays open beside the main one. There is one of each kind: a second command
-/// brings it to the front.
-template <class Window>
-void ShowBeside(QWidget &parent, Programme &programme) {
-    for (Window *open : parent.findChildren<Window *>()) {
-        if (open->isVisible()) {
-            open->setWindowState(open->windowState() & ~Qt::WindowMinimized);
-            open->raise();
-            open->activateWindow();
-            return;
-        }
-    }
-    auto *window = new Window(programme, &parent);
-    window->setAttribute(Qt::WA_DeleteOnClose);
-    window->show();
-}
-
-template <class Window>
-void Reword(const QWidget &parent) {
-    for (Window *open : parent.findChildren<Window *>()) {
-        open->PoseTextes();
-    }
-}
-
-} // namespace
-
-void frmmain::AppliqueLangueOutils() {
-    Reword<frmnervure>(*this);
-    Reword<frmdiedre>(*this);
-    Reword<frmCoord>(*this);
-}
 
 std::optional<ProfilChoisi> frmmain::ChoisitProfil(const std::string &titre) {
     RibModel &rib = programme_.rib;

@@ -1,24 +1,25 @@
-// The picture of the main window: redraw, zoom, scroll, size and place.
+// The picture of the main window: redraw, zoom, scroll and size.
 
 #include "base/version.h"
+#include "mainwindow/beside.h"
 #include "mainwindow/frmmain.h"
 #include "output/view_screen.h"
 #include "platform/qt_form.h"
 #include "platform/qt_plot_device.h"
 
-#include <QGuiApplication>
-#include <QScreen>
-#include <QSettings>
-
 namespace loftwing {
 
-namespace {
-
-QSettings PlaceStore() {
-    return QSettings(QSettings::IniFormat, QSettings::UserScope, "loftwing", "window");
+void frmmain::ConnectPicture() {
+    setCentralWidget(picture_);
+    connect(picture_, &PictureArea::Defile, this, [this] {
+        RetraceVues();
+        affiche();
+    });
+    connect(picture_, &PictureArea::MenuDemande, this,
+            [this](const QPoint &place) { commands_.OuvreMenu("mnuprofil", place); });
+    connect(picture_, &PictureArea::ZoomDemande, this, &frmmain::ZoomSur);
+    connect(picture_, &PictureArea::Redimensionne, this, &frmmain::Form_Resize);
 }
-
-} // namespace
 
 void frmmain::affiche() {
     // A box of an earlier redraw may still be open; its answer doesn't change the drawing.
@@ -26,7 +27,7 @@ void frmmain::affiche() {
         return;
     }
     if (Dessine([](const Trace &trace) { return afficheRib(trace); })) {
-        Panel(2, TexteEtat(programme_.rib, programme_.settings, programme_.messages));
+        panels_.Montre(2, TexteEtat(programme_.rib, programme_.settings, programme_.messages));
     }
     picture_->RegleDefilement();
 }
@@ -43,7 +44,7 @@ bool frmmain::Dessine(const std::function<Affichage(const Trace &)> &draw) {
         return false;
     }
     picture_->Montre(std::move(recording));
-    Panel(1, kVersion);
+    panels_.Montre(1, kVersion);
     return true;
 }
 
@@ -66,24 +67,11 @@ void frmmain::Combo1_Click(int row) {
 void frmmain::Form_Resize() {
     setWindowTitle(QString::fromUtf8(kTitre));
     // What is typed in a dialog may not fit yet, and a plot that fails costs the rib.
-    if (DialogueNervureOuvert()) {
+    if (DialogueNervureOuvert(*this)) {
         return;
     }
     RetraceVues();
     affiche();
-}
-
-void frmmain::LitPlace() {
-    const QSettings store = PlaceStore();
-    if (!restoreGeometry(store.value("geometry").toByteArray())) {
-        const QSize screen = QGuiApplication::primaryScreen()->availableSize();
-        resize(QSize(1000, 600).boundedTo(screen));
-    }
-}
-
-void frmmain::EcritPlace() {
-    QSettings store = PlaceStore();
-    store.setValue("geometry", saveGeometry());
 }
 
 } // namespace loftwing

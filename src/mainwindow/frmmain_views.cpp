@@ -35,7 +35,7 @@ void frmmain::afficheCompare() {
     };
     if (Dessine(draw)) {
         setWindowTitle(Q(TitreCompare(compare, programme_.messages)));
-        Panel(2, EtatCompare(programme_.rib, compare, programme_.SaisieEnCours()));
+        panels_.Montre(2, EtatCompare(programme_.rib, compare, programme_.SaisieEnCours()));
     }
     picture_->RegleDefilement();
 }
@@ -45,7 +45,7 @@ void frmmain::afficheEpcourb() {
         return;
     }
     if (Dessine([](const Trace &trace) { return loftwing::afficheEpcourb(trace); })) {
-        Panel(2, EtatEpCourb(programme_.rib, programme_.SaisieEnCours()));
+        panels_.Montre(2, EtatEpCourb(programme_.rib, programme_.SaisieEnCours()));
     }
     picture_->RegleDefilement();
 }
@@ -55,7 +55,7 @@ void frmmain::afficheCouple() {
         return;
     }
     if (Dessine([](const Trace &trace) { return loftwing::afficheCouple(trace); })) {
-        Panel(2, TexteEtat(programme_.rib, programme_.settings, programme_.messages));
+        panels_.Montre(2, TexteEtat(programme_.rib, programme_.settings, programme_.messages));
     }
     picture_->RegleDefilement();
 }
@@ -113,15 +113,15 @@ bool frmmain::DemandeProfil1(const VueAvant &before) {
         affclear();
         return false;
     }
-    Panel(1, kVersion);
-    Panel(2, EtatProfil1(rib, programme_.compare, programme_.SaisieEnCours()));
+    panels_.Montre(1, kVersion);
+    panels_.Montre(2, EtatProfil1(rib, programme_.compare, programme_.SaisieEnCours()));
     return true;
 }
 
 void frmmain::DemandeProfil2(std::optional<double> haut1) {
     RibModel &rib = programme_.rib;
     const Comparaison &compare = programme_.compare;
-    Panel(2, EtatNom1(compare, programme_.messages));
+    panels_.Montre(2, EtatNom1(compare, programme_.messages));
     rib.Annule = false;
     {
         frmopen picker(programme_, *this, this);
@@ -133,7 +133,7 @@ void frmmain::DemandeProfil2(std::optional<double> haut1) {
     }
     if (rib.Annule) {
         rib.ModeCompare = false;
-        Panel(2, "");
+        panels_.Montre(2, "");
         affclear();
         return;
     }
