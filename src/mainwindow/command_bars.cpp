@@ -33,6 +33,12 @@ CommandBars::CommandBars(QMainWindow &window, Demandes demandes)
     BuildToolbar();
 }
 
+void CommandBars::Execute(const char *name, CommandHandler handler) {
+    if (handler != nullptr) {
+        demandes_.execute(name, handler);
+    }
+}
+
 void CommandBars::AddCommand(const Command &command) {
     QMenu *parent = command.menu == nullptr ? nullptr : menus_.at(command.menu);
     if (command.separator) {
@@ -54,7 +60,7 @@ void CommandBars::AddCommand(const Command &command) {
             if (command.exporte != nullptr) {
                 demandes_.exporte(*command.exporte);
             } else {
-                demandes_.execute(command.name, command.handler);
+                Execute(command.name, command.handler);
             }
         });
     }
@@ -107,7 +113,7 @@ void CommandBars::AddTool(const ToolButton &button) {
     action->setObjectName(Q(ToolName(button.index)));
     tools_[button.index] = action;
     QObject::connect(action, &QAction::triggered, &window_,
-                     [this, &button] { demandes_.execute("Toolbar1", button.handler); });
+                     [this, &button] { Execute("Toolbar1", button.handler); });
 }
 
 void CommandBars::BuildZoomList() {
@@ -127,7 +133,7 @@ void CommandBars::AddButton(const PushButton &button) {
     push->setObjectName(button.name);
     push->setFocusPolicy(Qt::TabFocus);
     QObject::connect(push, &QPushButton::clicked, &window_,
-                     [this, &button] { demandes_.execute(button.name, button.handler); });
+                     [this, &button] { Execute(button.name, button.handler); });
     Toolbar1_->addWidget(push);
     buttons_[button.name] = push;
 }

@@ -23,7 +23,7 @@ class CommandBars {
   public:
     /// What the controls ask for.
     struct Demandes {
-        std::function<void(const char *name, CommandHandler handler)> execute;
+        std::function<void(const char *name, CommandHandler handler)> execute; ///< never null
         std::function<void(const EntreeExport &entree)> exporte;
         std::function<void(const std::string &path)> fichier; ///< a recent file
         std::function<void(int row)> zoom;                    ///< a row of the zoom list
@@ -59,6 +59,8 @@ class CommandBars {
     std::map<std::string, QPushButton *> buttons_;
     QComboBox *Combo1_ = nullptr;
 
+    /// A control that runs nothing may be clicked too.
+    void Execute(const char *name, CommandHandler handler);
     void BuildMenus();
     void AddCommand(const Command &command);
     void BuildRecentFiles(QMenu *menu, QAction *before);

@@ -1,33 +1,45 @@
 #include "mainwindow/frmmain.h"
 
 #include "base/version.h"
-#include "core/airfoil_reader.h"
-#include "features/rib_entry.h"
 #include "mainwindow/beside.h"
 #include "mainwindow/frmInput.h"
+#include "mainwindow/frmopen.h"
 #include "mainwindow/window_place.h"
-#include "output/screen_plot.h"
-#include "output/view_plots.h"
-#include "platform/busy_pointer.h"
 #include "platform/qt_form.h"
-#include "programme/export.h"
 #include "programme/load.h"
-#include "programme/rib_file.h"
+#include "programme/rib_steps.h"
+#include "utilities/frmEpCourb.h"
 
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QMimeData>
+#include <QTimer>
 #include <QUrl>
 
 namespace loftwing {
 
+namespace {
+
+/// The one file that is dragged or dropped, nothing for anything else.
+std::optional<std::string> FileOf(const QMimeData &data) {
+    const QList<QUrl> urls = data.urls();
+    if (urls.size() != 1 || !urls.front().isLocalFile()) {
+        return std::nullopt;
+    }
+    return S(urls.front().toLocalFile());
+}
+
+} // namespace
+
 frmmain::frmmain(Programme &programme)
     : programme_(programme),
-      commands_(*this,
-                {[this](const char *name, CommandHandler handler) { Execute(name, handler); },
-                 [this](const EntreeExport &entree) { Exporte(entree); },
-                 [this](const std::string &path) { mnuFileMRU_Click(path); },
-                 [this](int row) { Combo1_Click(row); }}),
+      commands_(*this, {[this](const char *name, CommandHandler handler) {
+                            Garde(std::string(" Main/") + name,
+                                  [this, handler] { (this->*handler)(); });
+                        },
+                        [this](const EntreeExport &entree) { Exporte(entree); },
+                        [this](const std::string &path) { mnuFileMRU_Click(path); },
+                        [this](int row) { Combo1_Click(row); }}),
       picture_(new PictureArea(programme.rib, this)), panels_(*this) {
     setObjectName("frmmain");
     setAcceptDrops(true);
@@ -39,20 +51,14 @@ frmmain::frmmain(Programme &programme)
 void frmmain::Form_Load() {
     programme_.platform.SetPointer(Pointer::normal);
     ChargeReglages(programme_);
-    panels_.Montre(1, std::string(" V. ") + kVersion);
-    panels_.Montre(2, "");
+    Panneau(1, std::string(" V. ") + kVersion);
+    Panneau(2, "");
     AfficheUnite();
-    setWindowTitle(QString::fromUtf8(kTitre));
-    commands_.MontreCoches(programme_.rib);
+    Titre(kTitre);
+    MontreCoches();
     AppliqueLangue();
     AfficheFichiersRecents();
     commands_.Met(EtatCommandes::depart);
-}
-
-void frmmain::Execute(const char *name, CommandHandler handler) {
-    if (handler != nullptr) {
-        Garde(std::string(" Main/") + name, [this, handler] { (this->*handler)(); });
-    }
 }
 
 void frmmain::Garde(const std::string &label, const std::function<void()> &action) {
@@ -64,16 +70,24 @@ void frmmain::Garde(const std::string &label, const std::function<void()> &actio
     }
 }
 
+void frmmain::Titre(const std::string &caption) {
+    setWindowTitle(Q(caption));
+}
+
+void frmmain::Panneau(int number, const std::string &text) {
+    panels_.Montre(number, text);
+}
+
 void frmmain::AfficheUnite() {
-    panels_.Montre(3, "unit :" + programme_.settings.Unite);
+    Panneau(3, "unit :" + programme_.settings.Unite);
 }
 
 void frmmain::AfficheCorde() {
-    panels_.Montre(2, programme_.Text({"FrmPrint", "26"}) + " : " + programme_.rib.cordeAfich);
+    Panneau(2, programme_.Text({"FrmPrint", "26"}) + " : " + programme_.rib.cordeAfich);
 }
 
-void frmmain::PrendCoche(const char *name) {
-    Coche(programme_.rib, name) = commands_.Entree(name).isChecked();
+void frmmain::AfficheFichiersRecents() {
+    commands_.MontreFichiersRecents(FichiersRecentsConnus(programme_));
 }
 
 void frmmain::ActiveCommandes() {
@@ -89,109 +103,48 @@ void frmmain::ActiveCommandesVue() {
     commands_.Met(EtatCommandes::vue);
 }
 
-void frmmain::FermeDialogues() {
-    loftwing::FermeDialogues(*this);
+void frmmain::ActiveCommandesCouple() {
+    commands_.Met(EtatCommandes::couple);
 }
 
-void frmmain::ViewReset() {
-    RemetVue(programme_.rib);
-    programme_.plot.BlocBA = 0;
-    programme_.plot.BlocEp = 0;
-    picture_->RemetDefilement();
-}
-
-bool frmmain::ConfirmePerte(LngKey text, LngKey title) {
-    if (!programme_.rib.Modifie || CompareEnVue(programme_.rib, programme_.compare)) {
-        return true;
-    }
-    return programme_.messages.Confirm(programme_.Text(text), programme_.Text(title));
-}
-
-void frmmain::affclear() {
-    const Sablier sablier(programme_.platform);
-    programme_.messages.Garde(" Main/AffichClear", [this] { ClearRib(); });
-}
-
-void frmmain::ClearRib() {
-    FermeDialogues();
-    VideRib(programme_);
-    ViewReset();
+void frmmain::ActiveCommandesVides() {
     commands_.Met(EtatCommandes::vide);
+}
+
+void frmmain::MontreCoches() {
     commands_.MontreCoches(programme_.rib);
-    ControlRep(programme_.ReglagesEnCours(), programme_.paths.programme);
-    panels_.Montre(2, "");
-    setWindowTitle(QString::fromUtf8(kTitre));
-    picture_->Montre(nullptr);
-    commands_.ListeZoom().setCurrentIndex(kZoomRow100);
-    programme_.rib.Zoom = FacteurZoom(kZoomRows[kZoomRow100]);
-    picture_->RegleDefilement();
-    LitDefauts(programme_.ReglagesEnCours());
 }
 
-void frmmain::RepriseProfil() {
-    setWindowTitle(Q(TitreFenetre(programme_.rib, programme_.messages)));
-    const Sablier sablier(programme_.platform);
-    EntreProfil(programme_);
-    AfficheFichiersRecents();
-    CordeDuTitre(programme_.rib, programme_.SaisieEnCours());
-    RecalculProfil();
-}
-
-void frmmain::RecalculProfil() {
-    if (PrepareContour(programme_.rib, programme_.messages) == Preparation::impossible) {
-        affclear();
-        return;
-    }
-    ViewReset();
-    ActiveCommandes();
-    affiche();
-}
-
-void frmmain::OuvreFichier(const std::string &path) {
-    if (EstComposants(path)) {
-        Garde(" LireEcrire/newLfw", [this, &path] {
-            if (ConfirmePerte({"fileopen", "1"}, {"fileopen", "2"})) {
-                newLfw(path);
-            }
-        });
-        return;
-    }
-    Garde(" Main/FileMru", [this, &path] { LitEtReprend(path); });
-}
-
-void frmmain::LitEtReprend(const std::string &path) {
-    RibModel &rib = programme_.rib;
-    const ProfilPrecedent before(rib);
-    const bool was_simple = rib.ModeCouple;
-    rib.ModeCouple = false;
-    rib.SansApercu = true;
-    rib.CheminProfil = path;
-    const ResultatLecture read =
-        FichierLecture(rib, programme_.messages, programme_.Text({"frmopen", "1"}));
-    rib.SansApercu = false;
-    if (read.issue == Lecture::echec) {
-        affclear();
-        return;
-    }
-    if (read.issue == Lecture::refuse) {
-        // The rib on the screen is still the one that was there.
-        before.Rend(rib);
-        rib.ModeCouple = was_simple;
-        return;
-    }
-    NommeProfil(rib, path);
-    rib.ProfilCharge = true;
-    RepriseProfil();
-}
-
-void frmmain::AfficheFichiersRecents() {
-    commands_.MontreFichiersRecents(FichiersRecentsConnus(programme_));
+void frmmain::PrendCoche(const char *name) {
+    Coche(programme_.rib, name) = commands_.Entree(name).isChecked();
 }
 
 bool frmmain::Saisit(const std::string &ModeSaisie) {
     frmInput dialog(programme_, ModeSaisie, this);
     ShowModal(dialog);
     return !programme_.rib.Annule;
+}
+
+bool frmmain::ChoisitFichier(const ChoixProfil &choix) {
+    programme_.rib.Annule = false;
+    frmopen picker(programme_, *this, this);
+    picker.setWindowTitle(Q(choix.titre));
+    picker.MontreMemoire(choix.case_memoire, choix.memoire);
+    if (choix.laisse_rib) {
+        picker.LaisseLeRib();
+    }
+    ShowModal(picker);
+    return !programme_.rib.Annule;
+}
+
+std::optional<std::string> frmmain::SaisitEpCourb() {
+    frmEpCourb dialog(programme_, *this, this);
+    const bool accepted = ShowModal(dialog) == QDialog::Accepted;
+    return accepted ? std::optional(dialog.Fichier()) : std::nullopt;
+}
+
+void frmmain::FermeDialogues() {
+    loftwing::FermeDialogues(*this);
 }
 
 void frmmain::AppliqueLangue() {
@@ -204,18 +157,9 @@ void frmmain::AppliqueLangue() {
     AppliqueLangueOutils(*this);
 }
 
-bool frmmain::QuestionFin() {
-    const Messages &messages = programme_.messages;
-    std::string text = messages.Text({"TextButton", "17"}) + " " + kTitre + " ? ";
-    if (programme_.rib.Modifie && !CompareEnVue(programme_.rib, programme_.compare)) {
-        text = messages.Text({"FrmMainMessage", "4"});
-    }
-    return messages.Confirm(text, kTitre);
-}
-
 void frmmain::closeEvent(QCloseEvent *event) {
     // The program's own question first: a No to it leaves everything open.
-    if (!QuestionFin() || !FermeCoordonnees(*this)) {
+    if (!ConfirmeFin(programme_) || !FermeCoordonnees(*this)) {
         event->ignore();
         return;
     }
@@ -226,21 +170,17 @@ void frmmain::closeEvent(QCloseEvent *event) {
 }
 
 void frmmain::dragEnterEvent(QDragEnterEvent *event) {
-    const QList<QUrl> urls = event->mimeData()->urls();
-    if (urls.size() == 1 && urls.front().isLocalFile()) {
+    if (FileOf(*event->mimeData())) {
         event->acceptProposedAction();
     }
 }
 
 void frmmain::dropEvent(QDropEvent *event) {
-    const QList<QUrl> urls = event->mimeData()->urls();
-    if (urls.size() != 1 || !urls.front().isLocalFile()) {
-        return;
+    if (const auto path = FileOf(*event->mimeData())) {
+        event->acceptProposedAction();
+        // After the drop is over: a box must not hold up the program that the file comes from.
+        QTimer::singleShot(0, this, [this, path] { OuvreFichier(*path); });
     }
-    event->acceptProposedAction();
-    const std::string path = S(urls.front().toLocalFile());
-    // After the drop is over: a box must not hold up the program that the file comes from.
-    QTimer::singleShot(0, this, [this, path] { OuvreFichier(path); });
 }
 
 } // namespace loftwing

@@ -1,13 +1,12 @@
 /// The main window.
 #pragma once
 
-#include "core/contour.h"
 #include "mainwindow/command_bars.h"
 #include "mainwindow/picture_area.h"
 #include "mainwindow/status_panels.h"
 #include "mainwindow/toolkit_words.h"
 #include "output/screen_plot.h"
-#include "programme/main_view.h"
+#include "programme/command_view.h"
 #include "programme/programme.h"
 
 #include <QMainWindow>
@@ -15,35 +14,49 @@
 #include <functional>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace loftwing {
 
 struct EntreeExport;
 
-/// Menu bar, tool bar with six buttons and the zoom list, the picture with its scroll bars and the
-/// status bar. What a command does in depth is in the unit that it calls.
-class frmmain : public QMainWindow, public MainView {
+/// Menus and bars, the picture with its scroll bars, and the status bar. What a command does stands
+/// in the units programme/*_steps; its handler here only opens windows and asks those.
+class frmmain : public QMainWindow, public CommandView {
     Q_OBJECT
 
   public:
     explicit frmmain(Programme &programme);
 
-    /// Opens an airfoil that was not chosen in the picker: from the command line, a drop, or the
-    /// recent files. Also a rib components file, before which changes are asked for.
+    /// Opens a file that was not chosen in a dialog: from the command line, a drop, or the recent
+    /// files.
     void OuvreFichier(const std::string &path);
 
     void affiche() override;
     void RetraceVues() override;
-    void afficheCompare();
+    void afficheCompare() override;
     void afficheEpcourb() override;
-    void afficheCouple();
+    void afficheCouple() override;
     void affclear() override;
     std::optional<ProfilChoisi> ChoisitProfil(const std::string &titre) override;
     void FermeDialogues() override;
     void AppliqueLangue() override;
     void AfficheUnite() override;
     void AfficheCorde() override;
+    void Titre(const std::string &caption) override;
+    void Panneau(int number, const std::string &text) override;
+    void AfficheFichiersRecents() override;
+    void ActiveCommandes() override;
+    void DesactiveCommandes() override;
+    void ActiveCommandesVue() override;
+    void ActiveCommandesCouple() override;
+    void ActiveCommandesVides() override;
+    void MontreCoches() override;
+    void ViewReset() override;
+    void VideImage() override;
+    void RemetZoom() override;
+    bool Saisit(const std::string &ModeSaisie) override;
+    bool ChoisitFichier(const ChoixProfil &choix) override;
+    std::optional<std::string> SaisitEpCourb() override;
 
     // Commands, named after their controls.
     void mnu_fileprofilopen_Click();
@@ -53,7 +66,7 @@ class frmmain : public QMainWindow, public MainView {
     void mnu_fileprinterconfig_Click();
     void mnu_fileprint_Click() override;
     void mnu_fileexit_Click();
-    void mnuFileMRU_Click(const std::string &path);
+    void mnuFileMRU_Click(const std::string &path) override;
     void mnu_affinver_Click();
     void mnu_affdefaut_Click();
     void mnu_affcouleur_Click();
@@ -110,50 +123,28 @@ class frmmain : public QMainWindow, public MainView {
     StatusPanels panels_;
     bool drawing_ = false; ///< a redraw is under way, perhaps waiting in a box
 
-    // frmmain.cpp
     void Form_Load();
-    void Execute(const char *name, CommandHandler handler);
+    void Form_Resize();
+    void Combo1_Click(int row);
+    void ZoomSur(int steps);
+    void ConnectPicture();
     /// Runs what an event asks for: no failure may pass into the toolkit's event loop.
     void Garde(const std::string &label, const std::function<void()> &action);
+    /// Draws on a new recording and shows that with `words` in the status bar. After a failure,
+    /// which has been reported, the rib is cleared.
+    void Dessine(const std::function<Affichage(const Trace &)> &draw,
+                 const std::function<std::string()> &words);
     /// Takes a check of the view menu into the rib.
     void PrendCoche(const char *name);
-    void ActiveCommandes();
-    void DesactiveCommandes();
-    void ActiveCommandesVue();
-    void ViewReset();
-    /// Whether to go on where changes could be lost.
-    bool ConfirmePerte(LngKey text, LngKey title);
-    void ClearRib();
-    void LitEtReprend(const std::string &path);
-    void RepriseProfil();
-    void RecalculProfil();
-    void AfficheFichiersRecents();
-    /// Asks for one value; true unless it was cancelled.
-    bool Saisit(const std::string &ModeSaisie);
     /// Lets the user set up the page; false when that is cancelled.
     bool RegleMiseEnPage();
-    bool QuestionFin();
+    void Exporte(const EntreeExport &entree);
 
     // frmmain_tools.cpp
     /// Clears the rib for a set of ribs; false when the user keeps it.
     bool FaitPlaceAuJeu();
     /// The number of intermediate ribs; 0 when the user gives up.
     int DemandeNombre();
-
-    // frmmain_files.cpp
-    /// Opens a rib components file with the airfoil that it names.
-    void newLfw(const std::string &path);
-    void EnregistreComposants();
-    void Exporte(const EntreeExport &entree);
-
-    // frmmain_view.cpp
-    void ConnectPicture();
-    /// Draws on a new recording and shows that. False when there is nothing new to be seen; after a
-    /// failure, which has been reported, the rib is cleared.
-    bool Dessine(const std::function<Affichage(const Trace &)> &draw);
-    void ZoomSur(int steps);
-    void Combo1_Click(int row);
-    void Form_Resize();
 
     // frmmain_views.cpp
     /// The chord and airfoil 1 of a comparison; false when it ends here.

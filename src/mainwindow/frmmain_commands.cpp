@@ -1,48 +1,20 @@
 // The commands of the main window.
 
 #include "base/version.h"
-#include "core/airfoil_reader.h"
 #include "features/frmInstxt.h"
-#include "features/rib_entry.h"
 #include "lang/frmlang.h"
 #include "mainwindow/frmAbout.h"
 #include "mainwindow/frmmain.h"
-#include "mainwindow/frmopen.h"
 #include "output/frmPrint.h"
 #include "output/frmcoul.h"
-#include "output/screen_plot.h"
 #include "output/sheeting.h"
 #include "output/view_plots.h"
 #include "persist/frmdefaut.h"
 #include "platform/qt_form.h"
 #include "programme/export.h"
-
-#include <filesystem>
+#include "programme/rib_steps.h"
 
 namespace loftwing {
-
-void frmmain::mnu_fileprofilopen_Click() {
-    RibModel &rib = programme_.rib;
-    const bool was_simple = rib.ModeCouple;
-    rib.MemProfil = false;
-    rib.ModeCouple = false;
-    rib.Annule = false;
-    frmopen picker(programme_, *this, this);
-    picker.setWindowTitle(Q(programme_.Text({"frmopen", "1"})));
-    ShowModal(picker);
-    if (!rib.Annule) {
-        RepriseProfil();
-    } else if (was_simple && rib.ProfilCharge) {
-        rib.ModeCouple = true; // the plot of the bare points is still what is shown
-    }
-}
-
-void frmmain::mnuFileMRU_Click(const std::string &path) {
-    std::error_code error;
-    if (std::filesystem::exists(path, error)) {
-        OuvreFichier(path);
-    }
-}
 
 void frmmain::mnu_filepage_Click() {
     RegleMiseEnPage();
@@ -127,11 +99,7 @@ void frmmain::mnu_afflignRef_Click() {
 }
 
 void frmmain::mnu_affclear_Click() {
-    const RibModel &rib = programme_.rib;
-    const bool ask = rib.ProfilCharge && !rib.ModeCouple && !rib.FichierRibOuvert;
-    if (!ask || ConfirmePerte({"FrmMainMessage", "5"}, {"FrmMainMessage", "6"})) {
-        affclear();
-    }
+    DemandeVide(programme_, *this);
 }
 
 void frmmain::mnu_affLang_Click() {
@@ -140,13 +108,7 @@ void frmmain::mnu_affLang_Click() {
 }
 
 void frmmain::mnu_profilcorde_Click() {
-    if (Saisit("corde")) {
-        RibModel &rib = programme_.rib;
-        rib.Modifie = rib.Modifie || !CompareEnVue(rib, programme_.compare);
-        RetraceVues();
-        MajGabarit(programme_.rib, programme_.SaisieEnCours());
-        affiche();
-    }
+    ChangeCorde(programme_, *this);
 }
 
 void frmmain::mnu_profilepcoffrage_Click() {

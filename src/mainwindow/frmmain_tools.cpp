@@ -4,6 +4,7 @@
 #include "mainwindow/frmmain.h"
 #include "mainwindow/frmopen.h"
 #include "platform/qt_form.h"
+#include "programme/rib_steps.h"
 #include "programme/startup.h"
 #include "utilities/frmCoord.h"
 #include "utilities/frmangle.h"
@@ -51,7 +52,7 @@ bool frmmain::FaitPlaceAuJeu() {
     if (!programme_.rib.ProfilCharge) {
         return true;
     }
-    if (!ConfirmePerte({"FrmMainMessage", "11"}, {"FrmMainMessage", "12"})) {
+    if (!ConfirmePerte(programme_, {"FrmMainMessage", "11"}, {"FrmMainMessage", "12"})) {
         return false;
     }
     affclear();

@@ -7,6 +7,7 @@
 #include "platform/busy_pointer.h"
 #include "platform/qt_form.h"
 #include "programme/load.h"
+#include "programme/rib_steps.h"
 #include "programme/rib_trial.h"
 #include "programme/special_views.h"
 #include "programme/startup.h"
@@ -14,58 +15,13 @@
 
 namespace loftwing {
 
-void frmmain::RetraceVues() {
-    const RibModel &rib = programme_.rib;
-    if (rib.ModeCompare) {
-        afficheCompare();
-    } else if (rib.ModeEpCourb) {
-        afficheEpcourb();
-    } else if (rib.ModeCouple) {
-        afficheCouple();
-    }
-}
-
-void frmmain::afficheCompare() {
-    if (drawing_) {
-        return;
-    }
-    const Comparaison &compare = programme_.compare;
-    const auto draw = [&compare](const Trace &trace) {
-        return loftwing::afficheCompare(trace, compare);
-    };
-    if (Dessine(draw)) {
-        setWindowTitle(Q(TitreCompare(compare, programme_.messages)));
-        panels_.Montre(2, EtatCompare(programme_.rib, compare, programme_.SaisieEnCours()));
-    }
-    picture_->RegleDefilement();
-}
-
-void frmmain::afficheEpcourb() {
-    if (drawing_) {
-        return;
-    }
-    if (Dessine([](const Trace &trace) { return loftwing::afficheEpcourb(trace); })) {
-        panels_.Montre(2, EtatEpCourb(programme_.rib, programme_.SaisieEnCours()));
-    }
-    picture_->RegleDefilement();
-}
-
-void frmmain::afficheCouple() {
-    if (drawing_) {
-        return;
-    }
-    if (Dessine([](const Trace &trace) { return loftwing::afficheCouple(trace); })) {
-        panels_.Montre(2, TexteEtat(programme_.rib, programme_.settings, programme_.messages));
-    }
-    picture_->RegleDefilement();
-}
-
 void frmmain::mnu_OutilCompare_Click() {
     if (!ControleSeparateurCommande(programme_, {"MenuOutils", "2t"})) {
         return;
     }
     RibModel &rib = programme_.rib;
-    if (rib.ProfilCharge && !ConfirmePerte({"OutilCompare", "1"}, {"OutilCompare", "2"})) {
+    if (rib.ProfilCharge &&
+        !ConfirmePerte(programme_, {"OutilCompare", "1"}, {"OutilCompare", "2"})) {
         return;
     }
     const VueAvant before{rib.ModeCompare, rib.ModeCouple, RetourDuRib(rib)};
@@ -155,7 +111,8 @@ void frmmain::mnu_outilEpCourb_Click() {
         return;
     }
     RibModel &rib = programme_.rib;
-    if (rib.ProfilCharge && !ConfirmePerte({"FrmMainMessage", "9"}, {"FrmMainMessage", "10"})) {
+    if (rib.ProfilCharge &&
+        !ConfirmePerte(programme_, {"FrmMainMessage", "9"}, {"FrmMainMessage", "10"})) {
         return;
     }
     mnu_fileprofilopen_Click();
