@@ -109,13 +109,6 @@ class frmmain : public QMainWindow, public CommandView {
     void dropEvent(QDropEvent *event) override;
 
   private:
-    /// What a comparison that is called off gives back.
-    struct VueAvant {
-        bool ModeCompare;
-        bool ModeCouple;
-        std::function<void()> retour; ///< the rib's dimensions
-    };
-
     Programme &programme_;
     ToolkitWords toolkit_words_;
     CommandBars commands_;
@@ -145,11 +138,6 @@ class frmmain : public QMainWindow, public CommandView {
     bool FaitPlaceAuJeu();
     /// The number of intermediate ribs; 0 when the user gives up.
     int DemandeNombre();
-
-    // frmmain_views.cpp
-    /// The chord and airfoil 1 of a comparison; false when it ends here.
-    bool DemandeProfil1(const VueAvant &before);
-    void DemandeProfil2(std::optional<double> haut1);
 };
 
 } // namespace loftwing
