@@ -132,12 +132,6 @@ class frmmain : public QMainWindow, public CommandView {
     /// Lets the user set up the page; false when that is cancelled.
     bool RegleMiseEnPage();
     void Exporte(const EntreeExport &entree);
-
-    // frmmain_tools.cpp
-    /// Clears the rib for a set of ribs; false when the user keeps it.
-    bool FaitPlaceAuJeu();
-    /// The number of intermediate ribs; 0 when the user gives up.
-    int DemandeNombre();
 };
 
 } // namespace loftwing

@@ -135,17 +135,6 @@ void frmmain::mnu_paramrep_Click() {
     }
 }
 
-void frmmain::mnu_calc_Click() {
-    if (programme_.platform.StartProgram("calc")) {
-        return;
-    }
-    std::string text = programme_.Text({"Erreur", "6"});
-    if (text.empty()) {
-        text = "The windows Calculator does not exist";
-    }
-    programme_.messages.Tell(text, std::string(kTitre) + " No-Calc", BoxIcon::warning);
-}
-
 void frmmain::mnu_helpsearch_Click() {
     constexpr int kHelpTopics = 10;
     programme_.platform.ShowHelp(kHelpTopics);
