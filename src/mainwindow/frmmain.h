@@ -1,17 +1,8 @@
 /// The main window.
 #pragma once
 
-#include "mainwindow/command_bars.h"
-#include "mainwindow/picture_area.h"
-#include "mainwindow/status_panels.h"
-#include "mainwindow/toolkit_words.h"
-#include "output/screen_plot.h"
-#include "programme/command_view.h"
-#include "programme/programme.h"
+#include "mainwindow/main_frame.h"
 
-#include <QMainWindow>
-
-#include <functional>
 #include <optional>
 #include <string>
 
@@ -19,9 +10,9 @@ namespace loftwing {
 
 struct EntreeExport;
 
-/// Menus and bars, the picture with its scroll bars, and the status bar. What a command does stands
-/// in the units programme/*_steps; its handler here only opens windows and asks those.
-class frmmain : public QMainWindow, public CommandView {
+/// The commands of the main window and its redraws. What a command does stands in the units
+/// programme/*_steps; its handler here only opens windows and asks those.
+class frmmain : public MainFrame {
     Q_OBJECT
 
   public:
@@ -37,26 +28,13 @@ class frmmain : public QMainWindow, public CommandView {
     void afficheEpcourb() override;
     void afficheCouple() override;
     void affclear() override;
-    std::optional<ProfilChoisi> ChoisitProfil(const std::string &titre) override;
-    void FermeDialogues() override;
-    void AppliqueLangue() override;
-    void AfficheUnite() override;
-    void AfficheCorde() override;
-    void Titre(const std::string &caption) override;
-    void Panneau(int number, const std::string &text) override;
-    void AfficheFichiersRecents() override;
+    void ViewReset() override;
     void ActiveCommandes() override;
     void DesactiveCommandes() override;
     void ActiveCommandesVue() override;
     void ActiveCommandesCouple() override;
     void ActiveCommandesVides() override;
-    void MontreCoches() override;
-    void ViewReset() override;
-    void VideImage() override;
-    void RemetZoom() override;
-    bool Saisit(const std::string &ModeSaisie) override;
-    bool ChoisitFichier(const ChoixProfil &choix) override;
-    std::optional<std::string> SaisitEpCourb() override;
+    std::optional<ProfilChoisi> ChoisitProfil(const std::string &titre) override;
 
     // Commands, named after their controls.
     void mnu_fileprofilopen_Click();
@@ -109,26 +87,11 @@ class frmmain : public QMainWindow, public CommandView {
     void dropEvent(QDropEvent *event) override;
 
   private:
-    Programme &programme_;
-    ToolkitWords toolkit_words_;
-    CommandBars commands_;
-    PictureArea *picture_;
-    StatusPanels panels_;
-    bool drawing_ = false; ///< a redraw is under way, perhaps waiting in a box
-
     void Form_Load();
     void Form_Resize();
     void Combo1_Click(int row);
     void ZoomSur(int steps);
     void ConnectPicture();
-    /// Runs what an event asks for: no failure may pass into the toolkit's event loop.
-    void Garde(const std::string &label, const std::function<void()> &action);
-    /// Draws on a new recording and shows that with `words` in the status bar. After a failure,
-    /// which has been reported, the rib is cleared.
-    void Dessine(const std::function<Affichage(const Trace &)> &draw,
-                 const std::function<std::string()> &words);
-    /// Takes a check of the view menu into the rib.
-    void PrendCoche(const char *name);
     /// Lets the user set up the page; false when that is cancelled.
     bool RegleMiseEnPage();
     void Exporte(const EntreeExport &entree);

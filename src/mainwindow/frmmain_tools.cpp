@@ -5,6 +5,7 @@
 #include "platform/qt_form.h"
 #include "programme/startup.h"
 #include "programme/tool_steps.h"
+#include "programme/view_steps.h"
 #include "utilities/frmCoord.h"
 #include "utilities/frmangle.h"
 #include "utilities/frmdiedre.h"
@@ -69,6 +70,18 @@ void frmmain::mnu_outilInclinaison_Click() {
         frminclinaison dialog(programme_, *this, this);
         ShowModal(dialog);
     }
+}
+
+void frmmain::mnu_OutilCompare_Click() {
+    CompareProfils(programme_, *this);
+}
+
+void frmmain::mnu_outilEpCourb_Click() {
+    ModifieEpCourb(programme_, *this);
+}
+
+void frmmain::mnu_Outilcoupl_Click() {
+    TraceSimple(programme_, *this);
 }
 
 void frmmain::mnu_calc_Click() {

@@ -4,14 +4,12 @@
 #include "mainwindow/beside.h"
 #include "mainwindow/frmmain.h"
 #include "output/view_screen.h"
-#include "platform/qt_plot_device.h"
 #include "platform/qt_text.h"
 #include "programme/rib_steps.h"
 
 namespace loftwing {
 
 void frmmain::ConnectPicture() {
-    setCentralWidget(picture_);
     connect(picture_, &PictureArea::Defile, this, [this] {
         RetraceVues();
         affiche();
@@ -22,30 +20,11 @@ void frmmain::ConnectPicture() {
     connect(picture_, &PictureArea::Redimensionne, this, &frmmain::Form_Resize);
 }
 
-void frmmain::Dessine(const std::function<Affichage(const Trace &)> &draw,
-                      const std::function<std::string()> &words) {
-    // A box of an earlier redraw may still be open; its answer doesn't change the drawing.
-    if (drawing_) {
-        return;
-    }
-    drawing_ = true;
-    auto recording = std::make_unique<Recording>(ScreenAdvance);
-    const Affichage result = draw(programme_.TraceSur(*recording));
-    drawing_ = false;
-    if (result == Affichage::echec) {
-        affclear();
-    }
-    if (result == Affichage::dessine) {
-        picture_->Montre(std::move(recording));
-        Panneau(1, kVersion);
-        Panneau(2, words());
-    }
-    picture_->RegleDefilement();
-}
-
 void frmmain::affiche() {
     Dessine([](const Trace &trace) { return afficheRib(trace); },
-            [this] { return TexteEtat(programme_.rib, programme_.settings, programme_.messages); });
+            [this] {
+                Panneau(2, TexteEtat(programme_.rib, programme_.settings, programme_.messages));
+            });
 }
 
 void frmmain::RetraceVues() {
@@ -64,18 +43,20 @@ void frmmain::afficheCompare() {
     Dessine([&compare](const Trace &trace) { return loftwing::afficheCompare(trace, compare); },
             [this, &compare] {
                 Titre(TitreCompare(compare, programme_.messages));
-                return EtatCompare(programme_.rib, compare, programme_.SaisieEnCours());
+                Panneau(2, EtatCompare(programme_.rib, compare, programme_.SaisieEnCours()));
             });
 }
 
 void frmmain::afficheEpcourb() {
     Dessine([](const Trace &trace) { return loftwing::afficheEpcourb(trace); },
-            [this] { return EtatEpCourb(programme_.rib, programme_.SaisieEnCours()); });
+            [this] { Panneau(2, EtatEpCourb(programme_.rib, programme_.SaisieEnCours())); });
 }
 
 void frmmain::afficheCouple() {
     Dessine([](const Trace &trace) { return loftwing::afficheCouple(trace); },
-            [this] { return TexteEtat(programme_.rib, programme_.settings, programme_.messages); });
+            [this] {
+                Panneau(2, TexteEtat(programme_.rib, programme_.settings, programme_.messages));
+            });
 }
 
 void frmmain::ViewReset() {
@@ -83,15 +64,6 @@ void frmmain::ViewReset() {
     programme_.plot.BlocBA = 0;
     programme_.plot.BlocEp = 0;
     picture_->RemetDefilement();
-}
-
-void frmmain::VideImage() {
-    picture_->Montre(nullptr);
-    picture_->RegleDefilement();
-}
-
-void frmmain::RemetZoom() {
-    commands_.ListeZoom().setCurrentIndex(kZoomRow100);
 }
 
 void frmmain::affclear() {
