@@ -20,12 +20,12 @@ Command SubMenu(const char *name, const char *menu, LngKey text, unsigned groups
 }
 
 Command Entry(const char *name, const char *menu, LngKey text, unsigned groups,
-              void (frmmain::*handler)(), const char *keys = nullptr) {
+              CommandHandler handler, const char *keys = nullptr) {
     return {name, menu, text, keys, groups, false, false, false, handler};
 }
 
 Command Check(const char *name, const char *menu, LngKey text, unsigned groups,
-              void (frmmain::*handler)()) {
+              CommandHandler handler) {
     return {name, menu, text, nullptr, groups, true, false, false, handler};
 }
 

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "lang/LngIni.h"
+#include "programme/command_states.h"
 
-#include <string_view>
 #include <vector>
 
 namespace loftwing {
@@ -12,20 +12,8 @@ namespace loftwing {
 class frmmain;
 struct EntreeExport;
 
-/// Enabling groups that a command belongs to, as bits.
-enum CommandGroup : unsigned {
-    kAlways = 0,
-    /// Live once a rib is loaded; not before.
-    kWithRib = 1U << 0U,
-    /// Dies again when the rib is cleared.
-    kDiesOnClear = 1U << 1U,
-    /// Makes no sense in the compare and simple-plot views.
-    kNotInView = 1U << 2U,
-    /// Live in those views even if it wasn't before.
-    kAliveInView = 1U << 3U,
-    /// Part of a rib's own menus and buttons: live after a clear.
-    kAliveAfterClear = 1U << 4U
-};
+/// What a control runs; null: no action.
+using CommandHandler = void (frmmain::*)();
 
 /// One command. Controls that are no menu entry (tool buttons, push buttons) have no menu.
 struct Command {
@@ -35,9 +23,9 @@ struct Command {
     const char *keys; ///< shortcut, may be null
     unsigned groups;  ///< CommandGroup bits
     bool checkable;
-    bool submenu;                          ///< a menu of its own rather than an entry
-    bool separator;                        ///< a line before it
-    void (frmmain::*handler)();            ///< null: no action
+    bool submenu;   ///< a menu of its own rather than an entry
+    bool separator; ///< a line before it
+    CommandHandler handler;
     const EntreeExport *exporte = nullptr; ///< of an entry that writes the drawing to a file
 };
 
@@ -50,7 +38,7 @@ struct PushButton {
     LngKey text;
     LngKey tip;
     unsigned groups;
-    void (frmmain::*handler)();
+    CommandHandler handler;
 };
 const std::vector<PushButton> &PushButtons();
 
@@ -59,7 +47,7 @@ struct ToolButton {
     int index;
     LngKey tip;
     unsigned groups;
-    void (frmmain::*handler)();
+    CommandHandler handler;
 };
 const std::vector<ToolButton> &ToolButtons();
 

@@ -1,56 +1,40 @@
 /// The main window.
 #pragma once
 
-#include "core/contour.h"
-#include "mainwindow/commands.h"
-#include "mainwindow/pic_view.h"
-#include "mainwindow/toolkit_words.h"
-#include "output/screen_plot.h"
-#include "programme/main_view.h"
-#include "programme/programme.h"
+#include "mainwindow/main_frame.h"
 
-#include <QComboBox>
-#include <QLabel>
-#include <QMainWindow>
-#include <QPushButton>
-#include <QScrollBar>
-#include <QTimer>
-#include <QToolBar>
-
-#include <array>
-#include <functional>
-#include <map>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace loftwing {
 
 struct EntreeExport;
 
-/// Menu bar, tool bar with six buttons and the zoom list, the picture with its scroll bars and the
-/// status bar. What a command does in depth is in the unit that it calls.
-class frmmain : public QMainWindow, public MainView {
+/// The commands of the main window and its redraws. What a command does stands in the units
+/// programme/*_steps; its handler here only opens windows and asks those.
+class frmmain : public MainFrame {
     Q_OBJECT
 
   public:
     explicit frmmain(Programme &programme);
 
-    /// Opens an airfoil that was not chosen in the picker: from the command line, a drop, or the
-    /// recent files. Also a rib components file, before which changes are asked for.
+    /// Opens a file that was not chosen in a dialog: from the command line, a drop, or the recent
+    /// files.
     void OuvreFichier(const std::string &path);
 
     void affiche() override;
     void RetraceVues() override;
-    void afficheCompare();
+    void afficheCompare() override;
     void afficheEpcourb() override;
-    void afficheCouple();
+    void afficheCouple() override;
     void affclear() override;
+    void ViewReset() override;
+    void ActiveCommandes() override;
+    void DesactiveCommandes() override;
+    void ActiveCommandesVue() override;
+    void ActiveCommandesCouple() override;
+    void ActiveCommandesVides() override;
     std::optional<ProfilChoisi> ChoisitProfil(const std::string &titre) override;
-    void FermeDialogues() override;
-    void AppliqueLangue() override;
-    void AfficheUnite() override;
-    void AfficheCorde() override;
 
     // Commands, named after their controls.
     void mnu_fileprofilopen_Click();
@@ -60,7 +44,7 @@ class frmmain : public QMainWindow, public MainView {
     void mnu_fileprinterconfig_Click();
     void mnu_fileprint_Click() override;
     void mnu_fileexit_Click();
-    void mnuFileMRU_Click(const std::string &path);
+    void mnuFileMRU_Click(const std::string &path) override;
     void mnu_affinver_Click();
     void mnu_affdefaut_Click();
     void mnu_affcouleur_Click();
@@ -103,106 +87,14 @@ class frmmain : public QMainWindow, public MainView {
     void dropEvent(QDropEvent *event) override;
 
   private:
-    /// What a comparison that is called off gives back.
-    struct VueAvant {
-        bool ModeCompare;
-        bool ModeCouple;
-        std::function<void()> retour; ///< the rib's dimensions
-    };
-
-    Programme &programme_;
-    ToolkitWords toolkit_words_;
-    std::map<std::string, QAction *> actions_; ///< menus and entries by control name
-    std::map<std::string, QMenu *> menus_;
-    std::array<QAction *, kFichiersRecents> mnuFileMRU_{};
-    QAction *mnuFileMRUTrait_ = nullptr;
-    QToolBar *Toolbar1 = nullptr;
-    std::map<int, QAction *> tools_; ///< buttons of Toolbar1 by index
-    std::map<std::string, QPushButton *> buttons_;
-    QComboBox *Combo1 = nullptr;
-    PicView *Pic = nullptr;
-    QScrollBar *Hsbpic = nullptr;
-    QScrollBar *Vsbpic = nullptr;
-    std::array<QLabel *, 3> panels_{}; ///< StatusBar 1 to 3
-    QTimer resized_;
-    bool drawing_ = false; ///< a redraw is under way, perhaps waiting in a box
-    QPoint drag_rest_;     ///< pixels dragged that made no whole unit yet
-
-    // frmmain_build.cpp
-    void BuildMenus();
-    void AddCommand(const Command &command);
-    void BuildRecentFiles(QMenu *menu, QAction *before);
-    void BuildToolbar();
-    void BuildPicture();
-    void BuildStatusBar();
-    void ConnectPicture();
-
-    // frmmain.cpp
     void Form_Load();
-    void Execute(const char *name, void (frmmain::*handler)());
-    /// Runs what an event asks for: no failure may pass into the toolkit's event loop.
-    void Garde(const std::string &label, const std::function<void()> &action);
-    void Panel(int number, const std::string &text);
-    bool Checked(const char *name) const;
-    void SetChecked(const char *name, bool checked);
-    /// Enables or disables every control of a group.
-    void EnableGroup(unsigned group, bool enabled);
-    void ActiveCommandes();
-    void DesactiveCommandes();
-    void ActiveCommandesVue();
-    void ViewReset();
-    /// Whether a dialog is open that works on the rib that is shown.
-    bool DialogueNervureOuvert() const;
-    /// Closes the coordinate editor; false when the user stays there for lines that aren't saved.
-    bool FermeCoordonnees();
-    /// Whether to go on where changes could be lost.
-    bool ConfirmePerte(LngKey text, LngKey title);
-    void ClearRib();
-    void LitEtReprend(const std::string &path);
-    void RepriseProfil();
-    void RecalculProfil();
-    void AfficheFichiersRecents();
-    /// Asks for one value; true unless it was cancelled.
-    bool Saisit(const std::string &ModeSaisie);
+    void Form_Resize();
+    void Combo1_Click(int row);
+    void ZoomSur(int steps);
+    void ConnectPicture();
     /// Lets the user set up the page; false when that is cancelled.
     bool RegleMiseEnPage();
-    bool QuestionFin();
-
-    // frmmain_tools.cpp
-    /// Gives the tools that stay open the words of the language in force.
-    void AppliqueLangueOutils();
-    /// Clears the rib for a set of ribs; false when the user keeps it.
-    bool FaitPlaceAuJeu();
-    /// The number of intermediate ribs; 0 when the user gives up.
-    int DemandeNombre();
-
-    // frmmain_files.cpp
-    /// Opens a rib components file with the airfoil that it names.
-    void newLfw(const std::string &path);
-    void EnregistreComposants();
     void Exporte(const EntreeExport &entree);
-
-    // frmmain_view.cpp
-    /// Draws on a new recording and shows that. False when there is nothing new to be seen; after a
-    /// failure, which has been reported, the rib is cleared.
-    bool Dessine(const std::function<Affichage(const Trace &)> &draw);
-    double UniteDefilement() const;
-    void RegleDefilement();
-    void RemetDefilement();
-    void ZoomSur(int row);
-    void Combo1_Click(int row);
-    void Hsbpic_Change(int value);
-    void Vsbpic_Change(int value);
-    void Pic_Wheel(double across, double down);
-    void Pic_Drag(const QPoint &pixels);
-    void Form_Resize();
-    void LitPlace();
-    void EcritPlace();
-
-    // frmmain_views.cpp
-    /// The chord and airfoil 1 of a comparison; false when it ends here.
-    bool DemandeProfil1(const VueAvant &before);
-    void DemandeProfil2(std::optional<double> haut1);
 };
 
 } // namespace loftwing

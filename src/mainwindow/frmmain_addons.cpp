@@ -39,7 +39,7 @@ void frmmain::mnu_profilTalon_Click() {
     RibModel &rib = programme_.rib;
     rib.TypeGabarit = kSansGabarit;
     {
-        const Eteinte layout(*actions_.at("mnu_param"), &rib);
+        const Eteinte layout(commands_.Entree("mnu_param"), &rib);
         frmTalon dialog(programme_, *this, this);
         ShowModal(dialog);
     }
@@ -55,9 +55,9 @@ void frmmain::mnu_parambloc_Click() {
     RibModel &rib = programme_.rib;
     rib.TypeGabarit = kSansGabarit;
     {
-        const Eteinte heel(*actions_.at("mnu_profilTalon"), &rib);
+        const Eteinte heel(commands_.Entree("mnu_profilTalon"), &rib);
         // Its menu is dead without a rib; the entry itself must not stay so.
-        const Eteinte itself(*actions_.at("mnu_parambloc"), nullptr);
+        const Eteinte itself(commands_.Entree("mnu_parambloc"), nullptr);
         frmbloc dialog(programme_, *this, this);
         ShowModal(dialog);
     }

@@ -1,48 +1,20 @@
 // The commands of the main window.
 
 #include "base/version.h"
-#include "core/airfoil_reader.h"
 #include "features/frmInstxt.h"
-#include "features/rib_entry.h"
 #include "lang/frmlang.h"
 #include "mainwindow/frmAbout.h"
 #include "mainwindow/frmmain.h"
-#include "mainwindow/frmopen.h"
 #include "output/frmPrint.h"
 #include "output/frmcoul.h"
-#include "output/screen_plot.h"
 #include "output/sheeting.h"
 #include "output/view_plots.h"
 #include "persist/frmdefaut.h"
 #include "platform/qt_form.h"
 #include "programme/export.h"
-
-#include <filesystem>
+#include "programme/rib_steps.h"
 
 namespace loftwing {
-
-void frmmain::mnu_fileprofilopen_Click() {
-    RibModel &rib = programme_.rib;
-    const bool was_simple = rib.ModeCouple;
-    rib.MemProfil = false;
-    rib.ModeCouple = false;
-    rib.Annule = false;
-    frmopen picker(programme_, *this, this);
-    picker.setWindowTitle(Q(programme_.Text({"frmopen", "1"})));
-    ShowModal(picker);
-    if (!rib.Annule) {
-        RepriseProfil();
-    } else if (was_simple && rib.ProfilCharge) {
-        rib.ModeCouple = true; // the plot of the bare points is still what is shown
-    }
-}
-
-void frmmain::mnuFileMRU_Click(const std::string &path) {
-    std::error_code error;
-    if (std::filesystem::exists(path, error)) {
-        OuvreFichier(path);
-    }
-}
 
 void frmmain::mnu_filepage_Click() {
     RegleMiseEnPage();
@@ -82,7 +54,7 @@ void frmmain::mnu_fileexit_Click() {
 }
 
 void frmmain::mnu_affinver_Click() {
-    programme_.rib.AffHaut = Checked("mnu_affinver");
+    PrendCoche("mnu_affinver");
     if (programme_.rib.ModeCouple) {
         afficheCouple();
     } else {
@@ -98,27 +70,27 @@ void frmmain::mnu_affcouleur_Click() {
 }
 
 void frmmain::mnu_affhautba_Click() {
-    programme_.rib.AffHautBA = Checked("mnu_affhautba");
+    PrendCoche("mnu_affhautba");
     affiche();
 }
 
 void frmmain::mnu_affhautbf_Click() {
-    programme_.rib.AffHautBF = Checked("mnu_affhautbf");
+    PrendCoche("mnu_affhautbf");
     affiche();
 }
 
 void frmmain::mnu_affepr_Click() {
-    programme_.rib.AffEpr = Checked("mnu_affepr");
+    PrendCoche("mnu_affepr");
     affiche();
 }
 
 void frmmain::mnu_affTrac_Click() {
-    programme_.rib.AffTrac = Checked("mnu_affTrac");
+    PrendCoche("mnu_affTrac");
     affiche();
 }
 
 void frmmain::mnu_afflignRef_Click() {
-    programme_.rib.AffLignRef = Checked("mnu_afflignRef");
+    PrendCoche("mnu_afflignRef");
     affiche();
     // A fixed oddity: the entry is dead in the compare view, and this is what it does there.
     if (programme_.rib.ModeCompare) {
@@ -127,11 +99,7 @@ void frmmain::mnu_afflignRef_Click() {
 }
 
 void frmmain::mnu_affclear_Click() {
-    const RibModel &rib = programme_.rib;
-    const bool ask = rib.ProfilCharge && !rib.ModeCouple && !rib.FichierRibOuvert;
-    if (!ask || ConfirmePerte({"FrmMainMessage", "5"}, {"FrmMainMessage", "6"})) {
-        affclear();
-    }
+    DemandeVide(programme_, *this);
 }
 
 void frmmain::mnu_affLang_Click() {
@@ -140,13 +108,7 @@ void frmmain::mnu_affLang_Click() {
 }
 
 void frmmain::mnu_profilcorde_Click() {
-    if (Saisit("corde")) {
-        RibModel &rib = programme_.rib;
-        rib.Modifie = rib.Modifie || !CompareEnVue(rib, programme_.compare);
-        RetraceVues();
-        MajGabarit(programme_.rib, programme_.SaisieEnCours());
-        affiche();
-    }
+    ChangeCorde(programme_, *this);
 }
 
 void frmmain::mnu_profilepcoffrage_Click() {
@@ -171,17 +133,6 @@ void frmmain::mnu_paramrep_Click() {
     if (Saisit("rep")) {
         affiche();
     }
-}
-
-void frmmain::mnu_calc_Click() {
-    if (programme_.platform.StartProgram("calc")) {
-        return;
-    }
-    std::string text = programme_.Text({"Erreur", "6"});
-    if (text.empty()) {
-        text = "The windows Calculator does not exist";
-    }
-    programme_.messages.Tell(text, std::string(kTitre) + " No-Calc", BoxIcon::warning);
 }
 
 void frmmain::mnu_helpsearch_Click() {

@@ -1,9 +1,11 @@
 // The tools of the main window.
 
+#include "mainwindow/beside.h"
 #include "mainwindow/frmmain.h"
-#include "mainwindow/frmopen.h"
 #include "platform/qt_form.h"
 #include "programme/startup.h"
+#include "programme/tool_steps.h"
+#include "programme/view_steps.h"
 #include "utilities/frmCoord.h"
 #include "utilities/frmangle.h"
 #include "utilities/frmdiedre.h"
@@ -14,52 +16,8 @@
 
 namespace loftwing {
 
-namespace {
-
-/// Shows a window that stays open beside the main one. There is one of each kind: a second command
-/// brings it to the front.
-template <class Window>
-void ShowBeside(QWidget &parent, Programme &programme) {
-    for (Window *open : parent.findChildren<Window *>()) {
-        if (open->isVisible()) {
-            open->setWindowState(open->windowState() & ~Qt::WindowMinimized);
-            open->raise();
-            open->activateWindow();
-            return;
-        }
-    }
-    auto *window = new Window(programme, &parent);
-    window->setAttribute(Qt::WA_DeleteOnClose);
-    window->show();
-}
-
-template <class Window>
-void Reword(const QWidget &parent) {
-    for (Window *open : parent.findChildren<Window *>()) {
-        open->PoseTextes();
-    }
-}
-
-} // namespace
-
-void frmmain::AppliqueLangueOutils() {
-    Reword<frmnervure>(*this);
-    Reword<frmdiedre>(*this);
-    Reword<frmCoord>(*this);
-}
-
 std::optional<ProfilChoisi> frmmain::ChoisitProfil(const std::string &titre) {
-    RibModel &rib = programme_.rib;
-    const ProfilPrecedent before(rib);
-    rib.MemProfil = false;
-    rib.Annule = false;
-    frmopen picker(programme_, *this, this);
-    picker.setWindowTitle(Q(titre));
-    picker.LaisseLeRib();
-    ShowModal(picker);
-    const ProfilChoisi chosen = ProfilDuRib(rib);
-    before.Rend(rib);
-    return rib.Annule ? std::nullopt : std::optional(chosen);
+    return ChoisitPourOutil(programme_, *this, titre);
 }
 
 void frmmain::mnu_outilnervinter_Click() {
@@ -80,39 +38,20 @@ void frmmain::mnu_Outilcoord_Click() {
     }
 }
 
-bool frmmain::FaitPlaceAuJeu() {
-    if (!programme_.rib.ProfilCharge) {
-        return true;
-    }
-    if (!ConfirmePerte({"FrmMainMessage", "11"}, {"FrmMainMessage", "12"})) {
-        return false;
-    }
-    affclear();
-    return true;
-}
-
 void frmmain::mnu_outilevolut_Click() {
-    if (ControleSeparateurCommande(programme_, {"MenuOutils", "4t"}) && FaitPlaceAuJeu()) {
+    if (ControleSeparateurCommande(programme_, {"MenuOutils", "4t"}) &&
+        FaitPlaceAuJeu(programme_, *this)) {
         frmribevol dialog(programme_, *this, this);
         ShowModal(dialog);
     }
 }
 
-int frmmain::DemandeNombre() {
-    int count = 1;
-    do {
-        const auto answer = programme_.platform.Ask(QuestionNombre(count, programme_.messages),
-                                                    S(windowTitle()), "");
-        count = NombreVariable(answer.value_or(""));
-    } while (count < 0 || count > kNervuresVariables);
-    return count;
-}
-
 void frmmain::mnu_outilevolut2_Click() {
-    if (!ControleSeparateurCommande(programme_, {"MenuOutils", "4at"}) || !FaitPlaceAuJeu()) {
+    if (!ControleSeparateurCommande(programme_, {"MenuOutils", "4at"}) ||
+        !FaitPlaceAuJeu(programme_, *this)) {
         return;
     }
-    if (const int count = DemandeNombre(); count != 0) {
+    if (const int count = DemandeNombre(programme_, S(windowTitle())); count != 0) {
         programme_.rib.jeu.NbNervInter = ToInt16(count);
         frmribevol2 dialog(programme_, *this, this);
         ShowModal(dialog);
@@ -131,6 +70,22 @@ void frmmain::mnu_outilInclinaison_Click() {
         frminclinaison dialog(programme_, *this, this);
         ShowModal(dialog);
     }
+}
+
+void frmmain::mnu_OutilCompare_Click() {
+    CompareProfils(programme_, *this);
+}
+
+void frmmain::mnu_outilEpCourb_Click() {
+    ModifieEpCourb(programme_, *this);
+}
+
+void frmmain::mnu_Outilcoupl_Click() {
+    TraceSimple(programme_, *this);
+}
+
+void frmmain::mnu_calc_Click() {
+    OuvreCalculette(programme_);
 }
 
 } // namespace loftwing

@@ -8,12 +8,6 @@
 
 namespace loftwing {
 
-namespace {
-
-constexpr int kWheelNotch = 120; // eighths of a degree
-
-} // namespace
-
 PicView::PicView(QWidget *parent) : QWidget(parent) {
     setObjectName("Pic");
     setMinimumSize(120, 80);
@@ -41,18 +35,10 @@ void PicView::resizeEvent(QResizeEvent *event) {
 
 void PicView::wheelEvent(QWheelEvent *event) {
     const QPoint turn = event->angleDelta();
-    if (!event->modifiers().testFlag(Qt::ControlModifier)) {
-        const bool across = event->modifiers().testFlag(Qt::ShiftModifier) && turn.x() == 0;
-        const double x = static_cast<double>(across ? turn.y() : turn.x()) / kWheelNotch;
-        const double y = across ? 0.0 : static_cast<double>(turn.y()) / kWheelNotch;
-        Q_EMIT Roule(x, y);
-        event->accept();
-        return;
-    }
-    zoom_turn_ += turn.y();
-    const int steps = zoom_turn_ / kWheelNotch;
-    zoom_turn_ -= steps * kWheelNotch;
-    if (steps != 0) {
+    const Qt::KeyboardModifiers keys = event->modifiers();
+    if (!keys.testFlag(Qt::ControlModifier)) {
+        Q_EMIT Roule(NotchesOf(turn.x(), turn.y(), keys.testFlag(Qt::ShiftModifier)));
+    } else if (const int steps = zoom_wheel_.Turn(turn.y()); steps != 0) {
         Q_EMIT ZoomDemande(steps);
     }
     event->accept();

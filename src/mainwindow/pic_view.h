@@ -2,6 +2,7 @@
 #pragma once
 
 #include "output/recording.h"
+#include "output/scrolling.h"
 
 #include <QPoint>
 #include <QWidget>
@@ -26,8 +27,8 @@ class PicView : public QWidget {
     void MenuDemande(const QPoint &global);
     /// Ctrl with the wheel: +1 a step larger, -1 a step smaller.
     void ZoomDemande(int steps);
-    /// The wheel alone: notches, positive to the left or up.
-    void Roule(double across, double down);
+    /// The wheel alone.
+    void Roule(const WheelNotches &notches);
     /// The middle button drags the drawing by that many logical pixels.
     void Tire(const QPoint &pixels);
     void Redimensionne();
@@ -44,7 +45,7 @@ class PicView : public QWidget {
     std::unique_ptr<Recording> drawing_;
     QPoint dragged_from_;
     bool dragging_ = false;
-    int zoom_turn_ = 0; ///< wheel turn in eighths of a degree that made no whole step yet
+    ZoomWheel zoom_wheel_;
 };
 
 } // namespace loftwing

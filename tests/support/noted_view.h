@@ -9,7 +9,9 @@
 
 namespace loftwing {
 
-class NotedView : public MainView {
+/// The same for an interface that asks for more.
+template <class View>
+class Noted : public View {
   public:
     std::vector<std::string> asked;     ///< names of the routines, in order
     std::optional<ProfilChoisi> picked; ///< what the picker gives
@@ -41,5 +43,7 @@ class NotedView : public MainView {
     void AfficheUnite() override { asked.emplace_back("AfficheUnite"); }
     void AfficheCorde() override { asked.emplace_back("AfficheCorde"); }
 };
+
+using NotedView = Noted<MainView>;
 
 } // namespace loftwing

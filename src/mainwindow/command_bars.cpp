@@ -1,0 +1,197 @@
+#include "mainwindow/command_bars.h"
+
+#include "mainwindow/tool_icons.h"
+#include "output/screen_plot.h"
+#include "platform/qt_text.h"
+
+#include <QMenu>
+#include <QMenuBar>
+
+namespace loftwing {
+
+namespace {
+
+constexpr int kZoomTool = 8; // the zoom list's place in the tool bar
+
+/// Brings a control to life or not, as a state has it.
+template <class Control>
+void Enable(EtatCommandes state, const std::string &name, unsigned groups, Control &control) {
+    if (const auto alive = Vivante(state, name, groups)) {
+        control.setEnabled(*alive);
+    }
+}
+
+std::string ToolName(int index) {
+    return "Toolbar1(" + std::to_string(index) + ")";
+}
+
+} // namespace
+
+CommandBars::CommandBars(QMainWindow &window, Demandes demandes)
+    : window_(window), demandes_(std::move(demandes)) {
+    BuildMenus();
+    BuildToolbar();
+}
+
+void CommandBars::Execute(const char *name, CommandHandler handler) {
+    if (handler != nullptr) {
+        demandes_.execute(name, handler);
+    }
+}
+
+void CommandBars::AddCommand(const Command &command) {
+    QMenu *parent = command.menu == nullptr ? nullptr : menus_.at(command.menu);
+    if (command.separator) {
+        parent->addSeparator();
+    }
+    QAction *action = nullptr;
+    if (command.submenu) {
+        auto *menu = new QMenu(&window_);
+        menu->setObjectName(command.name);
+        menus_[command.name] = menu;
+        action = parent == nullptr ? window_.menuBar()->addMenu(menu) : parent->addMenu(menu);
+    } else {
+        action = parent->addAction(QString());
+        action->setCheckable(command.checkable);
+        if (command.keys != nullptr) {
+            action->setShortcut(QKeySequence(QString::fromLatin1(command.keys)));
+        }
+        QObject::connect(action, &QAction::triggered, &window_, [this, &command] {
+            if (command.exporte != nullptr) {
+                demandes_.exporte(*command.exporte);
+            } else {
+                Execute(command.name, command.handler);
+            }
+        });
+    }
+    action->setObjectName(command.name);
+    actions_[command.name] = action;
+}
+
+void CommandBars::BuildMenus() {
+    for (const Command &command : MenuCommands()) {
+        AddCommand(command);
+    }
+    BuildRecentFiles(menus_.at("mnu_file"), actions_.at("mnu_fileexit"));
+}
+
+void CommandBars::BuildRecentFiles(QMenu *menu, QAction *before) {
+    for (int i = 0; i < kFichiersRecents; ++i) {
+        auto *entry = new QAction(&window_);
+        entry->setObjectName(QStringLiteral("mnuFileMRU(%1)").arg(i + 1));
+        entry->setVisible(false);
+        QObject::connect(entry, &QAction::triggered, &window_,
+                         [this, entry] { demandes_.fichier(S(entry->data().toString())); });
+        menu->insertAction(before, entry);
+        mnuFileMRU_[static_cast<std::size_t>(i)] = entry;
+    }
+    mnuFileMRUTrait_ = menu->insertSeparator(mnuFileMRU_.front());
+    mnuFileMRUTrait_->setVisible(false);
+}
+
+void CommandBars::BuildToolbar() {
+    Toolbar1_ = window_.addToolBar(QString());
+    Toolbar1_->setObjectName("Toolbar1");
+    Toolbar1_->setMovable(false);
+    Toolbar1_->setContextMenuPolicy(Qt::PreventContextMenu);
+    for (const ToolButton &button : ToolButtons()) {
+        if (button.index != kZoomTool) {
+            AddTool(button);
+        }
+    }
+    Toolbar1_->addSeparator();
+    BuildZoomList();
+    Toolbar1_->addSeparator();
+    for (const PushButton &button : PushButtons()) {
+        AddButton(button);
+    }
+}
+
+void CommandBars::AddTool(const ToolButton &button) {
+    QAction *action =
+        button.handler == nullptr ? Toolbar1_->addSeparator() : Toolbar1_->addAction(QString());
+    action->setObjectName(Q(ToolName(button.index)));
+    tools_[button.index] = action;
+    QObject::connect(action, &QAction::triggered, &window_,
+                     [this, &button] { Execute("Toolbar1", button.handler); });
+}
+
+void CommandBars::BuildZoomList() {
+    Combo1_ = new QComboBox(Toolbar1_);
+    Combo1_->setObjectName("Combo1");
+    for (const char *row : kZoomRows) {
+        Combo1_->addItem(QString::fromLatin1(row));
+    }
+    Combo1_->setCurrentIndex(kZoomRow100);
+    QObject::connect(Combo1_, &QComboBox::activated, &window_,
+                     [this](int row) { demandes_.zoom(row); });
+    tools_[kZoomTool] = Toolbar1_->addWidget(Combo1_);
+}
+
+void CommandBars::AddButton(const PushButton &button) {
+    auto *push = new QPushButton(Toolbar1_);
+    push->setObjectName(button.name);
+    push->setFocusPolicy(Qt::TabFocus);
+    QObject::connect(push, &QPushButton::clicked, &window_,
+                     [this, &button] { Execute(button.name, button.handler); });
+    Toolbar1_->addWidget(push);
+    buttons_[button.name] = push;
+}
+
+void CommandBars::OuvreMenu(const std::string &name, const QPoint &place) {
+    menus_.at(name)->popup(place);
+}
+
+void CommandBars::Met(EtatCommandes state) {
+    for (const Command &command : MenuCommands()) {
+        Enable(state, command.name, command.groups, *actions_.at(command.name));
+    }
+    for (const PushButton &button : PushButtons()) {
+        Enable(state, button.name, button.groups, *buttons_.at(button.name));
+    }
+    for (const ToolButton &button : ToolButtons()) {
+        Enable(state, ToolName(button.index), button.groups, *tools_.at(button.index));
+    }
+}
+
+void CommandBars::MontreCoches(const RibModel &rib) {
+    for (const CocheVue &coche : kCochesVue) {
+        actions_.at(coche.name)->setChecked(rib.*coche.shown);
+    }
+}
+
+void CommandBars::MontreFichiersRecents(const FichiersRecents &recent) {
+    bool any = false;
+    for (std::size_t i = 0; i < recent.size(); ++i) {
+        const QString path = Q(recent[i]);
+        QString shown = path;
+        shown.replace('&', "&&");
+        mnuFileMRU_[i]->setText(QStringLiteral("&%1 %2").arg(i + 1).arg(shown));
+        mnuFileMRU_[i]->setData(path);
+        mnuFileMRU_[i]->setVisible(!path.isEmpty());
+        any = any || !path.isEmpty();
+    }
+    mnuFileMRUTrait_->setVisible(any);
+}
+
+void CommandBars::PoseTextes(const LngIni &language) {
+    const auto caption = [&language](LngKey key) { return Q(language.LngText(key)); };
+    for (const Command &command : MenuCommands()) {
+        actions_.at(command.name)->setText(caption(command.text));
+    }
+    actions_.at("mnu_helpVersion")->setText("Check " + caption({"FrmAbout", "3"}));
+    for (const PushButton &button : PushButtons()) {
+        buttons_.at(button.name)->setText(caption(button.text));
+        buttons_.at(button.name)->setToolTip(caption(button.tip));
+    }
+    for (const ToolButton &button : ToolButtons()) {
+        tools_.at(button.index)->setToolTip(caption(button.tip));
+        tools_.at(button.index)->setText(caption(button.tip));
+        tools_.at(button.index)->setIcon(ToolIcon(button.index, window_.palette()));
+    }
+    const QString zoom = tools_.at(kZoomTool)->toolTip();
+    Combo1_->setToolTip(zoom);
+    Combo1_->setAccessibleName(zoom);
+}
+
+} // namespace loftwing

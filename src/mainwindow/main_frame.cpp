@@ -1,0 +1,127 @@
+#include "mainwindow/main_frame.h"
+
+#include "base/version.h"
+#include "mainwindow/beside.h"
+#include "mainwindow/frmInput.h"
+#include "mainwindow/frmopen.h"
+#include "platform/qt_form.h"
+#include "platform/qt_plot_device.h"
+#include "programme/load.h"
+#include "utilities/frmEpCourb.h"
+
+#include <memory>
+
+namespace loftwing {
+
+MainFrame::MainFrame(Programme &programme, CommandBars::Demandes demandes)
+    : programme_(programme), commands_(*this, std::move(demandes)),
+      picture_(new PictureArea(programme.rib, this)), panels_(*this) {
+    setCentralWidget(picture_);
+}
+
+void MainFrame::Garde(const std::string &label, const std::function<void()> &action) {
+    try {
+        action();
+    } catch (const Failure &failure) {
+        programme_.platform.SetPointer(Pointer::normal);
+        programme_.messages.Report(failure, label);
+    }
+}
+
+void MainFrame::Titre(const std::string &caption) {
+    setWindowTitle(Q(caption));
+}
+
+void MainFrame::Panneau(int number, const std::string &text) {
+    panels_.Montre(number, text);
+}
+
+void MainFrame::AfficheUnite() {
+    Panneau(3, "unit :" + programme_.settings.Unite);
+}
+
+void MainFrame::AfficheCorde() {
+    Panneau(2, programme_.Text({"FrmPrint", "26"}) + " : " + programme_.rib.cordeAfich);
+}
+
+void MainFrame::AfficheFichiersRecents() {
+    commands_.MontreFichiersRecents(FichiersRecentsConnus(programme_));
+}
+
+void MainFrame::AppliqueLangue() {
+    commands_.PoseTextes(programme_.language);
+    programme_.platform.SetButtonWords(
+        {programme_.Text({"TextButton", "1"}), programme_.Text({"TextButton", "2"}),
+         programme_.Text({"TextButton", "30"}), programme_.Text({"TextButton", "31"}),
+         programme_.Text({"TextButton", "32"})});
+    toolkit_words_.Follow(programme_.language.LangueCourante);
+    AppliqueLangueOutils(*this);
+}
+
+void MainFrame::MontreCoches() {
+    commands_.MontreCoches(programme_.rib);
+}
+
+void MainFrame::PrendCoche(const char *name) {
+    Coche(programme_.rib, name) = commands_.Entree(name).isChecked();
+}
+
+void MainFrame::Dessine(const std::function<Affichage(const Trace &)> &draw,
+                        const std::function<void()> &tell) {
+    // A box of an earlier redraw may still be open; its answer doesn't change the drawing.
+    if (drawing_) {
+        return;
+    }
+    drawing_ = true;
+    auto recording = std::make_unique<Recording>(ScreenAdvance);
+    const Affichage result = draw(programme_.TraceSur(*recording));
+    drawing_ = false;
+    if (result == Affichage::echec) {
+        affclear();
+    }
+    if (result == Affichage::dessine) {
+        picture_->Montre(std::move(recording));
+        Panneau(1, kVersion);
+        tell();
+    }
+    picture_->RegleDefilement();
+}
+
+void MainFrame::VideImage() {
+    picture_->Montre(nullptr);
+    picture_->RegleDefilement();
+}
+
+void MainFrame::RemetZoom() {
+    commands_.ListeZoom().setCurrentIndex(kZoomRow100);
+}
+
+void MainFrame::FermeDialogues() {
+    loftwing::FermeDialogues(*this);
+}
+
+bool MainFrame::Saisit(const std::string &ModeSaisie) {
+    frmInput dialog(programme_, ModeSaisie, this);
+    ShowModal(dialog);
+    return !programme_.rib.Annule;
+}
+
+bool MainFrame::ChoisitFichier(const ChoixProfil &choix) {
+    programme_.rib.Annule = false;
+    frmopen picker(programme_, *this, this);
+    picker.setWindowTitle(Q(choix.titre));
+    picker.MontreMemoire(choix.case_memoire, choix.memoire);
+    if (choix.laisse_rib) {
+        picker.LaisseLeRib();
+    }
+    ShowModal(picker);
+    return !programme_.rib.Annule;
+}
+
+std::optional<std::string> MainFrame::SaisitEpCourb() {
+    frmEpCourb dialog(programme_, *this, this);
+    const bool accepted = ShowModal(dialog) == QDialog::Accepted;
+    return accepted ? std::optional(dialog.Fichier()) : std::nullopt;
+}
+
+} // namespace loftwing

@@ -1,0 +1,54 @@
+/// The main window's picture with its scroll bars.
+#pragma once
+
+#include "core/rib_model.h"
+#include "mainwindow/pic_view.h"
+#include "output/scrolling.h"
+
+#include <QScrollBar>
+#include <QTimer>
+
+#include <memory>
+
+namespace loftwing {
+
+/// Moves values between the scroll bars and the rib's offsets; what they are worth is told in
+/// output/scrolling.h. A bar that moves asks for a redraw, it draws nothing itself.
+class PictureArea : public QWidget {
+    Q_OBJECT
+
+  public:
+    PictureArea(RibModel &rib, QWidget *parent);
+
+    /// Takes a new drawing, null for an empty picture. The bars stay until RegleDefilement.
+    void Montre(std::unique_ptr<Recording> drawing) { Pic_.Montre(std::move(drawing)); }
+    /// Gives the bars their ranges over the present drawing.
+    void RegleDefilement();
+    /// Scrolls back without a redraw.
+    void RemetDefilement();
+
+  Q_SIGNALS:
+    /// A bar has changed the rib's offsets.
+    void Defile();
+    void MenuDemande(const QPoint &global);
+    /// Ctrl with the wheel: that many steps of the zoom list, positive to a larger one.
+    void ZoomDemande(int steps);
+    /// The picture has another size and has come to rest.
+    void Redimensionne();
+
+  private:
+    RibModel &rib_;
+    PicView Pic_;
+    QScrollBar Hsbpic_;
+    QScrollBar Vsbpic_;
+    QTimer resized_;
+    ScrollDrag drag_;
+
+    void LayOut();
+    void Connect();
+    void Hsbpic_Change(int value);
+    void Vsbpic_Change(int value);
+    void Deplace(const ScrollMove &move);
+};
+
+} // namespace loftwing

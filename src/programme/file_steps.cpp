@@ -1,0 +1,133 @@
+#include "programme/file_steps.h"
+
+#include "base/version.h"
+#include "base/whole_file.h"
+#include "core/airfoil_reader.h"
+#include "persist/LireEcrire.h"
+#include "platform/busy_pointer.h"
+#include "programme/dossiers.h"
+#include "programme/rib_file.h"
+#include "programme/rib_steps.h"
+
+#include <filesystem>
+
+namespace loftwing {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// What the choosers of rib components files have in common.
+FileQuestion QuestionComposants(const Programme &programme, const std::string &titre) {
+    FileQuestion question;
+    question.title = titre;
+    question.folder =
+        DossierRetenu(programme, "LastOpenLfw", programme.settings.repertoires.RepProfil);
+    question.name = programme.rib.NomFichierRib;
+    question.filter_text = programme.Text({"fileopen", "6"}) + " " + kTitre + " (*.lfw)";
+    question.default_extension = "lfw";
+    return question;
+}
+
+/// Opens a rib components file with the airfoil that it names.
+void newLfw(Programme &programme, CommandView &view, const std::string &path) {
+    RetientDossier(programme, "LastOpenLfw", path);
+    view.affclear();
+    const Repertoires &folders = programme.settings.repertoires;
+    OuvertureComposants end{};
+    {
+        const Sablier sablier(programme.platform);
+        end = OuvreComposants(programme, {path, {folders.RepProfil, folders.RepProfilevol}});
+    }
+    if (end == OuvertureComposants::ouverte) {
+        view.Titre(TitreComposants(programme, " "));
+        view.MontreCoches();
+        RecalculProfil(programme, view);
+    } else if (end != OuvertureComposants::sans_profil) {
+        view.affclear();
+    }
+}
+
+void LitEtReprend(Programme &programme, CommandView &view, const std::string &path) {
+    RibModel &rib = programme.rib;
+    const ProfilPrecedent before(rib);
+    const bool was_simple = rib.ModeCouple;
+    rib.ModeCouple = false;
+    rib.SansApercu = true;
+    rib.CheminProfil = path;
+    const ResultatLecture read =
+        FichierLecture(rib, programme.messages, programme.Text({"frmopen", "1"}));
+    rib.SansApercu = false;
+    if (read.issue == Lecture::echec) {
+        view.affclear();
+        return;
+    }
+    if (read.issue == Lecture::refuse) {
+        // The rib on the screen is still the one that was there.
+        before.Rend(rib);
+        rib.ModeCouple = was_simple;
+        return;
+    }
+    NommeProfil(rib, path);
+    rib.ProfilCharge = true;
+    RepriseProfil(programme, view);
+}
+
+} // namespace
+
+bool OuvreProfil(Programme &programme, CommandView &view) {
+    RibModel &rib = programme.rib;
+    const bool was_simple = rib.ModeCouple;
+    rib.MemProfil = false;
+    rib.ModeCouple = false;
+    if (!view.ChoisitFichier({.titre = programme.Text({"frmopen", "1"})})) {
+        // The plot of the bare points is still what is shown.
+        rib.ModeCouple = was_simple && rib.ProfilCharge;
+        return false;
+    }
+    RepriseProfil(programme, view);
+    return true;
+}
+
+void OuvreRib(Programme &programme, CommandView &view) {
+    if (programme.rib.ProfilCharge &&
+        !ConfirmePerte(programme, {"fileopen", "1"}, {"fileopen", "2"})) {
+        return;
+    }
+    const std::string path = programme.platform.ChooseOpenFile(
+        QuestionComposants(programme, programme.Text({"fileopen", "2"})));
+    if (!path.empty()) {
+        newLfw(programme, view, path);
+    }
+}
+
+void OuvreFichier(Programme &programme, CommandView &view, const std::string &path) {
+    if (!EstComposants(path)) {
+        LitEtReprend(programme, view, path);
+    } else if (ConfirmePerte(programme, {"fileopen", "1"}, {"fileopen", "2"})) {
+        newLfw(programme, view, path);
+    }
+}
+
+std::string EtiquetteOuverture(const std::string &path) {
+    return EstComposants(path) ? " LireEcrire/newLfw" : " Main/FileMru";
+}
+
+void EnregistreRib(Programme &programme, CommandView &view) {
+    RibModel &rib = programme.rib;
+    FileQuestion question = QuestionComposants(programme, programme.Text({"filesaveas", "1"}));
+    if (!EstComposants(question.name)) {
+        question.name += ".lfw"; // a name with a point in it would count as having an extension
+    }
+    const std::string path = programme.platform.ChooseSaveFile(question);
+    if (path.empty()) {
+        return;
+    }
+    RetientDossier(programme, "LastOpenLfw", path);
+    WriteWholeFile(path, EcritComposants(rib));
+    rib.NomFichierRib = fs::path(path).filename().string();
+    rib.Modifie = false;
+    view.Titre(TitreComposants(programme, "  "));
+}
+
+} // namespace loftwing

@@ -1,0 +1,26 @@
+/// The commands that open and save ribs and airfoils.
+#pragma once
+
+#include "programme/command_view.h"
+#include "programme/programme.h"
+
+#include <string>
+
+namespace loftwing {
+
+/// Lets the user pick an airfoil and opens it; false when it was cancelled.
+bool OuvreProfil(Programme &programme, CommandView &view);
+
+/// Lets the user choose a rib components file and opens it, asking first where that loses changes.
+void OuvreRib(Programme &programme, CommandView &view);
+
+/// Opens a file that is known: an airfoil, or a rib components file, before which changes are asked
+/// for. An airfoil that is refused leaves the rib, one whose reading fails clears it.
+void OuvreFichier(Programme &programme, CommandView &view, const std::string &path);
+/// Under which a failure of that is reported.
+std::string EtiquetteOuverture(const std::string &path);
+
+/// Saves the rib as a rib components file that the user names.
+void EnregistreRib(Programme &programme, CommandView &view);
+
+} // namespace loftwing

@@ -1,0 +1,33 @@
+/// A rib's life in the main window: asked about, taken over, shown, cleared.
+#pragma once
+
+#include "programme/command_view.h"
+#include "programme/programme.h"
+
+namespace loftwing {
+
+/// Whether to go on where changes of the rib could be lost. Without any, and while two airfoils are
+/// compared, nothing is asked.
+bool ConfirmePerte(const Programme &programme, LngKey text, LngKey title);
+
+/// Whether the user wants to leave the program. A rib with changes is asked about in other words.
+bool ConfirmeFin(const Programme &programme);
+
+/// The airfoil that was read takes over the rib and brings its chord along.
+void RepriseProfil(Programme &programme, CommandView &view);
+
+/// Makes the contour of the rib's airfoil and shows the rib; an impossible one clears it.
+void RecalculProfil(Programme &programme, CommandView &view);
+
+/// Asks for another chord and draws what follows it. A comparison takes the chord too, and the rib
+/// doesn't count as changed by it.
+void ChangeCorde(Programme &programme, CommandView &view);
+
+/// Clears everything: rib, view and commands. The user's defaults are read anew. A failure is told,
+/// and what comes after it stays as it is.
+void VideTout(Programme &programme, CommandView &view);
+/// The same as the user's command, which asks where changes could be lost. What can be read from a
+/// file again is not asked about: bare points and a rib that came from a rib components file.
+void DemandeVide(Programme &programme, CommandView &view);
+
+} // namespace loftwing

@@ -1,0 +1,52 @@
+#include "programme/tool_steps.h"
+
+#include "base/version.h"
+#include "programme/rib_steps.h"
+#include "utilities/ribevol2.h"
+
+namespace loftwing {
+
+bool FaitPlaceAuJeu(Programme &programme, CommandView &view) {
+    if (!programme.rib.ProfilCharge) {
+        return true;
+    }
+    if (!ConfirmePerte(programme, {"FrmMainMessage", "11"}, {"FrmMainMessage", "12"})) {
+        return false;
+    }
+    view.affclear();
+    return true;
+}
+
+int DemandeNombre(const Programme &programme, const std::string &titre) {
+    int count = 1;
+    do {
+        const auto answer =
+            programme.platform.Ask(QuestionNombre(count, programme.messages), titre, "");
+        count = NombreVariable(answer.value_or(""));
+    } while (count < 0 || count > kNervuresVariables);
+    return count;
+}
+
+std::optional<ProfilChoisi> ChoisitPourOutil(Programme &programme, CommandView &view,
+                                             const std::string &titre) {
+    RibModel &rib = programme.rib;
+    const ProfilPrecedent before(rib);
+    rib.MemProfil = false;
+    const bool picked = view.ChoisitFichier({.titre = titre, .laisse_rib = true});
+    const ProfilChoisi chosen = ProfilDuRib(rib);
+    before.Rend(rib);
+    return picked ? std::optional(chosen) : std::nullopt;
+}
+
+void OuvreCalculette(const Programme &programme) {
+    if (programme.platform.StartProgram("calc")) {
+        return;
+    }
+    std::string text = programme.Text({"Erreur", "6"});
+    if (text.empty()) {
+        text = "The windows Calculator does not exist";
+    }
+    programme.messages.Tell(text, std::string(kTitre) + " No-Calc", BoxIcon::warning);
+}
+
+} // namespace loftwing

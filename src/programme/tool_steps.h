@@ -1,0 +1,27 @@
+/// What the main window does for its tools.
+#pragma once
+
+#include "programme/command_view.h"
+#include "programme/programme.h"
+
+#include <optional>
+#include <string>
+
+namespace loftwing {
+
+/// Clears the rib for a set of ribs, which takes its place; false when the user keeps it.
+bool FaitPlaceAuJeu(Programme &programme, CommandView &view);
+
+/// Asks for the number of intermediate ribs until it is one that can be had; 0 when the user gives
+/// up. `titre` is the title of the question.
+int DemandeNombre(const Programme &programme, const std::string &titre);
+
+/// Lets the user pick an airfoil for a tool; the rib stays as it was. Nothing when it was
+/// cancelled.
+std::optional<ProfilChoisi> ChoisitPourOutil(Programme &programme, CommandView &view,
+                                             const std::string &titre);
+
+/// Starts the desktop's calculator, or says that there is none.
+void OuvreCalculette(const Programme &programme);
+
+} // namespace loftwing

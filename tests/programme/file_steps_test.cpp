@@ -1,0 +1,199 @@
+#include "programme/file_steps.h"
+
+#include "support/components_text.h"
+#include "support/steps_world.h"
+
+namespace loftwing {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class FileSteps : public StepsWorld {
+  protected:
+    /// An airfoil where rib components files are searched for theirs.
+    void HaveAirfoil() const {
+        std::filesystem::copy_file(Sample("naca2412.dat"), folder.Path("airfoils/naca2412.dat"));
+    }
+    std::string RibFile() const { return folder.File("root.lfw", ComponentsText{}.Current()); }
+    const FileQuestion &Question() const { return platform.file_questions.back(); }
+    /// A rib of another airfoil with changes.
+    void HaveRib() {
+        ASSERT_TRUE(Read(Sample("naca0012.dat")));
+        Rib().Modifie = true;
+    }
+    void ExpectQuestion(BoxAnswer answer) {
+        ExpectBox(answer, "The rib has changes that are not saved. Open another rib all the same?",
+                  "Open rib components");
+    }
+};
+
+TEST_F(FileSteps, AnAirfoilThatIsPickedTakesOverTheRib) {
+    WillPick({Sample("naca2412.dat")});
+    Rib().MemProfil = true;
+    Rib().ModeCouple = true;
+    EXPECT_TRUE(OuvreProfil(programme, view));
+    EXPECT_THAT(view.asked,
+                ElementsAre("ChoisitFichier Open airfoil file", "Titre Loftwing Airfoil : naca2412",
+                            "AfficheFichiersRecents", "ViewReset", "ActiveCommandes", "affiche"));
+    EXPECT_FALSE(Rib().MemProfil);
+    EXPECT_FALSE(Rib().ModeCouple);
+    EXPECT_FALSE(view.choices[0].laisse_rib);
+    EXPECT_FALSE(view.choices[0].case_memoire);
+    EXPECT_EQ(view.choices[0].memoire, "");
+}
+
+TEST_F(FileSteps, ACancelledPickerLeavesTheSimplePlot) {
+    Rib().ModeCouple = true;
+    Rib().ProfilCharge = true;
+    EXPECT_FALSE(OuvreProfil(programme, view));
+    EXPECT_TRUE(Rib().ModeCouple);
+    EXPECT_THAT(view.asked, ElementsAre("ChoisitFichier Open airfoil file"));
+}
+
+TEST_F(FileSteps, ASimplePlotThatWasClearedInThePickerDoesNotComeBack) {
+    Rib().ModeCouple = true;
+    Rib().ProfilCharge = true;
+    view.on_pick = [this](const ChoixProfil &) {
+        Rib().ProfilCharge = false;
+        return false;
+    };
+    EXPECT_FALSE(OuvreProfil(programme, view));
+    EXPECT_FALSE(Rib().ModeCouple);
+}
+
+TEST_F(FileSteps, AKnownAirfoilOpensWithoutAQuestion) {
+    HaveRib();
+    OuvreFichier(programme, view, Sample("naca2412.dat"));
+    EXPECT_EQ(Rib().CheminProfil, Sample("naca2412.dat"));
+    EXPECT_EQ(Rib().NomProfil, "naca2412");
+    EXPECT_EQ(Rib().ExtProfil, "dat");
+    EXPECT_TRUE(Rib().ProfilCharge);
+    EXPECT_THAT(view.asked,
+                ElementsAre("Titre Loftwing Airfoil : naca2412", "AfficheFichiersRecents",
+                            "ViewReset", "ActiveCommandes", "affiche"));
+}
+
+TEST_F(FileSteps, AnAirfoilThatIsRefusedLeavesRibAndView) {
+    HaveRib();
+    Rib().ModeCouple = true;
+    const std::int16_t points = Rib().NbPoints;
+    platform.Expect(BoxAnswer::ok);
+    OuvreFichier(programme, view, folder.File("bad.dat", "Title\n0.5 0.1\n1 0\n"));
+    EXPECT_EQ(Rib().NomProfil, "naca0012");
+    EXPECT_EQ(Rib().CheminProfil, Sample("naca0012.dat"));
+    EXPECT_EQ(Rib().NbPoints, points);
+    EXPECT_TRUE(Rib().ModeCouple);
+    EXPECT_FALSE(Rib().SansApercu);
+    EXPECT_THAT(view.asked, IsEmpty());
+}
+
+TEST_F(FileSteps, AnAirfoilThatCannotBeReadClearsTheRib) {
+    HaveRib();
+    ExpectReport(" Open/FichierLecture");
+    OuvreFichier(programme, view, folder.Path("missing.dat"));
+    EXPECT_THAT(view.asked, ElementsAre("affclear"));
+}
+
+TEST_F(FileSteps, AKnownRibFileIsAskedAboutWhereChangesCouldBeLost) {
+    HaveRib();
+    HaveAirfoil();
+    ExpectQuestion(BoxAnswer::no);
+    OuvreFichier(programme, view, RibFile());
+    EXPECT_THAT(view.asked, IsEmpty());
+    ExpectQuestion(BoxAnswer::yes);
+    OuvreFichier(programme, view, RibFile());
+    EXPECT_EQ(Rib().NomProfil, "naca2412");
+}
+
+TEST_F(FileSteps, ARibFileClearsWhatWasThereAndIsShown) {
+    HaveAirfoil();
+    OuvreFichier(programme, view, RibFile());
+    EXPECT_THAT(view.asked,
+                ElementsAre("affclear", "Titre Loftwing Rib : root.lfw Airfoil : naca2412",
+                            "MontreCoches", "ViewReset", "ActiveCommandes", "affiche"));
+    EXPECT_EQ(Setting("Repertoires", "LastOpenLfw"), folder.Path());
+    EXPECT_FALSE(Rib().Modifie);
+    EXPECT_EQ(platform.pointer, Pointer::normal);
+}
+
+TEST_F(FileSteps, ARibFileWhoseAirfoilIsMissingClearsAgain) {
+    platform.Expect(BoxAnswer::ok); // where was searched
+    ExpectReport("Error LireEcrire/newLfw");
+    OuvreFichier(programme, view, RibFile());
+    EXPECT_THAT(view.asked, ElementsAre("affclear", "affclear"));
+}
+
+TEST_F(FileSteps, ARibFileWhoseAirfoilIsRefusedStaysCleared) {
+    folder.File("airfoils/naca2412.dat", "Title\n0.5 0.1\n1 0\n");
+    platform.Expect(BoxAnswer::ok);
+    OuvreFichier(programme, view, RibFile());
+    EXPECT_THAT(view.asked, ElementsAre("affclear"));
+}
+
+TEST_F(FileSteps, FailuresOfAnOpeningCarryTheLabelOfItsKind) {
+    EXPECT_EQ(EtiquetteOuverture("/ribs/root.LFW"), " LireEcrire/newLfw");
+    EXPECT_EQ(EtiquetteOuverture("/ribs/root.dat"), " Main/FileMru");
+}
+
+TEST_F(FileSteps, TheChooserOfRibFilesStartsWhereTheLastOneWas) {
+    platform.files_expected = {"", ""};
+    OuvreRib(programme, view);
+    EXPECT_EQ(Question().title, "Open rib components");
+    EXPECT_EQ(Question().folder, folder.Path("airfoils"));
+    EXPECT_EQ(Question().filter_text, "Rib components Loftwing (*.lfw)");
+    EXPECT_EQ(Question().default_extension, "lfw");
+    WriteINIFile("Repertoires", "LastOpenLfw", "/ribs", programme.paths.fichier);
+    OuvreRib(programme, view);
+    EXPECT_EQ(Question().folder, "/ribs");
+    EXPECT_THAT(view.asked, IsEmpty());
+}
+
+TEST_F(FileSteps, TheChooserDoesNotAppearAfterNo) {
+    HaveRib();
+    ExpectQuestion(BoxAnswer::no);
+    OuvreRib(programme, view);
+    EXPECT_THAT(platform.file_questions, IsEmpty());
+}
+
+TEST_F(FileSteps, ChangesWithoutAnAirfoilAreNotAskedAbout) {
+    Rib().Modifie = true;
+    platform.files_expected = {""};
+    OuvreRib(programme, view);
+    EXPECT_EQ(platform.file_questions.size(), 1U);
+}
+
+TEST_F(FileSteps, SavingProposesTheNameWithItsExtension) {
+    platform.files_expected = {"", ""};
+    Rib().NomFichierRib = "clark.y";
+    EnregistreRib(programme, view);
+    EXPECT_EQ(Question().title, "Save as rib components");
+    EXPECT_EQ(Question().name, "clark.y.lfw");
+    Rib().NomFichierRib = "root.lfw";
+    EnregistreRib(programme, view);
+    EXPECT_EQ(Question().name, "root.lfw");
+}
+
+TEST_F(FileSteps, ASavedRibHasANameAndNoChanges) {
+    HaveRib();
+    platform.files_expected = {folder.Path("wing.lfw")};
+    EnregistreRib(programme, view);
+    EXPECT_THAT(view.asked,
+                ElementsAre("Titre Loftwing Rib : wing.lfw  Airfoil : naca0012")); // two blanks
+    EXPECT_EQ(Rib().NomFichierRib, "wing.lfw");
+    EXPECT_FALSE(Rib().Modifie);
+    EXPECT_EQ(Setting("Repertoires", "LastOpenLfw"), folder.Path());
+    EXPECT_THAT(folder.Bytes("wing.lfw"), testing::HasSubstr("naca0012.dat"));
+}
+
+TEST_F(FileSteps, ACancelledSavingLeavesTheChanges) {
+    HaveRib();
+    platform.files_expected = {""};
+    EnregistreRib(programme, view);
+    EXPECT_TRUE(Rib().Modifie);
+    EXPECT_THAT(view.asked, IsEmpty());
+    EXPECT_EQ(Setting("Repertoires", "LastOpenLfw"), "");
+}
+
+} // namespace
+} // namespace loftwing

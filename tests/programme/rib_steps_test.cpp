@@ -1,0 +1,179 @@
+#include "programme/rib_steps.h"
+
+#include "support/steps_world.h"
+
+namespace loftwing {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class RibSteps : public StepsWorld {
+  protected:
+    bool Confirm() const { return ConfirmePerte(programme, {"fileopen", "1"}, {"fileopen", "2"}); }
+    void ExpectQuestion(BoxAnswer answer) {
+        ExpectBox(answer, "The rib has changes that are not saved. Open another rib all the same?",
+                  "Open rib components");
+    }
+};
+
+TEST_F(RibSteps, WithoutChangesNothingIsAsked) {
+    EXPECT_TRUE(Confirm());
+}
+
+TEST_F(RibSteps, ChangesAreAskedAboutWithNoAsDefault) {
+    Rib().Modifie = true;
+    ExpectQuestion(BoxAnswer::no);
+    EXPECT_FALSE(Confirm());
+    ExpectQuestion(BoxAnswer::yes);
+    EXPECT_TRUE(Confirm());
+    EXPECT_EQ(platform.boxes[0].buttons, BoxButtons::yes_no);
+    EXPECT_EQ(platform.boxes[0].fallback, BoxAnswer::no);
+    EXPECT_EQ(platform.boxes[0].icon, BoxIcon::question);
+}
+
+TEST_F(RibSteps, AComparisonHasNoChangesToLose) {
+    Rib().Modifie = true;
+    Comparing();
+    EXPECT_TRUE(Confirm());
+}
+
+TEST_F(RibSteps, AComparisonThatWasCalledOffIsNone) {
+    Rib().Modifie = true;
+    Rib().ModeCompare = true;
+    ExpectQuestion(BoxAnswer::no);
+    EXPECT_FALSE(Confirm());
+}
+
+TEST_F(RibSteps, TheEndIsAskedAboutInWordsThatNameChanges) {
+    ExpectBox(BoxAnswer::no, "Do you want to quit Loftwing ? ", "Loftwing");
+    EXPECT_FALSE(ConfirmeFin(programme));
+    Rib().Modifie = true;
+    ExpectBox(BoxAnswer::yes,
+              "The rib has changes that are not saved. Do you want to quit all the same?",
+              "Loftwing");
+    EXPECT_TRUE(ConfirmeFin(programme));
+    Comparing();
+    ExpectBox(BoxAnswer::yes, "Do you want to quit Loftwing ? ", "Loftwing");
+    EXPECT_TRUE(ConfirmeFin(programme));
+}
+
+TEST_F(RibSteps, AnAirfoilIsNamedNotedAndShown) {
+    ASSERT_TRUE(Read(Sample("naca2412.dat")));
+    Rib().talon.TalonIntra = 3;
+    Pointer while_drawn = Pointer::normal;
+    view.on_draw = [&] { while_drawn = platform.pointer; };
+    RepriseProfil(programme, view);
+    EXPECT_THAT(view.asked,
+                ElementsAre("Titre Loftwing Airfoil : naca2412", "AfficheFichiersRecents",
+                            "ViewReset", "ActiveCommandes", "affiche"));
+    EXPECT_EQ(while_drawn, Pointer::busy);
+    EXPECT_EQ(platform.pointer, Pointer::normal);
+    EXPECT_TRUE(Rib().Modifie);
+    EXPECT_EQ(Rib().NomFichierRib, "naca2412");
+    EXPECT_EQ(Rib().talon.TalonIntra, 0);
+    EXPECT_GT(Rib().NbContour, 0);
+    EXPECT_EQ(LitFichiersRecents(programme.paths.fichier)[0], Sample("naca2412.dat"));
+}
+
+TEST_F(RibSteps, AnAirfoilBringsTheChordOfItsTitle) {
+    ASSERT_TRUE(Read(Sample("naca2412.dat")));
+    Rib().EnteteProfil = "Root rib: 150";
+    RepriseProfil(programme, view);
+    EXPECT_EQ(Rib().corde, 150.0F);
+}
+
+TEST_F(RibSteps, AnImpossibleContourClearsTheRib) {
+    ASSERT_TRUE(Read(Short()));
+    ExpectReport(" Calcul/Alocate");
+    ExpectReport(" Calcul/MiniX");
+    RecalculProfil(programme, view);
+    EXPECT_THAT(view.asked, ElementsAre("affclear"));
+}
+
+TEST_F(RibSteps, ClearingGoesFromTheDialogsToThePicture) {
+    ASSERT_TRUE(Read(Sample("naca2412.dat")));
+    Rib().AffHaut = true;
+    Rib().AffTrac = false;
+    Rib().Zoom = 3;
+    Rib().corde = 321;
+    Rib().Modifie = true;
+    Rib().ModeCouple = true;
+    view.on_checks = [this] {
+        EXPECT_FALSE(Rib().AffHaut);
+        EXPECT_TRUE(Rib().AffTrac);
+    };
+    VideTout(programme, view);
+    EXPECT_THAT(view.asked,
+                ElementsAre("FermeDialogues", "ViewReset", "ActiveCommandesVides", "MontreCoches",
+                            "Panneau 2", "Titre Loftwing", "RemetZoom", "VideImage"));
+    EXPECT_FALSE(Rib().ProfilCharge);
+    EXPECT_EQ(Rib().NomProfil, "");
+    EXPECT_FALSE(Rib().Modifie);
+    EXPECT_FALSE(Rib().ModeCouple);
+    EXPECT_EQ(Rib().Zoom, 1.0F);
+    EXPECT_EQ(Rib().corde, 200.0F); // the user's default
+    EXPECT_EQ(platform.pointer, Pointer::normal);
+}
+
+TEST_F(RibSteps, AFailureOfTheClearingIsToldAndEndsIt) {
+    programme.settings.Unite = kUniteIn;
+    Rib().EpBAAfich = "1/0";
+    ExpectReport(" Main/AffichClear");
+    VideTout(programme, view);
+    EXPECT_THAT(view.asked, ElementsAre("FermeDialogues"));
+    EXPECT_EQ(platform.pointer, Pointer::normal);
+}
+
+TEST_F(RibSteps, TheCommandAsksBeforeItClearsChanges) {
+    Rib().ProfilCharge = true;
+    Rib().Modifie = true;
+    const std::string question = "The rib has changes that are not saved. Clear all data all the "
+                                 "same?";
+    ExpectBox(BoxAnswer::no, question, "Clear all data");
+    DemandeVide(programme, view);
+    EXPECT_THAT(view.asked, IsEmpty());
+    ExpectBox(BoxAnswer::yes, question, "Clear all data");
+    DemandeVide(programme, view);
+    EXPECT_THAT(view.asked, ElementsAre("affclear"));
+}
+
+TEST_F(RibSteps, WhatHasAFileOfItsOwnIsClearedUnasked) {
+    Rib().ProfilCharge = true;
+    Rib().Modifie = true;
+    Rib().FichierRibOuvert = true;
+    DemandeVide(programme, view);
+    Rib().FichierRibOuvert = false;
+    Rib().ModeCouple = true;
+    DemandeVide(programme, view);
+    Rib().ModeCouple = false;
+    Rib().ProfilCharge = false;
+    DemandeVide(programme, view);
+    EXPECT_THAT(view.asked, ElementsAre("affclear", "affclear", "affclear"));
+}
+
+TEST_F(RibSteps, AChordIsDrawnInWhicheverViewIsUp) {
+    view.on_value = [] { return true; };
+    ChangeCorde(programme, view);
+    EXPECT_THAT(view.asked, ElementsAre("Saisit corde", "RetraceVues", "affiche"));
+    EXPECT_TRUE(Rib().Modifie);
+}
+
+TEST_F(RibSteps, AChordForAComparisonDoesNotChangeTheRib) {
+    Comparing();
+    view.on_value = [] { return true; };
+    ChangeCorde(programme, view);
+    EXPECT_FALSE(Rib().Modifie);
+    Rib().Modifie = true;
+    ChangeCorde(programme, view);
+    EXPECT_TRUE(Rib().Modifie);
+}
+
+TEST_F(RibSteps, ACancelledChordDrawsNothing) {
+    ChangeCorde(programme, view);
+    EXPECT_THAT(view.asked, ElementsAre("Saisit corde"));
+    EXPECT_FALSE(Rib().Modifie);
+}
+
+} // namespace
+} // namespace loftwing
