@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <source_location>
 #include <string>
 
 namespace loftwing {
@@ -52,15 +53,13 @@ class StepsWorld : public testing::Test {
             return Read(path);
         };
     }
-    void ExpectBox(BoxAnswer answer, const std::string &text, const std::string &title) {
-        platform.boxes_expected.push_back({answer, [text, title](const MessageBox &box) {
-                                               EXPECT_EQ(box.text, text);
-                                               EXPECT_EQ(box.title, title);
-                                           }});
+    void ExpectBox(BoxAnswer answer, const std::string &text, const std::string &title,
+                   const std::source_location &where = std::source_location::current()) {
+        platform.Expect(answer, {.text = text, .title = title}, where);
     }
-    void ExpectReport(const std::string &title) {
-        platform.boxes_expected.push_back(
-            {BoxAnswer::ok, [title](const MessageBox &box) { EXPECT_EQ(box.title, title); }});
+    void ExpectReport(const std::string &title,
+                      const std::source_location &where = std::source_location::current()) {
+        platform.Expect(BoxAnswer::ok, {.title = title}, where);
     }
     /// A separator other than the point, at whose warning the user cancels the command.
     void ForeignSeparator() {
