@@ -15,14 +15,10 @@ constexpr int kZoomTool = 8; // the zoom list's place in the tool bar
 
 /// Brings a control to life or not, as a state has it.
 template <class Control>
-void Enable(EtatCommandes state, const std::string &name, unsigned groups, Control &control) {
-    if (const auto alive = Vivante(state, name, groups)) {
+void Enable(EtatCommandes state, unsigned groups, Control &control) {
+    if (const auto alive = Vivante(state, groups)) {
         control.setEnabled(*alive);
     }
-}
-
-std::string ToolName(int index) {
-    return "Toolbar1(" + std::to_string(index) + ")";
 }
 
 } // namespace
@@ -110,7 +106,7 @@ void CommandBars::BuildToolbar() {
 void CommandBars::AddTool(const ToolButton &button) {
     QAction *action =
         button.handler == nullptr ? Toolbar1_->addSeparator() : Toolbar1_->addAction(QString());
-    action->setObjectName(Q(ToolName(button.index)));
+    action->setObjectName(QStringLiteral("Toolbar1(%1)").arg(button.index));
     tools_[button.index] = action;
     QObject::connect(action, &QAction::triggered, &window_,
                      [this, &button] { Execute("Toolbar1", button.handler); });
@@ -144,13 +140,13 @@ void CommandBars::OuvreMenu(const std::string &name, const QPoint &place) {
 
 void CommandBars::Met(EtatCommandes state) {
     for (const Command &command : MenuCommands()) {
-        Enable(state, command.name, command.groups, *actions_.at(command.name));
+        Enable(state, command.groups, *actions_.at(command.name));
     }
     for (const PushButton &button : PushButtons()) {
-        Enable(state, button.name, button.groups, *buttons_.at(button.name));
+        Enable(state, button.groups, *buttons_.at(button.name));
     }
     for (const ToolButton &button : ToolButtons()) {
-        Enable(state, ToolName(button.index), button.groups, *tools_.at(button.index));
+        Enable(state, button.groups, *tools_.at(button.index));
     }
 }
 

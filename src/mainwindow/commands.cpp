@@ -38,9 +38,11 @@ void Ajoute(std::vector<Command> &commands, const std::vector<Command> &more) {
     commands.insert(commands.end(), more.begin(), more.end());
 }
 
-/// What is written from every view stays alive in those that stand in the rib's place.
+/// What is written from a view stays alive in it.
 unsigned GroupesExport(const EntreeExport &entree) {
-    return (VuesDe(entree) & kVueCompare) != 0 ? kPaper : kFile;
+    const unsigned views = VuesDe(entree);
+    return ((views & kVueCompare) != 0 ? kPaper : kFile) |
+           ((views & kVueCouple) != 0 ? kAliveInSimplePlot : kAlways);
 }
 
 std::vector<Command> ExportEntries(const char *menu) {
@@ -85,14 +87,16 @@ std::vector<Command> ViewMenu() {
     const char *menu = "mnu_aff";
     return {
         Menu(menu, {"MenuAffich", "1"}),
-        Check("mnu_affinver", menu, {"MenuAffich", "2"}, kRib, &frmmain::mnu_affinver_Click),
+        Check("mnu_affinver", menu, {"MenuAffich", "2"}, kRib | kAliveInSimplePlot,
+              &frmmain::mnu_affinver_Click),
         Entry("mnu_affdefaut", menu, {"MenuAffich", "3"}, kRib, &frmmain::mnu_affdefaut_Click),
         Entry("mnu_affcouleur", menu, {"MenuAffich", "4"}, kAlways, &frmmain::mnu_affcouleur_Click),
         Below(
             Check("mnu_affhautba", menu, {"MenuAffich", "5"}, kRib, &frmmain::mnu_affhautba_Click)),
         Check("mnu_affhautbf", menu, {"MenuAffich", "6"}, kRib, &frmmain::mnu_affhautbf_Click),
         Check("mnu_affepr", menu, {"MenuAffich", "7"}, kRib, &frmmain::mnu_affepr_Click),
-        Entry("mnu_affInstxt", menu, {"MenuAffich", "8"}, kFile, &frmmain::mnu_affInstxt_Click),
+        Entry("mnu_affInstxt", menu, {"MenuAffich", "8"}, kFile | kAliveInSimplePlot,
+              &frmmain::mnu_affInstxt_Click),
         Check("mnu_affTrac", menu, {"MenuAffich", "9"}, kRib, &frmmain::mnu_affTrac_Click),
         Check("mnu_afflignRef", menu, {"MenuAffich", "12"}, kRib, &frmmain::mnu_afflignRef_Click),
         Below(Entry("mnu_affclear", menu, {"MenuAffich", "10"}, kAlways,

@@ -9,19 +9,21 @@ namespace loftwing {
 
 namespace {
 
-/// One step into a state: what the commands of a group do from then on.
-struct Etape {
+/// What the commands of a group do from a state on.
+struct Change {
     CommandGroup group;
     bool alive;
 };
 
-// A later step overrules an earlier one.
-const std::vector<Etape> &Etapes(EtatCommandes state) {
-    static const std::vector<Etape> depart = {{kWithRib, false}, {kDiesOnClear, false}};
-    static const std::vector<Etape> rib = {{kWithRib, true}};
-    static const std::vector<Etape> sans = {{kDiesOnClear, false}};
-    static const std::vector<Etape> vide = {{kDiesOnClear, false}, {kAliveAfterClear, true}};
-    static const std::vector<Etape> vue = {{kNotInView, false}, {kAliveInView, true}};
+/// In their order: a later one overrules those before it.
+const std::vector<Change> &ChangesOf(EtatCommandes state) {
+    static const std::vector<Change> depart = {{kWithRib, false}, {kDiesOnClear, false}};
+    static const std::vector<Change> rib = {{kWithRib, true}};
+    static const std::vector<Change> sans = {{kDiesOnClear, false}};
+    static const std::vector<Change> vide = {{kDiesOnClear, false}, {kAliveAfterClear, true}};
+    static const std::vector<Change> vue = {{kNotInView, false}, {kAliveInView, true}};
+    static const std::vector<Change> couple = {
+        {kNotInView, false}, {kAliveInView, true}, {kAliveInSimplePlot, true}};
     switch (state) {
     case EtatCommandes::depart:
         return depart;
@@ -32,28 +34,20 @@ const std::vector<Etape> &Etapes(EtatCommandes state) {
     case EtatCommandes::vide:
         return vide;
     case EtatCommandes::vue:
+        return vue;
     case EtatCommandes::couple:
         break;
     }
-    return vue;
+    return couple;
 }
-
-/// Bare points can be inverted, labelled and written as lines.
-constexpr std::array<std::string_view, 3> kVivantesEnCouple = {"mnu_affinver", "mnu_affInstxt",
-                                                               "mnu_filedxf"};
 
 } // namespace
 
-std::optional<bool> Vivante(EtatCommandes state, std::string_view name, unsigned groups) {
-    if (state == EtatCommandes::couple &&
-        std::find(kVivantesEnCouple.begin(), kVivantesEnCouple.end(), name) !=
-            kVivantesEnCouple.end()) {
-        return true;
-    }
+std::optional<bool> Vivante(EtatCommandes state, unsigned groups) {
     std::optional<bool> alive;
-    for (const Etape &step : Etapes(state)) {
-        if ((groups & step.group) != 0) {
-            alive = step.alive;
+    for (const Change &change : ChangesOf(state)) {
+        if ((groups & change.group) != 0) {
+            alive = change.alive;
         }
     }
     return alive;

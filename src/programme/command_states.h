@@ -21,7 +21,9 @@ enum CommandGroup : unsigned {
     /// Live in those views even if it wasn't before.
     kAliveInView = 1U << 3U,
     /// Part of a rib's own menus and buttons: live after a clear.
-    kAliveAfterClear = 1U << 4U
+    kAliveAfterClear = 1U << 4U,
+    /// Makes sense for bare points too: live in the simple plot.
+    kAliveInSimplePlot = 1U << 5U
 };
 
 /// What the commands are brought to.
@@ -36,7 +38,7 @@ enum class EtatCommandes {
 
 /// Whether a command of these groups lives once that state is entered; nothing where the state
 /// leaves it as it is.
-std::optional<bool> Vivante(EtatCommandes state, std::string_view name, unsigned groups);
+std::optional<bool> Vivante(EtatCommandes state, unsigned groups);
 
 /// The entries of the view menu that carry a check, and what of the rib that shows.
 struct CocheVue {

@@ -19,7 +19,7 @@ struct Changed {
 Changed ChangedBy(EtatCommandes state) {
     Changed changed;
     const auto note = [&](const std::string &name, unsigned groups) {
-        if (const auto alive = Vivante(state, name, groups)) {
+        if (const auto alive = Vivante(state, groups)) {
             (*alive ? changed.alive : changed.dead).insert(name);
         }
     };
@@ -100,7 +100,7 @@ TEST(CommandTables, TheSimplePlotAddsThreeEntriesToAView) {
     dead.erase("mnu_affinver");
     EXPECT_EQ(simple.dead, dead);
     std::set<std::string> alive = view.alive;
-    alive.insert({"mnu_affinver", "mnu_affInstxt", "mnu_filedxf"});
+    alive.insert({"mnu_affinver", "mnu_affInstxt", "mnu_filedxf"}); // DXF has bare points too
     EXPECT_EQ(simple.alive, alive);
 }
 
