@@ -46,11 +46,18 @@ struct Repertoires {
     std::string LastOpenProfil; ///< last folder of the airfoil picker
 };
 
+/// What came of the settings file itself.
+struct FichierReglages {
+    bool perdu = false; ///< it can be neither read nor made: what is set holds for this run
+    bool dit = false;   ///< the user has been told, which is enough once
+};
+
 struct AppSettings {
     std::string Unite{kUniteMm}; ///< " mm" or " in"
     std::array<Trait, kElements> traits;
     MiseEnPage page;
     Repertoires repertoires;
+    FichierReglages fichier;
 
     Trait &TraitDe(Element element) { return traits[static_cast<std::size_t>(element)]; }
     const Trait &TraitDe(Element element) const {

@@ -14,6 +14,12 @@ std::string FailureText(const std::string &opening, const std::string &middle,
 
 } // namespace
 
+void Messages::PoseMotsDesBoutons() const {
+    platform.SetButtonWords({Text({"TextButton", "1"}), Text({"TextButton", "2"}),
+                             Text({"TextButton", "30"}), Text({"TextButton", "31"}),
+                             Text({"TextButton", "32"})});
+}
+
 void Messages::Inform(const std::string &text, const std::string &title) const {
     Tell(text, title, BoxIcon::information);
 }

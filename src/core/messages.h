@@ -16,6 +16,10 @@ struct Messages {
 
     std::string Text(LngKey key) const { return language.LngText(key); }
 
+    /// Gives the buttons of boxes their words. To be done as soon as a language is loaded, for the
+    /// next box may come before anything else.
+    void PoseMotsDesBoutons() const;
+
     /// An information box with one button.
     void Inform(const std::string &text, const std::string &title) const;
     /// A box with one button and another icon.

@@ -42,8 +42,7 @@ void SlotsDialog::SuitChamps(const std::array<NumericField *, 4> &champs) {
         AdmetLongueur(*field);
         field->installEventFilter(this);
     }
-    champs_.front()->SetKeys(
-        TouchesSelonUnite(programme_.settings.Unite, kTouchesPourcent, kTouchesFractionPourcent));
+    AdmetPlace(*champs_.front());
     SetTip(*champs_.front(), programme_.Text(genre_.mots.place_tip));
 }
 

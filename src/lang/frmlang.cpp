@@ -1,5 +1,7 @@
 #include "lang/frmlang.h"
 
+#include "programme/load.h"
+
 namespace loftwing {
 
 lang::lang(Programme &programme, MainView &view, QWidget *parent)
@@ -37,8 +39,13 @@ bool lang::Prend(const std::string &name) {
         programme_.messages.Report(failure, " GetINIFile");
         return false;
     }
+    programme_.messages.PoseMotsDesBoutons();
     const std::string &fichier = programme_.paths.fichier;
     if (!WriteINIFile("Language", "Langue", name, fichier)) {
+        if (programme_.settings.fichier.perdu) {
+            DitReglagesPerdus(programme_);
+            return true;
+        }
         programme_.messages.Report(MakeFailure(kPathFileAccess, fichier), " WriteINIFile");
     }
     return true;

@@ -19,6 +19,9 @@ void frmInput::Form_Load() {
     setMinimumWidth(fontMetrics().horizontalAdvance(windowTitle() + QString(16, '0')));
     msgtxt.setText(Mot(mode_.message));
     AdmetLongueur(infotxt);
+    if (!mode_.avec_unite) {
+        infotxt.SetNotation({}); // a count
+    }
     infotxt.setText(Q(mode_.texte(programme_.rib)));
     SelectField(infotxt);
 }

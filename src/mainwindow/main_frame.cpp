@@ -50,10 +50,7 @@ void MainFrame::AfficheFichiersRecents() {
 
 void MainFrame::AppliqueLangue() {
     commands_.PoseTextes(programme_.language);
-    programme_.platform.SetButtonWords(
-        {programme_.Text({"TextButton", "1"}), programme_.Text({"TextButton", "2"}),
-         programme_.Text({"TextButton", "30"}), programme_.Text({"TextButton", "31"}),
-         programme_.Text({"TextButton", "32"})});
+    programme_.messages.PoseMotsDesBoutons();
     toolkit_words_.Follow(programme_.language.LangueCourante);
     AppliqueLangueOutils(*this);
 }

@@ -82,6 +82,7 @@ void frmPrint::CalculAuChargement() {
     try {
         longueur_ = ReprendLongueur(programme_.rib);
         Label9.setText(Q(TexteLongueur(programme_.rib, programme_.SaisieEnCours())));
+        ReprendTextes(page_, programme_.SaisieEnCours());
         const Feuilles feuilles = CalculeEtMontre();
         Avertit(feuilles);
         ChoisitRecouvrement(feuilles);

@@ -45,6 +45,16 @@ void PrendTextes(MiseEnPage &page, const TextesPage &typed, const Saisie &saisie
     page = taken;
 }
 
+void ReprendTextes(MiseEnPage &page, const Saisie &saisie) {
+    const TextesPage shown = TextesDe(page);
+    for (int i = 0; i < kChampsPage; ++i) {
+        const std::string &text = At(shown, i);
+        if (!EstRefusee(text, saisie.Unite)) {
+            PrendTexte(page, i, text, saisie);
+        }
+    }
+}
+
 bool ManqueRecouvrement(const MiseEnPage &page) {
     return page.NbPages >= 2 && page.recouvrement == 0.0F;
 }

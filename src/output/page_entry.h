@@ -27,6 +27,11 @@ void PrendTexte(MiseEnPage &page, int champ, const std::string &typed, const Sai
 /// Stores all four. After a failure the page is what it was.
 void PrendTextes(MiseEnPage &page, const TextesPage &typed, const Saisie &saisie);
 
+/// Makes the numbers anew from the texts. A print on one sheet leaves an overlap of 0 behind a text
+/// that is still the user's; what counts the sheets must count with what it shows. A text that is
+/// no length keeps its number. Failures as VersMm.
+void ReprendTextes(MiseEnPage &page, const Saisie &saisie);
+
 /// Whether the rib goes over several sheets that don't overlap.
 bool ManqueRecouvrement(const MiseEnPage &page);
 

@@ -100,6 +100,10 @@ TextesDefaut LitTextesDefaut(const std::string &fichier) {
     return texts;
 }
 
+TextesDefaut TextesDefautConnus(const AppSettings &settings, const std::string &fichier) {
+    return settings.fichier.perdu ? JeuDe(settings.Unite).lengths : LitTextesDefaut(fichier);
+}
+
 TextesDefaut ChoisitUnite(AppSettings &settings, std::string_view Unite, const Messages &messages) {
     settings.Unite = Unite;
     const Saisie saisie{settings.Unite, messages};

@@ -23,6 +23,8 @@ using TextesDefaut = std::array<std::string, kChampsDefaut>;
 
 /// The default lengths on file, empty where there are none. Failure as IniFile::Read.
 TextesDefaut LitTextesDefaut(const std::string &fichier);
+/// The same, and the built-in ones where the settings file is lost.
+TextesDefaut TextesDefautConnus(const AppSettings &settings, const std::string &fichier);
 
 /// Changes the unit to " mm" or " in", and the page to the values that go with it. Nothing is
 /// converted: who builds in inches has another sheet before him and other stock. Gives the default

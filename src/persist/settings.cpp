@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace loftwing {
@@ -111,7 +112,7 @@ Table TableMarges(const Reglages &reglages) {
             Longueur(reglages, section, "Ydprint", page.YdprintAfich, page.Ydprint)};
 }
 
-void Ecrit(const Reglages &reglages, const std::vector<Table> &tables) {
+bool Ecrit(const Reglages &reglages, const std::vector<Table> &tables) {
     try {
         IniFile file = IniFile::Read(reglages.fichier);
         for (const Table &table : tables) {
@@ -119,9 +120,10 @@ void Ecrit(const Reglages &reglages, const std::vector<Table> &tables) {
                 file.SetValue(line.section, line.key, line.ecrit());
             }
         }
-        file.Save(reglages.fichier);
+        return file.Save(reglages.fichier);
     } catch (const Failure &failure) {
-        reglages.messages.Report(failure, " WriteINIFile");
+        PerdFichier(reglages.settings, reglages.messages, failure, " WriteINIFile");
+        return false;
     }
 }
 
@@ -147,7 +149,7 @@ bool Lit(const Reglages &reglages, const std::vector<Table> &tables) {
     try {
         file = IniFile::Read(reglages.fichier);
     } catch (const Failure &failure) {
-        reglages.messages.Report(failure, " GetINIFile");
+        PerdFichier(reglages.settings, reglages.messages, failure, " GetINIFile");
         return false;
     }
     bool whole = true;
@@ -157,6 +159,20 @@ bool Lit(const Reglages &reglages, const std::vector<Table> &tables) {
         }
     }
     return whole;
+}
+
+bool FichierManque(const Reglages &reglages) {
+    std::error_code error;
+    return reglages.settings.fichier.perdu || !std::filesystem::exists(reglages.fichier, error);
+}
+
+/// Chord, sheeting and the rest of a new program. They are in mm; in inches, which the file can
+/// only have lost on the way, the rib keeps what it has.
+void DefautsInternes(const Reglages &reglages) {
+    if (reglages.settings.Unite == kUniteMm) {
+        reglages.rib.Partie<Dimensions>() = {};
+        reglages.rib.bloc = {};
+    }
 }
 
 bool SameFolder(const std::string &one, const std::string &other) {
@@ -211,6 +227,14 @@ void ValeursDefaut(const Reglages &reglages, const std::string &programme) {
     reglages.settings.repertoires = {programme, programme, programme};
 }
 
+void PerdFichier(AppSettings &settings, const Messages &messages, const Failure &failure,
+                 const std::string &label) {
+    settings.fichier.perdu = true;
+    if (!std::exchange(settings.fichier.dit, true)) {
+        messages.Report(failure, label);
+    }
+}
+
 void EcritCouleurs(const Reglages &reglages) {
     Ecrit(reglages, {TableCouleurs(reglages)});
 }
@@ -230,8 +254,8 @@ void EcritMarges(const Reglages &reglages) {
     Ecrit(reglages, {TableMarges(reglages)});
 }
 
-void EcritTout(const Reglages &reglages) {
-    Ecrit(reglages, ToutesLesTables(reglages));
+bool EcritTout(const Reglages &reglages) {
+    return Ecrit(reglages, ToutesLesTables(reglages));
 }
 
 bool LitCouleurs(const Reglages &reglages) {
@@ -244,7 +268,11 @@ bool LitEpaisseurs(const Reglages &reglages) {
     return Lit(reglages, {TableEpaisseurs(reglages)});
 }
 bool LitDefauts(const Reglages &reglages) {
-    return Lit(reglages, {TableDefauts(reglages)});
+    const bool read = !FichierManque(reglages) && Lit(reglages, {TableDefauts(reglages)});
+    if (FichierManque(reglages)) {
+        DefautsInternes(reglages);
+    }
+    return read;
 }
 bool LitRepertoires(const Reglages &reglages) {
     return Lit(reglages, {TableRepertoires(reglages)});

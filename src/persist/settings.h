@@ -23,25 +23,32 @@ struct Reglages {
 void ValeursDefaut(const Reglages &reglages, const std::string &programme);
 
 /// Writers, one per family of sections, so that each dialog saves its own part. What the writing
-/// came to is not reported: a program that can't keep its settings still draws ribs.
+/// came to is not reported: a program that can't keep its settings still draws ribs. Only a file
+/// that is there and can't be read is told, once in a run.
 void EcritCouleurs(const Reglages &reglages);
 void EcritStyles(const Reglages &reglages);
 void EcritEpaisseurs(const Reglages &reglages); ///< widths and the text size
 void EcritDefauts(const Reglages &reglages);
 void EcritRepertoires(const Reglages &reglages);
 void EcritMarges(const Reglages &reglages);
-void EcritTout(const Reglages &reglages);
+/// False when the file could not be written.
+bool EcritTout(const Reglages &reglages);
 
 /// Readers. A key that isn't there reads as the empty text, and so as 0. A file that can't be read
 /// and a value that doesn't fit its field are reported in a box; the fields concerned stay as they
-/// are, and the reader gives false.
+/// are, and the reader gives false. That a file can't be read is told once in a run.
 bool LitCouleurs(const Reglages &reglages);
 bool LitStyles(const Reglages &reglages);
 bool LitEpaisseurs(const Reglages &reglages);
+/// The defaults of a cleared rib. Where the file is lost they are the built-in ones, never 0.
 bool LitDefauts(const Reglages &reglages);
 bool LitRepertoires(const Reglages &reglages);
 bool LitMarges(const Reglages &reglages);
 bool LitTout(const Reglages &reglages);
+
+/// Notes that the settings file can't be used, and tells the first failure of a run under `label`.
+void PerdFichier(AppSettings &settings, const Messages &messages, const Failure &failure,
+                 const std::string &label);
 
 /// Derives all lengths anew from their texts, after the unit has changed under them.
 void DeriveLongueurs(const Reglages &reglages);

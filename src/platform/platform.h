@@ -25,6 +25,12 @@ struct MessageBox {
     BoxAnswer fallback = BoxAnswer::ok; ///< the default button
 };
 
+/// What was answered to a box with a tick of its own.
+struct TickedAnswer {
+    BoxAnswer answer = BoxAnswer::ok;
+    bool ticked = false;
+};
+
 /// What a file chooser offers.
 struct FileQuestion {
     std::string title;
@@ -67,6 +73,8 @@ class Platform {
 
     /// Shows a box and waits for its answer. Closing the box is the answer "cancel" or "no".
     virtual BoxAnswer Show(const MessageBox &box) = 0;
+    /// The same with a box to tick below the text. It is ticked at first.
+    virtual TickedAnswer ShowWithTick(const MessageBox &box, const std::string &tick) = 0;
     /// From now on the buttons of boxes carry these words.
     virtual void SetButtonWords(const ButtonWords &words) = 0;
     /// Asks for one line of text; nothing when it is cancelled.

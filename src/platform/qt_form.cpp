@@ -5,18 +5,12 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QClipboard>
 #include <QDialog>
-#include <QFocusEvent>
-#include <QInputMethodEvent>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QScreen>
 #include <QShortcut>
 
 #include <algorithm>
-#include <iterator>
 
 namespace loftwing {
 
@@ -61,71 +55,6 @@ void CentreOn(QDialog &dialog, const QWidget &window) {
 }
 
 } // namespace
-
-NumericField::NumericField(std::string_view keys, QWidget *parent)
-    : QLineEdit(parent), keys_(Q(keys)) {
-    setInputMethodHints(Qt::ImhPreferNumbers | Qt::ImhNoPredictiveText);
-}
-
-bool NumericField::Admits(QChar character) const {
-    return keys_.isEmpty() || keys_.contains(character);
-}
-
-QString NumericField::Admitted(const QString &text) const {
-    QString admitted;
-    std::copy_if(text.begin(), text.end(), std::back_inserter(admitted),
-                 [this](QChar character) { return Admits(character); });
-    return admitted;
-}
-
-void NumericField::keyPressEvent(QKeyEvent *event) {
-    if (event->matches(QKeySequence::Paste)) {
-        insert(Admitted(QApplication::clipboard()->text()));
-        return;
-    }
-    // Keys without a character of their own (backspace, arrows, Return) and shortcuts go on. Ctrl
-    // and Alt together are the third level of some keyboards and give a character.
-    const QString typed = event->text();
-    const bool printable = !typed.isEmpty() && typed.front().isPrint();
-    const Qt::KeyboardModifiers held = event->modifiers();
-    const bool shortcut = (held & (Qt::ControlModifier | Qt::AltModifier)) == Qt::ControlModifier;
-    if (!printable || shortcut || Admitted(typed) == typed) {
-        QLineEdit::keyPressEvent(event);
-        return;
-    }
-    // Alt with a letter may still be somebody's access key.
-    event->setAccepted((held & (Qt::AltModifier | Qt::MetaModifier)) == 0);
-}
-
-void NumericField::inputMethodEvent(QInputMethodEvent *event) {
-    event->setCommitString(Admitted(event->commitString()), event->replacementStart(),
-                           event->replacementLength());
-    QLineEdit::inputMethodEvent(event);
-}
-
-void NumericField::focusInEvent(QFocusEvent *event) {
-    QLineEdit::focusInEvent(event);
-    // A context menu that closes gives the focus back; what it was opened for is still selected.
-    if (event->reason() == Qt::PopupFocusReason) {
-        return;
-    }
-    entered_by_press_ = event->reason() == Qt::MouseFocusReason;
-    selectAll();
-}
-
-void NumericField::mousePressEvent(QMouseEvent *event) {
-    // The press that brought the focus would drop the selection again.
-    if (entered_by_press_ && event->button() == Qt::LeftButton) {
-        event->accept();
-        return;
-    }
-    QLineEdit::mousePressEvent(event);
-}
-
-void NumericField::mouseReleaseEvent(QMouseEvent *event) {
-    entered_by_press_ = false;
-    QLineEdit::mouseReleaseEvent(event);
-}
 
 bool IsReturn(int key) {
     return key == Qt::Key_Return || key == Qt::Key_Enter;

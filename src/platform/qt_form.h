@@ -2,9 +2,8 @@
 #pragma once
 
 #include "lang/LngIni.h"
+#include "platform/qt_numeric_field.h"
 #include "platform/qt_text.h"
-
-#include <QLineEdit>
 
 #include <algorithm>
 #include <array>
@@ -24,35 +23,6 @@ class QLabel;
 namespace loftwing {
 
 class Platform;
-
-/// A field for a number. A typed character that its key set lacks is swallowed, and text pasted by
-/// key loses such characters; backspace, navigation, copying and setText() pass. The whole content
-/// is selected whenever the field gets the focus, by mouse too, so that typing replaces it.
-class NumericField : public QLineEdit {
-    Q_OBJECT
-
-  public:
-    explicit NumericField(QWidget *parent = nullptr) : NumericField({}, parent) {}
-    NumericField(std::string_view keys, QWidget *parent);
-
-    /// The characters that the field admits from now on (one of the sets of core/units.h); with
-    /// none it admits all. What the field holds stays.
-    void SetKeys(std::string_view keys) { keys_ = Q(keys); }
-
-  protected:
-    void keyPressEvent(QKeyEvent *event) override;
-    void inputMethodEvent(QInputMethodEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
-    void mousePressEvent(QMouseEvent *event) override;
-    void mouseReleaseEvent(QMouseEvent *event) override;
-
-  private:
-    QString keys_;
-    bool entered_by_press_ = false;
-
-    bool Admits(QChar character) const;
-    QString Admitted(const QString &text) const;
-};
 
 /// Whether a key of the toolkit is Return, of either block of keys.
 bool IsReturn(int key);
@@ -106,6 +76,10 @@ void GardePlace(QWidget &widget);
 
 /// Gives a widget a tool tip, shown as it stands even when it looks like markup.
 void SetTip(QWidget &widget, const std::string &tip);
+/// The same for a field, which may have its notation to tell too.
+inline void SetTip(NumericField &field, const std::string &tip) {
+    field.SetTip(tip);
+}
 
 /// Room for the names of most airfoils.
 inline constexpr int kNameLetters = 24;

@@ -5,6 +5,7 @@
 #include "platform/qt_text.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -122,6 +123,17 @@ void QtPlatform::SetHelp(std::function<void(int)> show, std::function<void()> cl
 }
 
 BoxAnswer QtPlatform::Show(const MessageBox &box) {
+    return Run(box, nullptr);
+}
+
+TickedAnswer QtPlatform::ShowWithTick(const MessageBox &box, const std::string &tick) {
+    QCheckBox ticked(Q(tick));
+    ticked.setChecked(true);
+    const BoxAnswer answer = Run(box, &ticked);
+    return {answer, ticked.isChecked()};
+}
+
+BoxAnswer QtPlatform::Run(const MessageBox &box, QCheckBox *tick) {
     const PointerPause pause;
     QMessageBox dialog(Asker());
     dialog.setIcon(IconOf(box.icon));
@@ -140,7 +152,11 @@ BoxAnswer QtPlatform::Show(const MessageBox &box) {
         }
     }
     dialog.setEscapeButton(buttons.back().button);
+    dialog.setCheckBox(tick);
     const int pressed = dialog.exec();
+    if (tick != nullptr) {
+        tick->setParent(nullptr); // the caller's, who still wants to know of it
+    }
     for (const BoxButton &button : buttons) {
         if (button.button == pressed) {
             return button.answer;

@@ -8,6 +8,7 @@
 
 #include <functional>
 
+class QCheckBox;
 class QWidget;
 
 namespace loftwing {
@@ -21,6 +22,7 @@ class QtPlatform : public Platform {
     void SetHelp(std::function<void(int)> show, std::function<void()> close);
 
     BoxAnswer Show(const MessageBox &box) override;
+    TickedAnswer ShowWithTick(const MessageBox &box, const std::string &tick) override;
     void SetButtonWords(const ButtonWords &words) override { words_ = words; }
     std::optional<std::string> Ask(const std::string &text, const std::string &title,
                                    const std::string &proposed) override;
@@ -50,6 +52,7 @@ class QtPlatform : public Platform {
     std::function<void()> close_help_;
     std::optional<QPageSize> paper_; ///< chosen in the toolkit's page set-up
 
+    BoxAnswer Run(const MessageBox &box, QCheckBox *tick);
     bool MayReplace(const std::string &path, const std::string &title);
     std::unique_ptr<Printer> OpenPdf(const PrintQuestion &question);
 };

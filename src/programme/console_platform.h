@@ -17,6 +17,10 @@ class ConsolePlatform : public Platform {
     const std::string &LastText() const { return last_text_; }
 
     BoxAnswer Show(const MessageBox &box) override;
+    /// Nobody can take the tick out; nor does a run of the command line remember anything.
+    TickedAnswer ShowWithTick(const MessageBox &box, const std::string &) override {
+        return {Show(box), false};
+    }
     void SetButtonWords(const ButtonWords &) override {}
     std::optional<std::string> Ask(const std::string &text, const std::string &title,
                                    const std::string &proposed) override;

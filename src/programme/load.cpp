@@ -1,6 +1,7 @@
 #include "programme/load.h"
 
 #include "base/number_text.h"
+#include "base/version.h"
 #include "output/page_setup.h"
 
 namespace loftwing {
@@ -17,7 +18,7 @@ void LitOuEcrit(Programme &programme) {
         GetINIFile("Repertoires", "Install", programme.paths.fichier).empty();
     if (programme.PremierDemarrage) {
         ReadInstallFolders(reglages, folder);
-        EcritTout(reglages);
+        programme.settings.fichier.perdu = !EcritTout(reglages);
     } else {
         LitTout(reglages);
     }
@@ -32,15 +33,28 @@ void ChargeReglages(Programme &programme) {
     programme.settings.Unite = kUniteMm;
     try {
         LitOuEcrit(programme);
-    } catch (const Failure &failure) {
-        programme.messages.Report(failure, " Main/Form_Load");
+    } catch (const Failure &) {
+        programme.settings.fichier.perdu = true;
         programme.settings.Unite = kUniteMm;
         ValeursDefaut(programme.ReglagesEnCours(), programme.paths.programme);
     }
+    DitReglagesPerdus(programme);
     ControlRep(programme.ReglagesEnCours(), programme.paths.programme);
     // Sheets of different days have the reference line at one height: another place holds for one
     // run of the program.
     ReplaceYdprint(programme.settings.page, programme.settings.Unite);
+}
+
+void DitReglagesPerdus(Programme &programme) {
+    FichierReglages &file = programme.settings.fichier;
+    const std::string words = programme.Text({"Message", "142"});
+    if (!file.perdu || file.dit || words.empty()) {
+        return;
+    }
+    file.dit = true;
+    programme.messages.Tell(words + "\n" + programme.paths.fichier + "\n" +
+                                programme.Text({"Message", "143"}),
+                            kTitre, BoxIcon::warning);
 }
 
 void FinPremierDemarrage(Programme &programme) {
@@ -49,8 +63,11 @@ void FinPremierDemarrage(Programme &programme) {
 }
 
 void NoteRecent(Programme &programme, const std::string &path) {
-    programme.messages.Garde(
-        kLabelRecents, [&programme, &path] { NoteFichierRecent(path, programme.paths.fichier); });
+    try {
+        NoteFichierRecent(path, programme.paths.fichier);
+    } catch (const Failure &failure) {
+        PerdFichier(programme.settings, programme.messages, failure, kLabelRecents);
+    }
 }
 
 void EntreProfil(Programme &programme) {
@@ -62,7 +79,7 @@ FichiersRecents FichiersRecentsConnus(Programme &programme) {
     try {
         return LitFichiersRecents(programme.paths.fichier);
     } catch (const Failure &failure) {
-        programme.messages.Report(failure, kLabelRecents);
+        PerdFichier(programme.settings, programme.messages, failure, kLabelRecents);
         return {};
     }
 }

@@ -7,20 +7,23 @@ namespace loftwing {
 
 /// Reads the settings file into the program, or writes it in full on a first run (then
 /// PremierDemarrage is set), and looks after the airfoil folders. A settings file that can't be
-/// read is reported under " Main/Form_Load", and the built-in defaults hold.
+/// read or made is told once, and the built-in defaults hold for this run.
 void ChargeReglages(Programme &programme);
+
+/// Tells once that the settings file can't be used, as soon as there is a language to say it in.
+void DitReglagesPerdus(Programme &programme);
 
 /// Marks the first run as over.
 void FinPremierDemarrage(Programme &programme);
 
-/// Notes a file among the recent ones. A failure is reported: an airfoil can be worked on although
-/// the list can't be kept.
+/// Notes a file among the recent ones. A failure is told, once in a run: an airfoil can be worked
+/// on although the list can't be kept.
 void NoteRecent(Programme &programme, const std::string &path);
 
 /// A new airfoil takes over the rib: heel and washout reset, the file noted among the recent ones.
 void EntreProfil(Programme &programme);
 
-/// The recent files; none, with a box, when the settings file can't be read.
+/// The recent files; none when the settings file can't be read, which is told once in a run.
 FichiersRecents FichiersRecentsConnus(Programme &programme);
 
 /// The values of a cleared rib: no airfoil, no features, the plain view. The user's defaults are

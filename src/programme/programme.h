@@ -37,6 +37,7 @@ struct Programme {
     Platform &platform;
     Messages messages{platform, language};
     bool PremierDemarrage = false; ///< no settings file was there
+    bool SeparateurDit = false;    ///< this run has told of a decimal separator that is no point
 
     std::string Text(LngKey key) const { return language.LngText(key); }
     Saisie SaisieEnCours() const { return {settings.Unite, messages}; }

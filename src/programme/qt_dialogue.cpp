@@ -91,13 +91,21 @@ void Dialogue::PoseMotsPartages() {
     }
 }
 
+void Dialogue::AdmetTouches(NumericField &field, std::string_view mm, std::string_view in) const {
+    field.SetKeys(TouchesSelonUnite(programme_.settings.Unite, mm, in));
+    field.SetNotation(programme_.Text({"Message", "140"}));
+}
+
 void Dialogue::AdmetLongueur(NumericField &field) const {
-    field.SetKeys(TouchesSelonUnite(programme_.settings.Unite, kTouchesPositif, kTouchesFraction));
+    AdmetTouches(field, kTouchesPositif, kTouchesFraction);
 }
 
 void Dialogue::AdmetLongueurSignee(NumericField &field) const {
-    field.SetKeys(
-        TouchesSelonUnite(programme_.settings.Unite, kTouchesSigne, kTouchesFractionSigne));
+    AdmetTouches(field, kTouchesSigne, kTouchesFractionSigne);
+}
+
+void Dialogue::AdmetPlace(NumericField &field) const {
+    AdmetTouches(field, kTouchesPourcent, kTouchesFractionPourcent);
 }
 
 } // namespace loftwing

@@ -10,6 +10,7 @@
 #include <array>
 #include <initializer_list>
 #include <string>
+#include <string_view>
 #include <variant>
 
 class QBoxLayout;
@@ -58,9 +59,11 @@ class Dialogue : public QDialog {
     /// The window's caption, which titles its boxes.
     std::string Titre() const { return S(windowTitle()); }
 
-    /// Lets a field take lengths in the unit in force.
+    /// Lets a field take lengths in the unit in force. In inches its tool tip tells the notation.
     void AdmetLongueur(NumericField &field) const;
     void AdmetLongueurSignee(NumericField &field) const;
+    /// A length, or a percentage of the chord.
+    void AdmetPlace(NumericField &field) const;
     template <class Fields>
     void AdmetLongueurs(Fields &fields) const {
         for (NumericField &field : fields) {
@@ -91,6 +94,7 @@ class Dialogue : public QDialog {
     bool EnCours = false; ///< an action of Seul is at work, perhaps waiting in a box
     std::array<QPushButton *, kPartages> partages_{}; ///< by SharedWord; null: not asked for
 
+    void AdmetTouches(NumericField &field, std::string_view mm, std::string_view in) const;
     QPushButton *MakeBouton(SharedWord word);
     /// Runs the handler of a shared button; a failure that it lets pass is told under both names.
     void Repond(SharedWord word, void (Dialogue::*handler)());

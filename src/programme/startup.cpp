@@ -1,6 +1,7 @@
 #include "programme/startup.h"
 
 #include "base/version.h"
+#include "programme/load.h"
 
 #include <filesystem>
 
@@ -10,12 +11,24 @@ namespace {
 
 constexpr char kPoint = '.';
 
-std::string LangueNotee(const Programme &programme) {
+/// Where the settings file notes that the warning of the separator isn't wanted again.
+constexpr const char *kSection = "Separateur";
+constexpr const char *kCle = "Dit";
+
+std::string LangueNotee(Programme &programme) {
     try {
         return GetINIFile("Language", "Langue", programme.paths.fichier);
-    } catch (const Failure &failure) {
-        programme.messages.Report(failure, " GetINIFile");
+    } catch (const Failure &) {
+        programme.settings.fichier.perdu = true; // told when there is a language for it
         return {};
+    }
+}
+
+bool SeparateurNote(const Programme &programme) {
+    try {
+        return !GetINIFile(kSection, kCle, programme.paths.fichier).empty();
+    } catch (const Failure &) {
+        return false; // a settings file that can't be read is told where settings are read
     }
 }
 
@@ -45,6 +58,25 @@ void Charge(Programme &programme, const std::string &name) {
     }
 }
 
+/// Whether the user still has to hear of a separator that is no point. Once is enough: numbers are
+/// typed with either sign, and nothing that is written depends on it.
+bool SeparateurADire(const Programme &programme) {
+    return programme.platform.DecimalSeparator() != kPoint && !programme.SeparateurDit &&
+           !SeparateurNote(programme);
+}
+
+/// Shows the warning of the separator. What its tick says is kept whatever the answer is.
+BoxAnswer DitSeparateur(Programme &programme, const MessageBox &box) {
+    const TickedAnswer told =
+        programme.platform.ShowWithTick(box, programme.Text({"Message", "141"}));
+    programme.SeparateurDit = true;
+    if (told.ticked) {
+        // Where settings can't be kept, the next start tells it again.
+        WriteINIFile(kSection, kCle, "1", programme.paths.fichier);
+    }
+    return told.answer;
+}
+
 } // namespace
 
 void ChargeLangue(Programme &programme, const std::function<void()> &choose) {
@@ -55,10 +87,12 @@ void ChargeLangue(Programme &programme, const std::function<void()> &choose) {
     }
     Charge(programme, name);
     programme.language.LangueAbsente = false;
+    programme.messages.PoseMotsDesBoutons();
+    DitReglagesPerdus(programme);
 }
 
 bool ControleSeparateur(Programme &programme) {
-    if (programme.platform.DecimalSeparator() == kPoint) {
+    if (!SeparateurADire(programme)) {
         return true;
     }
     const Messages &messages = programme.messages;
@@ -68,8 +102,8 @@ bool ControleSeparateur(Programme &programme) {
         messages.Text({"Message", "12"}) + "\n" + messages.Text({"Message", "13"}) + "\n" +
         messages.Text({"Message", "14"}) + "\n" + messages.Text({"Message", "25"}) + "\n" +
         messages.Text({"Message", "15"});
-    const BoxAnswer quit = programme.platform.Show(
-        MessageBox{text, title, BoxIcon::warning, BoxButtons::yes_no, BoxAnswer::no});
+    const BoxAnswer quit = DitSeparateur(
+        programme, {text, title, BoxIcon::warning, BoxButtons::yes_no, BoxAnswer::no});
     if (quit == BoxAnswer::yes) {
         return false;
     }
@@ -79,7 +113,7 @@ bool ControleSeparateur(Programme &programme) {
 }
 
 bool ControleSeparateurCommande(Programme &programme, LngKey tip) {
-    if (programme.platform.DecimalSeparator() == kPoint) {
+    if (!SeparateurADire(programme)) {
         return true;
     }
     const Messages &messages = programme.messages;
@@ -88,8 +122,8 @@ bool ControleSeparateurCommande(Programme &programme, LngKey tip) {
         messages.Text({"Message", "25"}) + "\n" + messages.Text({"Message", "27"}) + " : " +
         messages.Text(tip) + "\n" + messages.Text({"Message", "26"});
     const BoxAnswer answer =
-        programme.platform.Show(MessageBox{text, messages.Text({"Message", "16"}), BoxIcon::warning,
-                                           BoxButtons::ok_cancel, BoxAnswer::ok});
+        DitSeparateur(programme, {text, messages.Text({"Message", "16"}), BoxIcon::warning,
+                                  BoxButtons::ok_cancel, BoxAnswer::ok});
     return answer != BoxAnswer::cancel;
 }
 

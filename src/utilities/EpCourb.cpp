@@ -153,7 +153,8 @@ TextesEpCourb OuvreEpCourb(RibModel &rib, const std::string &Unite) {
         shown.Label5 = TexteEpaisseurMaxi(rib, rib.NouvEpaisseur, Unite);
     }
     shown.txtCourbureOr = Pourcent(rib.CambrureMaxi);
-    shown.champs.txtCourbure = Pourcent(rib.NouvCambrure);
+    // From 0 on, whoever changed the thickness alone would lose the camber.
+    shown.champs.txtCourbure = shown.txtCourbureOr;
     return shown;
 }
 

@@ -12,6 +12,8 @@ namespace loftwing {
 struct ChampsEpCourb {
     std::string txtEpR;      ///< thickness
     std::string txtCourbure; ///< camber
+
+    bool operator==(const ChampsEpCourb &) const = default;
 };
 
 /// What the window shows when it opens.
@@ -20,7 +22,7 @@ struct TextesEpCourb {
     std::string txtCourbureOr;
     std::string Label4;   ///< its greatest thickness as a length
     std::string Label5;   ///< that of the new airfoil; empty before there is one
-    ChampsEpCourb champs; ///< of the airfoil applied last
+    ChampsEpCourb champs; ///< to start from: the thickness applied last, the camber as it is
 };
 
 /// Caption of the window, which titles its boxes too.

@@ -68,6 +68,7 @@ void frmEpCourb::Applique() {
     if (!applied) {
         return;
     }
+    appliques_ = champs;
     Label5.setText(Q(TexteEpaisseurMaxi(rib, rib.NouvEpaisseur, programme_.settings.Unite)));
     view_.afficheEpcourb();
     if (!rib.ProfilCharge) {
@@ -76,9 +77,21 @@ void frmEpCourb::Applique() {
     }
 }
 
+/// Takes what was typed since Apply, for the name and the title of the file are made of the fields
+/// and its points of what was applied. Applying the same again would round it twice.
+bool frmEpCourb::AppliqueSaisie() {
+    if (Champs() != appliques_) {
+        Applique();
+    }
+    return isVisible() && programme_.rib.ModeEpCourb;
+}
+
 void frmEpCourb::Sauve() {
     if (!programme_.rib.ModeEpCourb) {
         Avertit(programme_.Text({"FrmEpCourb", "15"}));
+        return;
+    }
+    if (!AppliqueSaisie()) {
         return;
     }
     std::string &folder = programme_.settings.repertoires.RepProfilevol;

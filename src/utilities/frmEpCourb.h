@@ -28,6 +28,7 @@ class frmEpCourb : public Dialogue {
 
   private:
     MainView &view_;
+    ChampsEpCourb appliques_;  ///< what the new airfoil was computed from
     bool EpCourbSauve = false; ///< the new airfoil went to a file since the dialog was opened
     std::string FichierEpCourb;
 
@@ -52,6 +53,7 @@ class frmEpCourb : public Dialogue {
     ChampsEpCourb Champs() const;
     void Avertit(const std::string &text) const;
     void Applique();
+    bool AppliqueSaisie();
     void Sauve();
     void Ecrit(const std::string &path);
     void CmdApply_Click() override;

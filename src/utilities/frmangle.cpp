@@ -24,6 +24,7 @@ void frmangle::Form_Load() {
     setWindowTitle(Q(programme_.Text({"FrmAngle", "1"}) + " " + programme_.settings.Unite));
     PoseTextes();
     AdmetLongueurs(Text1);
+    Text1[kChampAngle].SetNotation({}); // degrees
     Text1[kChampAngle].setText(kAngleUsuel);
     Option1[kGabaritDonne].setChecked(true);
     Option1_Click(kGabaritDonne);

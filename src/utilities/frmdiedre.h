@@ -6,13 +6,15 @@
 #include "utilities/qt_diedre_sketch.h"
 
 #include <QLabel>
+#include <QPushButton>
 
 #include <array>
 
 namespace loftwing {
 
-/// Angle, length and height; a double click into one of the fields, or Return in it, computes it
-/// from the other two. Stays open beside the main window and has nothing to do with the rib.
+/// Angle, length and height, one of them computed from the other two: by a double click the one
+/// that is clicked, by the button or Return one that wasn't just typed. Stays open beside the main
+/// window and has nothing to do with the rib.
 class frmdiedre : public Dialogue {
     Q_OBJECT
 
@@ -31,13 +33,21 @@ class frmdiedre : public Dialogue {
     QLabel Label2;
     QLabel Label3;
     DiedreSketch Image1;
+    QPushButton cmdcalcul;
+    std::array<int, kChampsDiedre> saisies_{}; ///< when each was typed last, 0: computed or never
+    int saisie_ = 0;
 
     // frmdiedre_build.cpp
     void NameAll();
     void LayOut();
 
     void Form_Load();
+    void NoteSaisie(int index);
+    int ChampACalculer() const;
+    void Calcule(int index);
     void txt_dblClick(int index);
+    void txt_Return(int index);
+    void cmdcalcul_Click();
 };
 
 } // namespace loftwing

@@ -8,8 +8,11 @@
 namespace loftwing {
 
 void frmdiedre::NameAll() {
-    NameControls(
-        {{&Label1, "Label1"}, {&Label2, "Label2"}, {&Label3, "Label3"}, {&Image1, "Image1"}});
+    NameControls({{&Label1, "Label1"},
+                  {&Label2, "Label2"},
+                  {&Label3, "Label3"},
+                  {&Image1, "Image1"},
+                  {&cmdcalcul, "cmdcalcul"}});
     NameControls(txt, "txt");
 }
 
@@ -22,7 +25,7 @@ void frmdiedre::LayOut() {
     auto *rows = new QVBoxLayout(this);
     rows->addWidget(&Image1, 1);
     rows->addLayout(grid);
-    PoseBoutons(*rows, {SharedWord::ok, SharedWord::help});
+    PoseBoutons(*rows, {SharedWord::ok, SharedWord::help}, &cmdcalcul);
 }
 
 } // namespace loftwing

@@ -19,12 +19,13 @@ frmnervure::frmnervure(Programme &programme, QWidget *parent)
 
 void frmnervure::Form_Load() {
     PoseTextes();
-    AdmetLongueurs(txtnerv);
     cmdprintnerv.setEnabled(false);
     SelectField(txtnerv[kNervCordeMaj]);
 }
 
 void frmnervure::PoseTextes() {
+    AdmetLongueurs(txtnerv);
+    txtnerv[kNervNbInter].SetNotation({}); // a count
     setWindowTitle(Q(programme_.Text({"FrmNervure", "1"}) + " " + programme_.settings.Unite));
     Label1.setText(Mot({"FrmNervure", "7"}));
     Label2.setText(Mot({"FrmNervure", "4"}));

@@ -53,6 +53,9 @@ void frmribevol2::PoseTextes() {
         label.setText(QString::number(k));
         label.setFocusPolicy(Qt::TabFocus);
         label.setCursor(Qt::PointingHandCursor);
+        QFont font = label.font();
+        font.setUnderline(true); // as what can be clicked is
+        label.setFont(font);
         SetTip(label, programme_.Text({"FrmRibevol2", "7T"}));
     }
 }

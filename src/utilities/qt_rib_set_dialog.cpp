@@ -92,6 +92,12 @@ const std::string &RibSetDialog::Dossier() {
     return folder;
 }
 
+bool RibSetDialog::ConfirmeRemplacement(const JeuDeNervures &jeu) const {
+    const Messages &messages = programme_.messages;
+    const FichiersEcrits replaced = FichiersRemplaces(jeu, ecrits_, messages);
+    return replaced.empty() || messages.Confirm(TexteRemplacement(replaced, messages), Titre());
+}
+
 /// The rib files, with a progress where they take long.
 void RibSetDialog::EcritFichiers(const JeuDeNervures &jeu) {
     const Sablier sablier(programme_.platform);
@@ -117,9 +123,13 @@ bool RibSetDialog::EssaieEcrire(const std::function<void()> &action) {
 }
 
 void RibSetDialog::Ecrit(const JeuDeNervures &jeu, const std::string &resultat) {
+    if (!ConfirmeRemplacement(jeu)) {
+        return;
+    }
     if (EssaieEcrire([&] { EcritFichiers(jeu); })) {
         programme_.messages.Inform(resultat, Titre());
         EssaieEcrire([&] { EcritResume(jeu); });
+        ecrits_.merge(FichiersDuJeu(jeu, programme_.messages));
     }
 }
 

@@ -4,6 +4,7 @@
 #include "programme/main_view.h"
 #include "programme/qt_dialogue.h"
 #include "utilities/rib_set.h"
+#include "utilities/rib_set_files.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -60,7 +61,8 @@ class RibSetDialog : public Dialogue {
     bool Refuse(const std::optional<RefusJeu> &refus);
     /// Runs what may fail; a failure is told in the words of the sets. True when it went well.
     bool Essaie(const std::function<void()> &action);
-    /// Writes the files of a set, shows `resultat` and writes the summary.
+    /// Writes the files of a set, shows `resultat` and writes the summary. Files of another set are
+    /// replaced only after a question.
     void Ecrit(const JeuDeNervures &jeu, const std::string &resultat);
     /// The folder of the files, ending in a separator.
     const std::string &Dossier();
@@ -72,6 +74,7 @@ class RibSetDialog : public Dialogue {
 
   private:
     std::array<ProfilJeu, 2> profils_;
+    FichiersEcrits ecrits_; ///< by this window: a set may be made anew without a question
 
     void NommeCommuns();
     void cmdouvrir_Click(int index);
@@ -79,6 +82,7 @@ class RibSetDialog : public Dialogue {
     void cmdcalcul_Click();
     void cmdannuler_Click() override;
 
+    bool ConfirmeRemplacement(const JeuDeNervures &jeu) const;
     void EcritFichiers(const JeuDeNervures &jeu);
     bool EssaieEcrire(const std::function<void()> &action);
 };

@@ -46,6 +46,22 @@ TEST_F(PageEntry, EachTextBoxHasItsOwnPair) {
     EXPECT_EQ(FailureOf([&] { PrendTexte(page, 4, "1", Typing()); }), 9);
 }
 
+TEST_F(PageEntry, CountsWithTheTextsNotWithWhatAPrintLeftBehind) {
+    page.recouvrement = 0; // a rib of one sheet was printed; the text still says 20
+    ReprendTextes(page, Typing());
+    EXPECT_EQ(page.recouvrement, 20.0F);
+    EXPECT_EQ(page.MargeHaut, 10.0F);
+    EXPECT_EQ(TextesDe(page), (TextesPage{"50", "10", "15", "20"}));
+    // A text that is no length isn't told before somebody touches it.
+    Unite = kUniteIn;
+    page.MargeHautAfich = "/8";
+    page.MargeHaut = 12.7F;
+    page.recouvrementAfich = "1/2";
+    ReprendTextes(page, Typing());
+    EXPECT_EQ(page.MargeHaut, 12.7F);
+    EXPECT_EQ(page.recouvrement, 12.7F);
+}
+
 TEST_F(PageEntry, InchesAreTypedAsFractions) {
     Unite = kUniteIn;
     PrendTextes(page, {"2.3/8", "1/2", "1.5", ""}, Typing());

@@ -1,6 +1,8 @@
 #include "programme/startup.h"
 
 #include "base/version.h"
+#include "persist/default_entry.h"
+#include "programme/load.h"
 #include "support/scripted_platform.h"
 #include "support/temp_folder.h"
 
@@ -14,10 +16,13 @@ namespace {
 class StartupTest : public testing::Test {
   protected:
     StartupTest() {
-        folder.File("One.lng", "[Message]\n10=ten\n11=eleven\n12=twelve\n13=thirteen\n"
-                               "14=fourteen\n15=fifteen\n16=sixteen\n25=twentyfive\n"
-                               "26=twentysix\n27=command\n[MenuOutils]\n5t=tip\n"
-                               "[Erreur]\n1=Error\n2=in\n");
+        folder.File("One.lng",
+                    "[Message]\n10=ten\n11=eleven\n12=twelve\n13=thirteen\n"
+                    "14=fourteen\n15=fifteen\n16=sixteen\n25=twentyfive\n"
+                    "26=twentysix\n27=command\n141=again\n"
+                    "142=lost\n143=built in\n[TextButton]\n1=fine\n2=stop\n30=yea\n31=nay\n"
+                    "32=once more\n[MenuOutils]\n5t=tip\n"
+                    "[Erreur]\n1=Error\n2=in\n");
         folder.File("Two.lng", "[Message]\n10=dix\n");
     }
 
@@ -102,15 +107,54 @@ TEST_F(StartupTest, UnreadableLanguageFileIsReportedAndTextsStayEmpty) {
     EXPECT_EQ(platform.boxes[0].title, " GetINIFile");
 }
 
-TEST_F(StartupTest, UnreadableSettingsFileIsReportedAndTheLanguageAskedFor) {
+TEST_F(StartupTest, ASettingsFileThatCannotBeReadIsToldOnceAndInTheLanguageThatIsChosen) {
     std::filesystem::create_directory(folder.Path("Loftwing.ini"));
-    platform.Expect(BoxAnswer::ok);
-    platform.Expect(BoxAnswer::ok);
-    ChargeLangue(programme, [&] { programme.language.Charge(folder.Path(), "One"); });
+    platform.Expect(BoxAnswer::ok, {.text = "lost\n" + folder.Path("Loftwing.ini") + "\nbuilt in",
+                                    .icon = BoxIcon::warning});
+    ChargeLangue(programme, [&] {
+        ChargeReglages(programme); // the window is made for the language dialog
+        programme.language.Charge(folder.Path(), "One");
+    });
     EXPECT_EQ(programme.language.LangueCourante, "One");
-    for (const MessageBox &box : platform.boxes) {
-        EXPECT_EQ(box.title, " GetINIFile");
-    }
+    EXPECT_EQ(programme.rib.corde, 200.0F);
+    ChargeReglages(programme);
+    EXPECT_TRUE(FichiersRecentsConnus(programme).front().empty());
+    NoteRecent(programme, "/a.dat");
+    EXPECT_EQ(platform.boxes.size(), 1U);
+}
+
+TEST_F(StartupTest, AFolderThatTakesNoSettingsLeavesTheBuiltInDefaultsAndIsToldOnce) {
+    programme.paths.fichier = folder.Path("no/such/folder/Loftwing.ini");
+    programme.language.Charge(folder.Path(), "One");
+    platform.Expect(BoxAnswer::ok, {.text = "lost\n" + programme.paths.fichier + "\nbuilt in"});
+    ChargeReglages(programme);
+    programme.rib.corde = 140;
+    programme.rib.cordeAfich = "140";
+    EXPECT_TRUE(programme.settings.fichier.perdu);
+    VideRib(programme);
+    LitDefauts(programme.ReglagesEnCours());
+    EXPECT_EQ(programme.rib.corde, 200.0F);
+    EXPECT_EQ(programme.rib.cordeAfich, "200");
+    EXPECT_EQ(programme.rib.EpCoffrage, 1.5F);
+    EXPECT_EQ(programme.settings.Unite, kUniteMm);
+    EXPECT_EQ(TextesDefautConnus(programme.settings, programme.paths.fichier),
+              (TextesDefaut{"200", "1.5", "0", "0", "0", "0"}));
+    ChargeReglages(programme);
+    EXPECT_EQ(platform.boxes.size(), 1U);
+}
+
+TEST_F(StartupTest, BoxesSpeakTheLanguageAsSoonAsItIsLoaded) {
+    Note("One");
+    platform.decimal_separator = ',';
+    platform.Expect(BoxAnswer::yes, {.meanwhile = [this] {
+                        EXPECT_EQ(platform.button_words.ok, "fine");
+                        EXPECT_EQ(platform.button_words.cancel, "stop");
+                        EXPECT_EQ(platform.button_words.yes, "yea");
+                        EXPECT_EQ(platform.button_words.no, "nay");
+                        EXPECT_EQ(platform.button_words.retry, "once more");
+                    }});
+    ChargeLangue(programme, NobodyAsked);
+    EXPECT_FALSE(ControleSeparateur(programme));
 }
 
 TEST_F(StartupTest, PointAsSeparatorAsksNothing) {
@@ -147,15 +191,42 @@ TEST_F(StartupTest, CommandWarnsWithItsTipAndCancelStopsIt) {
     programme.language.Charge(folder.Path(), "One");
     platform.decimal_separator = ',';
     platform.Expect(BoxAnswer::cancel);
-    platform.Expect(BoxAnswer::ok);
     EXPECT_FALSE(ControleSeparateurCommande(programme, {"MenuOutils", "5t"}));
-    EXPECT_TRUE(ControleSeparateurCommande(programme, {"MenuOutils", "5t"}));
-    ASSERT_EQ(platform.boxes.size(), 2U);
+    EXPECT_TRUE(ControleSeparateurCommande(programme, {"MenuOutils", "5t"})) << "told once";
+    ASSERT_EQ(platform.boxes.size(), 1U);
     const MessageBox &box = platform.boxes[0];
     EXPECT_EQ(box.text, "eleven\nfourteen\ntwentyfive\ncommand : tip\ntwentysix");
     EXPECT_EQ(box.title, "sixteen");
     EXPECT_EQ(box.icon, BoxIcon::warning);
     EXPECT_EQ(box.buttons, BoxButtons::ok_cancel);
+}
+
+TEST_F(StartupTest, TheSeparatorIsToldOnceForAll) {
+    programme.language.Charge(folder.Path(), "One");
+    platform.decimal_separator = ',';
+    platform.Expect(BoxAnswer::no);
+    platform.Expect(BoxAnswer::ok);
+    EXPECT_TRUE(ControleSeparateur(programme));
+    EXPECT_TRUE(ControleSeparateurCommande(programme, {"MenuOutils", "5t"}));
+    EXPECT_EQ(platform.ticks_offered, std::vector<std::string>({"again"}));
+
+    Programme next(programme.paths, platform);
+    EXPECT_TRUE(ControleSeparateur(next));
+    EXPECT_TRUE(ControleSeparateurCommande(next, {"MenuOutils", "5t"}));
+    EXPECT_EQ(platform.boxes.size(), 2U);
+}
+
+TEST_F(StartupTest, WithoutItsTickTheSeparatorIsToldAtTheNextStart) {
+    programme.language.Charge(folder.Path(), "One");
+    platform.decimal_separator = ',';
+    platform.leaves_ticks = false;
+    platform.Expect(BoxAnswer::cancel);
+    EXPECT_FALSE(ControleSeparateurCommande(programme, {"MenuOutils", "5t"}));
+    EXPECT_TRUE(ControleSeparateur(programme)) << "this run has told it";
+
+    Programme next(programme.paths, platform);
+    platform.Expect(BoxAnswer::yes);
+    EXPECT_FALSE(ControleSeparateur(next));
 }
 
 } // namespace

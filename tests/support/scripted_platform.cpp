@@ -79,6 +79,11 @@ BoxAnswer ScriptedPlatform::Show(const MessageBox &box) {
     return expected.answer;
 }
 
+TickedAnswer ScriptedPlatform::ShowWithTick(const MessageBox &box, const std::string &tick) {
+    ticks_offered.push_back(tick);
+    return {Show(box), leaves_ticks};
+}
+
 std::optional<std::string> ScriptedPlatform::Ask(const std::string &text, const std::string &,
                                                  const std::string &) {
     return Next(texts_expected, "entry: " + text);

@@ -63,6 +63,8 @@ class ScriptedPlatform : public Platform {
     ButtonWords button_words;
     Pointer pointer = Pointer::normal;
     char decimal_separator = '.';
+    bool leaves_ticks = true;               ///< as boxes have them at first
+    std::vector<std::string> ticks_offered; ///< by boxes with one
     bool programs_start = true;
     std::string printer_name = "Test printer";
     /// Makes the printer of a job; by default the user cancels.
@@ -70,6 +72,7 @@ class ScriptedPlatform : public Platform {
     std::vector<PrintQuestion> print_questions;
 
     BoxAnswer Show(const MessageBox &box) override;
+    TickedAnswer ShowWithTick(const MessageBox &box, const std::string &tick) override;
     void SetButtonWords(const ButtonWords &words) override { button_words = words; }
     std::optional<std::string> Ask(const std::string &text, const std::string &title,
                                    const std::string &proposed) override;

@@ -64,23 +64,24 @@ TEST_F(EpCourb, OpensWithTheAirfoilsValues) {
     EXPECT_EQ(shown.Label4, " 30.1 mm");
     EXPECT_EQ(shown.Label5, "");
     EXPECT_EQ(shown.champs.txtEpR, "0.00");
-    EXPECT_EQ(shown.champs.txtCourbure, "0.00");
+    EXPECT_EQ(shown.champs.txtCourbure, "2.00") << "the present one";
     EXPECT_EQ(rib.TypeGabarit, kSansGabarit);
     EXPECT_FALSE(rib.ModeEpCourb);
     EXPECT_EQ(TitreEpCourb(rib, world.messages), "<FrmEpCourb 1> naca2412");
 }
 
-TEST_F(EpCourb, OpensWithTheValuesAppliedLastInTheUnitInForce) {
+TEST_F(EpCourb, OpensWithTheThicknessAppliedLastAndThePresentCamber) {
     world.settings.Unite = " in";
     world.rib.corde = 254;
     world.rib.EpMaxi = 0.125; // 1.25 in
     world.rib.NouvEpaisseur = 0.1;
     world.rib.NouvCambrure = 0.035;
+    world.rib.CambrureMaxi = 0.02;
     const TextesEpCourb shown = Open();
     EXPECT_EQ(shown.Label4, "1.1/4 in");
     EXPECT_EQ(shown.Label5, " 1. in");
     EXPECT_EQ(shown.champs.txtEpR, "10.00");
-    EXPECT_EQ(shown.champs.txtCourbure, "3.50");
+    EXPECT_EQ(shown.champs.txtCourbure, "2.00");
 }
 
 TEST_F(EpCourb, ACamberBelowAThousandthIsZeroForGood) {

@@ -33,6 +33,8 @@ inline constexpr std::string_view kMotsJeu = R"([MainTolbar]
 21=Set of
 22=ribs
 23=Summary
+140=there
+141=replace?
 [FrmRibevol2]
 2=major
 3=minor

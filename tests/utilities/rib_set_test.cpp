@@ -1,5 +1,6 @@
 // Stations, lookups and files that both rib sets share.
 
+#include "utilities/rib_set_files.h"
 #include "utilities/rib_set_fixture.h"
 
 #include "support/failures.h"
@@ -227,6 +228,29 @@ TEST_F(RibSetFiles, WritingAgainReplacesWithoutAQuestion) {
     SaveProfil(Even("300", "100", "1"), messages);
     EXPECT_EQ(Lines("root&tipR01.dat")[0], "Rib 1 Chord :  300.00");
     EXPECT_TRUE(words.platform.boxes.empty());
+}
+
+TEST_F(RibSetFiles, FilesOfAnotherSetAreThoseThatAreThereAndWereNotJustWritten) {
+    const JeuDeNervures jeu = Even("200", "100", "1");
+    const std::string dir = jeu.dossier;
+    EXPECT_EQ(FichiersDuJeu(jeu, messages),
+              (FichiersEcrits{dir + "root&tipR01.dat", dir + "root&tipR02.dat",
+                              dir + "root&tipR03.dat", dir + "root&tip_200_100_3.txt"}));
+    EXPECT_TRUE(FichiersRemplaces(jeu, {}, messages).empty());
+    SaveProfil(jeu, messages);
+    EXPECT_EQ(FichiersRemplaces(jeu, {dir + "root&tipR02.dat"}, messages),
+              (FichiersEcrits{dir + "root&tipR01.dat", dir + "root&tipR03.dat"}));
+}
+
+TEST_F(RibSetFiles, TheQuestionNamesTheFirstSixFilesAndTellsHowManyThereAre) {
+    FichiersEcrits files;
+    for (const char *name : {"a", "b", "c", "d", "e", "f"}) {
+        files.insert(std::string("/sets/") + name);
+    }
+    EXPECT_EQ(TexteRemplacement(files, messages), "there\n/sets\n\na\nb\nc\nd\ne\nf\n\nreplace?");
+    files.insert("/sets/g");
+    EXPECT_EQ(TexteRemplacement(files, messages),
+              "there\n/sets\n\na\nb\nc\nd\ne\nf\n... (7)\n\nreplace?");
 }
 
 TEST_F(RibSetFiles, NinetyRibsBetweenGiveNinetyTwoFilesAndTellEachStep) {

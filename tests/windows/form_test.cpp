@@ -8,10 +8,15 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QInputMethodEvent>
+#include <QMenu>
+#include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
 #include <QTest>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <array>
@@ -57,7 +62,7 @@ std::string Typed(NumericField &field, const QString &keys) {
 TEST(NumericField, SwallowsWhatItsKeySetLacks) {
     Form form;
     form.Open();
-    EXPECT_EQ(Typed(form.first, "1a2,3./-% 4Q.5"), "123.4.5");
+    EXPECT_EQ(Typed(form.first, "1a2b3./-% 4Q.5"), "123.4.5");
     QTest::sendKeyEvent(QTest::Press, &form.first, Qt::Key_unknown, QString("é"), Qt::NoModifier);
     EXPECT_EQ(form.first.text(), "123.4.5");
     EXPECT_TRUE(form.isVisible());
@@ -118,7 +123,138 @@ TEST(NumericField, CopiesAndPastesWhatItAdmits) {
     QApplication::clipboard()->setText(" 1 234,5 mm");
     form.second.setFocus();
     QTest::keyClick(&form.second, Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(form.second.text(), "12345");
+    EXPECT_EQ(form.second.text(), "1234.5");
+}
+
+TEST(NumericField, TheCommaTypesAPoint) {
+    Form form;
+    form.Open();
+    EXPECT_EQ(Typed(form.first, "8,25"), "8.25");
+    form.second.SetKeys(kTouchesSigne);
+    EXPECT_EQ(Typed(form.second, "-,5"), "-.5");
+    QTest::keyClick(&form.second, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_NE(form.second.text(), "-.5") << "undone as typed characters are";
+    form.second.SetKeys(kTouchesEntier);
+    form.second.clear();
+    EXPECT_EQ(Typed(form.second, "8,25"), "825") << "a count has no point";
+    form.second.SetKeys({});
+    form.second.clear();
+    EXPECT_EQ(Typed(form.second, "a, b"), "a, b") << "a text keeps its commas";
+}
+
+TEST(NumericField, ABlankTypesThePointBeforeAFractionOfAnInch) {
+    Form form;
+    form.Open();
+    form.first.SetKeys(kTouchesFraction);
+    EXPECT_EQ(Typed(form.first, "8 1/2"), "8.1/2");
+    EXPECT_EQ(Typed(form.first, " 3"), "8.1/23") << "one point is enough";
+    form.first.selectAll();
+    EXPECT_EQ(Typed(form.first, " 3/8"), "3/8") << "there is no whole to set off";
+    form.first.SetKeys(kTouchesFractionSigne);
+    form.first.selectAll();
+    EXPECT_EQ(Typed(form.first, "-2  3/4"), "-2.3/4");
+    form.first.setText("8/2");
+    form.first.setCursorPosition(1);
+    EXPECT_EQ(Typed(form.first, " "), "8/2") << "a point in front of the stroke is no length";
+    EXPECT_EQ(Typed(form.second, "8 1"), "81") << "millimetres have no fractions";
+}
+
+struct Copied {
+    const char *text;
+    const char *in_mm;
+    const char *in_inches;
+};
+
+TEST(NumericField, PastesNumbersAsPeopleWriteThem) {
+    constexpr Copied kCopied[] = {
+        {"8,25", "8.25", "8.25"},
+        {"8.25", "8.25", "8.25"},
+        {"8 1/2", "812", "8.1/2"},
+        {" 8  1 / 2 in\n", "812", "8.1/2"},
+        {"8\u00a01/2", "812", "8.1/2"},
+        {"12 345", "12345", "12345"},
+        {"1.234,5", "1234.5", "1234.5"},
+        {"1,234.5", "1234.5", "1234.5"},
+        {"1,234,567", "1234567", "1234567"},
+        {"3/8", "38", "3/8"},
+    };
+    Form form;
+    form.Open();
+    form.second.SetKeys(kTouchesFraction);
+    for (const Copied &copied : kCopied) {
+        QApplication::clipboard()->setText(QString::fromUtf8(copied.text));
+        for (NumericField *field : {&form.first, &form.second}) {
+            SelectField(*field);
+            QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);
+        }
+        EXPECT_EQ(S(form.first.text()), copied.in_mm) << copied.text;
+        EXPECT_EQ(S(form.second.text()), copied.in_inches) << copied.text;
+    }
+}
+
+TEST(NumericField, PastesAFractionBehindTheWholeThatIsThere) {
+    Form form;
+    form.Open();
+    form.first.SetKeys(kTouchesFraction);
+    form.first.setText("8");
+    form.first.setFocus();
+    form.first.end(false);
+    QApplication::clipboard()->setText(" 1/2");
+    QTest::keyClick(&form.first, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(form.first.text(), "8.1/2");
+}
+
+TEST(NumericField, TheMenuAndADropBringNumbersInTheSameWay) {
+    Form form;
+    form.Open();
+    form.first.setFocus();
+    QApplication::clipboard()->setText("8,25 mm");
+    QTimer::singleShot(0, &form, [] {
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        auto *paste = menu->findChild<QAction *>("edit-paste");
+        ASSERT_NE(paste, nullptr);
+        paste->trigger();
+        menu->close();
+    });
+    QContextMenuEvent asked(QContextMenuEvent::Keyboard, {5, 5},
+                            form.first.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&form.first, &asked);
+    EXPECT_EQ(form.first.text(), "8.25");
+
+    QMimeData data;
+    data.setText("9,75\n");
+    form.second.clear();
+    QDropEvent drop(QPointF(3, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&form.second, &drop);
+    EXPECT_EQ(form.second.text(), "9.75");
+}
+
+TEST(NumericField, AFieldThatOnlyShowsTakesNoPaste) {
+    Form form;
+    form.Open();
+    form.first.setReadOnly(true);
+    form.first.setFocus();
+    QApplication::clipboard()->setText("7");
+    QTest::keyClick(&form.first, Qt::Key_V, Qt::ControlModifier);
+    QTest::keyClick(&form.first, Qt::Key_Comma);
+    EXPECT_EQ(form.first.text(), "12.5");
+}
+
+TEST(NumericField, ItsTipTellsTheNotationOnceWhileItTakesFractions) {
+    NumericField field(kTouchesFraction, nullptr);
+    field.SetNotation("as 8.1/2");
+    EXPECT_EQ(field.toolTip(), "as 8.1/2");
+    SetTip(field, " Width ");
+    SetTip(field, " Width");
+    EXPECT_EQ(field.toolTip(), "Width\nas 8.1/2");
+    EXPECT_EQ(field.accessibleDescription(), "Width\nas 8.1/2");
+    field.SetKeys(kTouchesPositif);
+    EXPECT_EQ(field.toolTip(), "Width");
+    field.SetKeys(kTouchesFractionPourcent);
+    EXPECT_EQ(field.toolTip(), "Width\nas 8.1/2");
+    field.SetNotation({});
+    EXPECT_EQ(field.toolTip(), "Width");
 }
 
 TEST(NumericField, FiltersWhatAnInputMethodBrings) {
@@ -129,6 +265,17 @@ TEST(NumericField, FiltersWhatAnInputMethodBrings) {
     event.setCommitString("7x5");
     QApplication::sendEvent(&form.first, &event);
     EXPECT_EQ(form.first.text(), "75");
+    form.first.SetKeys(kTouchesFraction);
+    form.first.clear();
+    for (const char *brought : {"8", " ", "1/2"}) {
+        event.setCommitString(brought);
+        QApplication::sendEvent(&form.first, &event);
+    }
+    EXPECT_EQ(form.first.text(), "8.1/2");
+    form.first.selectAll();
+    event.setCommitString("9,5");
+    QApplication::sendEvent(&form.first, &event);
+    EXPECT_EQ(form.first.text(), "9.5");
 }
 
 TEST(NumericField, TakesAnyTextFromTheProgram) {

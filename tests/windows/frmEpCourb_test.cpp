@@ -43,7 +43,7 @@ TEST_F(FrmEpCourbTest, ShowsTheAirfoilAndItsView) {
         EXPECT_EQ(dialog.Text("txtEpROr"), "12.00");
         EXPECT_EQ(dialog.Text("txtCourbureOr"), "2.00");
         EXPECT_EQ(dialog.Text("txtEpR"), "0.00");
-        EXPECT_EQ(dialog.Text("txtCourbure"), "0.00");
+        EXPECT_EQ(dialog.Text("txtCourbure"), "2.00");
         EXPECT_EQ(dialog.Label("Label5"), "");
         EXPECT_EQ(dialog.Label("Label3(0)"), "Original Airfoil");
         EXPECT_EQ(dialog.Label("Label3(1)"), "New Airfoil");
@@ -105,6 +105,49 @@ TEST_F(FrmEpCourbTest, SavesUnderTheProposedName) {
                 testing::StartsWith("naca2412  thickness 9.00% camber 3.00%\r\n1.000  0 \r\n"));
     EXPECT_THAT(world.folder.Bytes("sets/new.dat"), testing::EndsWith("By Loftwing\r\n"));
     EXPECT_EQ(world.platform.pointer, Pointer::normal);
+}
+
+TEST_F(FrmEpCourbTest, ASaveTakesWhatWasTypedSinceApply) {
+    Saves(world.folder.Path("sets/new.dat"));
+    Use([this](Seen &dialog) {
+        Values(dialog, "9", "3");
+        dialog.Click("CmdApply");
+        Values(dialog, "8", "1");
+        dialog.Click("cmdsave");
+        EXPECT_EQ(dialog.Text("txtEpR"), "8.00");
+        EXPECT_EQ(dialog.Label("Label5"), " 16. mm");
+        EXPECT_THAT(world.Panel(2), HasSubstr("thickness : 8% camber : 1% "));
+        dialog.Click("cmdok");
+    });
+    EXPECT_EQ(world.platform.file_questions.back().name, "naca2412_E8.00C1.00.dat");
+    EXPECT_THAT(world.folder.Bytes("sets/new.dat"),
+                testing::StartsWith("naca2412  thickness 8.00% camber 1.00%\r\n"));
+    EXPECT_NEAR(Rib().EpMaxi, 0.08, 1e-4);
+    EXPECT_NEAR(Rib().CambrureMaxi, 0.01, 1e-4);
+}
+
+TEST_F(FrmEpCourbTest, ASaveOfARefusedValueSavesNothing) {
+    Use([this](Seen &dialog) {
+        Values(dialog, "9", "3");
+        dialog.Click("CmdApply");
+        dialog.Type("txtEpR", "101");
+        world.platform.Expect(BoxAnswer::ok,
+                              {.text = world.programme.Text({"FrmEpCourb", "11"}) + "100 % ",
+                               .icon = BoxIcon::warning});
+        dialog.Click("cmdsave");
+        EXPECT_TRUE(dialog.IsOpen());
+    });
+    EXPECT_TRUE(world.platform.file_questions.empty());
+}
+
+TEST_F(FrmEpCourbTest, ASaveDoesNotApplyTheSameTwice) {
+    Saves(world.folder.Path("sets/new.dat"));
+    Use([this](Seen &dialog) {
+        Values(dialog, "9.126", "3"); // shown as 9.13; a second round would compute with that
+        dialog.Click("CmdApply");
+        dialog.Click("cmdsave");
+        EXPECT_DOUBLE_EQ(Rib().NouvEpaisseur, 0.09126);
+    });
 }
 
 TEST_F(FrmEpCourbTest, SavingAndPrintingWantAnAppliedThickness) {

@@ -82,6 +82,17 @@ TEST_F(FrmPrintTest, ALongRibPointsToItsOverlap) {
     });
 }
 
+TEST_F(FrmPrintTest, CountsWithWhatItsFieldsShowAfterAPrintOnOneSheet) {
+    // Such a print sets the overlap to 0 and leaves its text.
+    programme.settings.page.recouvrement = 0;
+    Chord(520);
+    Use([](Seen &dialog) {
+        EXPECT_EQ(dialog.Text("Text1(3)"), "20");
+        // 297 - 10 - 15 - 20 = 252; 520 / 252 = 2.06. Without overlap 520 / 272 = 1.9 would be two.
+        EXPECT_EQ(dialog.Label("Label10").substr(dialog.Label("Label10").find(':')), ": 3");
+    });
+}
+
 TEST_F(FrmPrintTest, CountsWhileTheUserTypes) {
     Chord(1000);
     Use([](Seen &dialog) {

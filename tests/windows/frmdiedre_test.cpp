@@ -19,7 +19,8 @@ TEST_F(FrmDiedreTest, OpensEmptyWithItsWords) {
         EXPECT_EQ(Tip(name), "Double click for result");
     }
     EXPECT_TRUE(Focused("txt(0)"));
-    ExpectTabs({"txt(1)", "txt(2)", "cmdok", "cmdaide", "txt(0)"});
+    EXPECT_EQ(Word("cmdcalcul"), "Compute");
+    ExpectTabs({"txt(1)", "txt(2)", "cmdcalcul", "cmdok", "cmdaide", "txt(0)"});
 }
 
 TEST_F(FrmDiedreTest, ADoubleClickComputesTheFieldThatIsClicked) {
@@ -53,6 +54,50 @@ TEST_F(FrmDiedreTest, ReturnComputesTheFieldThatItIsPressedIn) {
     GoTo("cmdok");
     Key("cmdok", Qt::Key_Return);
     EXPECT_FALSE(IsOpen());
+}
+
+TEST_F(FrmDiedreTest, ReturnNeverReplacesWhatWasJustTyped) {
+    Open();
+    Type("txt(0)", "45");
+    Type("txt(1)", "100");
+    Key("txt(1)", Qt::Key_Return);
+    EXPECT_EQ(Text("txt(1)"), "100");
+    EXPECT_EQ(Text("txt(2)"), " 100.") << "the empty one";
+    Type("txt(1)", "200");
+    Key("txt(1)", Qt::Key_Return);
+    EXPECT_EQ(Text("txt(1)"), "200");
+    EXPECT_EQ(Text("txt(2)"), " 200.") << "the computed one";
+    EXPECT_EQ(Text("txt(0)"), "45");
+    Type("txt(2)", "200");
+    Key("txt(2)", Qt::Key_Return);
+    EXPECT_EQ(Text("txt(0)"), " 45.00") << "the one that was typed longest ago";
+    EXPECT_EQ(Text("txt(2)"), "200");
+}
+
+TEST_F(FrmDiedreTest, ReturnLeavesWhatAnEmptyFieldIsComputedFrom) {
+    Open();
+    Type("txt(1)", "100");
+    Type("txt(2)", "100");
+    Key("txt(1)", Qt::Key_Return);
+    EXPECT_EQ(Text("txt(0)"), " 45.00");
+    EXPECT_EQ(Text("txt(1)"), "100");
+}
+
+TEST_F(FrmDiedreTest, TheButtonComputesTheEmptyOrTheOldestField) {
+    Open();
+    Type("txt(2)", "100");
+    Type("txt(0)", "45");
+    Click("cmdcalcul");
+    EXPECT_EQ(Text("txt(1)"), " 100.");
+    Type("txt(0)", "30");
+    Click("cmdcalcul");
+    EXPECT_EQ(Text("txt(1)"), " 173.205"); // 100 * sqrt(3)
+    EXPECT_EQ(Text("txt(2)"), "100");
+    Type("txt(1)", "100");
+    Type("txt(0)", "45");
+    Click("cmdcalcul");
+    EXPECT_EQ(Text("txt(2)"), " 100.");
+    EXPECT_TRUE(IsOpen());
 }
 
 TEST_F(FrmDiedreTest, AnAngleBeyondTheLimitIsToldAndStillCounts) {

@@ -118,7 +118,9 @@ TEST_F(BesideMainTest, UnsavedLinesAreAskedForWhenTheProgramEnds) {
 
 TEST_F(BesideMainTest, AnotherDecimalSeparatorIsToldFirst) {
     world.platform.decimal_separator = ',';
+    world.platform.leaves_ticks = false;
     for (const char *command : {"mnu_outilnervinter", "mnu_OutlilDiedre", "mnu_Outilcoord"}) {
+        world.programme.SeparateurDit = false; // as if this were the first one
         world.platform.Expect(BoxAnswer::cancel);
         Run(command);
     }
@@ -128,8 +130,8 @@ TEST_F(BesideMainTest, AnotherDecimalSeparatorIsToldFirst) {
     EXPECT_NE(world.platform.boxes.at(0).text.find("Compute set of ribs"), std::string::npos);
     EXPECT_NE(world.platform.boxes.at(1).text.find("Compute the dihedral"), std::string::npos);
     EXPECT_NE(world.platform.boxes.at(2).text.find("Create new coordinates"), std::string::npos);
-    world.platform.Expect(BoxAnswer::ok);
-    Run("mnu_OutlilDiedre");
+    EXPECT_EQ(world.platform.ticks_offered.back(), "Don't show this again");
+    Run("mnu_OutlilDiedre"); // told once
     EXPECT_EQ(Windows<frmdiedre>().size(), 1);
 }
 

@@ -198,9 +198,11 @@ TEST_F(ExportingDxf, TheExportLeavesThePictureAsItIs) {
 TEST_F(ExportingDxf, AnotherDecimalSeparatorIsWarnedOfAndTheExportGoesOnWithPoints) {
     OpenBytes("rib.lfw", ComponentsText{}.Current());
     world.platform.decimal_separator = ',';
+    world.platform.leaves_ticks = false;
     const auto &programme = world.programme;
     for (const int form : {kInterchange, kPlain}) {
         for (const BoxAnswer answer : {BoxAnswer::ok, BoxAnswer::cancel}) {
+            world.programme.SeparateurDit = false;
             world.platform.Expect(
                 answer, {.text = AllOf(StartsWith(programme.Text({"Message", "11"}) + "\n"),
                                        HasSubstr(" : Export as DXF file\n")),

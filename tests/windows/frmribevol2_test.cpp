@@ -79,6 +79,16 @@ TEST_F(Frmribevol2Test, ShowsItsWordsAndANumberForEachGap) {
     });
 }
 
+TEST_F(Frmribevol2Test, GapNumbersLookAsIfTheyCouldBeClicked) {
+    Use([this](Seen &window) {
+        for (const char *name : {"LblNoNervInterm(1)", "LblNoNervInterm(2)"}) {
+            EXPECT_TRUE(window.Find(name).font().underline()) << name;
+            EXPECT_EQ(window.Find(name).cursor().shape(), Qt::PointingHandCursor) << name;
+        }
+        PickBoth(window);
+    });
+}
+
 TEST_F(Frmribevol2Test, FieldsSwallowWhatIsNoLength) {
     Inches();
     Use([this](Seen &window) {

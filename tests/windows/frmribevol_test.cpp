@@ -180,6 +180,41 @@ TEST_F(FrmribevolTest, ASecondRunReplacesTheFilesWithoutAQuestion) {
     EXPECT_THAT(folder.Bytes("sets/root&tipR01.dat"), HasSubstr("0.5000000  0.2000000\r\n"));
 }
 
+TEST_F(FrmribevolTest, FilesOfAnotherSetAreReplacedOnlyAfterAQuestion) {
+    folder.File("sets/root&tipR02.dat", "another rib");
+    folder.File("sets/root&tipR04.dat", "not of this set's names");
+    const BoxLook question = {.text = "These files of another set are in the folder:\n" +
+                                      folder.Path("sets") +
+                                      "\n\nroot&tipR02.dat\n\nDo you want to replace them?",
+                              .title = "Full set of ribs",
+                              .buttons = BoxButtons::yes_no};
+    const Left left = Use([&](Seen &window) {
+        PickBoth(window);
+        TypeAll(window, "1", "200", "100");
+        platform.Expect(BoxAnswer::no, question);
+        window.Click("cmdcalcul");
+        EXPECT_EQ(folder.Bytes("sets/root&tipR02.dat"), "another rib");
+        EXPECT_EQ(Files().size(), 2U) << "nothing is written after No";
+        EXPECT_EQ(platform.boxes.back().fallback, BoxAnswer::no);
+        platform.Expect(BoxAnswer::yes, question);
+        platform.Expect(BoxAnswer::ok);
+        window.Click("cmdcalcul");
+        EXPECT_THAT(folder.Bytes("sets/root&tipR02.dat"), StartsWith("Rib 2 Chord"));
+        // What this window wrote it may write again.
+        platform.Expect(BoxAnswer::ok);
+        window.Click("cmdcalcul");
+    });
+    EXPECT_EQ(left, Left::open);
+    EXPECT_EQ(folder.Bytes("sets/root&tipR04.dat"), "not of this set's names");
+    // Another window knows nothing of it.
+    Use([&](Seen &window) {
+        PickBoth(window);
+        TypeAll(window, "1", "200", "100");
+        platform.Expect(BoxAnswer::no, {.text = HasSubstr("root&tip_200_100_3.txt\n")});
+        window.Click("cmdcalcul");
+    });
+}
+
 TEST_F(FrmribevolTest, NinetyRibsMakeNinetyTwoFilesAndAShortMessage) {
     Use([this](Seen &window) {
         PickBoth(window);

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDesktopServices>
 #include <QFileDialog>
@@ -134,6 +135,25 @@ TEST(QtPlatformBox, TakesTheWordsOfTheLanguage) {
         EXPECT_FALSE(box.button(QMessageBox::No)->text().isEmpty()) << "the toolkit's own";
     });
     world.platform.Show({"?", "t", BoxIcon::none, BoxButtons::yes_no, BoxAnswer::yes});
+}
+
+TEST(QtPlatformBox, ATickBelowTheTextIsSetAtFirst) {
+    World world;
+    for (const bool taken_out : {false, true}) {
+        InNextDialog([taken_out](Seen &dialog) {
+            const QMessageBox &box = dialog.As<QMessageBox>();
+            ASSERT_NE(box.checkBox(), nullptr);
+            EXPECT_EQ(box.checkBox()->text(), "Not again");
+            if (taken_out) {
+                box.checkBox()->click();
+            }
+            dialog.Key(Qt::Key_Escape);
+        });
+        const TickedAnswer answer = world.platform.ShowWithTick(
+            {"?", "t", BoxIcon::warning, BoxButtons::ok_cancel, BoxAnswer::ok}, "Not again");
+        EXPECT_EQ(answer.answer, BoxAnswer::cancel);
+        EXPECT_EQ(answer.ticked, !taken_out);
+    }
 }
 
 TEST(QtPlatformBox, StandsOverTheActiveWindow) {

@@ -1,0 +1,48 @@
+#include "utilities/rib_set_files.h"
+
+#include <filesystem>
+
+namespace loftwing {
+
+namespace {
+
+/// More names would fill the screen.
+constexpr int kNommes = 6;
+
+} // namespace
+
+FichiersEcrits FichiersDuJeu(const JeuDeNervures &jeu, const Messages &messages) {
+    FichiersEcrits files = {jeu.dossier + NomResume(jeu)};
+    for (int number = 1; number <= static_cast<int>(jeu.nervures.size()); ++number) {
+        files.insert(jeu.dossier + NomNervure(jeu, number, messages));
+    }
+    return files;
+}
+
+FichiersEcrits FichiersRemplaces(const JeuDeNervures &jeu, const FichiersEcrits &ecrits,
+                                 const Messages &messages) {
+    FichiersEcrits replaced = FichiersDuJeu(jeu, messages);
+    std::erase_if(replaced, [&ecrits](const std::string &path) {
+        std::error_code error;
+        return ecrits.contains(path) || !std::filesystem::is_regular_file(path, error);
+    });
+    return replaced;
+}
+
+std::string TexteRemplacement(const FichiersEcrits &files, const Messages &messages) {
+    namespace fs = std::filesystem;
+    std::string text = messages.Text({"FrmRibevol", "140"}) + "\n" +
+                       fs::path(*files.begin()).parent_path().string() + "\n\n";
+    int named = 0;
+    for (const std::string &path : files) {
+        if (named == kNommes) {
+            text += "... (" + std::to_string(files.size()) + ")\n";
+            break;
+        }
+        text += fs::path(path).filename().string() + "\n";
+        ++named;
+    }
+    return text + "\n" + messages.Text({"FrmRibevol", "141"});
+}
+
+} // namespace loftwing
