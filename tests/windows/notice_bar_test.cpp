@@ -1,0 +1,172 @@
+// The strips above the main window's picture.
+
+#include "support/qt_nothing_cut.h"
+#include "windows/frmmain_files_fixture.h"
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QFrame>
+
+namespace loftwing {
+namespace {
+
+using testing::HasSubstr;
+
+class NoticeBarTest : public RibFiles {
+  protected:
+    /// Opens a rib of 200 mm with a heel of these margins.
+    void OpenHeel(const std::string &front, const std::string &rear) {
+        ComponentsText file;
+        file.kind = "11";
+        file.intra = "20";
+        file.heel_front = front;
+        file.heel_back = rear;
+        OpenBytes("heel.lfw", file.Current());
+    }
+    bool Shows(const char *notice) const {
+        QApplication::processEvents();
+        return world.Main().Has(notice) && world.Main().Shown(notice);
+    }
+    void ExpectMarginsQuestion(BoxAnswer answer) {
+        world.platform.Expect(answer, {.text = HasSubstr("Put the margins in force first?"),
+                                       .title = "Rib levelling heel"});
+    }
+    double Margins() { return Rib().talon.TalonLong; }
+};
+
+constexpr const char *kHeel = "notice_heel_margins";
+
+TEST_F(NoticeBarTest, TakesNoRoomWithoutANotice) {
+    OpenBytes("rib.lfw", ComponentsText{}.Current());
+    QApplication::processEvents();
+    EXPECT_FALSE(world.Main().Shown("NoticeBar"));
+    EXPECT_EQ(world.Find<QWidget>("Pic")->y(), 0);
+}
+
+TEST_F(NoticeBarTest, AnOpenedHeelIsConfirmedByItsButton) {
+    OpenHeel("20", "30");
+    ASSERT_TRUE(Shows(kHeel));
+    EXPECT_EQ(world.Main().Label("notice_heel_margins_text"),
+              "The heel's margins from the rib file are not in force : 20 mm, 30 mm. The heel is "
+              "drawn as if they were 0.");
+    EXPECT_GT(world.Find<QWidget>("Pic")->y(), 0); // above the picture, not over it
+    EXPECT_EQ(Margins(), 0);
+    const Recording *before = Drawing();
+    world.Main().Click({"notice_heel_margins_button", 0});
+    EXPECT_EQ(Margins(), 50);
+    EXPECT_NE(Drawing(), before);
+    EXPECT_TRUE(Rib().Modifie);
+    EXPECT_FALSE(Shows(kHeel));
+}
+
+TEST_F(NoticeBarTest, TheCaptionStaysWhenANoticeComesOrGoes) {
+    OpenHeel("20", "30");
+    ASSERT_TRUE(Shows(kHeel));
+    const std::string caption = "Loftwing Rib : heel.lfw Airfoil : naca2412";
+    EXPECT_EQ(Caption(), caption);
+    const int height = world.Find<QWidget>("Pic")->height();
+    world.Main().Click("notice_heel_margins_close");
+    EXPECT_TRUE(Eventually([&] { return world.Find<QWidget>("Pic")->height() > height; }));
+    QApplication::processEvents();
+    EXPECT_EQ(Caption(), caption);
+}
+
+TEST_F(NoticeBarTest, AClosedNoticeStaysClosedUntilTheNextRib) {
+    OpenHeel("20", "30");
+    ASSERT_TRUE(Shows(kHeel));
+    world.Main().Click("notice_heel_margins_close");
+    EXPECT_FALSE(Shows(kHeel));
+    world.window->affiche();
+    EXPECT_FALSE(Shows(kHeel));
+    OpenHeel("20", "30");
+    EXPECT_TRUE(Shows(kHeel));
+    EXPECT_EQ(Margins(), 0);
+}
+
+TEST_F(NoticeBarTest, AHeelConfirmedByItsDialogOrTheChordNeedsNoNotice) {
+    OpenHeel("20", "30");
+    world.Run("mnu_profilTalon", {[](Seen &dialog) { dialog.Click("cmdok"); }});
+    EXPECT_EQ(Margins(), 50);
+    EXPECT_FALSE(Shows(kHeel));
+    Rib().Modifie = false;
+    OpenHeel("20", "30");
+    ASSERT_TRUE(Shows(kHeel));
+    world.Run("mnu_profilcorde", {[](Seen &dialog) {
+                  dialog.Type("infotxt", "180");
+                  dialog.Key("infotxt", Qt::Key_Return);
+              }});
+    EXPECT_EQ(Margins(), 50);
+    EXPECT_FALSE(Shows(kHeel));
+}
+
+TEST_F(NoticeBarTest, AClearedWindowAndAnotherViewHaveNoNotice) {
+    OpenHeel("20", "30");
+    ASSERT_TRUE(Shows(kHeel));
+    world.window->affclear();
+    EXPECT_FALSE(Shows(kHeel));
+}
+
+TEST_F(NoticeBarTest, PrintAsksForTheMarginsFirst) {
+    OpenHeel("20", "30");
+    world.platform.Expect(BoxAnswer::yes); // to print at all
+    ExpectMarginsQuestion(BoxAnswer::no);
+    world.Action("mnu_fileprint")->trigger();
+    EXPECT_EQ(Margins(), 0);
+    EXPECT_EQ(world.platform.print_questions.size(), 1U); // goes on
+    world.platform.Expect(BoxAnswer::yes);
+    ExpectMarginsQuestion(BoxAnswer::yes);
+    world.Action("mnu_fileprint")->trigger();
+    EXPECT_EQ(Margins(), 50);
+    EXPECT_EQ(world.platform.print_questions.size(), 2U);
+    EXPECT_FALSE(Shows(kHeel));
+}
+
+TEST_F(NoticeBarTest, EveryExportAsksForTheMarginsFirst) {
+    for (const char *command : {"mnu_filedxf", "mnu_filepdf", "mnu_filesvg"}) {
+        OpenHeel("20", "30");
+        Rib().Modifie = false;
+        ExpectMarginsQuestion(BoxAnswer::yes);
+        Choose(command, "");
+        EXPECT_EQ(Margins(), 50) << command;
+        Rib().Modifie = false;
+    }
+}
+
+TEST_F(NoticeBarTest, ExportsWithoutMarginsToConfirmAskNothing) {
+    OpenHeel("0", "0");
+    EXPECT_FALSE(Shows(kHeel));
+    Choose("mnu_filesvg", world.folder.Path("heel.svg"));
+    EXPECT_TRUE(Exists("heel.svg"));
+    EXPECT_TRUE(world.platform.boxes.empty());
+}
+
+TEST_F(NoticeBarTest, MarginsThatAreTooLongStopTheExport) {
+    OpenHeel("150", "51");
+    ExpectMarginsQuestion(BoxAnswer::yes);
+    world.platform.Expect(BoxAnswer::ok, {.text = HasSubstr("201 mm > 200 mm")});
+    world.Action("mnu_filesvg")->trigger();
+    EXPECT_TRUE(world.platform.file_questions.size() == 1U); // the one that opened the rib
+    EXPECT_TRUE(Shows(kHeel));
+}
+
+TEST(NoticeBarLooks, NothingIsCutInAnyLanguageUnitOrSize) {
+    for (const char *language : {"English", "French"}) {
+        for (const char *unit : {"mm", "in"}) {
+            for (const double scale : {1.0, 1.5}) {
+                const FontScale larger(scale);
+                WindowWorld world(language, unit);
+                world.folder.File("airfoils/naca2412.dat",
+                                  ReadWholeFile(WindowWorld::Sample("naca2412.dat")));
+                world.Open().OuvreFichier(world.folder.File(
+                    "r.lfw", LadenRib("11", unit == std::string("in")).Current()));
+                ASSERT_TRUE(world.Main().Shown(kHeel)) << language;
+                QApplication::processEvents();
+                ExpectNothingCut(*world.Find<QFrame>(kHeel));
+            }
+        }
+    }
+}
+
+} // namespace
+} // namespace loftwing
