@@ -63,7 +63,7 @@ void MainFrame::AppliqueLangue() {
     programme_.platform.SetButtonWords(
         {programme_.Text({"TextButton", "1"}), programme_.Text({"TextButton", "2"}),
          programme_.Text({"TextButton", "30"}), programme_.Text({"TextButton", "31"}),
-         programme_.Text({"TextButton", "32"})});
+         programme_.Text({"TextButton", "32"}), programme_.Text({"TextButton", "180"})});
     toolkit_words_.Follow(programme_.language.LangueCourante);
     AppliqueLangueOutils(*this);
     MontreAvis();

@@ -39,5 +39,8 @@ FormatComposants LitComposants(const std::string &bytes, RibModel &rib, const Sa
 /// empty when there is none.
 std::string ChercheProfil(const std::vector<std::string> &dossiers, const std::string &nom,
                           const std::function<void()> &pause);
+/// The airfoil file `nom` in the folder of a rib components file itself, without what is below it.
+/// Empty when it isn't there.
+std::string ProfilACote(const std::string &chemin_rib, const std::string &nom);
 
 } // namespace loftwing

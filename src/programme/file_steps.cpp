@@ -37,7 +37,8 @@ void newLfw(Programme &programme, CommandView &view, const std::string &path) {
     OuvertureComposants end{};
     {
         const Sablier sablier(programme.platform);
-        end = OuvreComposants(programme, {path, {folders.RepProfil, folders.RepProfilevol}});
+        end = OuvreComposants(programme,
+                              {path, {folders.RepProfil, folders.RepProfilevol}, true, true});
     }
     if (end == OuvertureComposants::ouverte) {
         view.Titre(TitreComposants(programme, " "));
@@ -127,6 +128,10 @@ void EnregistreRib(Programme &programme, CommandView &view) {
     WriteWholeFile(path, EcritComposants(rib));
     rib.NomFichierRib = fs::path(path).filename().string();
     rib.Modifie = false;
+    rib.CheminRib = CheminEntier(path);
+    const Repertoires &folders = programme.settings.repertoires;
+    rib.ProfilAilleurs = !EstDans(rib.CheminProfil, {folders.RepProfil, folders.RepProfilevol});
+    view.MontreAvis();
     view.Titre(TitreComposants(programme, "  "));
 }
 

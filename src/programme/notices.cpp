@@ -2,6 +2,7 @@
 
 #include "features/talon.h"
 #include "output/screen_plot.h"
+#include "programme/dossiers.h"
 #include "programme/heel_steps.h"
 
 #include <array>
@@ -24,7 +25,21 @@ std::vector<NoticeButton> HeelButtons(const Programme &programme) {
     return {{NoticeAct::take_heel_margins, programme.Text({"FrmTalon", "182"})}};
 }
 
-const std::array<Row, 1> kRows = {{
+/// Where the airfoil of a saved rib will be looked for, in the order of the search.
+std::string ElsewhereText(const Programme &programme) {
+    const RibModel &rib = programme.rib;
+    const Repertoires &folders = programme.settings.repertoires;
+    return rib.NomProfil + "." + rib.ExtProfil + " " + programme.Text({"fileopen", "183"}) + " " +
+           folders.RepProfil + " " + programme.Text({"fileopen", "5"}) + " " +
+           folders.RepProfilevol + programme.Text({"fileopen", "184"}) + " " +
+           DossierDe(rib.CheminRib) + ".";
+}
+
+std::vector<NoticeButton> NoButtons(const Programme & /*programme*/) {
+    return {};
+}
+
+const std::array<Row, 2> kRows = {{
     {NoticeSubject::heel_margins, "heel_margins",
      [](const Programme &programme) {
          return MargesEnAttente(programme.rib, programme.SaisieEnCours());
@@ -33,6 +48,9 @@ const std::array<Row, 1> kRows = {{
          return TexteMargesEnAttente(programme.rib, programme.SaisieEnCours());
      },
      HeelButtons},
+    {NoticeSubject::airfoil_elsewhere, "airfoil_elsewhere",
+     [](const Programme &programme) { return programme.rib.ProfilAilleurs; }, ElsewhereText,
+     NoButtons},
 }};
 
 } // namespace

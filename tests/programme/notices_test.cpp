@@ -50,6 +50,22 @@ TEST_F(NoticesTest, MarginsThatAreNotInForceAreOfferedToBeConfirmed) {
     EXPECT_THAT(Subjects(), IsEmpty());
 }
 
+TEST_F(NoticesTest, ARibThatWasSavedApartFromItsAirfoilSaysWhereThatWillBeSearched) {
+    Rib().NomProfil = "mine";
+    Rib().ExtProfil = "dat";
+    Rib().CheminRib = "/ribs/root.lfw";
+    Rib().ProfilAilleurs = true;
+    ASSERT_THAT(Subjects(), ElementsAre(NoticeSubject::airfoil_elsewhere));
+    EXPECT_EQ(Standing().front().text,
+              "mine.dat lies in neither airfoil folder. When this rib is opened, it is looked for "
+              "below " +
+                  folder.Path("airfoils") + " and " + folder.Path("sets") + ", then in /ribs.");
+    EXPECT_THAT(Standing().front().buttons, IsEmpty());
+    HaveHeel(); // and several stand side by side
+    EXPECT_THAT(Subjects(),
+                ElementsAre(NoticeSubject::heel_margins, NoticeSubject::airfoil_elsewhere));
+}
+
 TEST_F(NoticesTest, AClosedNoticeComesBackWithItsNextCauseOnly) {
     HaveHeel();
     EXPECT_EQ(Standing().size(), 1U);

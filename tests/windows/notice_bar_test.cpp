@@ -150,6 +150,34 @@ TEST_F(NoticeBarTest, MarginsThatAreTooLongStopTheExport) {
     EXPECT_TRUE(Shows(kHeel));
 }
 
+TEST_F(NoticeBarTest, ASaveApartFromTheAirfoilSaysWhereThatWillBeSearched) {
+    world.window->OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    Choose("mnu_filesaveas", world.folder.Path("ribs/new.lfw"));
+    ASSERT_TRUE(Shows("notice_airfoil_elsewhere"));
+    EXPECT_THAT(world.Main().Label("notice_airfoil_elsewhere_text"),
+                testing::EndsWith(", then in " + world.folder.Path("ribs") + "."));
+    EXPECT_EQ(Caption(), "Loftwing Rib : new.lfw  Airfoil : naca2412");
+    EXPECT_TRUE(world.platform.boxes.empty());
+    world.window->OuvreFichier(world.folder.Path("airfoils/naca2412.dat"));
+    EXPECT_FALSE(Shows("notice_airfoil_elsewhere"));
+    Choose("mnu_filesaveas", world.folder.Path("ribs/other.lfw"));
+    EXPECT_FALSE(Shows("notice_airfoil_elsewhere"));
+}
+
+TEST_F(NoticeBarTest, SeveralNoticesStandBelowOneAnother) {
+    OpenHeel("20", "30");
+    Rib().CheminProfil = WindowWorld::Sample("naca2412.dat");
+    Choose("mnu_filesaveas", world.folder.Path("ribs/new.lfw"));
+    ASSERT_TRUE(Shows(kHeel));
+    ASSERT_TRUE(Shows("notice_airfoil_elsewhere"));
+    const QRect first = world.Find<QWidget>(kHeel)->geometry();
+    const QRect second = world.Find<QWidget>("notice_airfoil_elsewhere")->geometry();
+    EXPECT_GT(second.top(), first.bottom());
+    world.Main().Click("notice_heel_margins_close");
+    EXPECT_FALSE(Shows(kHeel));
+    EXPECT_TRUE(Shows("notice_airfoil_elsewhere"));
+}
+
 TEST(NoticeBarLooks, NothingIsCutInAnyLanguageUnitOrSize) {
     for (const char *language : {"English", "French"}) {
         for (const char *unit : {"mm", "in"}) {
