@@ -25,7 +25,8 @@ enum class FormatComposants {
 /// and ExtProfil tell which. `nom_cherche` gets the name to search for. Lengths are read in the
 /// unit in force; limits are not checked, and only the first text that is no length is told of. A
 /// file whose first line isn't the current one's counts as of the older format, whatever it holds;
-/// what that doesn't hold stays as it was.
+/// what that doesn't hold stays as it was. UniteDouteuse says whether the lengths look like those
+/// of the other unit, since the file names none.
 ///
 /// Failure 62 for a file that is too short, 9 for more than 13 spars or holes, 6 for a number that
 /// its field can't hold, and those of VersMm. The rib then has what was read so far.

@@ -100,6 +100,12 @@ TextesDefaut LitTextesDefaut(const std::string &fichier) {
     return texts;
 }
 
+TextesDefaut TextesDefautEn(std::string_view Unite, const std::string &fichier) {
+    const std::string kept = GetINIFile("Defaut", "unit", fichier);
+    const bool of_other = Trim(kept) == Trim(AutreUnite(Unite));
+    return of_other ? JeuDe(Unite).lengths : LitTextesDefaut(fichier);
+}
+
 TextesDefaut ChoisitUnite(AppSettings &settings, std::string_view Unite, const Messages &messages) {
     settings.Unite = Unite;
     const Saisie saisie{settings.Unite, messages};

@@ -23,6 +23,9 @@ using TextesDefaut = std::array<std::string, kChampsDefaut>;
 
 /// The default lengths on file, empty where there are none. Failure as IniFile::Read.
 TextesDefaut LitTextesDefaut(const std::string &fichier);
+/// The same as texts in `Unite`: where the file's are of the other unit, the lengths that go with
+/// this one.
+TextesDefaut TextesDefautEn(std::string_view Unite, const std::string &fichier);
 
 /// Changes the unit to " mm" or " in", and the page to the values that go with it. Nothing is
 /// converted: who builds in inches has another sheet before him and other stock. Gives the default

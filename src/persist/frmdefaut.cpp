@@ -61,7 +61,9 @@ void frmdefaut::MontreLongueurs(const TextesDefaut &texts) {
 
 /// The lengths on file, not those of the rib, which has its own by now.
 void frmdefaut::MontreFichier() {
-    Garde(" GetINIFile", [this] { MontreLongueurs(LitTextesDefaut(programme_.paths.fichier)); });
+    Garde(" GetINIFile", [this] {
+        MontreLongueurs(TextesDefautEn(programme_.settings.Unite, programme_.paths.fichier));
+    });
 }
 
 /// Marks the unit in force, here only.

@@ -29,7 +29,7 @@ void EcritStyles(const Reglages &reglages);
 void EcritEpaisseurs(const Reglages &reglages); ///< widths and the text size
 void EcritDefauts(const Reglages &reglages);
 void EcritRepertoires(const Reglages &reglages);
-void EcritMarges(const Reglages &reglages);
+void EcritMarges(const Reglages &reglages); ///< nothing in another unit than the one on file
 void EcritTout(const Reglages &reglages);
 
 /// Readers. A key that isn't there reads as the empty text, and so as 0. A file that can't be read

@@ -3,6 +3,7 @@
 #include "features/talon.h"
 #include "output/screen_plot.h"
 #include "programme/dossiers.h"
+#include "programme/file_steps.h"
 #include "programme/heel_steps.h"
 
 #include <array>
@@ -20,6 +21,20 @@ struct Row {
     std::string (*text)(const Programme &programme);
     std::vector<NoticeButton> (*buttons)(const Programme &programme);
 };
+
+bool InMm(const Programme &programme) {
+    return programme.settings.Unite == kUniteMm;
+}
+
+std::string UnitText(const Programme &programme) {
+    return InMm(programme) ? programme.Text({"fileopen", "185"})
+                           : programme.Text({"fileopen", "186"});
+}
+
+std::vector<NoticeButton> UnitButtons(const Programme &programme) {
+    return {{NoticeAct::open_in_other_unit, InMm(programme) ? programme.Text({"fileopen", "187"})
+                                                            : programme.Text({"fileopen", "188"})}};
+}
 
 std::vector<NoticeButton> HeelButtons(const Programme &programme) {
     return {{NoticeAct::take_heel_margins, programme.Text({"FrmTalon", "182"})}};
@@ -39,7 +54,9 @@ std::vector<NoticeButton> NoButtons(const Programme & /*programme*/) {
     return {};
 }
 
-const std::array<Row, 2> kRows = {{
+const std::array<Row, 3> kRows = {{
+    {NoticeSubject::unit, "unit",
+     [](const Programme &programme) { return programme.rib.UniteDouteuse; }, UnitText, UnitButtons},
     {NoticeSubject::heel_margins, "heel_margins",
      [](const Programme &programme) {
          return MargesEnAttente(programme.rib, programme.SaisieEnCours());
@@ -80,6 +97,9 @@ void DoNotice(Programme &programme, CommandView &view, NoticeAct act) {
     switch (act) {
     case NoticeAct::take_heel_margins:
         programme.messages.Garde(" Talon/OK", [&] { ConfirmeMarges(programme, view); });
+        break;
+    case NoticeAct::open_in_other_unit:
+        programme.messages.Garde(" LireEcrire/newLfw", [&] { OuvreAutreUnite(programme, view); });
         break;
     }
 }

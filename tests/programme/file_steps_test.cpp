@@ -278,6 +278,47 @@ TEST_F(FileSteps, ACancelledLocatingEndsAsAMissingAirfoilDoes) {
     EXPECT_THAT(view.asked, ElementsAre("affclear", "affclear"));
 }
 
+TEST_F(FileSteps, ARibIsReadAnewInTheOtherUnit) {
+    HaveAirfoil();
+    ComponentsText file;
+    file.chord = "8.1/2";
+    file.sheeting = "1/16";
+    OuvreFichier(programme, view, folder.File("root.lfw", file.Current()));
+    EXPECT_EQ(Rib().corde, 8.1F);
+    EXPECT_TRUE(Rib().UniteDouteuse);
+    view.asked.clear();
+    OuvreAutreUnite(programme, view);
+    EXPECT_EQ(programme.settings.Unite, " in");
+    EXPECT_EQ(programme.settings.page.MargeHautAfich, "1/2"); // the page of inches
+    EXPECT_EQ(Rib().corde, 215.9F);                           // 8.5 inches
+    EXPECT_EQ(Rib().EpCoffrage, 1.5875F);
+    EXPECT_FALSE(Rib().UniteDouteuse);
+    EXPECT_FALSE(Rib().Modifie);
+    EXPECT_THAT(view.asked, ElementsAre("affclear", "AfficheUnite",
+                                        "Titre Loftwing Rib : root.lfw Airfoil : naca2412",
+                                        "MontreCoches", "ViewReset", "ActiveCommandes", "affiche"));
+    // The user's own unit and defaults stay on file.
+    EXPECT_EQ(Setting("Defaut", "unit"), "mm");
+    EXPECT_EQ(Setting("Defaut", "cordeAfich"), "200");
+    EXPECT_EQ(Setting("Marges", "MargeHaut"), "10");
+}
+
+TEST_F(FileSteps, TheOtherUnitAsksWhereChangesCouldBeLost) {
+    HaveAirfoil();
+    OuvreFichier(programme, view, RibFile());
+    Rib().Modifie = true;
+    view.asked.clear();
+    ExpectQuestion(BoxAnswer::no);
+    OuvreAutreUnite(programme, view);
+    EXPECT_EQ(programme.settings.Unite, " mm");
+    EXPECT_THAT(view.asked, IsEmpty());
+    ExpectQuestion(BoxAnswer::yes);
+    OuvreAutreUnite(programme, view);
+    EXPECT_EQ(programme.settings.Unite, " in");
+    EXPECT_EQ(Rib().corde, 5080.0F); // 200 inches, as asked
+    EXPECT_TRUE(Rib().UniteDouteuse);
+}
+
 TEST_F(FileSteps, ACancelledSavingLeavesTheChanges) {
     HaveRib();
     platform.files_expected = {""};

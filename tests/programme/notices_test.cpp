@@ -66,6 +66,21 @@ TEST_F(NoticesTest, ARibThatWasSavedApartFromItsAirfoilSaysWhereThatWillBeSearch
                 ElementsAre(NoticeSubject::heel_margins, NoticeSubject::airfoil_elsewhere));
 }
 
+TEST_F(NoticesTest, ADoubtfulUnitIsNamedAndTheOtherOneOffered) {
+    Rib().UniteDouteuse = true;
+    ASSERT_THAT(Subjects(), ElementsAre(NoticeSubject::unit));
+    const Notice in_mm = Standing().front();
+    EXPECT_EQ(in_mm.text, "A rib file names no unit. Read in millimetres, the lengths of this one "
+                          "look like inches.");
+    EXPECT_THAT(in_mm.buttons,
+                ElementsAre(NoticeButton{NoticeAct::open_in_other_unit, "Open it in inches"}));
+    programme.settings.Unite = kUniteIn;
+    const Notice in_inches = Standing().front();
+    EXPECT_EQ(in_inches.text, "A rib file names no unit. Read in inches, the lengths of this one "
+                              "look like millimetres.");
+    EXPECT_EQ(in_inches.buttons.at(0).text, "Open it in millimetres");
+}
+
 TEST_F(NoticesTest, AClosedNoticeComesBackWithItsNextCauseOnly) {
     HaveHeel();
     EXPECT_EQ(Standing().size(), 1U);

@@ -178,6 +178,72 @@ TEST_F(NoticeBarTest, SeveralNoticesStandBelowOneAnother) {
     EXPECT_TRUE(Shows("notice_airfoil_elsewhere"));
 }
 
+constexpr const char *kUnit = "notice_unit";
+constexpr const char *kUnitButton = "notice_unit_button";
+
+TEST_F(NoticeBarTest, ARibInInchesIsOpenedInInchesByOneClick) {
+    OpenBytes("inches.lfw", LadenRib("0", true).Current());
+    ASSERT_TRUE(Shows(kUnit));
+    EXPECT_EQ(world.Panel(3), "unit : mm");
+    EXPECT_EQ(Rib().corde, 6.1F);
+    world.Main().Click({kUnitButton, 0});
+    EXPECT_EQ(Rib().corde, 165.1F); // 6.1/2 inches
+    EXPECT_EQ(Rib().cordeAfich, "6.1/2");
+    EXPECT_EQ(Rib().longeron[0].LargLong, 6.35F);
+    EXPECT_EQ(world.Panel(3), "unit : in");
+    EXPECT_EQ(Caption(), "Loftwing Rib : inches.lfw Airfoil : naca2412");
+    EXPECT_FALSE(Shows(kUnit));
+    EXPECT_TRUE(world.platform.boxes.empty());
+    // The next rib is read in the user's own unit again.
+    OpenBytes("mm.lfw", ComponentsText{}.Current());
+    EXPECT_EQ(Rib().corde, 200.0F);
+    EXPECT_EQ(world.Panel(3), "unit : mm");
+    EXPECT_EQ(world.programme.settings.page.MargeHautAfich, "10");
+}
+
+TEST_F(NoticeBarTest, NothingIsReadAnewWithoutTheClick) {
+    OpenBytes("inches.lfw", LadenRib("0", true).Current());
+    ASSERT_TRUE(Shows(kUnit));
+    world.Main().Click("notice_unit_close");
+    EXPECT_FALSE(Shows(kUnit));
+    EXPECT_EQ(Rib().corde, 6.1F);
+    Choose("mnu_filesaveas", world.folder.Path("ribs/again.lfw"));
+    EXPECT_EQ(world.folder.Bytes("ribs/again.lfw"), LadenRib("0", true).Current());
+}
+
+TEST_F(NoticeBarTest, ChangesAreAskedAboutBeforeTheOtherUnit) {
+    OpenBytes("inches.lfw", LadenRib("0", true).Current());
+    ASSERT_TRUE(Shows(kUnit));
+    Rib().Modifie = true;
+    world.platform.Expect(BoxAnswer::no, {.text = HasSubstr("Open another rib all the same?")});
+    world.Main().Click({kUnitButton, 0});
+    EXPECT_EQ(Rib().corde, 6.1F);
+    EXPECT_TRUE(Shows(kUnit));
+}
+
+TEST_F(NoticeBarTest, ATypedChordBringsNoDoubtOfTheUnit) {
+    OpenBytes("rib.lfw", ComponentsText{}.Current());
+    world.Run("mnu_profilcorde", {[](Seen &dialog) {
+                  dialog.Type("infotxt", "38");
+                  dialog.Key("infotxt", Qt::Key_Return);
+              }});
+    EXPECT_EQ(Rib().corde, 38.0F);
+    EXPECT_FALSE(Shows(kUnit));
+}
+
+TEST(NoticeBarInInches, ARibInMillimetresIsOfferedInMillimetres) {
+    WindowWorld world("English", "in");
+    world.folder.File("airfoils/naca2412.dat", ReadWholeFile(WindowWorld::Sample("naca2412.dat")));
+    world.Open().OuvreFichier(world.folder.File("rib.lfw", ComponentsText{}.Current()));
+    QApplication::processEvents();
+    ASSERT_TRUE(world.Main().Shown(kUnit));
+    EXPECT_EQ(world.Main().Word({kUnitButton, 0}), "Open it in millimetres");
+    world.Main().Click({kUnitButton, 0});
+    EXPECT_EQ(world.programme.rib.corde, 200.0F);
+    EXPECT_EQ(world.Panel(3), "unit : mm");
+    EXPECT_FALSE(world.Main().Has(kUnit) && world.Main().Shown(kUnit));
+}
+
 TEST(NoticeBarLooks, NothingIsCutInAnyLanguageUnitOrSize) {
     for (const char *language : {"English", "French"}) {
         for (const char *unit : {"mm", "in"}) {
