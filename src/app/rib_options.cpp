@@ -2,6 +2,7 @@
 
 #include "app/typed_value.h"
 #include "features/rib_entry.h"
+#include "features/talon.h"
 #include "output/page_setup.h"
 
 #include <algorithm>
@@ -40,6 +41,22 @@ std::uint8_t PaperNamed(const std::string &name) {
     throw UsageError("no paper " + name + "; there are " + names);
 }
 
+/// Puts the margins of an opened rib's heel in force where the words ask for it, and tells of them
+/// where they don't: the drawing of old is the one without. False when they are too long.
+bool TakeHeelMargins(const Arguments &arguments, Programme &programme) {
+    const Saisie saisie = programme.SaisieEnCours();
+    if (!MargesEnAttente(programme.rib, saisie)) {
+        return true;
+    }
+    if (arguments.Has("--heel")) {
+        return PrendMarges(programme.rib, saisie);
+    }
+    programme.messages.Inform(TexteMargesEnAttente(programme.rib, saisie) + " " +
+                                  programme.Text({"FrmTalon", "184"}),
+                              programme.rib.NomFichierRib);
+    return true;
+}
+
 } // namespace
 
 std::vector<OptionRule> RibOptions() {
@@ -53,7 +70,8 @@ std::vector<OptionRule> RibOptions() {
             {"--no-reference-line", nullptr, "leave out the reference line"},
             {"--chord-thickness", nullptr, "write the greatest thickness"},
             {"--le-thickness", nullptr, "write the height at the leading edge stock"},
-            {"--te-thickness", nullptr, "write the height at the trailing edge stock"}};
+            {"--te-thickness", nullptr, "write the height at the trailing edge stock"},
+            {"--heel", nullptr, "put the margins of a rib components file's heel in force"}};
 }
 
 std::vector<OptionRule> PageOptions() {
@@ -83,6 +101,9 @@ bool ApplyRibOptions(const Arguments &arguments, Programme &programme) {
         }
     }
     RibModel &rib = programme.rib;
+    if (!TakeHeelMargins(arguments, programme)) {
+        return false;
+    }
     rib.AffHaut = rib.AffHaut || arguments.Has("--invert");
     rib.AffTrac = !arguments.Has("--no-contour");
     rib.AffLignRef = !arguments.Has("--no-reference-line");

@@ -17,7 +17,7 @@ std::string FailureText(const std::string &opening, const std::string &middle,
 void Messages::PoseMotsDesBoutons() const {
     platform.SetButtonWords({Text({"TextButton", "1"}), Text({"TextButton", "2"}),
                              Text({"TextButton", "30"}), Text({"TextButton", "31"}),
-                             Text({"TextButton", "32"})});
+                             Text({"TextButton", "32"}), Text({"TextButton", "180"})});
 }
 
 void Messages::Inform(const std::string &text, const std::string &title) const {

@@ -46,6 +46,7 @@ void ReprendProfil(RibModel &rib) {
     rib.Modifie = true;
     rib.NomFichierRib = rib.NomProfil;
     rib.FichierRibOuvert = false;
+    rib.Partie<FichierConnu>() = {};
 }
 
 void NommeProfil(RibModel &rib, const std::string &path) {

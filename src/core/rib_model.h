@@ -12,6 +12,7 @@ namespace loftwing {
 /// keeps the parts concerned and nothing else.
 struct RibModel : IdentiteProfil,
                   FichierRib,
+                  FichierConnu,
                   PointsLus,
                   ContourPrepare,
                   NouvelleSection,

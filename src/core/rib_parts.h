@@ -41,6 +41,13 @@ struct FichierRib {
     bool FichierRibOuvert = false; ///< the rib came from a rib components file
 };
 
+/// The rib components file that the rib was read from or saved to last.
+struct FichierConnu {
+    std::string CheminRib;       ///< its full path; empty without such a file
+    bool ProfilAilleurs = false; ///< it was saved while its airfoil lay outside the airfoil folders
+    bool UniteDouteuse = false;  ///< as it was read its lengths look like those of the other unit
+};
+
 /// The airfoil as read, in fractions of the chord, from the trailing edge over the upper surface to
 /// the leading edge and back.
 struct PointsLus {

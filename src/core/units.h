@@ -13,6 +13,11 @@ namespace loftwing {
 inline constexpr std::string_view kUniteMm = " mm";
 inline constexpr std::string_view kUniteIn = " in";
 
+/// The unit that isn't in force.
+constexpr std::string_view AutreUnite(std::string_view Unite) {
+    return Unite == kUniteMm ? kUniteIn : kUniteMm;
+}
+
 /// What the conversion of a typed text needs to know: the unit in force and who hears of a refusal.
 struct Saisie {
     const std::string &Unite;

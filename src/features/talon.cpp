@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace loftwing {
 
@@ -48,6 +49,38 @@ void AlerteVrillage(const Saisie &saisie, const std::string &titre) {
 
 std::string TexteMm(double mm, const std::string &Unite) {
     return DepuisMm(mm, Unite) + Unite;
+}
+
+/// Whether a margin's text is a length, told without a box.
+bool EstMarge(const std::string &text, const Saisie &saisie) {
+    return text.ends_with('%') || !EstRefusee(text, saisie.Unite);
+}
+
+/// The heel with its margins in force; nothing where a text is none.
+std::optional<Talon> MargesSansBoite(const RibModel &rib, const Saisie &saisie) {
+    const Talon &talon = rib.talon;
+    if (!EstMarge(talon.TalonBAAfich, saisie) || !EstMarge(talon.TalonBFAfich, saisie)) {
+        return std::nullopt;
+    }
+    try {
+        return AvecMarges(talon, rib.corde, saisie);
+    } catch (const Failure &) {
+        return std::nullopt;
+    }
+}
+
+bool TropLongues(const Talon &talon, float corde) {
+    return Depasse(talon.TalonBA, corde) || Depasse(talon.TalonBF, corde) ||
+           Depasse(talon.TalonLong, corde);
+}
+
+/// Tells that these margins are too long for the rib's chord.
+void RefuseMargesDe(const Talon &talon, const RibModel &rib, const Saisie &saisie,
+                    const std::string &titre) {
+    saisie.messages.Inform(saisie.messages.Text({"FrmTalon", "5"}) + " : " +
+                               TexteMarges(talon, saisie.Unite) + " > " +
+                               DepuisMm(rib.corde, saisie.Unite) + saisie.Unite,
+                           titre);
 }
 
 /// The negative, but never a 0 with a sign.
@@ -132,16 +165,37 @@ std::string TexteMarges(const Talon &talon, const std::string &Unite) {
 }
 
 bool MargesTropLongues(const RibModel &rib) {
-    const Talon &talon = rib.talon;
-    return Depasse(talon.TalonBA, rib.corde) || Depasse(talon.TalonBF, rib.corde) ||
-           Depasse(talon.TalonLong, rib.corde);
+    return TropLongues(rib.talon, rib.corde);
 }
 
 void RefuseMarges(const RibModel &rib, const Saisie &saisie, const std::string &titre) {
-    saisie.messages.Inform(saisie.messages.Text({"FrmTalon", "5"}) + " : " +
-                               TexteMarges(rib.talon, saisie.Unite) + " > " +
-                               DepuisMm(rib.corde, saisie.Unite) + saisie.Unite,
-                           titre);
+    RefuseMargesDe(rib.talon, rib, saisie, titre);
+}
+
+bool MargesEnAttente(const RibModel &rib, const Saisie &saisie) {
+    if (rib.TypeGabarit != kGabaritTalon || rib.talon.TalonBA != 0 || rib.talon.TalonBF != 0) {
+        return false;
+    }
+    const auto in_force = MargesSansBoite(rib, saisie);
+    return in_force && (in_force->TalonBA != 0 || in_force->TalonBF != 0);
+}
+
+std::string TexteMargesEnAttente(const RibModel &rib, const Saisie &saisie) {
+    const Messages &messages = saisie.messages;
+    const Talon talon = MargesSansBoite(rib, saisie).value_or(rib.talon);
+    return messages.Text({"FrmTalon", "180"}) + " " + TexteMm(talon.TalonBA, saisie.Unite) + ", " +
+           TexteMm(talon.TalonBF, saisie.Unite) + ". " + messages.Text({"FrmTalon", "181"});
+}
+
+bool PrendMarges(RibModel &rib, const Saisie &saisie) {
+    const Talon talon = AvecMarges(rib.talon, rib.corde, saisie);
+    if (TropLongues(talon, rib.corde)) {
+        RefuseMargesDe(talon, rib, saisie, TitreTalon(rib, saisie));
+        return false;
+    }
+    rib.talon = talon;
+    rib.Modifie = true;
+    return true;
 }
 
 bool SuitTalon(RibModel &rib, int champ, const TextesTalon &typed, const Saisie &saisie,

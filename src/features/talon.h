@@ -38,6 +38,16 @@ double FaceTalon(const RibModel &rib, float EpRel, double station);
 /// The heel with its margins taken from their texts for a chord in mm, and their sum.
 Talon AvecMarges(Talon talon, float corde, const Saisie &saisie);
 
+/// Whether the rib carries a heel that is drawn without the margins that its texts have: after a
+/// rib components file was opened, until the margins are confirmed. Texts that are no lengths don't
+/// count; the heel's window tells of them.
+bool MargesEnAttente(const RibModel &rib, const Saisie &saisie);
+/// Says so: "The heel's margins from the rib file are not in force : 20 mm, 30 mm. ...".
+std::string TexteMargesEnAttente(const RibModel &rib, const Saisie &saisie);
+/// Takes the margins into use, as OK of the heel's window would, and nothing else. False when they
+/// are too long: a box told so, and the rib stays as it is. Failures of VersMm.
+bool PrendMarges(RibModel &rib, const Saisie &saisie);
+
 /// The texts of the heel's window, by the index of their text box.
 inline constexpr int kTalonIntra = 0;
 inline constexpr int kTalonMargeBA = 1;

@@ -12,6 +12,7 @@
 #include "persist/frmdefaut.h"
 #include "platform/qt_form.h"
 #include "programme/export.h"
+#include "programme/heel_steps.h"
 #include "programme/rib_steps.h"
 
 namespace loftwing {
@@ -33,6 +34,9 @@ void frmmain::mnu_fileprint_Click() {
     const Messages &messages = programme_.messages;
     if (!messages.Confirm(QuestionImpression(programme_.rib, programme_.compare, messages),
                           kTitre)) {
+        return;
+    }
+    if (!DemandeMarges(programme_, *this)) {
         return;
     }
     PlotState plot = EtatAmorce(programme_.rib);

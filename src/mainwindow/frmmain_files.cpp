@@ -2,6 +2,7 @@
 
 #include "mainwindow/frmmain.h"
 #include "programme/file_steps.h"
+#include "programme/heel_steps.h"
 #include "programme/qt_export_command.h"
 
 #include <filesystem>
@@ -33,7 +34,8 @@ void frmmain::mnu_filesaveas_Click() {
 
 void frmmain::Exporte(const EntreeExport &entree) {
     Garde(entree.etiquette, [this, &entree] {
-        if (!ExporteVue(programme_, entree, [this] { return RegleMiseEnPage(); })) {
+        if (DemandeMarges(programme_, *this) &&
+            !ExporteVue(programme_, entree, [this] { return RegleMiseEnPage(); })) {
             affclear();
         }
     });

@@ -17,6 +17,16 @@ MainFrame::MainFrame(Programme &programme, CommandBars::Demandes demandes)
     : programme_(programme), commands_(*this, std::move(demandes)),
       picture_(new PictureArea(programme.rib, this)), panels_(*this) {
     setCentralWidget(picture_);
+    ConnectNotices();
+}
+
+void MainFrame::ConnectNotices() {
+    connect(&picture_->Avis(), &NoticeBar::Demande, this,
+            [this](NoticeAct act) { DoNotice(programme_, *this, act); });
+    connect(&picture_->Avis(), &NoticeBar::Ferme, this, [this](NoticeSubject subject) {
+        notices_.Close(subject);
+        MontreAvis();
+    });
 }
 
 void MainFrame::Garde(const std::string &label, const std::function<void()> &action) {
@@ -53,6 +63,7 @@ void MainFrame::AppliqueLangue() {
     programme_.messages.PoseMotsDesBoutons();
     toolkit_words_.Follow(programme_.language.LangueCourante);
     AppliqueLangueOutils(*this);
+    MontreAvis();
 }
 
 void MainFrame::MontreCoches() {
@@ -82,11 +93,17 @@ void MainFrame::Dessine(const std::function<Affichage(const Trace &)> &draw,
         tell();
     }
     picture_->RegleDefilement();
+    MontreAvis();
+}
+
+void MainFrame::MontreAvis() {
+    picture_->Avis().Montre(notices_.Standing(programme_), Q(programme_.Text({"TextButton", "5"})));
 }
 
 void MainFrame::VideImage() {
     picture_->Montre(nullptr);
     picture_->RegleDefilement();
+    MontreAvis();
 }
 
 void MainFrame::RemetZoom() {

@@ -7,6 +7,7 @@
 #include "mainwindow/toolkit_words.h"
 #include "output/screen_plot.h"
 #include "programme/command_view.h"
+#include "programme/notices.h"
 #include "programme/programme.h"
 
 #include <QMainWindow>
@@ -32,6 +33,7 @@ class MainFrame : public QMainWindow, public CommandView {
     void AfficheFichiersRecents() override;
     void AppliqueLangue() override;
     void MontreCoches() override;
+    void MontreAvis() override;
     void VideImage() override;
     void RemetZoom() override;
     void FermeDialogues() override;
@@ -54,8 +56,11 @@ class MainFrame : public QMainWindow, public CommandView {
     void PrendCoche(const char *name);
 
   private:
+    void ConnectNotices();
+
     ToolkitWords toolkit_words_;
     StatusPanels panels_;
+    Notices notices_;
     bool drawing_ = false; ///< a redraw is under way, perhaps waiting in a box
 };
 

@@ -19,7 +19,7 @@ void SetRange(QScrollBar &bar, const ScrollRange &range) {
 } // namespace
 
 PictureArea::PictureArea(RibModel &rib, QWidget *parent)
-    : QWidget(parent), rib_(rib), Pic_(this), Hsbpic_(Qt::Horizontal, this),
+    : QWidget(parent), rib_(rib), notices_(this), Pic_(this), Hsbpic_(Qt::Horizontal, this),
       Vsbpic_(Qt::Vertical, this) {
     Hsbpic_.setObjectName("Hsbpic");
     Vsbpic_.setObjectName("Vsbpic");
@@ -37,9 +37,10 @@ void PictureArea::LayOut() {
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(0);
-    grid->addWidget(&Pic_, 0, 0);
-    grid->addWidget(&Vsbpic_, 0, 1);
-    grid->addWidget(&Hsbpic_, 1, 0);
+    grid->addWidget(&notices_, 0, 0, 1, 2);
+    grid->addWidget(&Pic_, 1, 0);
+    grid->addWidget(&Vsbpic_, 1, 1);
+    grid->addWidget(&Hsbpic_, 2, 0);
 }
 
 void PictureArea::Connect() {
@@ -57,7 +58,17 @@ void PictureArea::Connect() {
     resized_.setSingleShot(true);
     resized_.setInterval(0);
     connect(&Pic_, &PicView::Redimensionne, &resized_, qOverload<>(&QTimer::start));
-    connect(&resized_, &QTimer::timeout, this, &PictureArea::Redimensionne);
+    connect(&resized_, &QTimer::timeout, this, &PictureArea::Repose);
+}
+
+void PictureArea::Repose() {
+    // A notice that comes or goes moves the picture's edge only; the drawing is the same.
+    if (size() == size_at_rest_) {
+        RegleDefilement();
+        return;
+    }
+    size_at_rest_ = size();
+    Q_EMIT Redimensionne();
 }
 
 void PictureArea::RegleDefilement() {

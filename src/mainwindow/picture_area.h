@@ -1,7 +1,8 @@
-/// The main window's picture with its scroll bars.
+/// The main window's picture with its scroll bars, and the notices above it.
 #pragma once
 
 #include "core/rib_model.h"
+#include "mainwindow/notice_bar.h"
 #include "mainwindow/pic_view.h"
 #include "output/scrolling.h"
 
@@ -24,6 +25,8 @@ class PictureArea : public QWidget {
     void Montre(std::unique_ptr<Recording> drawing) { Pic_.Montre(std::move(drawing)); }
     /// Gives the bars their ranges over the present drawing.
     void RegleDefilement();
+    /// The strips above the picture.
+    NoticeBar &Avis() { return notices_; }
     /// Scrolls back without a redraw.
     void RemetDefilement();
 
@@ -33,19 +36,23 @@ class PictureArea : public QWidget {
     void MenuDemande(const QPoint &global);
     /// Ctrl with the wheel: that many steps of the zoom list, positive to a larger one.
     void ZoomDemande(int steps);
-    /// The picture has another size and has come to rest.
+    /// The picture has another size, by the window's doing and not by a notice, and has come to
+    /// rest.
     void Redimensionne();
 
   private:
     RibModel &rib_;
+    NoticeBar notices_;
     PicView Pic_;
     QScrollBar Hsbpic_;
     QScrollBar Vsbpic_;
     QTimer resized_;
+    QSize size_at_rest_; ///< of all of it
     ScrollDrag drag_;
 
     void LayOut();
     void Connect();
+    void Repose();
     void Hsbpic_Change(int value);
     void Vsbpic_Change(int value);
     void Deplace(const ScrollMove &move);

@@ -17,7 +17,7 @@ constexpr std::string_view kPied = "End of File V 3.0.02 modif 02/10/2002";
 /// The spar's lines, as reader and writer walk them.
 template <class Record, class Passe>
 void LignesLongeron(Record &spar, Passe &passe) {
-    passe.Texte(spar.PosLongAfich);
+    passe.Place(spar.PosLongAfich);
     passe.Affichage(spar.LargLongAfich, spar.LargLong);
     passe.Affichage(spar.HautLongAfich, spar.HautLong);
     passe.Octet(spar.OptLongExt);
@@ -30,7 +30,7 @@ void LignesLongeron(Record &spar, Passe &passe) {
 
 template <class Record, class Passe>
 void LignesTrou(Record &hole, Passe &passe) {
-    passe.Texte(hole.PosTrouAfich);
+    passe.Place(hole.PosTrouAfich);
     passe.Affichage(hole.DiaTrouAfich, hole.DiaTrou);
     passe.Reel(hole.ChkCentre);
     passe.Affichage(hole.DecalTrouAfich, hole.DecalTrou);
@@ -126,7 +126,7 @@ void LigneBordAncien(Lecteur &lecteur, std::uint8_t &TypeBA) {
 }
 
 void LongeronAncien(Lecteur &lecteur, Longeron &spar) {
-    lecteur.Texte(spar.PosLongAfich);
+    lecteur.Place(spar.PosLongAfich);
     lecteur.Affichage(spar.LargLongAfich, spar.LargLong);
     lecteur.Affichage(spar.HautLongAfich, spar.HautLong);
     lecteur.Octet(spar.OptLongExt);
@@ -135,7 +135,7 @@ void LongeronAncien(Lecteur &lecteur, Longeron &spar) {
 }
 
 void TrouAncien(Lecteur &lecteur, Trou &hole) {
-    lecteur.Texte(hole.PosTrouAfich);
+    lecteur.Place(hole.PosTrouAfich);
     lecteur.Affichage(hole.DiaTrouAfich, hole.DiaTrou);
     lecteur.Reel(hole.ChkCentre);
     lecteur.Affichage(hole.DecalTrouAfich, hole.DecalTrou);
@@ -199,11 +199,22 @@ std::vector<std::string> LignesDe(const std::string &bytes) {
     return lines;
 }
 
+/// Whether lengths that were read in `Unite` look like those of the other one: a chord of more than
+/// a metre in inches, in mm one of a few centimetres or fractions.
+bool SembleAutreUnite(const RibModel &rib, bool fractions, const std::string &Unite) {
+    constexpr double kCordeDouteuse = 40; // in either unit
+    constexpr double kMmParPouce = 25.4;
+    const double corde = Wide(rib.corde);
+    return Unite == kUniteMm ? corde < kCordeDouteuse || fractions
+                             : corde > kCordeDouteuse * kMmParPouce;
+}
+
 void LitAncien(const std::vector<std::string> &lines, RibModel &rib, const Saisie &saisie) {
     Lecteur lecteur(lines, saisie);
     while (!lecteur.Fini()) {
         LignesAnciennes(rib, lecteur);
     }
+    rib.UniteDouteuse = SembleAutreUnite(rib, lecteur.Fractions(), saisie.Unite);
 }
 
 } // namespace
@@ -227,6 +238,7 @@ FormatComposants LitComposants(const std::string &bytes, RibModel &rib, const Sa
         Lignes(rib, lecteur);
         nom_cherche = lecteur.NomComplet();
     }
+    rib.UniteDouteuse = SembleAutreUnite(rib, lecteur.Fractions(), saisie.Unite);
     return FormatComposants::courant;
 }
 

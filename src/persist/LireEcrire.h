@@ -25,7 +25,8 @@ enum class FormatComposants {
 /// and ExtProfil tell which. `nom_cherche` gets the name to search for. Lengths are read in the
 /// unit in force; limits are not checked, and only the first text that is no length is told of. A
 /// file whose first line isn't the current one's counts as of the older format, whatever it holds;
-/// what that doesn't hold stays as it was.
+/// what that doesn't hold stays as it was. UniteDouteuse says whether the lengths look like those
+/// of the other unit, since the file names none.
 ///
 /// Failure 62 for a file that is too short, 9 for more than 13 spars or holes, 6 for a number that
 /// its field can't hold, and those of VersMm. The rib then has what was read so far.
@@ -39,5 +40,8 @@ FormatComposants LitComposants(const std::string &bytes, RibModel &rib, const Sa
 /// empty when there is none.
 std::string ChercheProfil(const std::vector<std::string> &dossiers, const std::string &nom,
                           const std::function<void()> &pause);
+/// The airfoil file `nom` in the folder of a rib components file itself, without what is below it.
+/// Empty when it isn't there.
+std::string ProfilACote(const std::string &chemin_rib, const std::string &nom);
 
 } // namespace loftwing

@@ -73,14 +73,17 @@ class Recherche {
     }
 };
 
+/// Whether a name is one of a file and no path.
+bool EstNomNu(const std::string &nom) {
+    return !nom.empty() && nom != "." && nom != ".." &&
+           nom.find_first_of("/\\") == std::string::npos && nom.find('\0') == std::string::npos;
+}
+
 } // namespace
 
 std::string ChercheProfil(const std::vector<std::string> &dossiers, const std::string &nom,
                           const std::function<void()> &pause) {
-    const bool plain = !nom.empty() && nom != "." && nom != ".." &&
-                       nom.find_first_of("/\\") == std::string::npos &&
-                       nom.find('\0') == std::string::npos;
-    if (!plain) {
+    if (!EstNomNu(nom)) {
         return {};
     }
     Recherche search(nom, pause);
@@ -91,6 +94,12 @@ std::string ChercheProfil(const std::vector<std::string> &dossiers, const std::s
         }
     }
     return {};
+}
+
+std::string ProfilACote(const std::string &chemin_rib, const std::string &nom) {
+    const fs::path beside = fs::path(chemin_rib).parent_path() / nom;
+    std::error_code error;
+    return EstNomNu(nom) && fs::is_regular_file(beside, error) ? beside.string() : std::string();
 }
 
 } // namespace loftwing

@@ -100,8 +100,15 @@ TextesDefaut LitTextesDefaut(const std::string &fichier) {
     return texts;
 }
 
+TextesDefaut TextesDefautEn(std::string_view Unite, const std::string &fichier) {
+    const std::string kept = GetINIFile("Defaut", "unit", fichier);
+    const bool of_other = Trim(kept) == Trim(AutreUnite(Unite));
+    return of_other ? JeuDe(Unite).lengths : LitTextesDefaut(fichier);
+}
+
 TextesDefaut TextesDefautConnus(const AppSettings &settings, const std::string &fichier) {
-    return settings.fichier.perdu ? JeuDe(settings.Unite).lengths : LitTextesDefaut(fichier);
+    return settings.fichier.perdu ? JeuDe(settings.Unite).lengths
+                                  : TextesDefautEn(settings.Unite, fichier);
 }
 
 TextesDefaut ChoisitUnite(AppSettings &settings, std::string_view Unite, const Messages &messages) {

@@ -23,7 +23,10 @@ using TextesDefaut = std::array<std::string, kChampsDefaut>;
 
 /// The default lengths on file, empty where there are none. Failure as IniFile::Read.
 TextesDefaut LitTextesDefaut(const std::string &fichier);
-/// The same, and the built-in ones where the settings file is lost.
+/// The same as texts in `Unite`: where the file's are of the other unit, the lengths that go with
+/// this one.
+TextesDefaut TextesDefautEn(std::string_view Unite, const std::string &fichier);
+/// The same in the unit in force, and the built-in ones where the settings file is lost.
 TextesDefaut TextesDefautConnus(const AppSettings &settings, const std::string &fichier);
 
 /// Changes the unit to " mm" or " in", and the page to the values that go with it. Nothing is

@@ -61,7 +61,7 @@ void Lecteur::Reserve(std::string &line) {
 }
 
 void Lecteur::Marge(std::string &afich, double &mm) {
-    afich = Suivante();
+    afich = Longueur(Suivante());
     if (afich.empty()) {
         afich = "0";
         mm = 0;
@@ -93,8 +93,15 @@ void Lecteur::TalonExtra(Talon &talon) {
     if (!height) {
         return;
     }
+    Longueur(*height); // before it is cut to its leading number
     talon.OptTalon = ToInt16(LeadingNumber(kind));
     Prend(TexteDuNombre(*height), talon.TalonExtraAfich, talon.TalonExtra);
+}
+
+/// A length's text, looked at as it passes.
+const std::string &Lecteur::Longueur(const std::string &text) {
+    fractions_ = fractions_ || text.find('/') != std::string::npos;
+    return text;
 }
 
 double Lecteur::Mm(const std::string &text) {
@@ -109,12 +116,12 @@ double Lecteur::Mm(const std::string &text) {
 }
 
 void Lecteur::Prend(std::string text, std::string &afich, float &mm) {
-    mm = ToSingle(Mm(text));
+    mm = ToSingle(Mm(Longueur(text)));
     afich = std::move(text);
 }
 
 void Lecteur::Prend(std::string text, std::string &afich, double &mm) {
-    mm = Mm(text);
+    mm = Mm(Longueur(text));
     afich = std::move(text);
 }
 

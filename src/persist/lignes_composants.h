@@ -20,6 +20,7 @@ class Redacteur {
 
     void Fixe(std::string_view line) { Ligne(line); }
     void Texte(const std::string &line) { Ligne(line); }
+    void Place(const std::string &line) { Ligne(line); }
     void Reserve(const std::string &line) { Ligne(line); }
     /// A length: its text as typed.
     template <class Number>
@@ -54,10 +55,14 @@ class Lecteur {
     const std::string &Suivante();
     /// The airfoil file's name as the file has it.
     const std::string &NomComplet() const { return nom_; }
+    /// Whether a length so far was written as a fraction.
+    bool Fractions() const { return fractions_; }
 
     /// A heading, which is not looked at.
     void Fixe(std::string_view /*line*/) { Suivante(); }
     void Texte(std::string &line) { line = Suivante(); }
+    /// A place along the chord keeps its text alone.
+    void Place(std::string &line) { line = Longueur(Suivante()); }
     /// Of a spare line only the number at its start survives.
     void Reserve(std::string &line);
     template <class Number>
@@ -84,8 +89,10 @@ class Lecteur {
     const Saisie &saisie_;
     std::size_t next_ = 0;
     std::string nom_;
+    bool fractions_ = false;
     bool refus_dit_ = false; ///< a box told of a length that is none
 
+    const std::string &Longueur(const std::string &text);
     double Mm(const std::string &text);
 };
 

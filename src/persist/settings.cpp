@@ -204,6 +204,17 @@ void ControleDossiers(const Reglages &reglages, const std::string &programme) {
     }
 }
 
+/// Whether the unit in force is the one on file; a rib may be shown in the other one. A file that
+/// has none takes any.
+bool UniteDuFichier(const Reglages &reglages) {
+    try {
+        const std::string kept = GetINIFile("Defaut", "unit", reglages.fichier);
+        return Trim(kept).empty() || Trim(kept) == Trim(reglages.settings.Unite);
+    } catch (const Failure &) {
+        return true; // the writing tells of it
+    }
+}
+
 std::string CleRecente(int number) {
     return "RecentFile" + std::to_string(number);
 }
@@ -251,6 +262,9 @@ void EcritRepertoires(const Reglages &reglages) {
     Ecrit(reglages, {TableRepertoires(reglages)});
 }
 void EcritMarges(const Reglages &reglages) {
+    if (!UniteDuFichier(reglages)) {
+        return; // its texts would be read in the other unit
+    }
     Ecrit(reglages, {TableMarges(reglages)});
 }
 

@@ -30,7 +30,7 @@ void EcritStyles(const Reglages &reglages);
 void EcritEpaisseurs(const Reglages &reglages); ///< widths and the text size
 void EcritDefauts(const Reglages &reglages);
 void EcritRepertoires(const Reglages &reglages);
-void EcritMarges(const Reglages &reglages);
+void EcritMarges(const Reglages &reglages); ///< nothing in another unit than the one on file
 /// False when the file could not be written.
 bool EcritTout(const Reglages &reglages);
 

@@ -12,8 +12,8 @@ namespace loftwing {
 class Printer;
 
 enum class BoxIcon { none, information, question, warning, stop };
-enum class BoxButtons { ok, ok_cancel, yes_no, retry_cancel };
-enum class BoxAnswer { ok, cancel, yes, no, retry };
+enum class BoxButtons { ok, ok_cancel, yes_no, retry_cancel, locate_cancel };
+enum class BoxAnswer { ok, cancel, yes, no, retry, locate };
 
 /// A message box. `text` is plain text, its lines end with a line feed; a carriage return is
 /// not shown.
@@ -61,6 +61,7 @@ enum class Pointer { normal, busy };
 /// Words for the buttons of boxes; an empty one leaves those that the desktop has.
 struct ButtonWords {
     std::string ok, cancel, yes, no, retry;
+    std::string locate = {};
 };
 
 /// The seam to the world. Texts are UTF-8; an empty answer of a chooser is the cancel.

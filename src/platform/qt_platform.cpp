@@ -55,6 +55,7 @@ const BoxButton kCancelButton = {BoxAnswer::cancel, QMessageBox::Cancel, &Button
 const BoxButton kYes = {BoxAnswer::yes, QMessageBox::Yes, &ButtonWords::yes};
 const BoxButton kNo = {BoxAnswer::no, QMessageBox::No, &ButtonWords::no};
 const BoxButton kRetry = {BoxAnswer::retry, QMessageBox::Retry, &ButtonWords::retry};
+const BoxButton kLocate = {BoxAnswer::locate, QMessageBox::Open, &ButtonWords::locate};
 
 /// The buttons of a box; the last is what closing it means.
 std::vector<BoxButton> ButtonsOf(BoxButtons buttons) {
@@ -65,6 +66,8 @@ std::vector<BoxButton> ButtonsOf(BoxButtons buttons) {
         return {kYes, kNo};
     case BoxButtons::retry_cancel:
         return {kRetry, kCancelButton};
+    case BoxButtons::locate_cancel:
+        return {kLocate, kCancelButton};
     case BoxButtons::ok:
         break;
     }

@@ -38,6 +38,9 @@ class CommandView : public MainView {
     /// Makes the checks of the view menu show what the rib has.
     virtual void MontreCoches() = 0;
 
+    /// Makes the notices above the picture those of the rib as it is now. Redraws do so themselves.
+    virtual void MontreAvis() = 0;
+
     /// Takes the rib out of special views and scrolls back.
     virtual void ViewReset() = 0;
     /// Empties the picture.

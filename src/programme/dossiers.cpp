@@ -2,6 +2,7 @@
 
 #include "lang/ini_file.h"
 
+#include <algorithm>
 #include <filesystem>
 
 namespace loftwing {
@@ -10,7 +11,35 @@ namespace {
 
 constexpr const char *kSection = "Repertoires";
 
+namespace fs = std::filesystem;
+
+/// Whether `place` begins with all of `folder`.
+bool EstSous(const fs::path &place, const fs::path &folder) {
+    return std::mismatch(folder.begin(), folder.end(), place.begin(), place.end()).first ==
+           folder.end();
+}
+
 } // namespace
+
+std::string CheminEntier(const std::string &path) {
+    std::error_code error;
+    const fs::path whole = fs::absolute(path, error);
+    return error ? path : whole.lexically_normal().string();
+}
+
+std::string DossierDe(const std::string &path) {
+    return fs::path(CheminEntier(path)).parent_path().string();
+}
+
+bool EstDans(const std::string &path, const std::vector<std::string> &dossiers) {
+    std::error_code error;
+    const fs::path place = fs::weakly_canonical(path, error);
+    return std::any_of(dossiers.begin(), dossiers.end(), [&](const std::string &folder) {
+        std::error_code unknown;
+        const fs::path real = fs::canonical(folder, unknown);
+        return !unknown && EstSous(place, real);
+    });
+}
 
 std::string DossierRetenu(const Programme &programme, const char *key,
                           const std::string &fallback) {

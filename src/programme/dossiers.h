@@ -4,12 +4,20 @@
 #include "programme/programme.h"
 
 #include <string>
+#include <vector>
 
 namespace loftwing {
 
 /// The folder that the settings file has under `key` of its section of folders, `fallback` when it
 /// has none. Failures as GetINIFile.
 std::string DossierRetenu(const Programme &programme, const char *key, const std::string &fallback);
+
+/// A path from the root of the file system on.
+std::string CheminEntier(const std::string &path);
+/// The folder of a file, as such a path.
+std::string DossierDe(const std::string &path);
+/// Whether a file lies in one of some folders or below it.
+bool EstDans(const std::string &path, const std::vector<std::string> &dossiers);
 
 /// Notes the folder of a file that was chosen. Failures as WriteINIFile.
 void RetientDossier(const Programme &programme, const char *key, const std::string &path);

@@ -4,6 +4,7 @@
 #include "base/whole_file.h"
 #include "core/airfoil_reader.h"
 #include "persist/LireEcrire.h"
+#include "persist/default_entry.h"
 #include "platform/busy_pointer.h"
 #include "programme/dossiers.h"
 #include "programme/rib_file.h"
@@ -29,15 +30,21 @@ FileQuestion QuestionComposants(const Programme &programme, const std::string &t
     return question;
 }
 
-/// Opens a rib components file with the airfoil that it names.
-void newLfw(Programme &programme, CommandView &view, const std::string &path) {
+/// Opens a rib components file with the airfoil that it names, in another unit where one is given.
+void newLfw(Programme &programme, CommandView &view, const std::string &path,
+            std::string_view Unite = {}) {
     RetientDossier(programme, "LastOpenLfw", path);
     view.affclear();
+    if (!Unite.empty()) {
+        ChoisitUnite(programme.settings, Unite, programme.messages);
+        view.AfficheUnite();
+    }
     const Repertoires &folders = programme.settings.repertoires;
     OuvertureComposants end{};
     {
         const Sablier sablier(programme.platform);
-        end = OuvreComposants(programme, {path, {folders.RepProfil, folders.RepProfilevol}});
+        end = OuvreComposants(programme,
+                              {path, {folders.RepProfil, folders.RepProfilevol}, true, true});
     }
     if (end == OuvertureComposants::ouverte) {
         view.Titre(TitreComposants(programme, " "));
@@ -109,6 +116,13 @@ void OuvreFichier(Programme &programme, CommandView &view, const std::string &pa
     }
 }
 
+void OuvreAutreUnite(Programme &programme, CommandView &view) {
+    if (ConfirmePerte(programme, {"fileopen", "1"}, {"fileopen", "2"})) {
+        const std::string path = programme.rib.CheminRib; // goes with the rib
+        newLfw(programme, view, path, AutreUnite(programme.settings.Unite));
+    }
+}
+
 std::string EtiquetteOuverture(const std::string &path) {
     return EstComposants(path) ? " LireEcrire/newLfw" : " Main/FileMru";
 }
@@ -127,6 +141,10 @@ void EnregistreRib(Programme &programme, CommandView &view) {
     WriteWholeFile(path, EcritComposants(rib));
     rib.NomFichierRib = fs::path(path).filename().string();
     rib.Modifie = false;
+    rib.CheminRib = CheminEntier(path);
+    const Repertoires &folders = programme.settings.repertoires;
+    rib.ProfilAilleurs = !EstDans(rib.CheminProfil, {folders.RepProfil, folders.RepProfilevol});
+    view.MontreAvis();
     view.Titre(TitreComposants(programme, "  "));
 }
 

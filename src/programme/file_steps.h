@@ -20,6 +20,11 @@ void OuvreFichier(Programme &programme, CommandView &view, const std::string &pa
 /// Under which a failure of that is reported.
 std::string EtiquetteOuverture(const std::string &path);
 
+/// Reads the rib's file anew in the unit that isn't in force, after the usual question where that
+/// loses changes. The unit, with the page that goes with it, holds for this rib; the one on file
+/// comes back when the rib is cleared.
+void OuvreAutreUnite(Programme &programme, CommandView &view);
+
 /// Saves the rib as a rib components file that the user names.
 void EnregistreRib(Programme &programme, CommandView &view);
 

@@ -102,6 +102,7 @@ void VideRib(Programme &programme) {
     rib.Annule = false;
     rib.SansApercu = false;
     rib.FichierRibOuvert = false;
+    rib.Partie<FichierConnu>() = {};
 }
 
 } // namespace loftwing

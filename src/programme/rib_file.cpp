@@ -5,6 +5,7 @@
 #include "core/airfoil_reader.h"
 #include "features/inserted_text.h"
 #include "persist/LireEcrire.h"
+#include "programme/dossiers.h"
 
 #include <algorithm>
 #include <cctype>
@@ -13,6 +14,8 @@
 namespace loftwing {
 
 namespace {
+
+namespace fs = std::filesystem;
 
 void Rapporte(const Programme &programme, const Failure &failure) {
     const Messages &messages = programme.messages;
@@ -30,8 +33,8 @@ std::string LitFichier(Programme &programme, const DemandeComposants &demande) {
     return name;
 }
 
-/// Two boxes: where was searched, and the report that every failure of an opening ends in.
-void DitIntrouvable(const Programme &programme, const DemandeComposants &demande) {
+/// What is looked for, and where it was.
+std::string TexteIntrouvable(const Programme &programme, const DemandeComposants &demande) {
     const Messages &messages = programme.messages;
     const RibModel &rib = programme.rib;
     std::string text = messages.Text({"fileopen", "3"}) + " " + rib.NomProfil + "." +
@@ -41,19 +44,70 @@ void DitIntrouvable(const Programme &programme, const DemandeComposants &demande
         text += between + folder;
         between = " " + messages.Text({"fileopen", "5"}) + " ";
     }
-    messages.Inform(text, messages.Text({"fileopen", "2"}));
-    Rapporte(programme, Failure{0, {}});
+    if (demande.puis_demande) {
+        text += "\n " + messages.Text({"fileopen", "180"}) + " \n" + DossierDe(demande.path);
+    }
+    return text;
+}
+
+/// Asks the user where the airfoil is; empty when the user doesn't say.
+std::string Localise(const Programme &programme, const DemandeComposants &demande) {
+    const Messages &messages = programme.messages;
+    if (programme.platform.Show({TexteIntrouvable(programme, demande),
+                                 messages.Text({"fileopen", "2"}), BoxIcon::information,
+                                 BoxButtons::locate_cancel, BoxAnswer::locate}) !=
+        BoxAnswer::locate) {
+        return {};
+    }
+    FileQuestion question;
+    question.title = messages.Text({"fileopen", "181"}) + " " + programme.rib.NomProfil + "." +
+                     programme.rib.ExtProfil;
+    question.folder = DossierDe(demande.path);
+    question.filter_text = messages.Text({"frmopen", "4"}) + " (*.dat *.cor)";
+    question.more_filters = {messages.Text({"fileopen", "182"}) + " (*)"};
+    return programme.platform.ChooseOpenFile(question);
+}
+
+/// Where the airfoil `nom` is: in the folders, beside the file, or where the user says. Empty when
+/// it is nowhere, which a box told.
+std::string CheminDuProfil(const Programme &programme, const DemandeComposants &demande,
+                           const std::string &nom) {
+    std::string path =
+        ChercheProfil(demande.dossiers, nom, [&programme] { programme.platform.ProcessEvents(); });
+    if (!path.empty()) {
+        return path;
+    }
+    if (!demande.puis_demande) {
+        programme.messages.Inform(TexteIntrouvable(programme, demande),
+                                  programme.Text({"fileopen", "2"}));
+        return {};
+    }
+    path = ProfilACote(demande.path, nom);
+    return path.empty() ? Localise(programme, demande) : path;
 }
 
 void NoteOuvert(RibModel &rib, const std::string &path, const Messages &messages) {
-    rib.NomFichierRib = std::filesystem::path(path).filename().string();
+    rib.NomFichierRib = fs::path(path).filename().string();
     rib.FichierRibOuvert = true;
     rib.ProfilCharge = true;
     rib.Modifie = false;
+    rib.CheminRib = CheminEntier(path);
     rib.texte.TexteUtilisateur = !EstEtiquette(rib, messages);
 }
 
-OuvertureComposants LitProfil(Programme &programme, const DemandeComposants &demande) {
+/// The airfoil that the user located may have another name than the file says: the rib is then one
+/// of that airfoil, which isn't saved yet, and its label says so.
+void PrendNom(RibModel &rib, const Messages &messages) {
+    NommeProfil(rib, rib.CheminProfil);
+    rib.Modifie = true;
+    if (!rib.texte.InsTexte.empty()) {
+        RegenereTexte(rib, messages);
+    }
+}
+
+/// Reads the airfoil that was found; `name` is the one that the file has for it.
+OuvertureComposants LitProfil(Programme &programme, const DemandeComposants &demande,
+                              const std::string &name) {
     RibModel &rib = programme.rib;
     rib.SansApercu = true;
     const ResultatLecture read =
@@ -66,32 +120,35 @@ OuvertureComposants LitProfil(Programme &programme, const DemandeComposants &dem
         return OuvertureComposants::sans_profil;
     }
     NoteOuvert(rib, demande.path, programme.messages);
+    if (fs::path(rib.CheminProfil).filename() != name) {
+        PrendNom(rib, programme.messages);
+    }
     return OuvertureComposants::ouverte;
 }
 
 } // namespace
 
 bool EstComposants(const std::string &path) {
-    std::string extension = std::filesystem::path(path).extension().string();
+    std::string extension = fs::path(path).extension().string();
     std::transform(extension.begin(), extension.end(), extension.begin(),
                    [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
     return extension == ".lfw";
 }
 
 OuvertureComposants OuvreComposants(Programme &programme, const DemandeComposants &demande) {
+    std::string name;
     try {
-        const std::string name = LitFichier(programme, demande);
-        programme.rib.CheminProfil = ChercheProfil(
-            demande.dossiers, name, [&programme] { programme.platform.ProcessEvents(); });
+        name = LitFichier(programme, demande);
+        programme.rib.CheminProfil = CheminDuProfil(programme, demande, name);
         if (programme.rib.CheminProfil.empty()) {
-            DitIntrouvable(programme, demande);
+            Rapporte(programme, Failure{0, {}});
             return OuvertureComposants::echec;
         }
     } catch (const Failure &failure) {
         Rapporte(programme, failure);
         return OuvertureComposants::echec;
     }
-    return LitProfil(programme, demande);
+    return LitProfil(programme, demande, name);
 }
 
 std::string TitreComposants(const Programme &programme, const std::string &ecart) {

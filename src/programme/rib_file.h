@@ -16,6 +16,8 @@ struct DemandeComposants {
     std::string path;
     std::vector<std::string> dossiers; ///< in turn, with all that is below them
     bool reecrit = true;               ///< writes a file of the older format anew in place
+    /// Then beside the file itself, and in the end the user is asked to locate it.
+    bool puis_demande = false;
 };
 
 /// How the opening ended.
@@ -28,7 +30,8 @@ enum class OuvertureComposants {
 
 /// Reads a file into a rib that has just been reset, searches its airfoil and reads that. A missing
 /// airfoil is told in a box of its own before the failure's. The text stays as read; whether it is
-/// a label is decided by itself. A file of the older format is rewritten before the search.
+/// a label is decided by itself. A file of the older format is rewritten before the search. An
+/// airfoil of another name that the user locates becomes the rib's, whose label then names it.
 OuvertureComposants OuvreComposants(Programme &programme, const DemandeComposants &demande);
 
 /// The caption of the main window with a rib components file: title, file, airfoil. `ecart` stands

@@ -3,6 +3,7 @@
 #include "base/version.h"
 #include "core/contour.h"
 #include "features/rib_entry.h"
+#include "output/page_setup.h"
 #include "output/screen_plot.h"
 #include "output/view_plots.h"
 #include "platform/busy_pointer.h"
@@ -14,6 +15,18 @@ namespace {
 
 bool PeutPerdre(const Programme &programme) {
     return programme.rib.Modifie && !CompareEnVue(programme.rib, programme.compare);
+}
+
+/// The user's defaults. They bring the user's unit back where the cleared rib was shown in the
+/// other one, and the page that goes with it.
+void RelitDefauts(Programme &programme, CommandView &view) {
+    const std::string Unite = programme.settings.Unite;
+    LitDefauts(programme.ReglagesEnCours());
+    if (programme.settings.Unite != Unite) {
+        LitMarges(programme.ReglagesEnCours());
+        ReplaceYdprint(programme.settings.page, programme.settings.Unite);
+        view.AfficheUnite();
+    }
 }
 
 void Vide(Programme &programme, CommandView &view) {
@@ -28,7 +41,7 @@ void Vide(Programme &programme, CommandView &view) {
     programme.rib.Zoom = FacteurZoom(kZoomRows[kZoomRow100]);
     view.RemetZoom();
     view.VideImage();
-    LitDefauts(programme.ReglagesEnCours());
+    RelitDefauts(programme, view);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "base/whole_file.h"
 #include "e2e/program.h"
 #include "e2e/svg_lines.h"
+#include "support/components_text.h"
 #include "support/temp_folder.h"
 
 #include <gmock/gmock.h>
@@ -206,6 +207,83 @@ TEST(Draw, ASettingsFileGivesTheColours) {
     const SvgPath &line = LastOf(paths, "#008000");
     EXPECT_NEAR(line.points[1].x - line.points[0].x, 120 + 2 / 56.7, 0.0002);
     EXPECT_GT(LastOf(paths, "#800000").points.size(), 100U);
+}
+
+/// Whether some line of the drawing is upright, `x` mm behind the leading edge, and longer than a
+/// station's mark.
+bool HasUpright(const std::string &svg, double x) {
+    for (const SvgPath &path : PathsOf(svg)) {
+        for (std::size_t i = 1; i < path.points.size(); ++i) {
+            const SvgPoint &from = path.points[i - 1];
+            const SvgPoint &to = path.points[i];
+            if (std::abs(from.x - 5 - x) < 0.001 && std::abs(to.x - 5 - x) < 0.001 &&
+                std::abs(from.y - to.y) > 3) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+/// A rib of 200 mm with a heel 20 mm below its reference line.
+ComponentsText HeelRib(const std::string &front, const std::string &rear) {
+    ComponentsText rib;
+    rib.kind = "11";
+    rib.intra = "20";
+    rib.heel_front = front;
+    rib.heel_back = rear;
+    return rib;
+}
+
+Ran DrawHeel(const TempFolder &folder, const ComponentsText &rib, std::vector<std::string> more) {
+    std::vector<std::string> words = {"draw",       folder.File("heel.lfw", rib.Current()),
+                                      "--airfoils", LOFTWING_SOURCE_DIR "/resources/airfoils",
+                                      "--to",       "svg",
+                                      "-o",         "-"};
+    words.insert(words.end(), more.begin(), more.end());
+    return RunLoftwing(words);
+}
+
+TEST(Draw, HeelMarginsThatAreNotInForceAreToldOnStandardError) {
+    const TempFolder folder;
+    const Ran ran = DrawHeel(folder, HeelRib("20", "30"), {});
+    EXPECT_EQ(ran.status, 0);
+    EXPECT_EQ(ran.err, "heel.lfw: The heel's margins from the rib file are not in force : 20 mm, "
+                       "30 mm. The heel is drawn as if they were 0. --heel puts them in force.\n");
+    EXPECT_TRUE(HasUpright(ran.out, 200)); // both lines of the heel
+    EXPECT_FALSE(HasUpright(ran.out, 170));
+}
+
+TEST(Draw, HeelPutsTheMarginsInForce) {
+    const TempFolder folder;
+    const Ran ran = DrawHeel(folder, HeelRib("20", "30"), {"--heel"});
+    EXPECT_EQ(ran.status, 0);
+    EXPECT_EQ(ran.err, "");
+    EXPECT_TRUE(HasUpright(ran.out, 170)); // 200 - 30
+    EXPECT_TRUE(HasUpright(ran.out, 150)); // and 20 mm in front of it
+    // A percentage is one of the chord that is drawn.
+    const Ran other = DrawHeel(folder, HeelRib("20", "10%"), {"--heel", "--chord", "160"});
+    EXPECT_TRUE(HasUpright(other.out, 144));
+}
+
+TEST(Draw, HeelRefusesMarginsLongerThanTheChord) {
+    const TempFolder folder;
+    const Ran ran = DrawHeel(folder, HeelRib("150", "51"), {"--heel"});
+    EXPECT_EQ(ran.status, 1);
+    EXPECT_EQ(ran.out, "");
+    EXPECT_THAT(ran.err, HasSubstr("The margins together are longer than the chord"));
+}
+
+TEST(Draw, NothingIsToldOfAHeelWithoutMargins) {
+    const TempFolder folder;
+    for (const char *kind : {"0", "1", "11"}) {
+        ComponentsText rib = HeelRib("0", "0");
+        rib.kind = kind;
+        EXPECT_EQ(DrawHeel(folder, rib, {}).err, "") << kind;
+        EXPECT_EQ(DrawHeel(folder, rib, {"--heel"}).err, "") << kind;
+    }
+    EXPECT_EQ(RunLoftwing({"draw", Sample("naca2412.dat"), "--heel", "--to", "svg", "-o", "-"}).err,
+              "");
 }
 
 } // namespace

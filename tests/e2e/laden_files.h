@@ -33,7 +33,8 @@ class LadenFiles : public testing::Test {
         }
         const Ran ran = RunLoftwing(words);
         EXPECT_EQ(ran.status, 0);
-        EXPECT_EQ(ran.err, "");
+        // What is told of a heel is a test of its own.
+        EXPECT_EQ(ran.err.empty(), rib.kind != "11") << ran.err;
         return out;
     }
     std::string Draw(const LadenCase &which, bool plain) {

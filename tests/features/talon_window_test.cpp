@@ -5,6 +5,7 @@
 #include "support/failures.h"
 #include "support/scripted_platform.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace loftwing {
@@ -49,6 +50,85 @@ class TalonWindowTest : public testing::Test {
     Saisie saisie{Unite, messages};
     RibModel rib;
 };
+
+// Margins of an opened rib.
+
+/// The heel of a rib components file that was just read: texts, and no numbers.
+Talon JustRead(const std::string &front, const std::string &rear) {
+    Talon talon;
+    talon.TalonBAAfich = front;
+    talon.TalonBFAfich = rear;
+    return talon;
+}
+
+TEST_F(TalonWindowTest, MarginsThatOnlyTheTextsHaveAreWaiting) {
+    rib.talon = JustRead("20", "30");
+    EXPECT_FALSE(MargesEnAttente(rib, saisie)); // no heel
+    rib.TypeGabarit = kGabaritMousse;
+    EXPECT_FALSE(MargesEnAttente(rib, saisie));
+    rib.TypeGabarit = kGabaritTalon;
+    EXPECT_TRUE(MargesEnAttente(rib, saisie));
+    rib.talon = AvecMarges(rib.talon, rib.corde, saisie);
+    EXPECT_FALSE(MargesEnAttente(rib, saisie));
+    for (const char *nothing : {"0", "", "0%"}) {
+        rib.talon = JustRead(nothing, "0");
+        EXPECT_FALSE(MargesEnAttente(rib, saisie)) << nothing;
+    }
+    rib.talon = JustRead("0", "12.5%");
+    EXPECT_TRUE(MargesEnAttente(rib, saisie));
+}
+
+TEST_F(TalonWindowTest, MarginsThatAreNoLengthsDoNotWaitAndBringNoBox) {
+    Unite = kUniteIn;
+    rib.TypeGabarit = kGabaritTalon;
+    for (const char *wrong : {"2./8", "/8", "1/0"}) {
+        rib.talon = JustRead(wrong, "1");
+        EXPECT_FALSE(MargesEnAttente(rib, saisie)) << wrong;
+    }
+    EXPECT_TRUE(platform.boxes.empty());
+}
+
+TEST_F(TalonWindowTest, WaitingMarginsAreNamedAsTheyWillBeInForce) {
+    rib.TypeGabarit = kGabaritTalon;
+    rib.talon = JustRead("20", "25%");
+    EXPECT_EQ(TexteMargesEnAttente(rib, saisie),
+              "The heel's margins from the rib file are not in force : 20 mm, 64 mm. "
+              "The heel is drawn as if they were 0.");
+    Unite = kUniteIn;
+    rib.talon = JustRead("1.1/2", "3/4");
+    EXPECT_THAT(TexteMargesEnAttente(rib, saisie), testing::HasSubstr(" 1.1/2 in, 3/4 in. "));
+}
+
+TEST_F(TalonWindowTest, MarginsAreTakenAloneAndTheRestOfTheHeelStays) {
+    rib.TypeGabarit = kGabaritTalon;
+    rib.vrillage = 2;
+    rib.texte.InsTexte = "words";
+    rib.talon = JustRead("20", "25%");
+    rib.talon.TalonExtraAfich = "9";
+    rib.talon.TalonExtra = 9; // as a file gives it; the window would negate it
+    EXPECT_TRUE(PrendMarges(rib, saisie));
+    EXPECT_EQ(rib.talon.TalonBA, 20);
+    EXPECT_EQ(rib.talon.TalonBF, 64);
+    EXPECT_EQ(rib.talon.TalonLong, 84);
+    EXPECT_EQ(rib.talon.TalonExtra, 9);
+    EXPECT_EQ(rib.talon.TalonIntraAfich, "0");
+    EXPECT_EQ(rib.vrillage, 2.0F);
+    EXPECT_EQ(rib.texte.InsTexte, "words");
+    EXPECT_TRUE(rib.Modifie);
+}
+
+TEST_F(TalonWindowTest, MarginsThatAreTooLongAreToldAndNotTaken) {
+    rib.TypeGabarit = kGabaritTalon;
+    rib.talon = JustRead("200", "57"); // 257 on a chord of 256
+    platform.Expect(BoxAnswer::ok,
+                    {.text = "The margins together are longer than the chord : 257 mm > 256 mm",
+                     .title = "Rib levelling heel 256  mm"});
+    EXPECT_FALSE(PrendMarges(rib, saisie));
+    EXPECT_EQ(rib.talon.TalonLong, 0);
+    EXPECT_FALSE(rib.Modifie);
+    rib.talon = JustRead("200", "56");
+    EXPECT_TRUE(PrendMarges(rib, saisie));
+}
 
 // Opening.
 

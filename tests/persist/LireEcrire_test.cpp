@@ -207,6 +207,58 @@ TEST_F(Components, LengthsAreReadInTheUnitInForce) {
     EXPECT_EQ(world.rib.vrillage, -2.5F); // degrees have no unit
 }
 
+/// A rib in plain millimetres.
+Lines InMm() {
+    return Lines{kMagic, "e205.dat", "e205", "1/2 wing", "0",   "0",   "200", "1.5",   "0",
+                 "0",    "0",        "0",    "0",        " 1 ", " 0 ", "a/b", "Spars", " 0 "} +
+           kBlankSpar + Lines{"Holes", " 0 "} + kBlankHole +
+           Lines{"0", "0", "0", "0", "0", "0", "", "0", "0", "11", "0", "0", "0#0", kFooter};
+}
+
+TEST_F(Components, ChordsOfTheOtherUnitAreDoubted) {
+    constexpr std::size_t kChord = 6;
+    struct Case {
+        const char *Unite;
+        const char *chord;
+        bool doubted;
+    };
+    for (const Case &each :
+         {Case{" mm", "200", false}, Case{" mm", "40", false}, Case{" mm", "39.9", true},
+          Case{" mm", "8", true}, Case{" in", "8.1/2", false}, Case{" in", "40", false},
+          Case{" in", "40.1/8", true}, Case{" in", "200", true}}) {
+        Lines lines = InMm();
+        lines[kChord] = each.chord;
+        world.settings.Unite = each.Unite;
+        Read(lines);
+        EXPECT_EQ(world.rib.UniteDouteuse, each.doubted) << each.chord << each.Unite;
+    }
+}
+
+TEST_F(Components, AFractionInAnyLengthIsDoubtedInMillimetres) {
+    // Text along and across, chord, sheeting, stock, notch, cut; place, width, depth, distance of
+    // the spar; place, diameter, offset, height of the hole; margins, stock, template, heel.
+    for (const std::size_t line : {4U,  5U,  6U,  7U,  8U,  9U,  10U, 11U, 12U, 18U, 19U, 20U, 24U,
+                                   29U, 30U, 32U, 33U, 37U, 38U, 39U, 42U, 43U, 44U, 45U, 48U}) {
+        Lines lines = InMm();
+        lines[line] = "100.1/16";
+        Read(lines);
+        EXPECT_TRUE(world.rib.UniteDouteuse) << line;
+        Read(InMm()); // words and spare lines may have a stroke
+        EXPECT_FALSE(world.rib.UniteDouteuse) << line;
+    }
+    Lines lines = InMm();
+    lines[49] = "1#1/16"; // of which the reading leaves the 1
+    Read(lines);
+    EXPECT_EQ(world.rib.talon.TalonExtraAfich, "1");
+    EXPECT_TRUE(world.rib.UniteDouteuse);
+    world.settings.Unite = " in";
+    Read(lines);
+    EXPECT_TRUE(world.rib.UniteDouteuse); // 200 inches
+    lines[6] = "8";
+    Read(lines);
+    EXPECT_FALSE(world.rib.UniteDouteuse);
+}
+
 TEST_F(Components, PaddedAndBareNumbersAreReadAlike) {
     Lines lines = Full();
     lines.at(13) = "0";
@@ -377,6 +429,19 @@ TEST_F(OlderComponents, IsReadIntoTheSameFields) {
     EXPECT_EQ(rib.bloc.BFbloc, 30.0F);
     EXPECT_EQ(rib.TypeGabarit, kGabaritMousse);
     EXPECT_EQ(rib.bloc.Optquebf, 1);
+}
+
+TEST_F(OlderComponents, ItsUnitIsDoubtedInTheSameWay) {
+    Read(Old());
+    EXPECT_FALSE(world.rib.UniteDouteuse);
+    constexpr std::size_t kChord = 4;
+    constexpr std::size_t kSpar = 13; // its place
+    for (const auto &[line, text] : {std::pair(kChord, "8"), std::pair(kSpar, "100.1/2")}) {
+        Lines lines = Old();
+        lines[line] = text;
+        Read(lines);
+        EXPECT_TRUE(world.rib.UniteDouteuse) << line;
+    }
 }
 
 TEST_F(OlderComponents, WhatItDoesNotHoldStaysAsItWas) {

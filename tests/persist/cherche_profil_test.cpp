@@ -80,5 +80,16 @@ TEST_F(AirfoilSearch, LinksDoNotLeadInACircle) {
     EXPECT_EQ(pauses, 2);
 }
 
+TEST_F(AirfoilSearch, BesideARibFileIsItsFolderAlone) {
+    Put("ribs/below/e205.dat");
+    const std::string rib = folder.Path("ribs/rib.lfw");
+    EXPECT_EQ(ProfilACote(rib, "e205.dat"), "");
+    const std::string beside = Put("ribs/e205.dat");
+    EXPECT_EQ(ProfilACote(rib, "e205.dat"), beside);
+    EXPECT_EQ(ProfilACote(rib, "below/e205.dat"), ""); // a name is no path
+    EXPECT_EQ(ProfilACote(rib, ""), "");
+    EXPECT_EQ(ProfilACote(rib, "below"), ""); // nor a folder an airfoil
+}
+
 } // namespace
 } // namespace loftwing

@@ -35,6 +35,14 @@ TEST_F(DefaultEntryTest, ReadsTheTextsOnFileAsTheyStand) {
     EXPECT_EQ(LitTextesDefaut(fichier), (TextesDefaut{"8.1/2", "1/16", "3/8", "", "1", ""}));
 }
 
+TEST_F(DefaultEntryTest, TextsOnFileAreNotShownInAnotherUnit) {
+    folder.File("Loftwing.ini", "[Defaut]\r\nunit= in\r\ncordeAfich=8.1/2\r\n");
+    EXPECT_EQ(TextesDefautEn(kUniteIn, fichier)[kDefautCorde], "8.1/2");
+    EXPECT_EQ(TextesDefautEn(kUniteMm, fichier), (TextesDefaut{"200", "1.5", "0", "0", "0", "0"}));
+    folder.File("Loftwing.ini", "[Defaut]\r\ncordeAfich=180\r\n"); // names none
+    EXPECT_EQ(TextesDefautEn(kUniteMm, fichier)[kDefautCorde], "180");
+}
+
 TEST_F(DefaultEntryTest, AMissingFileGivesEmptyTexts) {
     EXPECT_EQ(LitTextesDefaut(fichier), TextesDefaut{});
 }

@@ -177,6 +177,19 @@ TEST_F(Settings, EachWriterSavesItsOwnPartOnly) {
     }
 }
 
+TEST_F(Settings, APageOfAnotherUnitThanTheOneOnFileIsNotKept) {
+    ValeursDefaut(With(), programme);
+    EcritTout(With()); // in mm
+    world.settings.Unite = kUniteIn;
+    Page().MargeBasAfich = "1/2";
+    EcritMarges(With());
+    EXPECT_EQ(GetINIFile("Marges", "MargeBas", fichier), "15");
+    world.settings.Unite = kUniteMm;
+    Page().MargeBasAfich = "18";
+    EcritMarges(With());
+    EXPECT_EQ(GetINIFile("Marges", "MargeBas", fichier), "18");
+}
+
 TEST_F(Settings, WritersLeaveWhatOthersWrote) {
     File("; mine\r\n[Repertoires]\r\nInstall=1\r\nRepDxf=/dxf\r\n[Language]\r\nLangue=French\r\n");
     FirstRun();

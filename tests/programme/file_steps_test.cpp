@@ -179,11 +179,144 @@ TEST_F(FileSteps, ASavedRibHasANameAndNoChanges) {
     platform.files_expected = {folder.Path("wing.lfw")};
     EnregistreRib(programme, view);
     EXPECT_THAT(view.asked,
-                ElementsAre("Titre Loftwing Rib : wing.lfw  Airfoil : naca0012")); // two blanks
+                ElementsAre("MontreAvis",
+                            "Titre Loftwing Rib : wing.lfw  Airfoil : naca0012")); // two blanks
     EXPECT_EQ(Rib().NomFichierRib, "wing.lfw");
     EXPECT_FALSE(Rib().Modifie);
     EXPECT_EQ(Setting("Repertoires", "LastOpenLfw"), folder.Path());
     EXPECT_THAT(folder.Bytes("wing.lfw"), testing::HasSubstr("naca0012.dat"));
+}
+
+TEST_F(FileSteps, ASavedRibKnowsItsFileAndWhetherItsAirfoilLiesElsewhere) {
+    HaveRib(); // of an airfoil outside the folders
+    platform.files_expected = {folder.Path("wing.lfw")};
+    EnregistreRib(programme, view);
+    EXPECT_EQ(Rib().CheminRib, folder.Path("wing.lfw"));
+    EXPECT_TRUE(Rib().ProfilAilleurs);
+    for (const char *inside : {"airfoils/deep/in.dat", "sets/in.dat"}) {
+        std::filesystem::create_directories(folder.Path("airfoils/deep"));
+        std::filesystem::copy_file(Sample("naca2412.dat"), folder.Path(inside));
+        ASSERT_TRUE(Read(folder.Path(inside)));
+        platform.files_expected = {folder.Path("wing.lfw")};
+        EnregistreRib(programme, view);
+        EXPECT_FALSE(Rib().ProfilAilleurs) << inside;
+    }
+}
+
+TEST_F(FileSteps, AFolderWhoseNameGoesOnIsAnotherOne) {
+    std::filesystem::create_directories(folder.Path("airfoils2"));
+    std::filesystem::copy_file(Sample("naca2412.dat"), folder.Path("airfoils2/a.dat"));
+    ASSERT_TRUE(Read(folder.Path("airfoils2/a.dat")));
+    platform.files_expected = {folder.Path("wing.lfw")};
+    EnregistreRib(programme, view);
+    EXPECT_TRUE(Rib().ProfilAilleurs);
+}
+
+TEST_F(FileSteps, ANewAirfoilForgetsTheRibFile) {
+    HaveAirfoil();
+    OuvreFichier(programme, view, RibFile());
+    EXPECT_EQ(Rib().CheminRib, folder.Path("root.lfw"));
+    Rib().ProfilAilleurs = true;
+    OuvreFichier(programme, view, Sample("naca0012.dat"));
+    EXPECT_EQ(Rib().CheminRib, "");
+    EXPECT_FALSE(Rib().ProfilAilleurs);
+}
+
+TEST_F(FileSteps, AnAirfoilBesideTheRibFileIsFoundAfterTheFolders) {
+    std::filesystem::copy_file(Sample("naca2412.dat"), folder.Path("naca2412.dat"));
+    OuvreFichier(programme, view, RibFile());
+    EXPECT_EQ(Rib().CheminProfil, folder.Path("naca2412.dat"));
+    HaveAirfoil();
+    OuvreFichier(programme, view, RibFile());
+    EXPECT_EQ(Rib().CheminProfil, folder.Path("airfoils/naca2412.dat"));
+}
+
+TEST_F(FileSteps, AnAirfoilThatIsNowhereCanBeLocated) {
+    std::filesystem::create_directories(folder.Path("far"));
+    std::filesystem::copy_file(Sample("naca2412.dat"), folder.Path("far/naca2412.dat"));
+    platform.Expect(BoxAnswer::locate,
+                    {.text = "The airfoil of this rib was not found : naca2412.dat\n It was "
+                             "searched in the airfoil folders, with all that is below them : \n" +
+                             folder.Path("airfoils") + " and " + folder.Path("sets") +
+                             "\n Then in the folder of the rib file : \n" + folder.Path(),
+                     .title = "Open rib components",
+                     .icon = BoxIcon::information,
+                     .buttons = BoxButtons::locate_cancel});
+    platform.files_expected = {folder.Path("far/naca2412.dat")};
+    OuvreFichier(programme, view, RibFile());
+    EXPECT_EQ(Question().title, "Locate the airfoil of this rib : naca2412.dat");
+    EXPECT_EQ(Question().filter_text, "Airfoil files (*.dat *.cor)");
+    EXPECT_EQ(Question().folder, folder.Path());
+    EXPECT_TRUE(Rib().ProfilCharge);
+    EXPECT_EQ(Rib().CheminProfil, folder.Path("far/naca2412.dat"));
+    EXPECT_FALSE(Rib().Modifie); // the file says the same
+}
+
+TEST_F(FileSteps, AnAirfoilOfAnotherNameThatIsLocatedBecomesTheRibs) {
+    ComponentsText file;
+    for (const auto &[text, wanted] :
+         {std::pair<const char *, const char *>{"naca2412 Chord : 200", "naca0012 Chord : 200"},
+          {"left wing", "left wing"},
+          {"", ""}}) {
+        file.text = text;
+        Rib().Modifie = false;
+        platform.Expect(BoxAnswer::locate);
+        platform.files_expected = {Sample("naca0012.dat")};
+        OuvreFichier(programme, view, folder.File("root.lfw", file.Current()));
+        EXPECT_EQ(Rib().NomProfil, "naca0012");
+        EXPECT_EQ(Rib().ExtProfil, "dat");
+        EXPECT_TRUE(Rib().Modifie);
+        EXPECT_EQ(Rib().texte.InsTexte, wanted);
+    }
+}
+
+TEST_F(FileSteps, ACancelledLocatingEndsAsAMissingAirfoilDoes) {
+    platform.Expect(BoxAnswer::locate);
+    platform.files_expected = {""};
+    ExpectReport("Error LireEcrire/newLfw");
+    OuvreFichier(programme, view, RibFile());
+    EXPECT_THAT(view.asked, ElementsAre("affclear", "affclear"));
+}
+
+TEST_F(FileSteps, ARibIsReadAnewInTheOtherUnit) {
+    HaveAirfoil();
+    ComponentsText file;
+    file.chord = "8.1/2";
+    file.sheeting = "1/16";
+    OuvreFichier(programme, view, folder.File("root.lfw", file.Current()));
+    EXPECT_EQ(Rib().corde, 8.1F);
+    EXPECT_TRUE(Rib().UniteDouteuse);
+    view.asked.clear();
+    OuvreAutreUnite(programme, view);
+    EXPECT_EQ(programme.settings.Unite, " in");
+    EXPECT_EQ(programme.settings.page.MargeHautAfich, "1/2"); // the page of inches
+    EXPECT_EQ(Rib().corde, 215.9F);                           // 8.5 inches
+    EXPECT_EQ(Rib().EpCoffrage, 1.5875F);
+    EXPECT_FALSE(Rib().UniteDouteuse);
+    EXPECT_FALSE(Rib().Modifie);
+    EXPECT_THAT(view.asked, ElementsAre("affclear", "AfficheUnite",
+                                        "Titre Loftwing Rib : root.lfw Airfoil : naca2412",
+                                        "MontreCoches", "ViewReset", "ActiveCommandes", "affiche"));
+    // The user's own unit and defaults stay on file.
+    EXPECT_EQ(Setting("Defaut", "unit"), "mm");
+    EXPECT_EQ(Setting("Defaut", "cordeAfich"), "200");
+    EXPECT_EQ(Setting("Marges", "MargeHaut"), "10");
+}
+
+TEST_F(FileSteps, TheOtherUnitAsksWhereChangesCouldBeLost) {
+    HaveAirfoil();
+    OuvreFichier(programme, view, RibFile());
+    Rib().Modifie = true;
+    view.asked.clear();
+    ExpectQuestion(BoxAnswer::no);
+    OuvreAutreUnite(programme, view);
+    EXPECT_EQ(programme.settings.Unite, " mm");
+    EXPECT_THAT(view.asked, IsEmpty());
+    ExpectQuestion(BoxAnswer::yes);
+    OuvreAutreUnite(programme, view);
+    EXPECT_EQ(programme.settings.Unite, " in");
+    EXPECT_EQ(Rib().corde, 5080.0F); // 200 inches, as asked
+    EXPECT_TRUE(Rib().UniteDouteuse);
 }
 
 TEST_F(FileSteps, ACancelledSavingLeavesTheChanges) {

@@ -1,5 +1,6 @@
 #include "programme/rib_steps.h"
 
+#include "persist/default_entry.h"
 #include "support/steps_world.h"
 
 namespace loftwing {
@@ -114,6 +115,21 @@ TEST_F(RibSteps, ClearingGoesFromTheDialogsToThePicture) {
     EXPECT_EQ(Rib().Zoom, 1.0F);
     EXPECT_EQ(Rib().corde, 200.0F); // the user's default
     EXPECT_EQ(platform.pointer, Pointer::normal);
+}
+
+TEST_F(RibSteps, ClearingBringsBackTheUsersUnitAndItsPage) {
+    programme.settings.page.MargeBasAfich = "18";
+    programme.settings.page.MargeBas = 18;
+    EcritMarges(programme.ReglagesEnCours());
+    ChoisitUnite(programme.settings, kUniteIn, programme.messages);
+    VideTout(programme, view);
+    EXPECT_EQ(programme.settings.Unite, " mm");
+    EXPECT_EQ(programme.settings.page.MargeBasAfich, "18");
+    EXPECT_EQ(programme.settings.page.MargeBas, 18.0F);
+    EXPECT_EQ(programme.settings.page.NumIndex, 0);
+    EXPECT_EQ(programme.settings.page.Ydprint, 50.0F);
+    EXPECT_EQ(Rib().corde, 200.0F);
+    EXPECT_EQ(view.asked.back(), "AfficheUnite");
 }
 
 TEST_F(RibSteps, AFailureOfTheClearingIsToldAndEndsIt) {

@@ -35,6 +35,7 @@ class NotedWindow : public Noted<CommandView> {
         Note("MontreCoches");
         Run(on_checks);
     }
+    void MontreAvis() override { Note("MontreAvis"); }
     void ViewReset() override { Note("ViewReset"); }
     void VideImage() override { Note("VideImage"); }
     void RemetZoom() override { Note("RemetZoom"); }

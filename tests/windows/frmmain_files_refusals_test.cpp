@@ -21,15 +21,17 @@ TEST_F(RibFiles, AMissingAirfoilGivesTwoBoxesAndAResetRib) {
         BoxAnswer::ok,
         {.text = "The airfoil of this rib was not found : unknown.dat\n"
                  " It was searched in the airfoil folders, with all that is below them : \n" +
-                 world.folder.Path("airfoils") + " and " + world.folder.Path("sets"),
+                 world.folder.Path("airfoils") + " and " + world.folder.Path("sets") +
+                 "\n Then in the folder of the rib file : \n" + world.folder.Path("ribs"),
          .title = "Open rib components"});
     ExpectReport(0, "");
     OpenBytes("rib.lfw", file.Current());
     ASSERT_EQ(world.platform.boxes.size(), 2U);
     for (const MessageBox &box : world.platform.boxes) {
         EXPECT_EQ(box.icon, BoxIcon::information);
-        EXPECT_EQ(box.buttons, BoxButtons::ok);
     }
+    EXPECT_EQ(world.platform.boxes[0].buttons, BoxButtons::locate_cancel);
+    EXPECT_EQ(world.platform.boxes[1].buttons, BoxButtons::ok);
     ExpectResetRib();
     ExpectAlive();
 }
@@ -106,7 +108,8 @@ TEST_F(RibFiles, AnEmptyFileNamesNoAirfoil) {
         BoxAnswer::ok,
         {.text = "The airfoil of this rib was not found : .\n"
                  " It was searched in the airfoil folders, with all that is below them : \n" +
-                 world.folder.Path("airfoils") + " and " + world.folder.Path("sets"),
+                 world.folder.Path("airfoils") + " and " + world.folder.Path("sets") +
+                 "\n Then in the folder of the rib file : \n" + world.folder.Path("ribs"),
          .title = "Open rib components"});
     ExpectReport(0, "");
     OpenBytes("empty.lfw", "");

@@ -101,10 +101,12 @@ TEST(QtPlatformBox, ShowsPlainTextWithItsButtons) {
 
 TEST(QtPlatformBox, EscapeIsNoOrCancelOrOk) {
     World world;
-    const std::pair<BoxButtons, BoxAnswer> cases[] = {{BoxButtons::yes_no, BoxAnswer::no},
-                                                      {BoxButtons::ok_cancel, BoxAnswer::cancel},
-                                                      {BoxButtons::retry_cancel, BoxAnswer::cancel},
-                                                      {BoxButtons::ok, BoxAnswer::ok}};
+    const std::pair<BoxButtons, BoxAnswer> cases[] = {
+        {BoxButtons::yes_no, BoxAnswer::no},
+        {BoxButtons::ok_cancel, BoxAnswer::cancel},
+        {BoxButtons::retry_cancel, BoxAnswer::cancel},
+        {BoxButtons::locate_cancel, BoxAnswer::cancel},
+        {BoxButtons::ok, BoxAnswer::ok}};
     for (const auto &[buttons, answer] : cases) {
         InNextDialog([](Seen &dialog) { dialog.Key(Qt::Key_Escape); });
         EXPECT_EQ(world.platform.Show({"?", "t", BoxIcon::question, buttons, BoxAnswer::ok}),
@@ -118,6 +120,19 @@ TEST(QtPlatformBox, ReturnIsTheDefaultButton) {
     EXPECT_EQ(world.platform.Show(
                   {"?", "t", BoxIcon::question, BoxButtons::retry_cancel, BoxAnswer::retry}),
               BoxAnswer::retry);
+}
+
+TEST(QtPlatformBox, LocateIsAnAnswerWithAWordOfItsOwn) {
+    World world;
+    world.platform.SetButtonWords({"Bien", "Annuler", "Oui", "Non", "Encore", "Indiquer"});
+    InNextDialog([](Seen &dialog) {
+        QAbstractButton *locate = dialog.As<QMessageBox>().button(QMessageBox::Open);
+        EXPECT_EQ(locate->text(), "Indiquer");
+        locate->click();
+    });
+    EXPECT_EQ(world.platform.Show(
+                  {"?", "t", BoxIcon::question, BoxButtons::locate_cancel, BoxAnswer::cancel}),
+              BoxAnswer::locate);
 }
 
 TEST(QtPlatformBox, TakesTheWordsOfTheLanguage) {

@@ -1,0 +1,125 @@
+#include "programme/notices.h"
+
+#include "support/steps_world.h"
+
+namespace loftwing {
+namespace {
+
+class NoticesTest : public StepsWorld {
+  protected:
+    NoticesTest() { Rib().ProfilCharge = true; }
+
+    /// The heel of a rib that was just opened.
+    void HaveHeel() {
+        Rib().TypeGabarit = kGabaritTalon;
+        Rib().talon.TalonBAAfich = "20";
+        Rib().talon.TalonBFAfich = "30";
+        Rib().talon.TalonBA = Rib().talon.TalonBF = Rib().talon.TalonLong = 0;
+    }
+    std::vector<Notice> Standing() { return notices.Standing(programme); }
+    std::vector<NoticeSubject> Subjects() {
+        std::vector<NoticeSubject> subjects;
+        for (const Notice &notice : Standing()) {
+            subjects.push_back(notice.subject);
+        }
+        return subjects;
+    }
+
+    Notices notices;
+};
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST_F(NoticesTest, APlainRibHasNone) {
+    EXPECT_THAT(Subjects(), IsEmpty());
+}
+
+TEST_F(NoticesTest, MarginsThatAreNotInForceAreOfferedToBeConfirmed) {
+    HaveHeel();
+    ASSERT_THAT(Subjects(), ElementsAre(NoticeSubject::heel_margins));
+    const Notice notice = Standing().front();
+    EXPECT_EQ(notice.text, "The heel's margins from the rib file are not in force : 20 mm, 30 mm. "
+                           "The heel is drawn as if they were 0.");
+    ASSERT_EQ(notice.buttons.size(), 1U);
+    EXPECT_EQ(notice.buttons[0].text, "Put in force");
+    DoNotice(programme, view, notice.buttons[0].act);
+    EXPECT_EQ(Rib().talon.TalonBA, 20);
+    EXPECT_EQ(Rib().talon.TalonBF, 30);
+    EXPECT_THAT(view.asked, ElementsAre("affiche"));
+    EXPECT_THAT(Subjects(), IsEmpty());
+}
+
+TEST_F(NoticesTest, ARibThatWasSavedApartFromItsAirfoilSaysWhereThatWillBeSearched) {
+    Rib().NomProfil = "mine";
+    Rib().ExtProfil = "dat";
+    Rib().CheminRib = "/ribs/root.lfw";
+    Rib().ProfilAilleurs = true;
+    ASSERT_THAT(Subjects(), ElementsAre(NoticeSubject::airfoil_elsewhere));
+    EXPECT_EQ(Standing().front().text,
+              "mine.dat lies in neither airfoil folder. When this rib is opened, it is looked for "
+              "below " +
+                  folder.Path("airfoils") + " and " + folder.Path("sets") + ", then in /ribs.");
+    EXPECT_THAT(Standing().front().buttons, IsEmpty());
+    HaveHeel(); // and several stand side by side
+    EXPECT_THAT(Subjects(),
+                ElementsAre(NoticeSubject::heel_margins, NoticeSubject::airfoil_elsewhere));
+}
+
+TEST_F(NoticesTest, ADoubtfulUnitIsNamedAndTheOtherOneOffered) {
+    Rib().UniteDouteuse = true;
+    ASSERT_THAT(Subjects(), ElementsAre(NoticeSubject::unit));
+    const Notice in_mm = Standing().front();
+    EXPECT_EQ(in_mm.text, "A rib file names no unit. Read in millimetres, the lengths of this one "
+                          "look like inches.");
+    EXPECT_THAT(in_mm.buttons,
+                ElementsAre(NoticeButton{NoticeAct::open_in_other_unit, "Open it in inches"}));
+    programme.settings.Unite = kUniteIn;
+    const Notice in_inches = Standing().front();
+    EXPECT_EQ(in_inches.text, "A rib file names no unit. Read in inches, the lengths of this one "
+                              "look like millimetres.");
+    EXPECT_EQ(in_inches.buttons.at(0).text, "Open it in millimetres");
+}
+
+TEST_F(NoticesTest, AClosedNoticeComesBackWithItsNextCauseOnly) {
+    HaveHeel();
+    EXPECT_EQ(Standing().size(), 1U);
+    notices.Close(NoticeSubject::heel_margins);
+    EXPECT_THAT(Subjects(), IsEmpty());
+    EXPECT_THAT(Subjects(), IsEmpty());
+    Rib().TypeGabarit = kSansGabarit; // another rib
+    EXPECT_THAT(Subjects(), IsEmpty());
+    HaveHeel();
+    EXPECT_THAT(Subjects(), ElementsAre(NoticeSubject::heel_margins));
+}
+
+TEST_F(NoticesTest, AViewInTheRibsPlaceHasNoneAndTheClosedOnesStayClosed) {
+    HaveHeel();
+    Rib().ModeEpCourb = true;
+    EXPECT_THAT(Subjects(), IsEmpty());
+    Rib().ModeEpCourb = false;
+    EXPECT_EQ(Standing().size(), 1U);
+    notices.Close(NoticeSubject::heel_margins);
+    Rib().ModeEpCourb = true;
+    EXPECT_THAT(Subjects(), IsEmpty());
+    Rib().ModeEpCourb = false;
+    EXPECT_THAT(Subjects(), IsEmpty());
+}
+
+TEST_F(NoticesTest, AClearedRibHasNone) {
+    HaveHeel();
+    Rib().ProfilCharge = false;
+    EXPECT_THAT(Subjects(), IsEmpty());
+}
+
+TEST_F(NoticesTest, AFailureOfWhatAButtonDoesIsTold) {
+    programme.settings.Unite = kUniteIn;
+    HaveHeel();
+    Rib().talon.TalonBAAfich = "1/0";
+    platform.Expect(BoxAnswer::ok, {.title = " Talon/OK"});
+    DoNotice(programme, view, NoticeAct::take_heel_margins);
+    EXPECT_EQ(Rib().talon.TalonLong, 0);
+}
+
+} // namespace
+} // namespace loftwing
