@@ -86,6 +86,7 @@ class Pictures {
         rib.AffEpr = rib.AffHautBA = rib.AffHautBF = true;
         window_->affiche();
         Save(*window_, "frmmain");
+        TakeNotices();
         for (const char *mode : {"corde", "epcof", "ba", "bf", "rep"}) {
             frmInput entry(programme_, mode, window_.get());
             Save(entry, std::string("frmInput-") + mode);
@@ -123,6 +124,23 @@ class Pictures {
         StockeTrou(rib.trou[1], {{"35%", width, depth}, depth, false, 1, kTrouRectangle}, rib.corde,
                    typed, nobody);
         rib.NbTrou = 1;
+    }
+
+    /// Every notice at once.
+    void TakeNotices() {
+        RibModel &rib = programme_.rib;
+        const PartieGardee<Ajouts> heel(rib);
+        const PartieGardee<FichierConnu> file(rib);
+        rib.TypeGabarit = kGabaritTalon;
+        rib.talon.TalonBAAfich = "10%";
+        rib.talon.TalonBFAfich = programme_.settings.Unite == kUniteIn ? "1.1/4" : "30";
+        rib.CheminRib = "/home/anna/models/swift/wing/ribs/root.lfw";
+        rib.ProfilAilleurs = rib.UniteDouteuse = true;
+        window_->MontreAvis();
+        Save(*window_, "frmmain-notices");
+        rib.TypeGabarit = kSansGabarit;
+        rib.Partie<FichierConnu>() = {};
+        window_->MontreAvis();
     }
 
     void TakeDialogs() {
