@@ -123,6 +123,11 @@ void frmlongeron::AfficheOptions(int slot) {
     PoseGenre(Choisi(OptLong));
 }
 
+bool frmlongeron::EstFini(int slot) const {
+    const RibModel &rib = programme_.rib;
+    return LongeronFini(At(rib.longeron, slot), rib.corde);
+}
+
 void frmlongeron::Retire(int slot) {
     RetireLongeron(programme_.rib, slot);
 }

@@ -113,6 +113,11 @@ void frmtrou::AfficheOptions(int slot) {
     PoseGenre(Choisi(OptTrouRec));
 }
 
+bool frmtrou::EstFini(int slot) const {
+    const RibModel &rib = programme_.rib;
+    return TrouFini(At(rib.trou, slot), rib.corde);
+}
+
 void frmtrou::Retire(int slot) {
     RetireTrou(programme_.rib, slot);
 }

@@ -42,6 +42,7 @@ class frmtrou : public SlotsDialog {
     bool Controle(int slot) override { return ControleTrou(slot); }
     void Affiche(int slot) override { AfficheTrou(slot); }
     void AfficheOptions(int slot) override;
+    bool EstFini(int slot) const override;
     void Retire(int slot) override;
     std::string TexteRefus(const std::string &valeur) const override;
     std::function<void()> Retour(int slot) override;

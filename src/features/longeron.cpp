@@ -53,6 +53,12 @@ bool ControleLongeron(const Longeron &slot, const CasLongeron &cas, const Refus 
     return passes;
 }
 
+bool LongeronFini(const Longeron &slot, float corde) {
+    // At 0 stands nothing: the plot takes it for the end of the list.
+    return slot.PosLong != 0.0F &&
+           ControleLongeron(slot, {corde, false, slot.TypeLong != kLongeronRond}, [](float) {});
+}
+
 void EffaceLongeron(Longeron &slot) {
     slot.PosLongAfich = "0";
     slot.LargLongAfich = "0";

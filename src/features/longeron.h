@@ -46,6 +46,9 @@ struct CasLongeron {
 /// whose first number was clicked the sizes may be 0, so that an empty list can be left.
 bool ControleLongeron(const Longeron &slot, const CasLongeron &cas, const Refus &MessageValeur);
 
+/// Whether a slot holds a spar that the window would take as it is.
+bool LongeronFini(const Longeron &slot, float corde);
+
 /// Back to "0": the sizes; the options. Neither touches the place in mm, which follows its text,
 /// nor the spare text.
 void EffaceLongeron(Longeron &slot);

@@ -72,6 +72,7 @@ void SlotsDialog::SelectionneTexte() const {
 }
 
 void SlotsDialog::Form_Load() {
+    suivant_ = genre_.count + 1 < kNumeros && EstFini(genre_.count);
     MontreTravail();
     SelectField(*champs_.front());
 }
@@ -82,9 +83,23 @@ void SlotsDialog::Montre(int slot) {
 }
 
 void SlotsDialog::MontreTravail() {
-    Montre(genre_.count);
-    numeros_.Numerote(genre_.count);
-    numeros_.Marque(genre_.count);
+    Montre(Travail());
+    numeros_.Numerote(Travail());
+    numeros_.Marque(Travail());
+    if (!refuses_.contains(Travail())) { // what was refused there is to be checked again
+        montre_ = Tape();
+    }
+}
+
+QStringList SlotsDialog::Tape() const {
+    QStringList tape;
+    for (const NumericField *field : champs_) {
+        tape.append(field->text().isEmpty() ? QString('0') : field->text());
+    }
+    for (const QAbstractButton *button : findChildren<QAbstractButton *>()) {
+        tape.append(QString::number(button->isChecked()));
+    }
+    return tape;
 }
 
 void SlotsDialog::FinSelection() {
@@ -144,7 +159,7 @@ void SlotsDialog::Commande(const char *what, const std::function<void()> &action
 }
 
 void SlotsDialog::Numero_Click(int index) {
-    if (index > genre_.count) {
+    if (index > Travail()) {
         return;
     }
     etiquette_ = true;
@@ -163,15 +178,16 @@ void SlotsDialog::Ajoute() {
     programme_.rib.Modifie = true;
     // A finished entry is not added a second time. What stands in the fields otherwise is the work
     // slot's, typed but not stored yet, and showing that slot would throw it away.
-    if (selection_ && choisi_ != genre_.count) {
-        Montre(genre_.count);
+    if (selection_ && choisi_ != Travail()) {
+        Montre(Travail());
     }
     FinSelection();
     numeros_.SansMarque();
-    if (!StockeEtControle(genre_.count, [this] { Affiche(genre_.count); })) {
+    if (!StockeEtControle(Travail(), [this] { Affiche(Travail()); })) {
         return;
     }
     etiquette_ = false;
+    CompteTravail();
     if (!AvanceTravail(genre_.count)) {
         Informe(genre_.mots.plein);
     }
@@ -189,7 +205,7 @@ void SlotsDialog::Modifie() {
         return;
     }
     programme_.rib.Modifie = true;
-    if (!StockeEtControle(choisi_, [] {})) {
+    if (!(choisi_ == Travail() ? TravailPasse() : StockeEtControle(choisi_, [] {}))) {
         return;
     }
     FinSelection();
@@ -207,7 +223,12 @@ void SlotsDialog::Efface() {
         return;
     }
     RemetRefuses(); // before the slots move
-    Retire(choisi_);
+    if (choisi_ > genre_.count) {
+        suivant_ = false; // the rib has no such slot yet
+    } else {
+        suivant_ = suivant_ && genre_.count > 0; // what is left in the work slot is finished
+        Retire(choisi_);
+    }
     FinSelection();
     MontreTravail();
     Applique();
@@ -218,17 +239,39 @@ void SlotsDialog::CmdApply_Click() {
     Commande("/Apply", [this] { Applique(); });
 }
 
+/// What is stored in the work slot is one of the rib's entries.
+void SlotsDialog::CompteTravail() {
+    genre_.count = static_cast<std::uint8_t>(Travail());
+    suivant_ = false;
+}
+
+bool SlotsDialog::TravailPasse() {
+    if (Tape() == montre_) {
+        if (const auto refused = refuses_.find(Travail()); refused != refuses_.end()) {
+            refused->second(); // the user has taken back what was refused
+            refuses_.erase(refused);
+        }
+        return Verifie(true);
+    }
+    if (!StockeEtControle(Travail(), [this] { Montre(Travail()); })) {
+        return false;
+    }
+    CompteTravail();
+    montre_ = Tape();
+    return true;
+}
+
 /// Stores and checks the work slot and draws the rib. The drawing can fail, which closes this
 /// window and clears the rib, so nothing may be done with the list afterwards.
 void SlotsDialog::Applique() {
     programme_.rib.Modifie = true;
-    if (selection_ && choisi_ != genre_.count) {
+    if (selection_ && choisi_ != Travail()) {
         // It applies the work slot itself; refused, it leaves the fields to the entry that it
         // refused, and those must not get into the work slot.
         Modifie();
         return;
     }
-    if (StockeEtControle(genre_.count, [this] { Montre(genre_.count); })) {
+    if (TravailPasse()) {
         RemetRefuses();
         view_.affiche();
     }

@@ -9,6 +9,7 @@
 #include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStringList>
 #include <QVBoxLayout>
 
 #include <array>
@@ -40,7 +41,8 @@ void Choisit(Group &group, std::uint8_t index) {
 
 /// A table of up to twelve entries that is edited one entry at a time. A row of numbers says which
 /// entry the fields show: a finished one that was clicked (the selection), or else the work slot
-/// behind them. Whatever the fields say is stored before it is checked, and stays until the rib is
+/// behind them. A work slot whose fields weren't touched is passed over: it is neither stored nor
+/// checked. Whatever the fields say is stored before it is checked, and stays until the rib is
 /// drawn or the window closes; what was refused by then gives way to what stood there before.
 class SlotsDialog : public Dialogue {
     Q_OBJECT
@@ -89,6 +91,8 @@ class SlotsDialog : public Dialogue {
     // What a window does with one slot. Stocke and Controle tell whether the entry passes.
     virtual bool Stocke(int slot) = 0;
     virtual bool Controle(int slot) = 0;
+    /// Whether a slot holds an entry that passes as it is.
+    virtual bool EstFini(int slot) const = 0;
     virtual void Affiche(int slot) = 0;
     virtual void AfficheOptions(int slot) = 0;
     virtual void Retire(int slot) = 0;
@@ -98,7 +102,7 @@ class SlotsDialog : public Dialogue {
 
     /// The four fields: the location, the two sizes and one more. They get their keys.
     void SuitChamps(const std::array<NumericField *, 4> &champs);
-    /// Shows the work slot, as the window does when it opens.
+    /// Shows an empty entry where there is room for one, as the window does when it opens.
     void Form_Load();
     // qt_slots_dialog_build.cpp
     QLayout *LigneListe();
@@ -113,7 +117,7 @@ class SlotsDialog : public Dialogue {
     /// Hears of refused values: a box, and the location is ready to be typed over.
     Refus MessageValeur();
     /// Whether the list has no finished entry and a number has been clicked.
-    bool ListeVideChoisie() const { return genre_.count == 0 && etiquette_; }
+    bool ListeVideChoisie() const { return Travail() == 0 && etiquette_; }
     /// Selects a field's text, with the focus if a field has had it before.
     void Selectionne(NumericField &field) const;
     void SelectionneTexte() const;
@@ -124,6 +128,10 @@ class SlotsDialog : public Dialogue {
     Genre genre_;
     std::array<NumericField *, 4> champs_{};
     bool champ_visite_ = false; ///< a field has had the focus
+    /// The rib's work slot holds a finished entry, and the slot behind it is the one that is
+    /// edited. The rib counts it only when something is stored there.
+    bool suivant_ = false;
+    QStringList montre_; ///< what the fields said when the work slot was shown
 
     int choisi_ = 0;         ///< the selected entry
     bool selection_ = false; ///< whether there is one
@@ -150,6 +158,12 @@ class SlotsDialog : public Dialogue {
     void Modifie();
     void Efface();
     void Applique();
+    int Travail() const { return genre_.count + (suivant_ ? 1 : 0); }
+    /// What the fields say, to be compared.
+    QStringList Tape() const;
+    /// Stores and checks the work slot, unless its fields say what they were shown with.
+    bool TravailPasse();
+    void CompteTravail();
     bool Verifie(bool passes);
     /// Stores and checks a slot, which is shown again in between where `montre` says so.
     bool StockeEtControle(int slot, const std::function<void()> &montre);

@@ -34,6 +34,11 @@ bool ControleTrou(const Trou &slot, const CasTrou &cas, const Refus &MessageVale
     return true;
 }
 
+bool TrouFini(const Trou &slot, float corde) {
+    return slot.PosTrou >= 0.0F && slot.PosTrou <= corde &&
+           ControleTrou(slot, {false, slot.TypeTrou == kTrouRectangle}, [](float) {});
+}
+
 void EffaceTrou(Trou &slot) {
     slot.PosTrouAfich = "0";
     slot.PosTrou = 0;

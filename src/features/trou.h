@@ -50,6 +50,9 @@ struct CasTrou {
 /// first number was clicked everything passes, so that an empty list can be left.
 bool ControleTrou(const Trou &slot, const CasTrou &cas, const Refus &MessageValeur);
 
+/// Whether a slot holds a hole that the window would take as it is.
+bool TrouFini(const Trou &slot, float corde);
+
 /// Back to "0": texts and numbers with the middle of the thickness; the options. Neither touches
 /// the spare text.
 void EffaceTrou(Trou &slot);

@@ -199,6 +199,26 @@ TEST_F(LongeronTest, AtLocationZeroOnlyASparWithoutWidthLiesOnTheChord) {
     EXPECT_EQ(refused, std::vector<float>{0});
 }
 
+TEST(FinishedSpar, IsOneThatTheWindowWouldTakeAndThePlotDraws) {
+    Longeron spar;
+    EXPECT_FALSE(LongeronFini(spar, 200)); // empty
+    spar.PosLong = 100;
+    spar.LargLong = 10;
+    spar.HautLong = 5;
+    EXPECT_TRUE(LongeronFini(spar, 200));
+    EXPECT_TRUE(LongeronFini(spar, 105));
+    EXPECT_FALSE(LongeronFini(spar, 104)); // it ends at 105
+    spar.HautLong = 0;
+    EXPECT_FALSE(LongeronFini(spar, 200));
+    spar.TypeLong = kLongeronRond;
+    EXPECT_TRUE(LongeronFini(spar, 200));
+    spar.LargLong = 0;
+    EXPECT_FALSE(LongeronFini(spar, 200));
+    spar.LargLong = 10;
+    spar.PosLong = 0;
+    EXPECT_FALSE(LongeronFini(spar, 200));
+}
+
 Longeron Full(int number) {
     const auto n = static_cast<float>(number);
     const std::string text = std::to_string(number);

@@ -129,6 +129,23 @@ TEST_F(TrouTest, AnEmptyListWhoseNumberWasClickedMayKeepAnEmptySlot) {
     EXPECT_TRUE(refused.empty());
 }
 
+TEST(FinishedHole, IsOneThatTheWindowWouldTake) {
+    Trou hole;
+    EXPECT_FALSE(TrouFini(hole, 200)); // empty
+    hole.DiaTrou = 10;
+    EXPECT_TRUE(TrouFini(hole, 200)); // at the leading edge
+    hole.PosTrou = 200;
+    EXPECT_TRUE(TrouFini(hole, 200));
+    EXPECT_FALSE(TrouFini(hole, 199));
+    hole.PosTrou = -1;
+    EXPECT_FALSE(TrouFini(hole, 200));
+    hole.PosTrou = 100;
+    hole.TypeTrou = kTrouRectangle;
+    EXPECT_FALSE(TrouFini(hole, 200));
+    hole.HautTrou = 4;
+    EXPECT_TRUE(TrouFini(hole, 200));
+}
+
 Trou Full(int number) {
     const auto n = static_cast<float>(number);
     const std::string text = std::to_string(number);

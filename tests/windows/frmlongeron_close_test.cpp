@@ -32,7 +32,7 @@ TEST_F(FrmLongeronTest, ApplyWithASelectionModifiesItAndTheWorkSlotStays) {
         window.ClickNumber(0);
         window.Type(0, "25");
         window.Click("CmdApply");
-        EXPECT_EQ(window.Numbers(), "1 2 [3]");
+        EXPECT_EQ(window.Numbers(), "1 2 3 [4]");
         EXPECT_EQ(Drawn(), 1);
     });
     EXPECT_EQ(Places(3), "25 30 40");
@@ -92,7 +92,7 @@ TEST_F(FrmLongeronTest, CloseThatIsRefusedShowsTheEntryThatItSpeaksOf) {
         window.Click("Cmdmodif");
         window.ClickNumber(2); // which is right
         window.Click("Cmdannuler");
-        EXPECT_EQ(window.Numbers(), "1 [2] 3 4");
+        EXPECT_EQ(window.Numbers(), "1 [2] 3 4 5");
         EXPECT_EQ(window.Box(0).text().toStdString(), "250");
     });
 }
@@ -123,9 +123,91 @@ TEST_F(FrmLongeronTest, OkOfAWrongEntryKeepsTheWindowOpenUntilItIsRight) {
     EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "0");
 }
 
-TEST_F(FrmLongeronTest, AnEmptyFirstSlotCanBeLeftAfterItsNumberWasClicked) {
+TEST_F(FrmLongeronTest, OkOfAnUntouchedListDrawsAndCloses) {
+    EXPECT_EQ(Use([](SeenSlots &window) { window.Click("cmdok"); }), Left::accepted);
+    EXPECT_EQ(Drawn(), 1);
+    EXPECT_EQ(Count(), 0);
+}
+
+TEST_F(FrmLongeronTest, OkAfterAnAddPassesOverTheNextEntry) {
+    EXPECT_EQ(Use([](SeenSlots &window) {
+                  TypeSpar(window, "50", "10", "5");
+                  window.Click("Opte(1)");
+                  window.Click("cmdajout");
+                  window.Click("cmdok");
+              }),
+              Left::accepted);
+    EXPECT_EQ(Drawn(), 1);
+    EXPECT_EQ(Count(), 1);
+    EXPECT_EQ(Places(2), "50 0");
+}
+
+TEST_F(FrmLongeronTest, WhatWasTypedIntoTheNextEntryIsChecked) {
+    platform.ExpectBoxes(2);
+    EXPECT_EQ(Use([](SeenSlots &window) {
+                  TypeSpar(window, "50", "10", "5");
+                  window.Click("Opte(1)");
+                  window.Click("cmdajout");
+                  window.Type(0, "60"); // and no width
+                  window.Click("cmdok");
+                  EXPECT_TRUE(window.IsOpen());
+                  window.Type(0, "0");
+                  window.Click("Opti(2)"); // a choice counts too
+                  window.Click("cmdok");
+              }),
+              Left::open);
+    EXPECT_EQ(Drawn(), 0);
+}
+
+TEST_F(FrmLongeronTest, WhatIsTakenBackBeforeOkIsNothingTyped) {
     platform.Expect(BoxAnswer::ok);
     EXPECT_EQ(Use([](SeenSlots &window) {
+                  TypeSpar(window, "210", "10", "5");
+                  window.Click("cmdok");
+                  EXPECT_TRUE(window.IsOpen());
+                  TypeSpar(window, "", "0", "0");
+                  window.Click("cmdok");
+              }),
+              Left::accepted);
+    EXPECT_EQ(Slot(0).PosLongAfich, "0");
+    EXPECT_EQ(Slot(0).LargLong, 0.0F);
+}
+
+TEST_F(FrmLongeronTest, ARefusedEntryIsCheckedAgainAfterAnotherIsModified) {
+    Spars(2);
+    platform.ExpectBoxes(2);
+    EXPECT_EQ(Use([this](SeenSlots &window) {
+                  TypeSpar(window, "210", "10", "5");
+                  window.Click("CmdApply");
+                  window.ClickNumber(0);
+                  window.Click("Cmdmodif");
+                  EXPECT_EQ(window.Numbers(), "1 2 3 [4]");
+                  EXPECT_EQ(window.Texts(3), "210|10|5");
+                  EXPECT_EQ(Drawn(), 0);
+                  window.Click("Cmdannuler");
+              }),
+              Left::rejected);
+    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "210");
+    EXPECT_EQ(Places(4), "20 30 40 0");
+    EXPECT_EQ(Count(), 2);
+}
+
+TEST_F(FrmLongeronTest, AnUntouchedEntryMayBeModified) {
+    Spars(1);
+    EXPECT_EQ(Use([this](SeenSlots &window) {
+                  window.ClickNumber(2);
+                  window.Click("Cmdmodif");
+                  EXPECT_EQ(Drawn(), 1);
+                  window.Click("Cmdannuler");
+              }),
+              Left::rejected);
+    EXPECT_EQ(Count(), 1);
+}
+
+TEST_F(FrmLongeronTest, WithAnEmptyListAWidthOfZeroPassesAfterItsNumberWasClicked) {
+    platform.Expect(BoxAnswer::ok);
+    EXPECT_EQ(Use([](SeenSlots &window) {
+                  window.Type(0, "50");
                   window.Click("cmdok");
                   EXPECT_TRUE(window.IsOpen());
                   window.ClickNumber(0);
@@ -133,14 +215,15 @@ TEST_F(FrmLongeronTest, AnEmptyFirstSlotCanBeLeftAfterItsNumberWasClicked) {
               }),
               Left::accepted);
     EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "0");
+    EXPECT_EQ(Slot(0).PosLong, 50.0F);
 }
 
-TEST_F(FrmLongeronTest, WithSparsAnEmptyWorkSlotIsRefusedEvenThen) {
-    Spars(1);
-    programme.rib.longeron[1] = Longeron{};
+TEST_F(FrmLongeronTest, WithSparsAWidthOfZeroIsRefusedEvenThen) {
+    Spars(0);
     platform.Expect(BoxAnswer::ok);
     EXPECT_EQ(Use([](SeenSlots &window) {
                   window.ClickNumber(1);
+                  window.Type(0, "50");
                   window.Click("cmdok");
               }),
               Left::open);
@@ -153,7 +236,7 @@ TEST_F(FrmLongeronTest, TheClickedNumberIsForgottenAfterAnAdd) {
         TypeSpar(window, "50", "10", "5");
         window.Click("cmdajout");
         programme.rib.NbLongeron = 0; // so that the list is empty again
-        window.Type(1, "0");
+        window.Type(0, "60");
         window.Click("CmdApply");
     });
     EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "0");
@@ -162,11 +245,12 @@ TEST_F(FrmLongeronTest, TheClickedNumberIsForgottenAfterAnAdd) {
 TEST_F(FrmLongeronTest, ASparAtLocationZeroIsTakenWhenItHasNoWidth) {
     EXPECT_EQ(Use([](SeenSlots &window) {
                   window.ClickNumber(0);
-                  TypeSpar(window, "0", "0", "0");
+                  window.Click("Opte(1)");
                   window.Click("cmdok");
               }),
               Left::accepted);
     EXPECT_EQ(Slot(0).PosLong, 0.0F);
+    EXPECT_EQ(Slot(0).OptLongExt, 1);
     EXPECT_EQ(Drawn(), 1);
 }
 

@@ -55,8 +55,11 @@ TEST_F(FrmLongeronTest, AddOfALocationBeyondTheChordIsRefusedAndKeepsItInTheSlot
 }
 
 TEST_F(FrmLongeronTest, AddWhileASparIsSelectedShowsAndAddsTheWorkSlot) {
-    Spars(2); // work slot at 40
-    Use([this](SeenSlots &window) {
+    Spars(1);
+    Use([](SeenSlots &window) {
+        TypeSpar(window, "40", "10", "5");
+        window.Click("Opte(1)");
+        window.Click("CmdApply");
         window.ClickNumber(0);
         window.Type(0, "99");
         window.Click("cmdajout");
@@ -68,13 +71,95 @@ TEST_F(FrmLongeronTest, AddWhileASparIsSelectedShowsAndAddsTheWorkSlot) {
 
 TEST_F(FrmLongeronTest, AddKeepsWhatWasTypedAfterTheWorkSlotsOwnNumberWasClicked) {
     Spars(1);
-    Use([this](SeenSlots &window) {
-        window.ClickNumber(1);
-        window.Type(0, "99");
+    Use([](SeenSlots &window) {
+        window.ClickNumber(2);
+        TypeSpar(window, "99", "10", "5");
+        window.Click("Opte(1)");
         window.Click("cmdajout");
     });
-    EXPECT_EQ(Places(3), "20 99 0");
+    EXPECT_EQ(Places(4), "20 30 99 0");
+    EXPECT_EQ(Count(), 3);
+}
+
+// A list that was finished before.
+
+TEST_F(FrmLongeronTest, AFinishedListOpensWithTheNextEntry) {
+    Spars(1);
+    Use([](SeenSlots &window) {
+        EXPECT_EQ(window.Numbers(), "1 2 [3]");
+        EXPECT_EQ(window.Texts(4), "0|0|0|");
+        TypeSpar(window, "99", "10", "5");
+        window.Click("Opte(1)");
+        window.Click("cmdajout");
+        EXPECT_EQ(window.Numbers(), "1 2 3 [4]");
+    });
+    EXPECT_EQ(Places(4), "20 30 99 0");
+    EXPECT_EQ(Count(), 3);
+}
+
+TEST_F(FrmLongeronTest, OkStoresTheNextEntryOfAFinishedList) {
+    Spars(1);
+    EXPECT_EQ(Use([](SeenSlots &window) {
+                  TypeSpar(window, "99", "10", "5");
+                  window.Click("cmdok");
+              }),
+              Left::accepted);
+    EXPECT_EQ(Places(3), "20 30 99");
     EXPECT_EQ(Count(), 2);
+}
+
+TEST_F(FrmLongeronTest, AFinishedListStaysAsItWasWhenNothingIsTyped) {
+    for (const char *way : {"cmdok", "CmdApply", "Cmdannuler"}) {
+        Spars(1);
+        Use([way](SeenSlots &window) { window.Click(way); });
+        EXPECT_EQ(Count(), 1) << way;
+        EXPECT_EQ(Places(3), "20 30 0") << way;
+    }
+    EXPECT_EQ(Drawn(), 2);
+}
+
+TEST_F(FrmLongeronTest, AFinishedListStaysAsItWasWhenWhatIsTypedIsNotStored) {
+    Spars(1);
+    platform.Expect(BoxAnswer::ok);
+    Use([](SeenSlots &window) {
+        TypeSpar(window, "210", "10", "5");
+        window.Click("CmdApply");
+        window.Click("Cmdannuler");
+    });
+    EXPECT_EQ(Count(), 1);
+    EXPECT_EQ(Places(3), "20 30 0");
+}
+
+TEST_F(FrmLongeronTest, AnUnfinishedEntryIsShownAgain) {
+    const std::function<void(Longeron &)> unfinished[] = {
+        [](Longeron &spar) { spar.PosLong = 0; },   // the plot ends there
+        [](Longeron &spar) { spar.PosLong = 197; }, // with its width beyond the chord
+        [](Longeron &spar) { spar.LargLong = 0; },  //
+        [](Longeron &spar) { spar.HautLong = 0; },  //
+    };
+    for (const auto &change : unfinished) {
+        Spars(1);
+        change(programme.rib.longeron[1]);
+        Use([](SeenSlots &window) {
+            EXPECT_EQ(window.Numbers(), "1 [2]");
+            EXPECT_EQ(window.Text("Text1(0)"), "30");
+        });
+    }
+}
+
+TEST_F(FrmLongeronTest, ARoundSparIsFinishedWithoutDepth) {
+    Spars(0);
+    programme.rib.longeron[0].TypeLong = kLongeronRond;
+    programme.rib.longeron[0].HautLong = 0;
+    Use([](SeenSlots &window) { EXPECT_EQ(window.Numbers(), "1 [2]"); });
+}
+
+TEST_F(FrmLongeronTest, AFullListOpensWithItsTwelfthEntry) {
+    Spars(11);
+    Use([](SeenSlots &window) {
+        EXPECT_EQ(window.Numbers(), "1 2 3 4 5 6 7 8 9 10 11 [12]");
+        EXPECT_EQ(window.Text("Text1(0)"), "130");
+    });
 }
 
 TEST_F(FrmLongeronTest, ATwelfthAddShowsTheMessageAndTheCountStaysAt11) {
@@ -110,8 +195,8 @@ TEST_F(FrmLongeronTest, ModifyChangesTheSelectedSparAndDraws) {
         window.ClickNumber(1);
         window.Type(0, "35");
         window.Click("Cmdmodif");
-        EXPECT_EQ(window.Numbers(), "1 2 [3]");
-        EXPECT_EQ(window.Texts(3), "40|10|5");
+        EXPECT_EQ(window.Numbers(), "1 2 3 [4]");
+        EXPECT_EQ(window.Texts(3), "0|0|0");
         EXPECT_EQ(Drawn(), 1);
     });
     EXPECT_EQ(Places(3), "20 35 40");
@@ -150,7 +235,7 @@ TEST_F(FrmLongeronTest, AWrongModificationStaysShownAndStored) {
         window.ClickNumber(0);
         window.Type(1, "60"); // 20 - 30 lies before the leading edge
         window.Click("Cmdmodif");
-        EXPECT_EQ(window.Numbers(), "[1] 2 3");
+        EXPECT_EQ(window.Numbers(), "[1] 2 3 4");
         EXPECT_EQ(window.Texts(3), "20|60|5");
         EXPECT_EQ(Drawn(), 0);
     });
@@ -159,18 +244,20 @@ TEST_F(FrmLongeronTest, AWrongModificationStaysShownAndStored) {
     EXPECT_EQ(Places(3), "20 30 40");
 }
 
-TEST_F(FrmLongeronTest, AfterAModificationAnEmptyWorkSlotIsRefused) {
+TEST_F(FrmLongeronTest, AfterAModificationAnUntouchedWorkSlotIsPassedOver) {
     Spars(1);
     programme.rib.longeron[1] = Longeron{};
-    platform.Expect(BoxAnswer::ok);
-    Use([this](SeenSlots &window) {
-        window.ClickNumber(0);
-        window.Type(0, "25");
-        window.Click("Cmdmodif");
-        EXPECT_EQ(window.Numbers(), "1 [2]");
-    });
-    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "0");
-    EXPECT_EQ(Slot(0).PosLongAfich, "25");
+    EXPECT_EQ(Use([this](SeenSlots &window) {
+                  window.ClickNumber(0);
+                  window.Type(0, "25");
+                  window.Click("Cmdmodif");
+                  EXPECT_EQ(window.Numbers(), "1 [2]");
+                  EXPECT_EQ(Drawn(), 1);
+                  window.Click("cmdok");
+              }),
+              Left::accepted);
+    EXPECT_EQ(Places(2), "25 0");
+    EXPECT_EQ(Count(), 1);
 }
 
 // Remove.
@@ -180,8 +267,8 @@ TEST_F(FrmLongeronTest, RemoveClosesTheGapAndDraws) {
     Use([this](SeenSlots &window) {
         window.ClickNumber(1);
         window.Click("Cmdeffac");
-        EXPECT_EQ(window.Numbers(), "1 2 [3]");
-        EXPECT_EQ(window.Texts(3), "50|10|5");
+        EXPECT_EQ(window.Numbers(), "1 2 3 [4]");
+        EXPECT_EQ(window.Texts(3), "0|0|0");
         EXPECT_EQ(window.Focus(), "Text1(0)");
         EXPECT_EQ(Drawn(), 1);
     });
@@ -231,6 +318,32 @@ TEST_F(FrmLongeronTest, RemoveOfAnEmptyWorkSlotMakesTheLastSparTheWorkSlot) {
     EXPECT_EQ(left, Left::accepted);
     EXPECT_EQ(Count(), 0);
     EXPECT_EQ(Slot(0).PosLongAfich, "20");
+}
+
+TEST_F(FrmLongeronTest, RemoveOfTheNextEntryOfAFinishedListShowsTheLastOne) {
+    Spars(1);
+    const Left left = Use([](SeenSlots &window) {
+        window.ClickNumber(2);
+        window.Click("Cmdeffac");
+        EXPECT_EQ(window.Numbers(), "1 [2]");
+        EXPECT_EQ(window.Texts(3), "30|10|5");
+        window.Click("cmdok");
+    });
+    EXPECT_EQ(left, Left::accepted);
+    EXPECT_EQ(Count(), 1);
+    EXPECT_EQ(Places(3), "20 30 0");
+}
+
+TEST_F(FrmLongeronTest, RemoveOfTheLastOfAFinishedListTakesNoOther) {
+    Spars(1);
+    Use([](SeenSlots &window) {
+        window.ClickNumber(1);
+        window.Click("Cmdeffac");
+        EXPECT_EQ(window.Numbers(), "1 [2]");
+        window.Click("cmdok");
+    });
+    EXPECT_EQ(Count(), 0);
+    EXPECT_EQ(Places(3), "20 0 0");
 }
 
 TEST_F(FrmLongeronTest, RemoveFromAFullList) {

@@ -176,6 +176,7 @@ TEST_F(FrmLongeronTest, AllOptionsAreStoredAndComeBack) {
     EXPECT_EQ(Slot(0).OptLongExt, 1);
     EXPECT_EQ(Slot(0).OptLongInt, 2);
     Use([](SeenSlots &window) {
+        window.ClickNumber(0);
         EXPECT_EQ(window.Texts(4), "20|10|5|2");
         EXPECT_TRUE(window.Chosen("OptDistance(1)"));
         EXPECT_TRUE(window.Chosen("OptLong(3)"));
@@ -257,6 +258,7 @@ TEST_F(FrmLongeronTest, OptionsThatThereArentShowAsTheFirst) {
     spar.TypeLong = 9;
     spar.OptLongExt = spar.OptLongInt = spar.RefLong = 255;
     Use([](SeenSlots &window) {
+        window.ClickNumber(0);
         for (const char *first : {"OptLong(0)", "Opte(0)", "Opti(0)", "OptDistance(0)"}) {
             EXPECT_TRUE(window.Chosen(first));
         }
@@ -273,16 +275,16 @@ TEST_F(FrmLongeronTest, ANumberShowsItsSpar) {
     programme.rib.longeron[0].TypeLong = 2;
     programme.rib.longeron[0].DistLongAfich = "4";
     Use([](SeenSlots &window) {
-        EXPECT_EQ(window.Numbers(), "1 2 [3]");
+        EXPECT_EQ(window.Numbers(), "1 2 3 [4]");
         window.ClickNumber(0);
-        EXPECT_EQ(window.Numbers(), "[1] 2 3");
+        EXPECT_EQ(window.Numbers(), "[1] 2 3 4");
         EXPECT_EQ(window.Texts(4), "20|10|0|4");
         EXPECT_TRUE(window.Chosen("OptLong(2)"));
         EXPECT_TRUE(window.Chosen("Opte(1)"));
         EXPECT_EQ(window.Focus(), "Text1(0)");
         EXPECT_TRUE(window.FocusedAndSelected({"Text1", 0}));
         window.ClickNumber(1);
-        EXPECT_EQ(window.Numbers(), "1 [2] 3");
+        EXPECT_EQ(window.Numbers(), "1 [2] 3 4");
         EXPECT_EQ(window.Texts(4), "30|10|5|");
     });
 }
@@ -290,10 +292,10 @@ TEST_F(FrmLongeronTest, ANumberShowsItsSpar) {
 TEST_F(FrmLongeronTest, ANumberNotInUseDoesNothing) {
     Spars(1);
     Use([](SeenSlots &window) {
-        window.ClickNumber(2);
+        window.ClickNumber(3);
         window.ClickNumber(11);
-        EXPECT_EQ(window.Numbers(), "1 [2]");
-        EXPECT_EQ(window.Text("Text1(0)"), "30");
+        EXPECT_EQ(window.Numbers(), "1 2 [3]");
+        EXPECT_EQ(window.Text("Text1(0)"), "0");
     });
 }
 
@@ -304,7 +306,7 @@ TEST_F(FrmLongeronTest, ThePressMustEndOnTheNumber) {
         QTest::mousePress(&number, Qt::LeftButton);
         QTest::mouseRelease(&number, Qt::LeftButton, {}, {-20, 5});
         QTest::mouseClick(&number, Qt::RightButton);
-        EXPECT_EQ(window.Numbers(), "1 [2]");
+        EXPECT_EQ(window.Numbers(), "1 2 [3]");
     });
 }
 
@@ -313,26 +315,27 @@ TEST_F(FrmLongeronTest, TheNumbersAreChosenByKeysToo) {
     Use([](SeenSlots &window) {
         window.GoTo({"Text1", 0});
         window.Key(Qt::Key_Backtab);
-        EXPECT_EQ(window.Focus(), "LblNblongeron(2)");
+        EXPECT_EQ(window.Focus(), "LblNblongeron(3)");
         window.Key(Qt::Key_Right); // there is none
-        EXPECT_EQ(window.Focus(), "LblNblongeron(2)");
-        window.Key(Qt::Key_Left);
-        window.Key(Qt::Key_Left);
+        EXPECT_EQ(window.Focus(), "LblNblongeron(3)");
+        for (int i = 0; i < 3; ++i) {
+            window.Key(Qt::Key_Left);
+        }
         EXPECT_EQ(window.Focus(), "LblNblongeron(0)");
-        EXPECT_EQ(window.Text("Text1(0)"), "40"); // not chosen yet
+        EXPECT_EQ(window.Text("Text1(0)"), "0"); // not chosen yet
         window.Key(Qt::Key_Space);
-        EXPECT_EQ(window.Numbers(), "[1] 2 3");
+        EXPECT_EQ(window.Numbers(), "[1] 2 3 4");
         EXPECT_EQ(window.Text("Text1(0)"), "20");
         window.Key(Qt::Key_Backtab);
         window.Key(Qt::Key_Right);
         window.Key(Qt::Key_Return);
-        EXPECT_EQ(window.Numbers(), "1 [2] 3");
+        EXPECT_EQ(window.Numbers(), "1 [2] 3 4");
         EXPECT_EQ(window.Text("Text1(0)"), "30");
     });
 }
 
 TEST_F(FrmLongeronTest, ABorderMovesNothing) {
-    Spars(2);
+    Spars(1);
     Use([](SeenSlots &window) {
         const QRect first = window.Number(0).geometry();
         const QRect last = window.Number(2).geometry();

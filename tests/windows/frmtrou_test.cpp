@@ -193,6 +193,7 @@ TEST_F(FrmTrouTest, AllOptionsAreStoredAndComeBack) {
     EXPECT_EQ(Slot(0).ChkCentre, 1.0F);
     EXPECT_EQ(Slot(0).DecalTrou, 0.0F);
     Use([](SeenSlots &window) {
+        window.ClickNumber(0);
         EXPECT_EQ(window.Texts(3), "20|10|6");
         EXPECT_TRUE(window.Chosen("OptDistance(1)"));
         EXPECT_TRUE(window.Chosen("OptTrouRec(1)"));
@@ -226,6 +227,7 @@ TEST_F(FrmTrouTest, AHoleInTheMiddleLosesAnOldDistanceWhenItIsApplied) {
     programme.rib.trou[0].DecalTrou = 4;
     programme.rib.trou[0].DecalTrouAfich = "4";
     Use([](SeenSlots &window) {
+        window.ClickNumber(0);
         EXPECT_EQ(window.Text("Text2"), "0");
         window.Click("CmdApply");
     });
@@ -236,7 +238,10 @@ TEST_F(FrmTrouTest, AHoleInTheMiddleLosesAnOldDistanceWhenItIsApplied) {
 TEST_F(FrmTrouTest, AlmostTheMiddleIsNotTicked) {
     Holes(0);
     programme.rib.trou[0].ChkCentre = 0.5F;
-    Use([](SeenSlots &window) { EXPECT_FALSE(window.Chosen("Chkcentr")); });
+    Use([](SeenSlots &window) {
+        window.ClickNumber(0);
+        EXPECT_FALSE(window.Chosen("Chkcentr"));
+    });
 }
 
 TEST_F(FrmTrouTest, ARectangleAsksForWidthAndHeight) {
@@ -309,9 +314,12 @@ TEST_F(FrmTrouTest, OptionsThatThereArentShowAsTheFirst) {
     programme.rib.trou[0].TypeTrou = 7;
     programme.rib.trou[0].RefTrou = 200;
     Use([](SeenSlots &window) {
+        window.ClickNumber(0);
         EXPECT_TRUE(window.Chosen("OptTrouRec(0)"));
         EXPECT_TRUE(window.Chosen("OptDistance(0)"));
+        window.Click("cmdok");
     });
+    EXPECT_EQ(Slot(0).TypeTrou, 0);
 }
 
 TEST_F(FrmTrouTest, AddTakesWhatWasTypedAndOffersTheNext) {
@@ -359,12 +367,12 @@ TEST_F(FrmTrouTest, ModifyChangesTheSelectedHoleAndDraws) {
     Holes(2);
     Use([this](SeenSlots &window) {
         window.ClickNumber(1);
-        EXPECT_EQ(window.Numbers(), "1 [2] 3");
+        EXPECT_EQ(window.Numbers(), "1 [2] 3 4");
         EXPECT_EQ(window.Text("Text1(0)"), "30");
         window.Type(0, "35");
         window.Click("Cmdmodif");
-        EXPECT_EQ(window.Numbers(), "1 2 [3]");
-        EXPECT_EQ(window.Text("Text1(0)"), "40");
+        EXPECT_EQ(window.Numbers(), "1 2 3 [4]");
+        EXPECT_EQ(window.Text("Text1(0)"), "0");
         EXPECT_EQ(Drawn(), 1);
     });
     EXPECT_EQ(Places(3), "20 35 40");
@@ -376,8 +384,8 @@ TEST_F(FrmTrouTest, RemoveClosesTheGapAndDraws) {
     Use([this](SeenSlots &window) {
         window.ClickNumber(1);
         window.Click("Cmdeffac");
-        EXPECT_EQ(window.Numbers(), "1 2 [3]");
-        EXPECT_EQ(window.Text("Text1(0)"), "50");
+        EXPECT_EQ(window.Numbers(), "1 2 3 [4]");
+        EXPECT_EQ(window.Text("Text1(0)"), "0");
         EXPECT_EQ(Drawn(), 1);
     });
     EXPECT_EQ(Places(4), "20 40 50 0");
@@ -412,15 +420,72 @@ TEST_F(FrmTrouTest, ModifyAndRemoveWithoutASelectionAskForOne) {
     EXPECT_EQ(Places(3), "20 30 40");
 }
 
-TEST_F(FrmTrouTest, AnEmptyFirstSlotCanBeLeftAfterItsNumberWasClicked) {
+TEST_F(FrmTrouTest, OkOfAnUntouchedListDrawsAndCloses) {
+    EXPECT_EQ(Use([](SeenSlots &window) { window.Click("cmdok"); }), Left::accepted);
+    EXPECT_EQ(Drawn(), 1);
+}
+
+TEST_F(FrmTrouTest, WithAnEmptyListADiameterOfZeroPassesAfterItsNumberWasClicked) {
     platform.Expect(BoxAnswer::ok);
     EXPECT_EQ(Use([](SeenSlots &window) {
+                  window.Type(0, "50");
                   window.Click("cmdok");
                   window.ClickNumber(0);
                   window.Click("cmdok");
               }),
               Left::accepted);
     EXPECT_EQ(platform.LastBox(), std::string(kBad) + "0");
+}
+
+TEST_F(FrmTrouTest, AFinishedListOpensWithTheNextEntryAndStaysAsItWas) {
+    Holes(1);
+    EXPECT_EQ(Use([](SeenSlots &window) {
+                  EXPECT_EQ(window.Numbers(), "1 2 [3]");
+                  EXPECT_EQ(window.Texts(2), "0|0");
+                  window.Click("cmdok");
+              }),
+              Left::accepted);
+    EXPECT_EQ(Count(), 1);
+    EXPECT_EQ(Drawn(), 1);
+}
+
+TEST_F(FrmTrouTest, AddAfterReopeningReplacesNothing) {
+    Holes(1);
+    Use([](SeenSlots &window) {
+        TypeHole(window, "90", "10");
+        window.Click("cmdajout");
+    });
+    EXPECT_EQ(Places(4), "20 30 90 0");
+    EXPECT_EQ(Count(), 3);
+}
+
+TEST_F(FrmTrouTest, AnUnfinishedEntryIsShownAgain) {
+    const std::function<void(Trou &)> unfinished[] = {
+        [](Trou &hole) { hole.PosTrou = 201; }, [](Trou &hole) { hole.PosTrou = -1; },
+        [](Trou &hole) { hole.DiaTrou = 0; },
+        [](Trou &hole) { hole.TypeTrou = kTrouRectangle; }, // without a height
+    };
+    for (const auto &change : unfinished) {
+        programme.rib.trou[1] = Trou{};
+        Holes(1);
+        change(programme.rib.trou[1]);
+        Use([](SeenSlots &window) {
+            EXPECT_EQ(window.Numbers(), "1 [2]");
+            EXPECT_EQ(window.Text("Text1(0)"), "30");
+        });
+    }
+}
+
+TEST_F(FrmTrouTest, WhatWasTypedIntoTheNextEntryIsChecked) {
+    Holes(0);
+    platform.Expect(BoxAnswer::ok);
+    EXPECT_EQ(Use([](SeenSlots &window) {
+                  window.Click("Chkcentr");
+                  window.Click("cmdok");
+              }),
+              Left::open);
+    EXPECT_EQ(platform.LastBox(), std::string(kBad) + "0");
+    EXPECT_EQ(Count(), 0);
 }
 
 TEST_F(FrmTrouTest, CloseStoresNothing) {
