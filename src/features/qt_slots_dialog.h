@@ -36,7 +36,13 @@ std::uint8_t Choisi(const Group &group) {
 /// that it can be put right here.
 template <class Group>
 void Choisit(Group &group, std::uint8_t index) {
-    group[index < group.size() ? index : 0].setChecked(true);
+    QRadioButton &chosen = group[index < group.size() ? index : 0];
+    chosen.setChecked(true);
+    // The toolkit leaves the group's tab stop where the focus was last. From a button that isn't
+    // chosen its arrow keys only move the focus.
+    for (QRadioButton &button : group) {
+        button.setFocusPolicy(&button == &chosen ? Qt::StrongFocus : Qt::ClickFocus);
+    }
 }
 
 /// A table of up to twelve entries that is edited one entry at a time. A row of numbers says which

@@ -343,6 +343,23 @@ TEST_F(FrmTrouTest, AddTakesWhatWasTypedAndOffersTheNext) {
     EXPECT_EQ(Slot(1).ChkCentre, 0.0F);
 }
 
+TEST_F(FrmTrouTest, AfterAnAddTabComesByTheChoicesOfTheNextHole) {
+    Use([](SeenSlots &window) {
+        TypeHole(window, "50", "10");
+        window.Key(Qt::Key_Backtab);
+        window.Key(Qt::Key_Right);
+        window.GoTo("OptTrouRec(0)");
+        window.Key(Qt::Key_Down);
+        window.Type(2, "4");
+        window.Click("cmdajout");
+        window.ExpectTabs({"OptDistance(0)", "Text1(1)", "Text2", "Chkcentr", "OptTrouRec(0)"});
+        window.Key(Qt::Key_Down);
+        EXPECT_TRUE(window.Chosen("OptTrouRec(1)"));
+    });
+    EXPECT_EQ(Slot(0).RefTrou, 1);
+    EXPECT_EQ(Slot(0).TypeTrou, kTrouRectangle);
+}
+
 TEST_F(FrmTrouTest, OfTwelveHolesTheTwelfthStaysTheWorkSlotAndTheCountIs11) {
     platform.Expect(BoxAnswer::ok);
     EXPECT_EQ(Use([this](SeenSlots &window) {
