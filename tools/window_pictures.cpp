@@ -113,7 +113,7 @@ class Pictures {
         const std::string depth = inches ? "3/16" : "5";
         RibModel &rib = programme_.rib;
         const Saisie typed = programme_.SaisieEnCours();
-        const Refus nobody = [](float) {};
+        const Refus nobody = [](Regle, float) {};
         StockeLongeron(rib.longeron[0], {{"12%", width, depth, ""}, 2, 2, kLongeronSurface, 0},
                        rib.corde, typed, nobody);
         StockeLongeron(rib.longeron[1], {{"30%", depth, "0", depth}, 1, 0, kLongeronRond, 0},

@@ -132,8 +132,12 @@ void frmlongeron::Retire(int slot) {
     RetireLongeron(programme_.rib, slot);
 }
 
-std::string frmlongeron::TexteRefus(const std::string &valeur) const {
-    return TexteValeurLongeron(valeur, programme_.messages);
+std::string frmlongeron::TexteRefus(Regle regle, const std::string &valeur) const {
+    return TexteValeurLongeron(regle, valeur, programme_.messages);
+}
+
+std::string frmlongeron::Remarques(int slot) const {
+    return RemarquesLongeron(programme_.rib, slot, SaisieEnCours());
 }
 
 std::function<void()> frmlongeron::Retour(int slot) {

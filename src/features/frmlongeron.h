@@ -44,7 +44,8 @@ class frmlongeron : public SlotsDialog {
     void AfficheOptions(int slot) override;
     bool EstFini(int slot) const override;
     void Retire(int slot) override;
-    std::string TexteRefus(const std::string &valeur) const override;
+    std::string TexteRefus(Regle regle, const std::string &valeur) const override;
+    std::string Remarques(int slot) const override;
     std::function<void()> Retour(int slot) override;
 
     bool StockeLongeron(int slot);

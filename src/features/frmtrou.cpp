@@ -122,8 +122,12 @@ void frmtrou::Retire(int slot) {
     RetireTrou(programme_.rib, slot);
 }
 
-std::string frmtrou::TexteRefus(const std::string &valeur) const {
-    return TexteValeurTrou(valeur, programme_.messages);
+std::string frmtrou::TexteRefus(Regle regle, const std::string &valeur) const {
+    return TexteValeurTrou(regle, valeur, programme_.messages);
+}
+
+std::string frmtrou::Remarques(int slot) const {
+    return RemarquesTrou(programme_.rib, slot, programme_.messages);
 }
 
 std::function<void()> frmtrou::Retour(int slot) {

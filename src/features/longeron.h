@@ -49,6 +49,15 @@ bool ControleLongeron(const Longeron &slot, const CasLongeron &cas, const Refus 
 /// Whether a slot holds a spar that the window would take as it is.
 bool LongeronFini(const Longeron &slot, float corde);
 
+/// Whether a spar cuts into neither surface, so that only its axis is drawn.
+bool SansEncoche(const Longeron &slot);
+/// Whether two spars, with their places in mm, share a stretch of the chord. Those that touch
+/// don't.
+bool SeCroisent(const Longeron &a, const Longeron &b);
+/// What the user should know of a spar that is taken all the same: no notch, and notches of spars
+/// before it that its own ones overlap. Empty when there is nothing. Failures as PlaceDepuis.
+std::string RemarquesLongeron(const RibModel &rib, int slot, const Saisie &saisie);
+
 /// Back to "0": the sizes; the options. Neither touches the place in mm, which follows its text,
 /// nor the spare text.
 void EffaceLongeron(Longeron &slot);
@@ -60,7 +69,8 @@ void RetireLongeron(RibModel &rib, int slot);
 
 /// Caption of the window, which titles its boxes.
 std::string TitreLongeron(const RibModel &rib, const Saisie &saisie);
-/// Text of the box about a value that is refused, as shown to the user.
-std::string TexteValeurLongeron(const std::string &valeur, const Messages &messages);
+/// Text of the box about a value that is refused, as shown to the user: the rule that it breaks
+/// and what can be done.
+std::string TexteValeurLongeron(Regle regle, const std::string &valeur, const Messages &messages);
 
 } // namespace loftwing

@@ -108,12 +108,15 @@ void SlotsDialog::FinSelection() {
 }
 
 Refus SlotsDialog::MessageValeur() {
-    return [this](float mm) { DitValeur(DepuisMm(mm, programme_.settings.Unite)); };
+    return [this](Regle regle, float mm) {
+        DitValeur(regle, DepuisMm(mm, programme_.settings.Unite));
+    };
 }
 
-void SlotsDialog::DitValeur(const std::string &valeur) {
+void SlotsDialog::DitValeur(Regle regle, const std::string &valeur) {
+    regle_ = regle;
     valeur_ = valeur;
-    programme_.messages.Inform(TexteRefus(valeur), Titre());
+    programme_.messages.Inform(TexteRefus(regle, valeur), Titre());
     SelectionneTexte();
 }
 
@@ -153,6 +156,7 @@ void SlotsDialog::Commande(const char *what, const std::function<void()> &action
     } catch (const Failure &failure) {
         echec_ = true;
         valeur_.clear();
+        regle_ = Regle::illisible;
         programme_.messages.Report(failure, std::string(genre_.label) + what);
         SelectionneTexte();
     }
@@ -188,11 +192,15 @@ void SlotsDialog::Ajoute() {
     }
     etiquette_ = false;
     CompteTravail();
+    const int added = genre_.count;
     if (!AvanceTravail(genre_.count)) {
         Informe(genre_.mots.plein);
     }
     MontreTravail();
     SelectField(*champs_.front());
+    if (const std::string remarks = Remarques(added); !remarks.empty()) {
+        programme_.messages.Inform(remarks, Titre());
+    }
 }
 
 void SlotsDialog::Cmdmodif_Click() {
@@ -297,7 +305,7 @@ void SlotsDialog::cmdannuler_Click() {
     if (!refuses_.empty() && choisi_ != refuses_.begin()->first) {
         Numero_Click(refuses_.begin()->first);
     }
-    DitValeur(valeur_.empty() ? "?" : valeur_);
+    DitValeur(regle_, valeur_.empty() ? "?" : valeur_);
 }
 
 } // namespace loftwing

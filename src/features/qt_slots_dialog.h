@@ -102,7 +102,9 @@ class SlotsDialog : public Dialogue {
     virtual void Affiche(int slot) = 0;
     virtual void AfficheOptions(int slot) = 0;
     virtual void Retire(int slot) = 0;
-    virtual std::string TexteRefus(const std::string &valeur) const = 0;
+    virtual std::string TexteRefus(Regle regle, const std::string &valeur) const = 0;
+    /// What is told about an entry that was added; mostly nothing.
+    virtual std::string Remarques(int slot) const = 0;
     /// What puts a slot back as it is now.
     virtual std::function<void()> Retour(int slot) = 0;
 
@@ -144,6 +146,7 @@ class SlotsDialog : public Dialogue {
     bool etiquette_ = false; ///< a number was clicked since the last entry was added
     bool echec_ = false;     ///< the last check failed
     std::string valeur_;     ///< on this value
+    Regle regle_{};          ///< which breaks this rule
     /// Slots that hold refused values, and the way back to what they held before.
     std::map<int, std::function<void()>> refuses_;
 
@@ -178,7 +181,7 @@ class SlotsDialog : public Dialogue {
     void FinSelection();
     void Montre(int slot);
     void MontreTravail();
-    void DitValeur(const std::string &valeur);
+    void DitValeur(Regle regle, const std::string &valeur);
     void Informe(LngKey key) const;
 };
 

@@ -53,6 +53,13 @@ bool ControleTrou(const Trou &slot, const CasTrou &cas, const Refus &MessageVale
 /// Whether a slot holds a hole that the window would take as it is.
 bool TrouFini(const Trou &slot, float corde);
 
+/// Whether a hole, with its place in mm, leaves the airfoil: above or below at one of the stations
+/// that it covers, or at one of the edges.
+bool TrouSort(const Trou &slot, const RibModel &rib);
+/// What the user should know of a hole that is taken all the same: that it leaves the airfoil.
+/// Empty when it doesn't, or when there is no airfoil.
+std::string RemarquesTrou(const RibModel &rib, int slot, const Messages &messages);
+
 /// Back to "0": texts and numbers with the middle of the thickness; the options. Neither touches
 /// the spare text.
 void EffaceTrou(Trou &slot);
@@ -64,7 +71,8 @@ void RetireTrou(RibModel &rib, int slot);
 
 /// Caption of the window, which titles its boxes.
 std::string TitreTrou(const RibModel &rib, const Saisie &saisie);
-/// Text of the box about a value that is refused, as shown to the user.
-std::string TexteValeurTrou(const std::string &valeur, const Messages &messages);
+/// Text of the box about a value that is refused, as shown to the user: the rule that it breaks
+/// and what can be done.
+std::string TexteValeurTrou(Regle regle, const std::string &valeur, const Messages &messages);
 
 } // namespace loftwing

@@ -18,7 +18,10 @@ class LongeronTest : public testing::Test {
   protected:
     Saisie Entry() { return {unit, words.messages}; }
     Refus Refusals() {
-        return [this](float mm) { refused.push_back(mm); };
+        return [this](Regle rule, float mm) {
+            rules.push_back(rule);
+            refused.push_back(mm);
+        };
     }
     bool Store(Longeron &slot, const ChampsLongeron &fields, float corde = 200) {
         return StockeLongeron(slot, fields, corde, Entry(), Refusals());
@@ -36,8 +39,12 @@ class LongeronTest : public testing::Test {
     }
 
     std::string unit{kUniteMm};
-    Words words{"[Frmlongeron]\n1=Spars\n4=Sizes\n27=\"Look at this :\"\n"};
+    Words words{
+        "[Frmlongeron]\n1=Spars\n4=Sizes\n22=Spar\n27=\"Look at this :\"\n162=Too far back.\n"
+        "166=No length.\n167=is in :\n168=No notch.\n169=Above, spar\n170=Below, "
+        "spar\n"};
     std::vector<float> refused;
+    std::vector<Regle> rules;
 };
 
 TEST_F(LongeronTest, StoresTextsNumbersAndOptions) {
@@ -117,6 +124,7 @@ TEST_F(LongeronTest, APercentageAboveAHundredFromTheTrailingEdgeIsRefused) {
     Longeron slot;
     EXPECT_FALSE(StorePlace(slot, "110%", kTrailing));
     EXPECT_EQ(refused, std::vector<float>{-20});
+    EXPECT_EQ(rules, std::vector{Regle::devant_ba});
 }
 
 TEST_F(LongeronTest, TheRefusalComesBeforeTheSizesAreRead) {
@@ -156,11 +164,13 @@ TEST_F(LongeronTest, ASparThatReachesBeyondAnEdgeIsRefused) {
     EXPECT_FALSE(Check(195.5F, 10, 5));
     EXPECT_FALSE(Check(4.5F, 10, 5));
     EXPECT_EQ(refused, (std::vector<float>{195.5F, 4.5F}));
+    EXPECT_EQ(rules, (std::vector{Regle::depasse_bf, Regle::depasse_ba}));
 }
 
 TEST_F(LongeronTest, ASparWiderThanTheChordIsToldAboutBothEdges) {
     EXPECT_FALSE(Check(100, 300, 5));
     EXPECT_EQ(refused, (std::vector<float>{100, 100}));
+    EXPECT_EQ(rules, (std::vector{Regle::depasse_bf, Regle::depasse_ba}));
 }
 
 TEST_F(LongeronTest, ALengthBeyondTheLeadingEdgeIsCaughtByTheCheck) {
@@ -171,6 +181,7 @@ TEST_F(LongeronTest, ALengthBeyondTheLeadingEdgeIsCaughtByTheCheck) {
 TEST_F(LongeronTest, AWidthOfZeroIsRefusedAndTheDepthNotLookedAt) {
     EXPECT_FALSE(Check(100, 0, 0));
     EXPECT_EQ(refused, std::vector<float>{0});
+    EXPECT_EQ(rules, std::vector{Regle::sans_largeur});
 }
 
 TEST_F(LongeronTest, ADepthOfZeroIsRefusedWhereItIsAskedFor) {
@@ -182,6 +193,7 @@ TEST_F(LongeronTest, ADepthOfZeroIsRefusedWhereItIsAskedFor) {
 TEST_F(LongeronTest, AfterAFailedPlaceTheSizesAreCheckedToo) {
     EXPECT_FALSE(Check(199, 10, 0));
     EXPECT_EQ(refused, (std::vector<float>{199, 0}));
+    EXPECT_EQ(rules, (std::vector{Regle::depasse_bf, Regle::sans_hauteur}));
 }
 
 TEST_F(LongeronTest, AnEmptyListWhoseNumberWasClickedMayKeepAnEmptySlot) {
@@ -197,6 +209,94 @@ TEST_F(LongeronTest, EvenThereTheSparMustLieOnTheChord) {
 TEST_F(LongeronTest, AtLocationZeroOnlyASparWithoutWidthLiesOnTheChord) {
     EXPECT_FALSE(Check(0, 2, 5));
     EXPECT_EQ(refused, std::vector<float>{0});
+}
+
+Longeron Lying(float place, float width) {
+    Longeron spar;
+    spar.PosLong = place;
+    spar.LargLong = width;
+    return spar;
+}
+
+TEST(SparsOnTheChord, CrossWhereTheyShareAStretch) {
+    EXPECT_TRUE(SeCroisent(Lying(100, 10), Lying(109, 10)));  // 95 to 105, 104 to 114
+    EXPECT_TRUE(SeCroisent(Lying(109, 10), Lying(100, 10)));  //
+    EXPECT_TRUE(SeCroisent(Lying(100, 40), Lying(95, 2)));    // one within the other
+    EXPECT_FALSE(SeCroisent(Lying(100, 10), Lying(111, 10))); // 105, 106
+    EXPECT_TRUE(SeCroisent(Lying(100, 10), Lying(100, 10)));
+}
+
+TEST(SparsOnTheChord, ThatTouchDoNotCross) {
+    EXPECT_FALSE(SeCroisent(Lying(100, 10), Lying(110, 10)));
+    EXPECT_FALSE(SeCroisent(Lying(20.1F, 10.2F), Lying(30.3F, 10.2F)));
+}
+
+TEST(SparNotches, AreMissingWhereNeitherSurfaceHasOne) {
+    Longeron spar;
+    EXPECT_TRUE(SansEncoche(spar));
+    spar.OptLongExt = spar.OptLongInt = 7; // draws nothing
+    EXPECT_TRUE(SansEncoche(spar));
+    spar.OptLongExt = kEncocheCoffrage;
+    EXPECT_FALSE(SansEncoche(spar));
+    spar.OptLongExt = 0;
+    spar.OptLongInt = kEncocheContour;
+    EXPECT_FALSE(SansEncoche(spar));
+}
+
+class SparRemarks : public LongeronTest {
+  protected:
+    SparRemarks() { rib.corde = 200; }
+
+    void Put(int slot, const std::string &place, float width, std::uint8_t above,
+             std::uint8_t below) {
+        Longeron &spar = At(rib.longeron, slot);
+        spar.PosLongAfich = place;
+        spar.PosLong = PlaceDepuis(place, 0, rib.corde, Entry());
+        spar.LargLong = width;
+        spar.OptLongExt = above;
+        spar.OptLongInt = below;
+    }
+    std::string Remarks(int slot) { return RemarquesLongeron(rib, slot, Entry()); }
+
+    RibModel rib;
+};
+
+TEST_F(SparRemarks, ThereAreNoneForASparOfItsOwn) {
+    Put(0, "50", 10, 1, 1);
+    Put(1, "60", 10, 1, 1);
+    EXPECT_EQ(Remarks(0), "");
+    EXPECT_EQ(Remarks(1), "");
+}
+
+TEST_F(SparRemarks, TellOfAMissingNotch) {
+    Put(0, "50", 10, 0, 0);
+    EXPECT_EQ(Remarks(0), "Spar 1 is in :\nNo notch.");
+}
+
+TEST_F(SparRemarks, TellOfOverlapsOnTheSameSurface) {
+    Put(0, "50", 10, 1, 0);
+    Put(1, "55", 10, 2, 0);
+    EXPECT_EQ(Remarks(1), "Spar 2 is in :\nAbove, spar 1");
+    EXPECT_EQ(Remarks(0), ""); // it was there before
+    Put(1, "55", 10, 0, 1);
+    EXPECT_EQ(Remarks(1), ""); // one above, one below
+    Put(2, "52", 10, 1, 2);
+    EXPECT_EQ(Remarks(2), "Spar 3 is in :\nAbove, spar 1\nBelow, spar 2");
+}
+
+TEST_F(SparRemarks, WithoutANotchASparOverlapsNone) {
+    Put(0, "50", 10, 1, 1);
+    Put(1, "50", 10, 0, 0);
+    EXPECT_EQ(Remarks(1), "Spar 2 is in :\nNo notch.");
+}
+
+TEST_F(SparRemarks, CountWithPlacesAsTyped) {
+    Put(0, "25%", 10, 1, 0);
+    Put(1, "50", 10, 1, 0);
+    rib.longeron[0].PosLong = 0; // of an earlier plot
+    EXPECT_EQ(Remarks(1), "Spar 2 is in :\nAbove, spar 1");
+    rib.longeron[0].RefLong = 1; // now at 150
+    EXPECT_EQ(Remarks(1), "");
 }
 
 TEST(FinishedSpar, IsOneThatTheWindowWouldTakeAndThePlotDraws) {
@@ -302,13 +402,16 @@ TEST_F(LongeronTest, RemovingMovesAllFieldsButPlaceAndSpare) {
 TEST_F(LongeronTest, WordsItsRefusals) {
     RibModel rib;
     EXPECT_EQ(TitreLongeron(rib, Entry()), "Spars 200  mm");
-    EXPECT_EQ(TexteValeurLongeron("?", words.messages), "Look at this : Sizes = ?");
+    EXPECT_EQ(TexteValeurLongeron(Regle::depasse_bf, "195", words.messages),
+              "Too far back. Look at this : Sizes = 195");
+    EXPECT_EQ(TexteValeurLongeron(Regle::illisible, "?", words.messages),
+              "No length. Look at this : Sizes = ?");
 }
 
 TEST(LongeronEmptyList, OnlyWhatCouldBeDrawnMayBeLeftWithoutAWidth) {
     Longeron spar;
     int refused = 0;
-    const Refus count = [&](float) { ++refused; };
+    const Refus count = [&](Regle, float) { ++refused; };
     const CasLongeron clicked{200, true, true};
     EXPECT_TRUE(ControleLongeron(spar, clicked, count));
     spar.PosLong = 50;

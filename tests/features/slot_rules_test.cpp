@@ -18,8 +18,11 @@ class Place : public testing::Test {
     float Mm(const std::string &text, std::uint8_t ref, float corde) {
         return PlaceDepuis(text, ref, corde, {kMm, words.messages});
     }
+    std::optional<Regle> Broken(const std::string &text, std::uint8_t ref, float corde) {
+        return PlaceRefusee(text, ref, Mm(text, ref, corde), corde);
+    }
     bool Passes(const std::string &text, std::uint8_t ref, float corde) {
-        return PlaceAdmise(text, ref, Mm(text, ref, corde), corde);
+        return !Broken(text, ref, corde).has_value();
     }
 
     Words words{""};
@@ -52,6 +55,15 @@ TEST_F(Place, FromTheTrailingEdgeALengthBeyondTheLeadingEdgeDoesNotPass) {
     EXPECT_EQ(Mm("201", 1, 200), -1.0F);
     EXPECT_FALSE(Passes("201", 1, 200));
     EXPECT_FALSE(Passes("-1", 1, 200)); // 201 mm from the leading edge
+}
+
+TEST_F(Place, ARefusalSaysOnWhichSideOfTheRibThePlaceLies) {
+    EXPECT_EQ(Broken("200.01", 0, 200), Regle::derriere_bf);
+    EXPECT_EQ(Broken("101%", 0, 200), Regle::derriere_bf);
+    EXPECT_EQ(Broken("-1", 1, 200), Regle::derriere_bf);
+    EXPECT_EQ(Broken("-1", 0, 200), Regle::devant_ba);
+    EXPECT_EQ(Broken("201", 1, 200), Regle::devant_ba);
+    EXPECT_EQ(Broken("101%", 1, 200), Regle::devant_ba);
 }
 
 TEST(WorkSlot, AdvancesUpToTheTwelfth) {
@@ -118,6 +130,12 @@ TEST(SlotTexts, TheCaptionShowsTheChordAsTyped) {
     RibModel rib;
     rib.cordeAfich = "8.1/2";
     EXPECT_EQ(TitreAvecCorde("Spars", rib, " in"), "Spars 8.1/2  in");
+}
+
+TEST(SlotTexts, RemarksNameTheEntryAndStandOnALineEach) {
+    EXPECT_EQ(TexteRemarques("Spar", 2, "is in. Note :", {"One.", "Two."}),
+              "Spar 3 is in. Note :\nOne.\nTwo.");
+    EXPECT_EQ(TexteRemarques("Spar", 2, "is in. Note :", {}), "");
 }
 
 TEST(SlotTexts, ARefusalNamesTheFrameAndTheValue) {

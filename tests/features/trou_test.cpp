@@ -18,7 +18,10 @@ class TrouTest : public testing::Test {
   protected:
     Saisie Entry() { return {unit, words.messages}; }
     Refus Refusals() {
-        return [this](float mm) { refused.push_back(mm); };
+        return [this](Regle rule, float mm) {
+            rules.push_back(rule);
+            refused.push_back(mm);
+        };
     }
     bool Store(Trou &slot, const ChampsTrou &fields) {
         return StockeTrou(slot, fields, 200, Entry(), Refusals());
@@ -34,8 +37,11 @@ class TrouTest : public testing::Test {
     }
 
     std::string unit{kUniteMm};
-    Words words{"[FrmTrou]\n1=Holes\n4=Sizes\n22=\"Look at this :\"\n"};
+    Words words{"[FrmTrou]\n1=Holes\n4=Sizes\n15=Hole\n22=\"Look at this :\"\n160=Too far back.\n"
+                "161=Too far in front.\n162=No width.\n163=No height.\n164=No length.\n"
+                "165=is in :\n166=It leaves the rib.\n"};
     std::vector<float> refused;
+    std::vector<Regle> rules;
 };
 
 TEST_F(TrouTest, StoresTextsNumbersAndOptions) {
@@ -115,11 +121,13 @@ TEST_F(TrouTest, KindAndEdgeAreStoredEvenWhenASizeFails) {
 TEST_F(TrouTest, ADiameterOfZeroIsRefusedAndTheHeightNotLookedAt) {
     EXPECT_FALSE(Check(0, 0, true));
     EXPECT_EQ(refused, std::vector<float>{0});
+    EXPECT_EQ(rules, std::vector{Regle::sans_largeur});
 }
 
 TEST_F(TrouTest, AHeightOfZeroIsRefusedWhereItIsAskedFor) {
     EXPECT_FALSE(Check(10, 0, true));
     EXPECT_EQ(refused, std::vector<float>{0});
+    EXPECT_EQ(rules, std::vector{Regle::sans_hauteur});
     EXPECT_TRUE(Check(10, 0, false));
     EXPECT_TRUE(Check(10, 3, true));
 }
@@ -127,6 +135,92 @@ TEST_F(TrouTest, AHeightOfZeroIsRefusedWhereItIsAskedFor) {
 TEST_F(TrouTest, AnEmptyListWhoseNumberWasClickedMayKeepAnEmptySlot) {
     EXPECT_TRUE(Check(0, 0, true, true));
     EXPECT_TRUE(refused.empty());
+}
+
+/// A rib of 200 mm whose upper surface is flat, 20 mm above the reference line, and whose lower
+/// surface is 10 mm below.
+class HolesThatLeave : public testing::Test {
+  protected:
+    HolesThatLeave() {
+        rib.corde = 200;
+        rib.ProfilCharge = true;
+        rib.TabExtrados.fill(0.1);
+        rib.TabIntrados.fill(-0.05);
+    }
+    /// The upper surface falls from 20 mm at the leading edge to 0 at the trailing edge.
+    void Wedge() {
+        for (std::size_t k = 0; k < rib.TabExtrados.size(); ++k) {
+            rib.TabExtrados[k] = 0.1 * static_cast<double>(k) / kLastStation;
+        }
+    }
+    static Trou Circle(float place, float diameter, float distance) {
+        Trou hole;
+        hole.PosTrou = place;
+        hole.DiaTrou = diameter;
+        hole.DecalTrou = distance;
+        return hole;
+    }
+    static Trou Rectangle(float place, float width, float height, float distance) {
+        Trou hole = Circle(place, width, distance);
+        hole.TypeTrou = kTrouRectangle;
+        hole.HautTrou = height;
+        return hole;
+    }
+    static Trou Centred(Trou hole) {
+        hole.ChkCentre = 1;
+        return hole;
+    }
+    bool Leaves(const Trou &hole) { return TrouSort(hole, rib); }
+
+    RibModel rib;
+};
+
+TEST_F(HolesThatLeave, ACircleOnTheReferenceLineReachesTheNearerSurface) {
+    EXPECT_FALSE(Leaves(Circle(100, 20, 0))); // from -10 to 10
+    EXPECT_TRUE(Leaves(Circle(100, 21, 0)));
+    EXPECT_FALSE(Leaves(Circle(100, 20, 10))); // from 0 to 20
+    EXPECT_TRUE(Leaves(Circle(100, 20, 11)));
+    EXPECT_TRUE(Leaves(Circle(100, 20, -1)));
+}
+
+TEST_F(HolesThatLeave, InTheMiddleOfTheThicknessThereIsRoomForAllOfIt) {
+    EXPECT_FALSE(Leaves(Centred(Circle(100, 30, 0)))); // around 5
+    EXPECT_TRUE(Leaves(Centred(Circle(100, 31, 0))));
+    EXPECT_FALSE(Leaves(Centred(Rectangle(100, 60, 30, 0))));
+    EXPECT_TRUE(Leaves(Centred(Rectangle(100, 60, 31, 0))));
+}
+
+TEST_F(HolesThatLeave, AnEdgeOfTheRibIsALimitToo) {
+    EXPECT_FALSE(Leaves(Circle(5, 10, 0)));
+    EXPECT_TRUE(Leaves(Circle(4, 10, 0)));
+    EXPECT_FALSE(Leaves(Rectangle(195, 10, 4, 0)));
+    EXPECT_TRUE(Leaves(Rectangle(196, 10, 4, 0)));
+}
+
+TEST_F(HolesThatLeave, ARectangleMustFitAtItsLowerEnd) {
+    Wedge(); // 10 mm high at 100, 8 mm at 120, 12 mm at 80
+    EXPECT_FALSE(Leaves(Rectangle(100, 40, 15, 0)));
+    EXPECT_TRUE(Leaves(Rectangle(100, 40, 17, 0))); // 8.5 above the reference line
+    EXPECT_FALSE(Leaves(Rectangle(100, 2, 17, 0)));
+}
+
+TEST_F(HolesThatLeave, ACircleFitsWhereItsSquareDoesNot) {
+    Wedge();
+    // The surface falls by 1 in 10: it is 10 / sqrt(1.01) = 9.950 from the centre.
+    EXPECT_FALSE(Leaves(Circle(100, 19.8F, 0)));
+    EXPECT_TRUE(Leaves(Rectangle(100, 19.8F, 19.8F, 0)));
+    EXPECT_TRUE(Leaves(Circle(100, 19.96F, 0))); // its top fits, what lies behind doesn't
+}
+
+TEST_F(HolesThatLeave, AreToldOnlyWithAnAirfoil) {
+    Words words("[FrmTrou]\n15=Hole\n165=is in :\n166=It leaves the rib.\n");
+    rib.trou[1] = Circle(100, 40, 0);
+    EXPECT_EQ(RemarquesTrou(rib, 1, words.messages), "Hole 2 is in :\nIt leaves the rib.");
+    rib.trou[1] = Circle(100, 20, 0);
+    EXPECT_EQ(RemarquesTrou(rib, 1, words.messages), "");
+    rib.ProfilCharge = false;
+    rib.trou[1] = Circle(100, 40, 0);
+    EXPECT_EQ(RemarquesTrou(rib, 1, words.messages), "");
 }
 
 TEST(FinishedHole, IsOneThatTheWindowWouldTake) {
@@ -220,7 +314,15 @@ TEST_F(TrouTest, WordsItsRefusals) {
     rib.cordeAfich = "8.1/2";
     unit = kUniteIn;
     EXPECT_EQ(TitreTrou(rib, Entry()), "Holes 8.1/2  in");
-    EXPECT_EQ(TexteValeurTrou("0", words.messages), "Look at this : Sizes = 0");
+    const std::pair<Regle, const char *> texts[] = {
+        {Regle::derriere_bf, "Too far back."}, {Regle::devant_ba, "Too far in front."},
+        {Regle::sans_largeur, "No width."},    {Regle::sans_hauteur, "No height."},
+        {Regle::illisible, "No length."},
+    };
+    for (const auto &[rule, text] : texts) {
+        EXPECT_EQ(TexteValeurTrou(rule, "0", words.messages),
+                  std::string(text) + " Look at this : Sizes = 0");
+    }
 }
 
 } // namespace

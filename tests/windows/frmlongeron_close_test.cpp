@@ -120,7 +120,7 @@ TEST_F(FrmLongeronTest, OkOfAWrongEntryKeepsTheWindowOpenUntilItIsRight) {
                   window.Click("cmdok");
               }),
               Left::accepted);
-    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "0");
+    EXPECT_EQ(platform.LastBox(), Refused(kNoDepth, "0"));
 }
 
 TEST_F(FrmLongeronTest, OkOfAnUntouchedListDrawsAndCloses) {
@@ -187,7 +187,7 @@ TEST_F(FrmLongeronTest, ARefusedEntryIsCheckedAgainAfterAnotherIsModified) {
                   window.Click("Cmdannuler");
               }),
               Left::rejected);
-    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "210");
+    EXPECT_EQ(platform.LastBox(), Refused(kBehind, "210"));
     EXPECT_EQ(Places(4), "20 30 40 0");
     EXPECT_EQ(Count(), 2);
 }
@@ -214,7 +214,7 @@ TEST_F(FrmLongeronTest, WithAnEmptyListAWidthOfZeroPassesAfterItsNumberWasClicke
                   window.Click("cmdok");
               }),
               Left::accepted);
-    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "0");
+    EXPECT_EQ(platform.LastBox(), Refused(kNoWidth, "0"));
     EXPECT_EQ(Slot(0).PosLong, 50.0F);
 }
 
@@ -234,12 +234,13 @@ TEST_F(FrmLongeronTest, TheClickedNumberIsForgottenAfterAnAdd) {
     Use([this](SeenSlots &window) {
         window.ClickNumber(0);
         TypeSpar(window, "50", "10", "5");
+        window.Click("Opte(1)");
         window.Click("cmdajout");
         programme.rib.NbLongeron = 0; // so that the list is empty again
         window.Type(0, "60");
         window.Click("CmdApply");
     });
-    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "0");
+    EXPECT_EQ(platform.LastBox(), Refused(kNoWidth, "0"));
 }
 
 TEST_F(FrmLongeronTest, ASparAtLocationZeroIsTakenWhenItHasNoWidth) {
@@ -261,7 +262,7 @@ TEST_F(FrmLongeronTest, ARefusalShowsInchesAsTyped) {
         TypeSpar(window, "8.3/8", "1/2", "1/4"); // 212.725 mm on 200
         window.Click("CmdApply");
     });
-    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "8.3/8");
+    EXPECT_EQ(platform.LastBox(), Refused(kBehind, "8.3/8"));
 }
 
 TEST_F(FrmLongeronTest, ARefusalShowsAPercentageAsItsLength) {
@@ -270,7 +271,7 @@ TEST_F(FrmLongeronTest, ARefusalShowsAPercentageAsItsLength) {
         TypeSpar(window, "110%", "4", "3");
         window.Click("CmdApply");
     });
-    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "220");
+    EXPECT_EQ(platform.LastBox(), Refused(kBehind, "220"));
 }
 
 TEST_F(FrmLongeronTest, PastedWordsAreCleanedAndTheRestIsTheLeadingNumber) {
@@ -329,6 +330,7 @@ TEST_F(FrmLongeronTest, CloseStoresNothing) {
 TEST_F(FrmLongeronTest, CloseKeepsWhatWasAdded) {
     EXPECT_EQ(Use([](SeenSlots &window) {
                   TypeSpar(window, "50", "10", "5");
+                  window.Click("Opte(1)");
                   window.Click("cmdajout");
                   window.Click("Cmdannuler");
               }),
@@ -354,7 +356,7 @@ TEST_F(FrmLongeronTest, CloseWithAnotherNumberSelectedStaysWhileAValueIsWrong) {
                   window.Click("Cmdannuler");
               }),
               Left::rejected);
-    EXPECT_EQ(platform.boxes.at(2).text, std::string(kBadSpar) + "250");
+    EXPECT_EQ(platform.boxes.at(2).text, Refused(kBehind, "250"));
     EXPECT_EQ(Places(3), "20 150 40");
 }
 
@@ -381,7 +383,7 @@ TEST_F(FrmLongeronTest, CloseAfterAFailureWithoutAValueShowsAQuestionMark) {
                   window.Click("Cmdannuler");
               }),
               Left::open);
-    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "?");
+    EXPECT_EQ(platform.LastBox(), Refused(kUnusable, "?"));
 }
 
 // When the drawing fails the main window clears the rib and closes this one.

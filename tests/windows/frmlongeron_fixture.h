@@ -6,10 +6,15 @@
 
 namespace loftwing {
 
-/// Head of the box about a wrong value.
-inline constexpr const char *kBadSpar =
-    "The spar shown has no width or no depth, or reaches beyond the leading or trailing edge. "
-    "Please correct it. To leave it as it was, click number 1 and then Close : Dimensions = ";
+inline constexpr const char *kBehind = "The spar lies behind the trailing edge.";
+inline constexpr const char *kInFront = "The spar lies in front of the leading edge.";
+inline constexpr const char *kOverTrailing =
+    "The width of the spar reaches beyond the trailing edge.";
+inline constexpr const char *kOverLeading =
+    "The width of the spar reaches beyond the leading edge.";
+inline constexpr const char *kNoWidth = "The spar has no width.";
+inline constexpr const char *kNoDepth = "The spar has no depth.";
+inline constexpr const char *kUnusable = "A value of the spar cannot be used.";
 
 class FrmLongeronTest : public SlotsTest<frmlongeron> {
   protected:

@@ -38,7 +38,7 @@ TEST_F(FrmLongeronTest, AddOfAnEmptyEntryIsRefused) {
         EXPECT_EQ(window.Focus(), "Text1(0)");
         EXPECT_TRUE(window.FocusedAndSelected({"Text1", 0}));
     });
-    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "0");
+    EXPECT_EQ(platform.LastBox(), Refused(kNoWidth, "0"));
     EXPECT_EQ(platform.boxes.at(0).title, "Spars setup 200  mm");
 }
 
@@ -50,7 +50,7 @@ TEST_F(FrmLongeronTest, AddOfALocationBeyondTheChordIsRefusedAndKeepsItInTheSlot
         EXPECT_EQ(Count(), 0);
         EXPECT_EQ(window.Texts(3), "210|10|5");
     });
-    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "210");
+    EXPECT_EQ(platform.LastBox(), Refused(kBehind, "210"));
     EXPECT_EQ(Slot(0).PosLongAfich, "210");
 }
 
@@ -167,6 +167,7 @@ TEST_F(FrmLongeronTest, ATwelfthAddShowsTheMessageAndTheCountStaysAt11) {
     Use([this](SeenSlots &window) {
         for (int i = 1; i <= 12; ++i) {
             TypeSpar(window, std::to_string(10 * i).c_str(), "4", "3");
+            window.Click("Opte(1)");
             window.Click("cmdajout");
         }
         EXPECT_EQ(Count(), 11);
@@ -185,6 +186,75 @@ TEST_F(FrmLongeronTest, ATwelfthAddShowsTheMessageAndTheCountStaysAt11) {
               "A rib has room for 12 spars. The one shown is the twelfth : it is kept, "
               "and can still be changed.");
     EXPECT_EQ(platform.boxes.at(0).title, "Spars setup 200  mm");
+}
+
+TEST_F(FrmLongeronTest, EachRefusalSaysWhichRuleWasBroken) {
+    struct Case {
+        const char *place, *width, *depth;
+        bool from_trailing;
+        std::string text;
+    };
+    const Case cases[] = {
+        {"201", "10", "5", false, Refused(kBehind, "201")},
+        {"201", "10", "5", true, Refused(kInFront, "-1")},
+        {"196", "10", "5", false, Refused(kOverTrailing, "196")},
+        {"4", "10", "5", false, Refused(kOverLeading, "4")},
+        {"50", "0", "5", false, Refused(kNoWidth, "0")},
+        {"50", "10", "0", false, Refused(kNoDepth, "0")},
+    };
+    platform.ExpectBoxes(std::size(cases));
+    Use([&](SeenSlots &window) {
+        for (const Case &wrong : cases) {
+            TypeSpar(window, wrong.place, wrong.width, wrong.depth);
+            window.Click(wrong.from_trailing ? "OptDistance(1)" : "OptDistance(0)");
+            window.Click("cmdajout");
+            EXPECT_EQ(platform.LastBox(), wrong.text);
+        }
+    });
+    EXPECT_EQ(Count(), 0);
+}
+
+TEST_F(FrmLongeronTest, ASparWithoutANotchIsToldWhenItIsAddedAndStays) {
+    platform.Expect(BoxAnswer::ok,
+                    {.text =
+                         "Spar 1 is added as it stands. Please note :\nIt has no notch, neither "
+                         "above nor below : only its axis is drawn.",
+                     .title = "Spars setup 200  mm",
+                     .icon = BoxIcon::information});
+    Use([this](SeenSlots &window) {
+        TypeSpar(window, "50", "10", "5");
+        window.Click("cmdajout");
+        EXPECT_EQ(window.Numbers(), "1 [2]");
+        EXPECT_EQ(window.Focus(), "Text1(0)");
+        EXPECT_EQ(Count(), 1);
+        window.ClickNumber(0); // told once
+        window.Type(1, "9");
+        window.Click("Cmdmodif");
+        window.Click("cmdok");
+    });
+    EXPECT_EQ(Slot(0).LargLong, 9.0F);
+}
+
+TEST_F(FrmLongeronTest, AnOverlapIsToldWhenASparIsAddedAndStays) {
+    Spars(1); // 15 to 25 and 25 to 35, above
+    platform.Expect(BoxAnswer::ok,
+                    {.text = "Spar 3 is added as it stands. Please note :\nOn the upper surface it "
+                             "overlaps spar 2"});
+    Use([this](SeenSlots &window) {
+        TypeSpar(window, "34", "10", "5");
+        window.Click("Opte(2)");
+        window.Click("Opti(1)");
+        window.Click("cmdajout");
+        EXPECT_EQ(Count(), 3);
+        TypeSpar(window, "34", "10", "5"); // below is spar 3 alone
+        window.Click("Opti(1)");
+        platform.Expect(BoxAnswer::ok,
+                        {.text =
+                             "Spar 4 is added as it stands. Please note :\nOn the lower surface "
+                             "it overlaps spar 3"});
+        window.Click("cmdajout");
+    });
+    EXPECT_EQ(Places(5), "20 30 34 34 0");
 }
 
 // Modify.
@@ -239,7 +309,7 @@ TEST_F(FrmLongeronTest, AWrongModificationStaysShownAndStored) {
         EXPECT_EQ(window.Texts(3), "20|60|5");
         EXPECT_EQ(Drawn(), 0);
     });
-    EXPECT_EQ(platform.LastBox(), std::string(kBadSpar) + "20");
+    EXPECT_EQ(platform.LastBox(), Refused(kOverLeading, "20"));
     EXPECT_EQ(Slot(0).LargLong, 60.0F);
     EXPECT_EQ(Places(3), "20 30 40");
 }

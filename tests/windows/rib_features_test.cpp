@@ -79,6 +79,7 @@ TEST_F(RibFeatures, ApplyShowsTheSparWhileTheWindowIsOpen) {
 
 TEST_F(RibFeatures, SparsThatWereAddedAreDrawnWhenTheWindowCloses) {
     const std::size_t before = Operations();
+    world.platform.ExpectBoxes(2); // no notch
     Use(Menu("mnu_profillongeron"), "frmlongeron", [](Seen &dialog) {
         for (const char *place : {"50", "80"}) {
             TypeSpar(dialog, place);
@@ -91,6 +92,7 @@ TEST_F(RibFeatures, SparsThatWereAddedAreDrawnWhenTheWindowCloses) {
 
 TEST_F(RibFeatures, ASparAtLocationZeroHidesThoseBehindIt) {
     const std::size_t before = Operations();
+    world.platform.Expect(BoxAnswer::ok); // no notch
     Use(Menu("mnu_profillongeron"), "frmlongeron", [](Seen &dialog) {
         TypeSpar(dialog, "50");
         dialog.Click("cmdajout");
@@ -154,6 +156,23 @@ TEST_F(RibFeatures, AHoleThatPokesOutIsDrawn) {
     });
     EXPECT_EQ(Operations(), before); // what the empty work slot had drawn, only bigger
     EXPECT_TRUE(world.programme.rib.ProfilCharge);
+}
+
+TEST_F(RibFeatures, AHoleIsHeldAgainstTheAirfoilWhenItIsAdded) {
+    // The airfoil is 12 % of 200 mm thick where it is thickest, at 60 mm.
+    Use(Button("cmdtrou"), "frmtrou", [this](Seen &dialog) {
+        for (const char *diameter : {"22", "26"}) {
+            dialog.Type("Text1(0)", "60");
+            dialog.Type("Text1(1)", diameter);
+            dialog.Click("Chkcentr");
+            if (diameter == std::string("26")) {
+                world.platform.Expect(BoxAnswer::ok, {.text = testing::StartsWith("Hole 2 ")});
+            }
+            dialog.Click("cmdajout");
+        }
+        dialog.Click("cmdok");
+    });
+    EXPECT_EQ(world.programme.rib.NbTrou, 2);
 }
 
 TEST_F(RibFeatures, ARefusedSparDoesNotCostTheRib) {

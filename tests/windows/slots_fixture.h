@@ -48,6 +48,14 @@ class SeenSlots : public Seen {
     const char *numbers_;
 };
 
+/// The box about a refused value: the rule that it breaks, what can be done, the value.
+inline std::string Refused(const std::string &rule, const std::string &value) {
+    return rule +
+           " Please correct it. To leave it as it was, click number 1 and then Close : "
+           "Dimensions = " +
+           value;
+}
+
 template <class Window>
 class SlotsTest : public DialogTest {
   protected:
