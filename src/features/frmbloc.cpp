@@ -1,5 +1,7 @@
 #include "features/frmbloc.h"
 
+#include "programme/rib_trial.h"
+
 namespace loftwing {
 
 namespace {
@@ -20,7 +22,9 @@ frmbloc::frmbloc(Programme &programme, MainView &view, QWidget *parent)
 
 void frmbloc::Form_Load() {
     RibModel &rib = programme_.rib;
+    retour_ = RetourDuRib(rib); // before the window puts away a heel
     rib.Annule = false;
+    rib.TypeGabarit = kSansGabarit;
     setWindowTitle(Q(TitreBloc(programme_.SaisieEnCours())));
     PoseTextes();
     PoseBulles();
@@ -33,12 +37,6 @@ void frmbloc::Form_Load() {
     Picture1.Montre(rib.bloc.Optquebf);
     lblpointhaut.setText(Q(TextePointHaut(rib, programme_.settings.Unite)));
     lblpointbas.setText(Q(TextePointBas(rib, programme_.settings.Unite)));
-    Retient();
-}
-
-void frmbloc::Retient() {
-    bloc_avant_ = programme_.rib.bloc;
-    vrillage_avant_ = programme_.rib.vrillage;
 }
 
 void frmbloc::PoseTextes() {
@@ -94,7 +92,7 @@ void frmbloc::Applique() {
     ValideBloc(programme_.rib, FieldTexts(txt), programme_.SaisieEnCours(), Titre());
     MontreLongueur();
     txt[kBlocVrillage].setText(Q(TextesDuBloc(programme_.rib)[kBlocVrillage]));
-    Retient();
+    retour_ = RetourDuRib(programme_.rib);
     view_.affiche();
 }
 
@@ -115,10 +113,7 @@ void frmbloc::cmdok_Click() {
 
 void frmbloc::cmdannuler_Click() {
     Seul(" Bloc/Cancel", [this] {
-        // Ramps and angle go into the rib while they are typed.
-        programme_.rib.bloc = bloc_avant_;
-        programme_.rib.vrillage = vrillage_avant_;
-        programme_.rib.TypeGabarit = kSansGabarit;
+        retour_(); // ramps and angle go into the rib while they are typed
         programme_.rib.Annule = true;
         view_.affiche();
         QDialog::reject();

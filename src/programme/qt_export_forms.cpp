@@ -103,7 +103,7 @@ Exported AsDxfSimple(Programme &programme, const SetUpPage &) {
 }
 
 Exported AsComposants(Programme &programme, const SetUpPage &) {
-    return {EcritComposants(programme.rib), false, std::nullopt};
+    return {EcritComposants(programme.rib, programme.settings.Unite), false, std::nullopt};
 }
 
 constexpr EntreeExport kEntreeDxf{"mnu_filedxf",   {"MenuFile", "5"},

@@ -237,13 +237,18 @@ TEST_F(FrmblocTest, AFractionOfZerothsIsToldAndTheWindowGoesOn) {
     EXPECT_EQ(programme.rib.bloc.BAbloc, 25.4F);
 }
 
-TEST_F(FrmblocTest, CancelTakesTheTemplateAwayEvenIfItWasSet) {
+TEST_F(FrmblocTest, CancelEscapeAndTheClosingButtonGiveBackWhatWasInUse) {
     for (const int way : {0, 1, 2}) {
+        const std::uint8_t before = std::array{kSansGabarit, kGabaritMousse, kGabaritTalon}[way];
+        programme.rib.TypeGabarit = before;
         programme.rib.Annule = false;
         view.asked.clear();
+        std::uint8_t at_redraw = 99;
+        view.on_draw = [&] { at_redraw = programme.rib.TypeGabarit; };
         const Left left = Use([this, way](Seen &window) {
-            window.Click("CmdApply");
-            EXPECT_EQ(programme.rib.TypeGabarit, kGabaritMousse);
+            EXPECT_EQ(programme.rib.TypeGabarit, kSansGabarit);
+            window.Type("txt(4)", "77");
+            window.Click("Optquebf(1)");
             if (way == 0) {
                 window.Click("cmdannuler");
             } else if (way == 1) {
@@ -254,8 +259,13 @@ TEST_F(FrmblocTest, CancelTakesTheTemplateAwayEvenIfItWasSet) {
         });
         EXPECT_EQ(left, Left::rejected);
         EXPECT_TRUE(programme.rib.Annule);
-        EXPECT_EQ(programme.rib.TypeGabarit, 0);
-        EXPECT_EQ(Redraws(), 2);
+        EXPECT_EQ(programme.rib.TypeGabarit, before);
+        EXPECT_EQ(programme.rib.bloc.HTblocAfich, "");
+        EXPECT_EQ(programme.rib.bloc.Optquebf, 0);
+        EXPECT_EQ(programme.rib.bloc.LongBloc, 0.0F);
+        EXPECT_FALSE(programme.rib.Modifie);
+        EXPECT_EQ(Redraws(), 1);
+        EXPECT_EQ(at_redraw, before);
     }
 }
 
@@ -269,6 +279,7 @@ TEST_F(FrmblocTest, CancelPutsBackWhatWasTypedSinceTheLastApply) {
         EXPECT_EQ(programme.rib.bloc.BAbloc, 35.0F);
         window.Click("cmdannuler");
     });
+    EXPECT_EQ(programme.rib.TypeGabarit, kGabaritMousse);
     EXPECT_EQ(programme.rib.bloc.BAblocAfich, "20");
     EXPECT_EQ(programme.rib.bloc.BAbloc, 20.0F);
     EXPECT_EQ(programme.rib.vrillage, -3.0F);
@@ -307,7 +318,7 @@ class TemplateCommandTest : public testing::Test {
     WindowWorld world;
 };
 
-TEST_F(TemplateCommandTest, OpensWithoutHeelAndWithBothEntriesDead) {
+TEST_F(TemplateCommandTest, IsOpenWithoutHeelAndWithBothEntriesDead) {
     Rib().TypeGabarit = kGabaritTalon;
     Open([this](Seen &dialog) {
         EXPECT_EQ(dialog.Name(), "frmbloc");
@@ -318,7 +329,29 @@ TEST_F(TemplateCommandTest, OpensWithoutHeelAndWithBothEntriesDead) {
     });
     EXPECT_TRUE(Alive("mnu_profilTalon"));
     EXPECT_TRUE(Alive("mnu_parambloc"));
-    EXPECT_EQ(Rib().TypeGabarit, 0);
+}
+
+TEST_F(TemplateCommandTest, CancelGivesTemplateOrHeelBackInThePictureToo) {
+    Rib().bloc.BAbloc = 20;
+    Rib().bloc.HTbloc = 40;
+    Rib().talon.TalonIntra = 15;
+    Rib().talon.TalonIntraAfich = "15";
+    world.window->affiche();
+    const auto plain = world.Find<PicView>("Pic")->Dessin()->Operations();
+    for (const std::uint8_t kind : {kGabaritMousse, kGabaritTalon}) {
+        Rib().TypeGabarit = kind;
+        world.window->affiche();
+        const auto drawn = world.Find<PicView>("Pic")->Dessin()->Operations();
+        EXPECT_NE(drawn, plain);
+        Open([](Seen &dialog) {
+            dialog.Fill("txt(1)", "35");
+            dialog.Fill("txt(5)", "4");
+            dialog.Click("cmdannuler");
+        });
+        EXPECT_EQ(Rib().TypeGabarit, kind);
+        EXPECT_EQ(Rib().bloc.BAbloc, 20.0F);
+        EXPECT_EQ(world.Find<PicView>("Pic")->Dessin()->Operations(), drawn);
+    }
 }
 
 TEST_F(TemplateCommandTest, OkMakesTextAndHeelHeightsAnew) {
