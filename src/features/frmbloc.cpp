@@ -34,7 +34,7 @@ void frmbloc::Form_Load() {
     Seul(" Bloc/Load", [&rib] { rib.bloc.LongBloc = LongueurBloc(rib, rib.corde); });
     MontreLongueur();
     Optquebf[rib.bloc.Optquebf == 1 ? 1 : 0].setChecked(true);
-    Picture1.Montre(rib.bloc.Optquebf);
+    MontreEsquisse();
     lblpointhaut.setText(Q(TextePointHaut(rib, programme_.settings.Unite)));
     lblpointbas.setText(Q(TextePointBas(rib, programme_.settings.Unite)));
 }
@@ -72,7 +72,12 @@ void frmbloc::MontreLongueur() {
 
 void frmbloc::Optquebf_Click(int index) {
     programme_.rib.bloc.Optquebf = ToByte(index);
-    Picture1.Montre(index);
+    MontreEsquisse();
+}
+
+void frmbloc::MontreEsquisse() {
+    const RibModel &rib = programme_.rib;
+    Picture1.Montre({rib.bloc.Optquebf, Wide(rib.vrillage), rib.AffHaut});
 }
 
 void frmbloc::txt_Change(int index) {
@@ -80,6 +85,7 @@ void frmbloc::txt_Change(int index) {
         const auto angle =
             SuitBloc(programme_.rib, index, FieldTexts(txt), programme_.SaisieEnCours(), Titre());
         MontreLongueur();
+        MontreEsquisse();
         if (angle) {
             txt[kBlocVrillage].setText(Q(*angle));
             txt[kBlocVrillage].selectAll(); // ready to be typed over

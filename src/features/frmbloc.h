@@ -57,6 +57,7 @@ class frmbloc : public Dialogue {
 
     void Applique();
     void MontreLongueur();
+    void MontreEsquisse();
 };
 
 } // namespace loftwing

@@ -3,6 +3,9 @@
 #include "support/qt_window_world.h"
 #include "windows/addon_fixture.h"
 
+#include <algorithm>
+#include <array>
+
 namespace loftwing {
 namespace {
 
@@ -137,6 +140,34 @@ TEST_F(FrmblocTest, TheTailIsKeptAtOnce) {
         EXPECT_EQ(programme.rib.bloc.Optquebf, 1);
         window.Click("Optquebf(0)");
         EXPECT_EQ(programme.rib.bloc.Optquebf, 0);
+    });
+}
+
+TEST_F(FrmblocTest, TheSketchFollowsTailAndWashoutAsTheyAreTyped) {
+    programme.rib.AffHaut = true;
+    programme.rib.vrillage = -2;
+    Use([](Seen &window) {
+        auto &sketch = window.Find<BlocSketch>("Picture1");
+        const auto rise = [&sketch] {
+            const FormeBloc block = sketch.Forme();
+            return block.bas_arriere.y() - block.bas_avant.y();
+        };
+        EXPECT_LT(rise(), 0);
+        window.Type("txt(5)", "3");
+        EXPECT_GT(rise(), 0);
+        window.Type("txt(5)", "");
+        EXPECT_EQ(rise(), 0);
+        EXPECT_LT(sketch.Forme().queue.y(), 0);
+        window.Click("Optquebf(1)");
+        EXPECT_GT(sketch.Forme().queue.y(), 0);
+        const auto place = [&sketch](const char *letter) {
+            sketch.grab();
+            const auto word =
+                std::find_if(sketch.Words().begin(), sketch.Words().end(),
+                             [letter](const SketchWord &each) { return each.text == letter; });
+            return word->place.center().y();
+        };
+        EXPECT_LT(place("A"), place("E")); // upside down as the rib is
     });
 }
 
