@@ -43,7 +43,7 @@ void Read(const std::string &bytes, const std::string &Unite, Reading &reading) 
 /// stays as it is.
 void CheckReadBack(const RibModel &rib, const std::string &Unite) {
     constexpr int kRounds = 4;
-    std::string bytes = EcritComposants(rib);
+    std::string bytes = EcritComposants(rib, Unite);
     std::string before;
     for (int round = 0; round < kRounds; ++round) {
         Reading again;
@@ -53,7 +53,7 @@ void CheckReadBack(const RibModel &rib, const std::string &Unite) {
         Require(again.rib.NbLongeron == rib.NbLongeron, "same spars");
         Require(again.rib.NbTrou == rib.NbTrou, "same holes");
         before = bytes;
-        bytes = EcritComposants(again.rib);
+        bytes = EcritComposants(again.rib, Unite);
     }
     Require(bytes == before, "same bytes when written again");
 }

@@ -3,6 +3,7 @@
 #include "base/number_text.h"
 
 #include <cmath>
+#include <optional>
 
 namespace loftwing {
 
@@ -95,6 +96,19 @@ std::string MmToInches(const std::string &text) {
     return fraction.empty() ? ThreeDecimals(LeadingNumber(inches)) : fraction;
 }
 
+/// The number of a text in mm, nothing for one that gives none. Tells nobody.
+std::optional<float> Lue(const std::string &text, const std::string &Unite) {
+    if (EstRefusee(text, Unite)) {
+        return std::nullopt;
+    }
+    try {
+        const bool inches = Unite == kUniteIn && text != "0";
+        return ToSingle(LeadingNumber(inches ? InchesToMm(text) : text));
+    } catch (const Failure &) {
+        return std::nullopt;
+    }
+}
+
 } // namespace
 
 bool EstRefusee(const std::string &text, const std::string &Unite) {
@@ -143,6 +157,15 @@ void StockeLongueur(const std::string &typed, const Saisie &saisie, std::string 
                     float &number) {
     afich = typed;
     number = ToSingle(NombreMm(typed, saisie));
+}
+
+std::string TexteEnVigueur(const std::string &afich, float mm, const std::string &Unite) {
+    if (Lue(afich, Unite) == mm) {
+        return afich;
+    }
+    const std::string shown = DepuisMm(mm, Unite);
+    // A chord from a title is shown with fewer digits than it has; its text wasn't refused.
+    return Trim(afich) == shown ? afich : shown;
 }
 
 std::string LongueurCalculee(double mm, const std::string &Unite) {

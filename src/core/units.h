@@ -47,6 +47,10 @@ double NombreMm(const std::string &text, const Saisie &saisie);
 void StockeLongueur(const std::string &typed, const Saisie &saisie, std::string &afich,
                     float &number);
 
+/// What a file says of a length whose number in force is `mm`: the text as typed, or, where that
+/// was refused and so gives another number or none, the number's own text.
+std::string TexteEnVigueur(const std::string &afich, float mm, const std::string &Unite);
+
 /// A computed length as shown behind labels: "# ###.00" in mm, DepuisMm in inches.
 std::string LongueurCalculee(double mm, const std::string &Unite);
 

@@ -27,7 +27,7 @@ std::string TitreCarre(const Saisie &saisie);
 /// beyond 32 bits; the rib is then as it was.
 void ValideCarre(RibModel &rib, TextesCarre &typed, const Saisie &saisie, const std::string &titre);
 
-/// What follows the window, however it was left: the rib has no stock at its leading edge.
+/// What follows once the window was left with OK: the rib has no stock at its leading edge.
 void RetireBaguette(RibModel &rib);
 
 } // namespace loftwing

@@ -1,6 +1,7 @@
 #include "features/frmTalon.h"
 
 #include "base/number_text.h"
+#include "programme/rib_trial.h"
 
 namespace loftwing {
 
@@ -21,7 +22,10 @@ frmTalon::frmTalon(Programme &programme, MainView &view, QWidget *parent)
 }
 
 void frmTalon::Form_Load() {
+    // Before the window proposes heights, brings margins into force and puts away a template.
+    retour_ = RetourDuRib(programme_.rib);
     programme_.rib.Annule = false;
+    programme_.rib.TypeGabarit = kSansGabarit;
     const Saisie saisie = programme_.SaisieEnCours();
     setWindowTitle(Q(TitreTalon(programme_.rib, saisie)));
     PoseTextes();
@@ -40,12 +44,6 @@ void frmTalon::Form_Load() {
     MontreMarges();
     OptTalon_Click(programme_.rib.talon.OptTalon);
     SelectField(txt[programme_.rib.talon.OptTalon == 0 ? kTalonIntra : kTalonExtra]);
-    Retient();
-}
-
-void frmTalon::Retient() {
-    talon_avant_ = programme_.rib.talon;
-    vrillage_avant_ = programme_.rib.vrillage;
 }
 
 void frmTalon::PoseTextes() {
@@ -107,7 +105,7 @@ bool frmTalon::Applique() {
         return false;
     }
     MontreMarges();
-    Retient();
+    retour_ = RetourDuRib(programme_.rib);
     view_.affiche();
     return true;
 }
@@ -130,15 +128,13 @@ void frmTalon::cmdannuler_Click() {
 
 void frmTalon::Abandonne() {
     RibModel &rib = programme_.rib;
-    AbandonneTalon(rib);
     if (Echec && MargesTropLongues(rib)) {
         RefuseMarges(rib, programme_.SaisieEnCours(), Titre());
         return;
     }
     // Margins and angle go into the rib while they are typed, the angle even with the sign that
     // its box has: a heel that is in use must not be drawn by them.
-    rib.talon = talon_avant_;
-    rib.vrillage = vrillage_avant_;
+    retour_();
     rib.Annule = true;
     view_.affiche();
     QDialog::reject();

@@ -11,12 +11,14 @@
 #include <QRadioButton>
 
 #include <array>
+#include <functional>
 
 namespace loftwing {
 
-/// Height, margins and washout of the heel. Margins, washout and side go into the rib while the
-/// user types; Apply and OK put the heel on the rib. rib.Annule tells afterwards whether the user
-/// cancelled. After a refused Apply there is no way out but to correct it.
+/// Height, margins and washout of the heel. While the window is open neither heel nor template is
+/// in use; margins, washout and side go into the rib as they are typed. Apply and OK put the heel
+/// on the rib, Cancel gives back what the window found or last applied. rib.Annule tells afterwards
+/// whether the user cancelled. After a refused Apply there is no way out but to correct it.
 class frmTalon : public Dialogue {
     Q_OBJECT
 
@@ -25,9 +27,8 @@ class frmTalon : public Dialogue {
 
   private:
     MainView &view_;
-    bool Echec = false; ///< the last Apply was refused
-    Talon talon_avant_; ///< what Cancel puts back: the heel as loaded or last applied
-    float vrillage_avant_ = 0;
+    bool Echec = false;            ///< the last Apply was refused
+    std::function<void()> retour_; ///< Cancel's way back to the rib as found or last applied
 
     QLabel LabelOpt;
     std::array<QRadioButton, 2> OptTalon;
@@ -51,7 +52,6 @@ class frmTalon : public Dialogue {
     void PoseTextes();
     void PoseBulles();
     void Form_Load();
-    void Retient();
     void OptTalon_Click(int index);
     void txt_Change(int index);
     void CmdApply_Click() override;

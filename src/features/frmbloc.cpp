@@ -1,5 +1,7 @@
 #include "features/frmbloc.h"
 
+#include "programme/rib_trial.h"
+
 namespace loftwing {
 
 namespace {
@@ -20,7 +22,9 @@ frmbloc::frmbloc(Programme &programme, MainView &view, QWidget *parent)
 
 void frmbloc::Form_Load() {
     RibModel &rib = programme_.rib;
+    retour_ = RetourDuRib(rib); // before the window puts away a heel
     rib.Annule = false;
+    rib.TypeGabarit = kSansGabarit;
     setWindowTitle(Q(TitreBloc(programme_.SaisieEnCours())));
     PoseTextes();
     PoseBulles();
@@ -30,15 +34,9 @@ void frmbloc::Form_Load() {
     Seul(" Bloc/Load", [&rib] { rib.bloc.LongBloc = LongueurBloc(rib, rib.corde); });
     MontreLongueur();
     Optquebf[rib.bloc.Optquebf == 1 ? 1 : 0].setChecked(true);
-    Picture1.Montre(rib.bloc.Optquebf);
+    MontreEsquisse();
     lblpointhaut.setText(Q(TextePointHaut(rib, programme_.settings.Unite)));
     lblpointbas.setText(Q(TextePointBas(rib, programme_.settings.Unite)));
-    Retient();
-}
-
-void frmbloc::Retient() {
-    bloc_avant_ = programme_.rib.bloc;
-    vrillage_avant_ = programme_.rib.vrillage;
 }
 
 void frmbloc::PoseTextes() {
@@ -74,7 +72,12 @@ void frmbloc::MontreLongueur() {
 
 void frmbloc::Optquebf_Click(int index) {
     programme_.rib.bloc.Optquebf = ToByte(index);
-    Picture1.Montre(index);
+    MontreEsquisse();
+}
+
+void frmbloc::MontreEsquisse() {
+    const RibModel &rib = programme_.rib;
+    Picture1.Montre({rib.bloc.Optquebf, Wide(rib.vrillage), rib.AffHaut});
 }
 
 void frmbloc::txt_Change(int index) {
@@ -82,6 +85,7 @@ void frmbloc::txt_Change(int index) {
         const auto angle =
             SuitBloc(programme_.rib, index, FieldTexts(txt), programme_.SaisieEnCours(), Titre());
         MontreLongueur();
+        MontreEsquisse();
         if (angle) {
             txt[kBlocVrillage].setText(Q(*angle));
             txt[kBlocVrillage].selectAll(); // ready to be typed over
@@ -94,7 +98,7 @@ void frmbloc::Applique() {
     ValideBloc(programme_.rib, FieldTexts(txt), programme_.SaisieEnCours(), Titre());
     MontreLongueur();
     txt[kBlocVrillage].setText(Q(TextesDuBloc(programme_.rib)[kBlocVrillage]));
-    Retient();
+    retour_ = RetourDuRib(programme_.rib);
     view_.affiche();
 }
 
@@ -115,10 +119,7 @@ void frmbloc::cmdok_Click() {
 
 void frmbloc::cmdannuler_Click() {
     Seul(" Bloc/Cancel", [this] {
-        // Ramps and angle go into the rib while they are typed.
-        programme_.rib.bloc = bloc_avant_;
-        programme_.rib.vrillage = vrillage_avant_;
-        programme_.rib.TypeGabarit = kSansGabarit;
+        retour_(); // ramps and angle go into the rib while they are typed
         programme_.rib.Annule = true;
         view_.affiche();
         QDialog::reject();

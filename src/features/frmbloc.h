@@ -11,11 +11,13 @@
 #include <QRadioButton>
 
 #include <array>
+#include <functional>
 
 namespace loftwing {
 
-/// Heights, ramps, trailing edge and washout of the template. Ramps, washout and tail go into the
-/// rib while the user types; Apply and OK put the template on the rib, Cancel takes it away.
+/// Heights, ramps, trailing edge and washout of the template. While the window is open neither
+/// template nor heel is in use; ramps, washout and tail go into the rib as they are typed. Apply
+/// and OK put the template on the rib, Cancel gives back what the window found or last applied.
 /// rib.Annule tells afterwards whether the user cancelled.
 class frmbloc : public Dialogue {
     Q_OBJECT
@@ -25,8 +27,7 @@ class frmbloc : public Dialogue {
 
   private:
     MainView &view_;
-    Bloc bloc_avant_; ///< what Cancel puts back: the template as loaded or last applied
-    float vrillage_avant_ = 0;
+    std::function<void()> retour_; ///< Cancel's way back to the rib as found or last applied
 
     std::array<QLabel, kChampsBloc> Label1;
     std::array<NumericField, kChampsBloc> txt;
@@ -48,7 +49,6 @@ class frmbloc : public Dialogue {
     void PoseTextes();
     void PoseBulles();
     void Form_Load();
-    void Retient();
     void Optquebf_Click(int index);
     void txt_Change(int index);
     void CmdApply_Click() override;
@@ -57,6 +57,7 @@ class frmbloc : public Dialogue {
 
     void Applique();
     void MontreLongueur();
+    void MontreEsquisse();
 };
 
 } // namespace loftwing

@@ -5,6 +5,21 @@
 
 namespace loftwing {
 
+/// What of the rib decides on how its template looks.
+struct AspectBloc {
+    int Optquebf = 0;     ///< the tail comes from 0 the upper, 1 the lower surface
+    double vrillage = 0;  ///< washout; only its sign counts
+    bool AffHaut = false; ///< the rib is shown upside down
+};
+
+/// The template as it is drawn around a rib, y upwards: a block that the washout turns about the
+/// tip of its front ramp, and a tail that goes on from the trailing edge.
+struct FormeBloc {
+    QPointF haut_avant, haut_arriere, bas_avant, bas_arriere; ///< corners of the block
+    QPointF bord;                                             ///< trailing edge
+    QPointF queue;                                            ///< end of the tail
+};
+
 /// A rib in its template, with the ramps before and behind it.
 class BlocSketch : public Sketch {
     Q_OBJECT
@@ -22,19 +37,23 @@ class BlocSketch : public Sketch {
 
     /// What the chord is called.
     void SetChordWord(const QString &word);
-    /// Shows the tail at the height of the upper (0) or the lower surface (1).
-    void Montre(int Optquebf);
+    /// Shows the template as the plot has it.
+    void Montre(const AspectBloc &aspect);
+    /// What is shown of it, in lines of text from the tip of the front ramp.
+    FormeBloc Forme() const;
 
   protected:
     void Draw(SketchPainter &pen) const override;
 
   private:
     QString chord_;
-    bool lower_tail_ = false;
+    AspectBloc aspect_;
 
+    double Inclinaison() const;
+    QPointF Tourne(QPointF point) const;
     void DrawBlock(SketchPainter &pen) const;
-    static void DrawHeights(SketchPainter &pen);
-    static void DrawAngle(SketchPainter &pen);
+    void DrawHeights(SketchPainter &pen) const;
+    void DrawAngle(SketchPainter &pen) const;
     void DrawLengths(SketchPainter &pen) const;
 };
 

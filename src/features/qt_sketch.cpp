@@ -78,8 +78,14 @@ SketchPainter SketchPainter::Moved(QPointF origin) const {
     return moved;
 }
 
+SketchPainter SketchPainter::Mirrored() const {
+    SketchPainter mirrored = *this;
+    mirrored.up_ = -up_;
+    return mirrored;
+}
+
 QPointF SketchPainter::At(QPointF point) const {
-    return {origin_.x() + point.x() * unit_, origin_.y() - point.y() * unit_};
+    return {origin_.x() + point.x() * unit_, origin_.y() - up_ * point.y() * unit_};
 }
 
 QPolygonF SketchPainter::At(const QPolygonF &points) const {
@@ -213,10 +219,10 @@ void SketchPainter::Angle(const QString &letter, QPointF centre, double radius, 
     const QRectF circle(middle - QPointF(pixels, pixels), QSizeF(2.0 * pixels, 2.0 * pixels));
     painter_.setPen(MeasurePen(letter));
     constexpr double kSixteenths = 16.0; // the toolkit's unit of angles
-    painter_.drawArc(circle, static_cast<int>(std::lround(start * kSixteenths)),
-                     static_cast<int>(std::lround((end - start) * kSixteenths)));
+    painter_.drawArc(circle, static_cast<int>(std::lround(up_ * start * kSixteenths)),
+                     static_cast<int>(std::lround(up_ * (end - start) * kSixteenths)));
     const auto on_arc = [&](double degrees) {
-        const double radians = degrees * std::acos(-1.0) / 180.0;
+        const double radians = up_ * degrees * std::acos(-1.0) / 180.0;
         return middle + QPointF(std::cos(radians), -std::sin(radians)) * pixels;
     };
     const double step = (end - start) / 4.0;

@@ -38,6 +38,8 @@ class SketchPainter {
 
     /// The same with its origin at `origin`.
     SketchPainter Moved(QPointF origin) const;
+    /// The same upside down about its origin; words stay upright.
+    SketchPainter Mirrored() const;
 
     void Line(QPointF from, QPointF to, SketchLine kind);
     void Line(const QPolygonF &points, SketchLine kind);
@@ -57,6 +59,7 @@ class SketchPainter {
     const QWidget &widget_;
     QPointF origin_;
     double unit_;
+    double up_ = 1; ///< -1 upside down
     QString strong_;
     std::vector<SketchWord> &words_;
 

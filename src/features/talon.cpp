@@ -245,10 +245,4 @@ bool ValideTalon(RibModel &rib, const TextesTalon &typed, const Saisie &saisie,
     return true;
 }
 
-void AbandonneTalon(RibModel &rib) {
-    if (rib.TypeGabarit != kGabaritTalon || !rib.Modifie) {
-        rib.TypeGabarit = kSansGabarit;
-    }
-}
-
 } // namespace loftwing

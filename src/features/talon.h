@@ -88,7 +88,4 @@ inline constexpr const char *kTexteVrillageMaxi = "20";
 bool ValideTalon(RibModel &rib, const TextesTalon &typed, const Saisie &saisie,
                  const std::string &titre);
 
-/// Leaves the window without taking the heel: none is in use, unless it had been taken before.
-void AbandonneTalon(RibModel &rib);
-
 } // namespace loftwing

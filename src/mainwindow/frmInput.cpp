@@ -6,7 +6,8 @@
 namespace loftwing {
 
 frmInput::frmInput(Programme &programme, std::string_view ModeSaisie, QWidget *parent)
-    : Dialogue(programme, "frmInput", ModeDe(ModeSaisie).aide, parent), mode_(ModeDe(ModeSaisie)) {
+    : Dialogue(programme, "frmInput", ModeDe(ModeSaisie).aide, parent), mode_(ModeDe(ModeSaisie)),
+      retour_(RetourDuRib(programme.rib)) {
     NameAll();
     LayOut();
     Form_Load();
@@ -45,6 +46,7 @@ void frmInput::cmdok_Click() {
 }
 
 void frmInput::cmdannuler_Click() {
+    retour_(); // a refused chord has left its text
     programme_.rib.Annule = true;
     QDialog::reject();
 }

@@ -5,6 +5,7 @@
 
 #include <QLabel>
 
+#include <functional>
 #include <string_view>
 
 namespace loftwing {
@@ -12,8 +13,9 @@ namespace loftwing {
 struct ModeEntree;
 
 /// One text box for the value that `ModeSaisie` names: "corde", "epcof", "ba", "bf" or "rep". OK
-/// stores it with all that follows from it; rib.Annule tells the command afterwards whether the
-/// user cancelled. Made with another mode it throws failure 5.
+/// stores it with all that follows from it, Cancel leaves the rib as the window found it;
+/// rib.Annule tells the command afterwards whether the user cancelled. Made with another mode it
+/// throws failure 5.
 class frmInput : public Dialogue {
     Q_OBJECT
 
@@ -22,6 +24,7 @@ class frmInput : public Dialogue {
 
   private:
     const ModeEntree &mode_;
+    const std::function<void()> retour_; ///< to the rib that the window found
 
     QLabel msgtxt;
     NumericField infotxt;

@@ -37,7 +37,6 @@ class Eteinte {
 
 void frmmain::mnu_profilTalon_Click() {
     RibModel &rib = programme_.rib;
-    rib.TypeGabarit = kSansGabarit;
     {
         const Eteinte layout(commands_.Entree("mnu_param"), &rib);
         frmTalon dialog(programme_, *this, this);
@@ -53,7 +52,6 @@ void frmmain::mnu_profilTalon_Click() {
 
 void frmmain::mnu_parambloc_Click() {
     RibModel &rib = programme_.rib;
-    rib.TypeGabarit = kSansGabarit;
     {
         const Eteinte heel(commands_.Entree("mnu_profilTalon"), &rib);
         // Its menu is dead without a rib; the entry itself must not stay so.
@@ -71,7 +69,9 @@ void frmmain::mnu_parambloc_Click() {
 void frmmain::mnu_profilbaC_Click() {
     const bool loaded = programme_.rib.ProfilCharge;
     frmbacarre dialog(programme_, *this, this);
-    ShowModal(dialog);
+    if (ShowModal(dialog) != QDialog::Accepted) {
+        return; // the stock stays
+    }
     if (loaded && !programme_.rib.ProfilCharge) {
         return; // the rib was cleared meanwhile, and the next one's stock is the default's
     }

@@ -14,8 +14,8 @@ namespace loftwing {
 void EcritDxf(const DxfSource &source, std::string &out);
 
 /// The rib as a clean R12 file of lines and circles, at the file's scale throughout, with its
-/// station lines and its inserted text. Upside down as the view is. Things without extent are left
-/// out. Failures as EntitesDxf.
+/// station lines and its inserted text. Notches and rectangular holes are whole outlines. Upside
+/// down as the view is. Things without extent are left out. Failures as EntitesDxf.
 std::string EcritDxfSimple(const DxfSource &source);
 
 } // namespace loftwing

@@ -90,11 +90,18 @@ void Dessin::Ligne(std::string_view calque, DxfPoint de, DxfPoint a) {
     etendue_.Prend(a);
 }
 
+/// The interchange form leaves a notch open at the surface and a rectangular hole half a side
+/// short; what a cutter takes out must be a whole outline. Nothing but such shapes lies on these
+/// layers.
+bool Decoupe(const DxfPolyligne &line) {
+    return line.calque == kCalqueLongeron || line.calque == kCalqueTrou;
+}
+
 void Dessin::Prend(const DxfPolyligne &line) {
     for (std::size_t i = 1; i < line.points.size(); ++i) {
         Ligne(line.calque, Vu(line.points[i - 1]), Vu(line.points[i]));
     }
-    if (line.fermee && !line.points.empty()) {
+    if ((line.fermee || Decoupe(line)) && !line.points.empty()) {
         Ligne(line.calque, Vu(line.points.back()), Vu(line.points.front()));
     }
 }

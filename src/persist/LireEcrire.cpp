@@ -47,12 +47,12 @@ void LignesDebut(Rib &rib, Passe &passe) {
     passe.Texte(rib.texte.InsTexte);
     passe.Affichage(rib.texte.InsTextXAfich, rib.texte.InsTextX);
     passe.Affichage(rib.texte.InsTextYAfich, rib.texte.InsTextY);
-    passe.Affichage(rib.cordeAfich, rib.corde);
+    passe.EnVigueur(rib.cordeAfich, rib.corde);
     passe.Affichage(rib.EpCoffrageAfich, rib.EpCoffrage);
-    passe.Affichage(rib.EpBAAfich, rib.EpBA);
-    passe.Affichage(rib.carre.CarreBAAfich, rib.carre.CarreBA);
-    passe.Affichage(rib.carre.CarreBAXAfich, rib.carre.CarreBAX);
-    passe.Affichage(rib.carre.CarreBAYAfich, rib.carre.CarreBAY);
+    passe.EnVigueur(rib.EpBAAfich, rib.EpBA);
+    passe.EnVigueur(rib.carre.CarreBAAfich, rib.carre.CarreBA);
+    passe.EnVigueur(rib.carre.CarreBAXAfich, rib.carre.CarreBAX);
+    passe.EnVigueur(rib.carre.CarreBAYAfich, rib.carre.CarreBAY);
     passe.Affichage(rib.bloc.CoupeBFAfich, rib.bloc.CoupeBF);
     passe.Imprime(rib.TypeBA);
     passe.Inverse(rib.AffHaut);
@@ -63,7 +63,7 @@ template <class Rib, class Passe>
 void LignesFin(Rib &rib, Passe &passe) {
     passe.Marge(rib.talon.TalonBAAfich, rib.talon.TalonBA);
     passe.Marge(rib.talon.TalonBFAfich, rib.talon.TalonBF);
-    passe.Affichage(rib.EpBFAfich, rib.EpBF);
+    passe.EnVigueur(rib.EpBFAfich, rib.EpBF);
     passe.Octet(rib.NbRep);
     passe.Reel(rib.vrillage);
     passe.Affichage(rib.bloc.HTbasblocAfich, rib.bloc.HTbasbloc);
@@ -219,8 +219,8 @@ void LitAncien(const std::vector<std::string> &lines, RibModel &rib, const Saisi
 
 } // namespace
 
-std::string EcritComposants(const RibModel &rib) {
-    Redacteur redacteur;
+std::string EcritComposants(const RibModel &rib, const std::string &Unite) {
+    Redacteur redacteur(Unite);
     Lignes(rib, redacteur);
     return redacteur.Octets();
 }

@@ -11,9 +11,11 @@
 
 namespace loftwing {
 
-/// The rib as the bytes of a file in the current format: UTF-8, lines ended by CR LF. Failure 9
-/// when the rib counts more spars or holes than there are slots.
-std::string EcritComposants(const RibModel &rib);
+/// The rib as the bytes of a file in the current format: UTF-8, lines ended by CR LF. Lengths stand
+/// in it as they were typed in the unit in force; of chord, stocks and V-notch it holds what is in
+/// force, also where another text was refused. Failure 9 when the rib counts more spars or holes
+/// than there are slots.
+std::string EcritComposants(const RibModel &rib, const std::string &Unite);
 
 /// In which format a file was found.
 enum class FormatComposants {

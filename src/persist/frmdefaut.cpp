@@ -97,13 +97,18 @@ void frmdefaut::inches_Click() {
     Garde(" Defaut/inches", [this] { PrendUnite(kUniteIn); });
 }
 
-/// After a No: unit, page and fields as the dialog found them.
-void frmdefaut::RemetUnite() {
+/// Unit and page as the dialog found them.
+void frmdefaut::RemetReglages() {
     programme_.settings.Unite = unite_avant_;
     programme_.settings.page = page_avant_;
+    view_.AfficheUnite();
+}
+
+/// After a No: the fields too.
+void frmdefaut::RemetUnite() {
+    RemetReglages();
     MontreUnite();
     MontreFichier();
-    view_.AfficheUnite();
 }
 
 /// Whether the unit that is chosen may stay. A Yes holds for as long as that choice stands, so that
@@ -158,10 +163,8 @@ void frmdefaut::cmdok_Click() {
     Garde(" Defaut/OK", [this] { Enregistre(); });
 }
 
-/// Leaves the page that a click on a unit has set: it holds until settings are read again.
 void frmdefaut::cmdannuler_Click() {
-    programme_.settings.Unite = unite_avant_;
-    view_.AfficheUnite();
+    RemetReglages();
     QDialog::reject();
 }
 

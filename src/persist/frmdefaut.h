@@ -15,7 +15,7 @@
 namespace loftwing {
 
 /// A click on a unit brings that unit, its page settings and its usual values into the fields;
-/// Cancel puts back the unit alone. OK asks before another unit clears the rib; after a No all is
+/// Cancel puts unit and page back. OK asks before another unit clears the rib; after a No all is
 /// as the dialog found it and the dialog stays.
 class frmdefaut : public Dialogue {
     Q_OBJECT
@@ -64,6 +64,7 @@ class frmdefaut : public Dialogue {
     void MontreUnite();
     void PrendUnite(std::string_view Unite);
     void RemetUnite();
+    void RemetReglages();
     bool AccepteUnite();
     bool UniteGardee() const;
     void Enregistre();

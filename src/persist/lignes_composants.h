@@ -16,6 +16,8 @@ namespace loftwing {
 /// Writes the lines.
 class Redacteur {
   public:
+    explicit Redacteur(const std::string &Unite) : Unite_(Unite) {}
+
     const std::string &Octets() const { return bytes_; }
 
     void Fixe(std::string_view line) { Ligne(line); }
@@ -27,6 +29,8 @@ class Redacteur {
     void Affichage(const std::string &afich, Number /*mm*/) {
         Ligne(afich);
     }
+    /// A length whose text may have been refused: what is in force.
+    void EnVigueur(const std::string &afich, float mm) { Ligne(TexteEnVigueur(afich, mm, Unite_)); }
     void Marge(const std::string &afich, double /*mm*/) { Ligne(afich); }
     void Nom(const std::string &NomProfil, const std::string &ExtProfil);
     void Octet(std::uint8_t value);
@@ -37,6 +41,7 @@ class Redacteur {
     void TalonExtra(const Talon &talon);
 
   private:
+    const std::string &Unite_;
     std::string bytes_;
 
     /// A line end inside a text would shift all that follows.
@@ -69,6 +74,7 @@ class Lecteur {
     void Affichage(std::string &afich, Number &mm) {
         Prend(Suivante(), afich, mm);
     }
+    void EnVigueur(std::string &afich, float &mm) { Affichage(afich, mm); }
     /// A heel margin keeps its text and no number: that is derived where the heel is set.
     void Marge(std::string &afich, double &mm);
     void Nom(const std::string &NomProfil, std::string &ExtProfil);

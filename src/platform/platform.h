@@ -39,6 +39,7 @@ struct FileQuestion {
     std::string filter_text;       ///< "PDF (*.pdf)"
     std::string default_extension; ///< without its point; added to a name that has none
     std::vector<std::string> more_filters = {}; ///< of a file to open, beside the first one
+    int form = 0; ///< which filter a chooser of several forms starts with, as FormAnswer counts
 };
 
 /// The file that a chooser of several forms was left with.

@@ -202,7 +202,7 @@ std::string QtPlatform::ChooseSaveFile(const FileQuestion &question) {
 FormAnswer QtPlatform::ChooseSaveForm(const FileQuestion &question,
                                       const std::vector<std::string> &more_filters) {
     FileQuestion next = question;
-    int form = 0;
+    int form = question.form;
     while (true) {
         QFileDialog dialog(Asker());
         dialog.setAcceptMode(QFileDialog::AcceptSave);

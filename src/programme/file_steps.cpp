@@ -138,7 +138,7 @@ void EnregistreRib(Programme &programme, CommandView &view) {
         return;
     }
     RetientDossier(programme, "LastOpenLfw", path);
-    WriteWholeFile(path, EcritComposants(rib));
+    WriteWholeFile(path, EcritComposants(rib, programme.settings.Unite));
     rib.NomFichierRib = fs::path(path).filename().string();
     rib.Modifie = false;
     rib.CheminRib = CheminEntier(path);

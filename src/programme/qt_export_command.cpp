@@ -1,12 +1,14 @@
 #include "programme/qt_export_command.h"
 
 #include "base/whole_file.h"
+#include "lang/ini_file.h"
 #include "output/view_screen.h"
 #include "platform/busy_pointer.h"
 #include "programme/dossiers.h"
 #include "programme/rib_file.h"
 #include "programme/startup.h"
 
+#include <algorithm>
 #include <filesystem>
 
 namespace loftwing {
@@ -19,6 +21,33 @@ std::string NomPropose(const Programme &programme, const EntreeExport &entree) {
     const bool of_rib_file = entree.dossier != nullptr && EstComposants(rib.NomFichierRib);
     return of_rib_file ? std::filesystem::path(rib.NomFichierRib).stem().string()
                        : NomDuDessin(rib, programme.compare);
+}
+
+constexpr const char *kSection = "Export";
+
+std::string VarianteRetenue(const Programme &programme, const EntreeExport &entree) {
+    return GetINIFile(kSection, entree.forme, programme.paths.fichier);
+}
+
+void RetientVariante(const Programme &programme, const EntreeExport &entree,
+                     const std::string &variante) {
+    if (entree.forme != nullptr && VarianteRetenue(programme, entree) != variante) {
+        WriteINIFile(kSection, entree.forme, variante, programme.paths.fichier);
+    }
+}
+
+/// The place in `forms` of the form that was used last, at first and where the settings file names
+/// none of them the usual one.
+int FormeRetenue(const Programme &programme, const EntreeExport &entree,
+                 const std::vector<const ExportForm *> &forms) {
+    if (entree.forme == nullptr) {
+        return 0;
+    }
+    const std::string variant = VarianteRetenue(programme, entree);
+    const auto form = std::find_if(forms.begin(), forms.end(), [&](const ExportForm *each) {
+        return each->variant == variant;
+    });
+    return form == forms.end() ? 0 : static_cast<int>(form - forms.begin());
 }
 
 struct Choix {
@@ -42,6 +71,7 @@ Choix DemandeFichier(const Programme &programme, const EntreeExport &entree,
     if (forms.size() == 1) {
         return {programme.platform.ChooseSaveFile(question), &first};
     }
+    question.form = FormeRetenue(programme, entree, forms);
     std::vector<std::string> more;
     for (std::size_t i = 1; i < forms.size(); ++i) {
         more.push_back(FiltreDe(*forms[i], messages));
@@ -55,13 +85,14 @@ Exported Fait(Programme &programme, const ExportForm &form, const SetUpPage &set
     return form.Export(programme, set_up_page);
 }
 
-void Ecrit(const Programme &programme, const EntreeExport &entree, const std::string &path,
+void Ecrit(const Programme &programme, const EntreeExport &entree, const Choix &choix,
            const Exported &exported) {
     if (entree.dossier != nullptr) {
-        RetientDossier(programme, entree.dossier, path);
+        RetientDossier(programme, entree.dossier, choix.path);
     }
     if (exported.bytes) {
-        WriteWholeFile(path, *exported.bytes);
+        RetientVariante(programme, entree, choix.form->variant);
+        WriteWholeFile(choix.path, *exported.bytes);
     }
     if (exported.rupture) {
         throw *exported.rupture;
@@ -90,7 +121,7 @@ bool ExporteVue(Programme &programme, const EntreeExport &entree, const SetUpPag
         }
     }
     if (!choix.path.empty()) {
-        Ecrit(programme, entree, choix.path, exported);
+        Ecrit(programme, entree, choix, exported);
     }
     return !exported.failed;
 }

@@ -103,12 +103,12 @@ Exported AsDxfSimple(Programme &programme, const SetUpPage &) {
 }
 
 Exported AsComposants(Programme &programme, const SetUpPage &) {
-    return {EcritComposants(programme.rib), false, std::nullopt};
+    return {EcritComposants(programme.rib, programme.settings.Unite), false, std::nullopt};
 }
 
-constexpr EntreeExport kEntreeDxf{"mnu_filedxf",   {"MenuFile", "5"},
-                                  " Main/Mnu_DXF", LngKey{"filedxf", "2"},
-                                  "RepDxf",        LngKey{"MenuFile", "5t"}};
+constexpr EntreeExport kEntreeDxf{"mnu_filedxf",           {"MenuFile", "5"}, " Main/Mnu_DXF",
+                                  LngKey{"filedxf", "2"},  "RepDxf",          "FormeDxf",
+                                  LngKey{"MenuFile", "5t"}};
 constexpr EntreeExport kEntreePdf{"mnu_filepdf", {"MenuFile", "11"}, " Main/mnu_filepdf"};
 constexpr EntreeExport kEntreeSvg{"mnu_filesvg", {"MenuFile", "12"}, " Main/mnu_filesvg"};
 

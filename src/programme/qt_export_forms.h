@@ -40,6 +40,8 @@ struct EntreeExport {
     std::optional<LngKey> titre = std::nullopt; ///< of the save box; the form's filter without
     /// Where the settings file remembers the folder; null for a box that opens where it was last.
     const char *dossier = nullptr;
+    /// Where it remembers the form that was used last; null for an entry of one form.
+    const char *forme = nullptr;
     /// Tool tip named by the warning of a foreign decimal separator, where that is given.
     std::optional<LngKey> separateur = std::nullopt;
 };

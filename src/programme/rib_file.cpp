@@ -28,7 +28,7 @@ std::string LitFichier(Programme &programme, const DemandeComposants &demande) {
     const FormatComposants format =
         LitComposants(ReadWholeFile(demande.path), programme.rib, programme.SaisieEnCours(), name);
     if (format == FormatComposants::ancien && demande.reecrit) {
-        WriteWholeFile(demande.path, EcritComposants(programme.rib));
+        WriteWholeFile(demande.path, EcritComposants(programme.rib, programme.settings.Unite));
     }
     return name;
 }

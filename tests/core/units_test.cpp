@@ -152,6 +152,26 @@ TEST_F(Units, NumbersShowByTheirText) {
     EXPECT_EQ(DepuisMm(static_cast<double>(9.525F), kIn), "0.375");
 }
 
+TEST_F(Units, ATextInForceStandsAsTyped) {
+    EXPECT_EQ(TexteEnVigueur("12.50", 12.5F, kMm), "12.50");
+    EXPECT_EQ(TexteEnVigueur("", 0, kMm), "");
+    EXPECT_EQ(TexteEnVigueur("wide", 0, kMm), "wide");
+    EXPECT_EQ(TexteEnVigueur("2.3/8", 60.325F, kIn), "2.3/8");
+    // A chord from a title has more digits than its text.
+    EXPECT_EQ(TexteEnVigueur(" 123.4568", 123.45678F, kMm), " 123.4568");
+    EXPECT_EQ(TexteEnVigueur("8.333", 211.6658F, kIn), "8.333");
+}
+
+TEST_F(Units, ARefusedTextGivesWayToWhatIsInForce) {
+    EXPECT_EQ(TexteEnVigueur("0", 180.5F, kMm), "180.5");
+    EXPECT_EQ(TexteEnVigueur("60", 50, kMm), "50");
+    EXPECT_EQ(TexteEnVigueur("300", 0, kMm), "0");
+    EXPECT_EQ(TexteEnVigueur("1E60", 7, kMm), "7") << "more than 32 bits";
+    EXPECT_EQ(TexteEnVigueur("0", 60.325F, kIn), "2.3/8");
+    EXPECT_EQ(TexteEnVigueur("2./8", 0, kIn), "0") << "counts as 0, but would be refused again";
+    EXPECT_EQ(TexteEnVigueur("1/0", 25.4F, kIn), "1");
+}
+
 /// n/64 inch as a builder writes it.
 std::string Ruler(int n) {
     const int whole = n / 64;

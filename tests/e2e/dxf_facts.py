@@ -77,6 +77,7 @@ def say_facts(path):
     flat = space.query("LINE CIRCLE")
     if len(space.query("LINE")):
         say_extent(flat)
+        say_open_ends(space)
     say_single_pass(path)
     # Last, for an audit repairs what it finds.
     auditor = document.audit()
@@ -99,7 +100,8 @@ def segments_of_polylines(path):
             if line.dxftype() != "POLYLINE":
                 continue
             points = [vertex.dxf.location for vertex in line.vertices]
-            if line.is_closed:
+            # The plain form makes notches and rectangular holes whole.
+            if line.is_closed or line.dxf.layer in ("LONG", "TROU"):
                 points.append(points[0])
             for start, end in zip(points, points[1:]):
                 found[segment(line.dxf.layer, start, end)] += 1
@@ -112,6 +114,17 @@ def segments_of_lines(path):
         if line.dxf.layer != "STATIONS":
             found[segment(line.dxf.layer, line.dxf.start, line.dxf.end)] += 1
     return found
+
+
+def say_open_ends(space):
+    """Counts the ends of lines to be cut at which no other line goes on."""
+    ends = collections.Counter()
+    for line in space.query("LINE"):
+        if line.dxf.layer in ("LONG", "TROU"):
+            for point in (line.dxf.start, line.dxf.end):
+                ends[rounded(point)] += 1
+    say("cut-ends", len(ends))
+    say("open-ends", sum(1 for count in ends.values() if count % 2))
 
 
 def say_same_lines(interchange, plain):

@@ -126,6 +126,15 @@ TEST_F(DxfRead, ThePlainFormPassesTheAuditWithNothingRepairedAndNothingLost) {
     }
 }
 
+TEST_F(DxfRead, ThePlainFormClosesWhatIsCutOut) {
+    for (const LadenCase &which : Cases(true)) {
+        SCOPED_TRACE(Name(which));
+        const Facts facts = FactsOf(Draw(which, true));
+        EXPECT_GE(facts.Count("cut-ends"), 4 + 5); // a notch and a rectangular hole
+        EXPECT_EQ(facts.One("open-ends"), "0");
+    }
+}
+
 TEST_F(DxfRead, ThePlainFormTellsItsUnitAndItsExtent) {
     for (const LadenCase &which : Cases(true)) {
         SCOPED_TRACE(Name(which));

@@ -118,7 +118,7 @@ TEST_F(CarreBordTest, ThePlainStockAfterwardsKeepsTheThreeValues) {
     EXPECT_EQ(rib.carre.CarreBAY, 1.0F);
 }
 
-TEST_F(CarreBordTest, AfterTheWindowThereIsNoStock) {
+TEST_F(CarreBordTest, OnceTheSquareIsTakenThereIsNoStock) {
     rib.EpBAAfich = "3";
     rib.EpBA = 3;
     RetireBaguette(rib);

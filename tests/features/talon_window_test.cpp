@@ -370,21 +370,5 @@ TEST_F(TalonWindowTest, TheUsersOwnTextStays) {
     EXPECT_EQ(rib.texte.InsTexte, "mine : 1");
 }
 
-// Cancel.
-
-TEST_F(TalonWindowTest, LeavingKeepsOnlyAHeelThatWasTaken) {
-    struct Row {
-        std::uint8_t before;
-        bool Modifie;
-        std::uint8_t after;
-    };
-    for (const Row row : {Row{0, true, 0}, Row{1, true, 0}, Row{11, true, 11}, Row{11, false, 0}}) {
-        rib.TypeGabarit = row.before;
-        rib.Modifie = row.Modifie;
-        AbandonneTalon(rib);
-        EXPECT_EQ(rib.TypeGabarit, row.after) << int{row.before} << row.Modifie;
-    }
-}
-
 } // namespace
 } // namespace loftwing

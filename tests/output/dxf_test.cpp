@@ -206,7 +206,26 @@ TEST_F(Dxf, FailureLeavesTheFileAsFarAsItWasWritten) {
     EXPECT_EQ(items.back(), (Item{0, "SEQEND"}));
 }
 
-class SimpleDxf : public Dxf {};
+using Strings = std::vector<std::string>;
+
+class SimpleDxf : public Dxf {
+  protected:
+    /// The lines of a layer: both ends of each.
+    static Strings LinesOn(const Items &entities, const std::string &layer) {
+        const Items head = {{0, "LINE"}, {8, layer}};
+        Strings lines;
+        for (auto at = entities.begin();;) {
+            at = std::search(at, entities.end(), head.begin(), head.end());
+            if (at == entities.end()) {
+                return lines;
+            }
+            // A point is x, y, z.
+            lines.push_back(at[2].second + " " + at[3].second + " " + at[5].second + " " +
+                            at[6].second);
+            ++at;
+        }
+    }
+};
 
 TEST_F(SimpleDxf, IsAnR12FileWithItsUnitAndAllSections) {
     const Items items = Simple();
@@ -264,6 +283,54 @@ TEST_F(SimpleDxf, ClosedPathIsClosedByALine) {
     world.rib.carre.CarreBAX = 6;
     world.rib.carre.CarreBAY = 2;
     EXPECT_EQ(Kinds(Section(Simple(), "ENTITIES"))["LINE"], 4);
+}
+
+/// A notch from 45 to 55 mm, 3 mm deep from the upper surface at 5 mm and as deep from the lower.
+Longeron NotchBothSides(int kind) {
+    Longeron spar;
+    spar.PosLongAfich = "50";
+    spar.LargLong = 10;
+    spar.HautLong = 3;
+    spar.TypeLong = static_cast<std::uint8_t>(kind);
+    spar.OptLongExt = 2;
+    spar.OptLongInt = 2;
+    return spar;
+}
+
+TEST_F(SimpleDxf, EveryNotchIsAWholeOutline) {
+    for (const int kind : {0, 1, 3}) { // along the surface, square, at a distance
+        world.rib.longeron[0] = NotchBothSides(kind);
+        const Items entities = Section(Simple(), "ENTITIES");
+        EXPECT_EQ(LinesOn(entities, "LONG"),
+                  (Strings{"45.0 5.0 55.0 5.0", "55.0 5.0 55.0 2.0", "55.0 2.0 45.0 2.0",
+                           "45.0 2.0 45.0 5.0", "45.0 -5.0 55.0 -5.0", "55.0 -5.0 55.0 -2.0",
+                           "55.0 -2.0 45.0 -2.0", "45.0 -2.0 45.0 -5.0"}))
+            << kind;
+    }
+}
+
+TEST_F(SimpleDxf, ARectangularHoleIsAWholeOutline) {
+    world.rib.trou[0].TypeTrou = 1;
+    world.rib.trou[0].PosTrouAfich = "30";
+    world.rib.trou[0].DiaTrou = 8;
+    world.rib.trou[0].HautTrou = 6;
+    EXPECT_EQ(LinesOn(Section(Simple(), "ENTITIES"), "TROU"),
+              (Strings{"26.0 0.0 26.0 3.0", "26.0 3.0 34.0 3.0", "34.0 3.0 34.0 -3.0",
+                       "34.0 -3.0 26.0 -3.0", "26.0 -3.0 26.0 0.0"}));
+}
+
+TEST_F(Dxf, NotchesAndRectangularHolesStayOpenInTheInterchangeForm) {
+    world.rib.longeron[0] = NotchBothSides(1);
+    world.rib.trou[0].TypeTrou = 1;
+    world.rib.trou[0].PosTrouAfich = "30";
+    world.rib.trou[0].DiaTrou = 8;
+    world.rib.trou[0].HautTrou = 6;
+    const std::string entities = Text(Section(Written(), "ENTITIES"));
+    EXPECT_NE(entities.find("8 LONG\n66 1\n100 AcDb2dPolyline\n70 0\n"), std::string::npos);
+    EXPECT_NE(entities.find("8 TROU\n66 1\n100 AcDb2dPolyline\n70 0\n"), std::string::npos);
+    EXPECT_NE(entities.find("10 45.0\n20 2.0\n30 0.0\n0 SEQEND\n"), std::string::npos);
+    EXPECT_NE(entities.find("10 26.0\n20 -3.0\n30 0.0\n0 SEQEND\n"), std::string::npos);
+    EXPECT_EQ(entities.find("70 1\n"), std::string::npos);
 }
 
 TEST_F(SimpleDxf, UpsideDownIsMirroredAboutTheReferenceLine) {

@@ -1,6 +1,8 @@
 #include "persist/LireEcrire.h"
 
 #include "base/text_encoding.h"
+#include "features/carre_bord.h"
+#include "features/rib_entry.h"
 #include "support/failures.h"
 #include "support/rib_world.h"
 
@@ -40,7 +42,7 @@ class Components : public testing::Test {
     FormatComposants ReadBytes(const std::string &bytes) {
         return LitComposants(bytes, world.rib, Saisie{world.settings.Unite, world.messages}, name);
     }
-    std::string Written() const { return EcritComposants(world.rib); }
+    std::string Written() const { return EcritComposants(world.rib, world.settings.Unite); }
 
     /// A file whose every value is another one.
     static Lines Full() {
@@ -388,6 +390,80 @@ TEST_F(Components, LineEndInATextDoesNotShiftWhatFollows) {
     Lines wanted = Full();
     wanted.at(3) = "two lines";
     EXPECT_EQ(Written(), File(wanted));
+}
+
+// What is in force.
+
+constexpr std::size_t kChordLine = 6;
+constexpr std::size_t kStockLine = 8;
+constexpr std::size_t kNotchLine = 9; // and the two behind it
+
+TEST_F(Components, AChordThatWasRefusedIsWrittenAsTheOneInForce) {
+    Read(Full());
+    world.platform.Expect(BoxAnswer::ok);
+    EXPECT_EQ(ValideSaisie(ModeDe("corde"), world.rib, "0", {world.settings.Unite, world.messages}),
+              FinSaisie::refusee);
+    ASSERT_EQ(world.rib.cordeAfich, "0");
+    EXPECT_EQ(Written(), File(Full())); // 180.5
+}
+
+TEST_F(Components, StocksThatWereRefusedAreWrittenAsTheZeroInForce) {
+    Read(Full());
+    world.platform.ExpectBoxes(2);
+    for (const char *mode : {"ba", "bf"}) {
+        EXPECT_EQ(
+            ValideSaisie(ModeDe(mode), world.rib, "300", {world.settings.Unite, world.messages}),
+            FinSaisie::ramenee);
+    }
+    Lines wanted = Full();
+    wanted.at(kStockLine) = "0";
+    wanted.at(13) = " 1 "; // the stock takes the square's place
+    *std::find(wanted.begin(), wanted.end(), "25") = "0";
+    EXPECT_EQ(Written(), File(wanted));
+}
+
+TEST_F(Components, ANotchThatWasCutBackIsWrittenAsItIsInForce) {
+    Read(Full());
+    world.platform.ExpectBoxes(2);
+    TextesCarre typed{"60", "181", "-1.250"};
+    ValideCarre(world.rib, typed, {world.settings.Unite, world.messages}, "");
+    Lines wanted = Full();
+    wanted.at(kNotchLine) = "50";
+    wanted.at(kNotchLine + 1) = "0";
+    wanted.at(kNotchLine + 2) = "-1.250"; // was taken, so it stands as typed
+    EXPECT_EQ(Written(), File(wanted));
+}
+
+TEST_F(Components, WhatIsInForceIsWrittenInTheUnitOfTheFile) {
+    world.settings.Unite = " in";
+    Read(Full());
+    RibModel &rib = world.rib;
+    rib.corde = 209.55F; // 8 1/4 in
+    rib.cordeAfich = "0";
+    rib.EpBA = 9.525F;
+    rib.EpBAAfich = "3/8"; // the ruler's text stays
+    rib.EpBF = 0;
+    rib.EpBFAfich = "1./0"; // no length at all
+    rib.carre.CarreBA = 50.8F;
+    rib.carre.CarreBAAfich = "3";
+    rib.carre.CarreBAX = 0;
+    rib.carre.CarreBAXAfich = "1/0";
+    const Lines written = SplitLines(ToUtf8(Written()));
+    EXPECT_EQ(written.at(kChordLine), "8.1/4");
+    EXPECT_EQ(written.at(kStockLine), "3/8");
+    EXPECT_EQ(written.at(kNotchLine), "2");
+    EXPECT_EQ(written.at(kNotchLine + 1), "0");
+    EXPECT_EQ(written.at(written.size() - 12), "0");
+    EXPECT_TRUE(world.platform.boxes.empty());
+}
+
+TEST_F(Components, HeelMarginsAndSheetingAreWrittenAsTheyStand) {
+    Read(Full()); // without the margins' numbers
+    world.rib.talon.TalonBAAfich = "999";
+    world.rib.EpCoffrage = 7;
+    const Lines written = SplitLines(ToUtf8(Written()));
+    EXPECT_EQ(written.at(written.size() - 14), "999");
+    EXPECT_EQ(written.at(7), "1/16");
 }
 
 /// The older format: fewer fields and no headings.

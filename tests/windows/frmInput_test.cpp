@@ -191,7 +191,7 @@ TEST_F(FrmInputTest, HelpOpensThePageOfTheMode) {
     EXPECT_EQ(platform.help_contexts.back(), 50);
 }
 
-TEST_F(FrmInputTest, AChordOfZeroKeepsTheWindowOpenAndCancelLeavesItsText) {
+TEST_F(FrmInputTest, AChordOfZeroKeepsTheWindowOpenAndCancelGivesTheOldTextBack) {
     platform.Expect(BoxAnswer::ok);
     const Left left = Use("corde", [this](Seen &window) {
         Enter(window, "0");
@@ -206,7 +206,8 @@ TEST_F(FrmInputTest, AChordOfZeroKeepsTheWindowOpenAndCancelLeavesItsText) {
     EXPECT_EQ(platform.boxes[0].title, "Chord length  mm");
     EXPECT_EQ(platform.boxes[0].text, "Chord length : 0 mm - Please enter a chord");
     EXPECT_TRUE(programme.rib.Annule);
-    EXPECT_EQ(programme.rib.cordeAfich, "0");
+    EXPECT_EQ(programme.rib.cordeAfich, "200");
+    EXPECT_EQ(programme.rib.corde, 200.0F);
     EXPECT_FALSE(programme.rib.Modifie);
 }
 

@@ -291,20 +291,35 @@ TEST_F(FrmTalonTest, AfterARefusalMarginsThatFitAgainCanBeCancelled) {
     EXPECT_EQ(left, Left::rejected);
     EXPECT_EQ(programme.rib.TypeGabarit, 0);
     EXPECT_EQ(programme.rib.talon.TalonBAAfich, "0");
+    EXPECT_FALSE(programme.rib.Modifie);
 }
 
-TEST_F(FrmTalonTest, CancelLeavesTheRibWithoutAHeel) {
-    programme.rib.Modifie = true;
-    programme.rib.TypeGabarit = kGabaritMousse;
-    const Left left = Use([](Seen &window) {
-        window.Type("txt(0)", "20");
-        window.Click("cmdannuler");
-    });
-    EXPECT_EQ(left, Left::rejected);
-    EXPECT_TRUE(programme.rib.Annule);
-    EXPECT_EQ(programme.rib.TypeGabarit, 0);
-    EXPECT_EQ(programme.rib.talon.TalonIntraAfich, " 6.50");
-    EXPECT_EQ(Redraws(), 1);
+TEST_F(FrmTalonTest, CancelGivesBackWhatTheWindowFound) {
+    programme.rib.talon.TalonBAAfich = "20"; // of an opened file: not in force yet
+    for (const std::uint8_t before : {kSansGabarit, kGabaritMousse, kGabaritTalon}) {
+        programme.rib.TypeGabarit = before;
+        programme.rib.Annule = false;
+        view.asked.clear();
+        std::uint8_t at_redraw = 99;
+        view.on_draw = [&] { at_redraw = programme.rib.TypeGabarit; };
+        const Left left = Use([this](Seen &window) {
+            EXPECT_EQ(programme.rib.TypeGabarit, kSansGabarit);
+            EXPECT_EQ(programme.rib.talon.TalonBA, 20);
+            window.Type("txt(0)", "20");
+            window.Click("OptTalon(1)");
+            window.Click("cmdannuler");
+        });
+        EXPECT_EQ(left, Left::rejected);
+        EXPECT_TRUE(programme.rib.Annule);
+        EXPECT_EQ(programme.rib.TypeGabarit, before);
+        EXPECT_EQ(programme.rib.talon.OptTalon, 0);
+        // What was proposed for a height of 0 was never taken.
+        EXPECT_EQ(programme.rib.talon.TalonIntraAfich, "0");
+        EXPECT_EQ(programme.rib.talon.TalonBA, 0);
+        EXPECT_FALSE(programme.rib.Modifie);
+        EXPECT_EQ(Redraws(), 1);
+        EXPECT_EQ(at_redraw, before);
+    }
 }
 
 TEST_F(FrmTalonTest, EscapeAndTheClosingButtonAreCancels) {
@@ -320,7 +335,7 @@ TEST_F(FrmTalonTest, EscapeAndTheClosingButtonAreCancels) {
         });
         EXPECT_EQ(left, Left::rejected);
         EXPECT_TRUE(programme.rib.Annule);
-        EXPECT_EQ(programme.rib.TypeGabarit, 0);
+        EXPECT_EQ(programme.rib.TypeGabarit, kGabaritMousse);
     }
 }
 
@@ -410,7 +425,7 @@ class HeelCommandTest : public testing::Test {
     WindowWorld world;
 };
 
-TEST_F(HeelCommandTest, OpensWithoutTemplateAndWithTheLayoutMenuDead) {
+TEST_F(HeelCommandTest, IsOpenWithoutTemplateAndWithTheLayoutMenuDead) {
     Rib().TypeGabarit = kGabaritMousse;
     Open([this](Seen &dialog) {
         EXPECT_EQ(dialog.Name(), "frmTalon");
@@ -419,7 +434,29 @@ TEST_F(HeelCommandTest, OpensWithoutTemplateAndWithTheLayoutMenuDead) {
         dialog.Click("cmdannuler");
     });
     EXPECT_TRUE(world.Action("mnu_param")->isEnabled());
-    EXPECT_EQ(Rib().TypeGabarit, 0);
+}
+
+TEST_F(HeelCommandTest, CancelGivesHeelOrTemplateBackInThePictureToo) {
+    Rib().bloc.BAbloc = 20;
+    Rib().bloc.HTbloc = 40;
+    Rib().talon.TalonIntra = 15;
+    Rib().talon.TalonIntraAfich = "15";
+    world.window->affiche();
+    const auto plain = world.Find<PicView>("Pic")->Dessin()->Operations();
+    for (const std::uint8_t kind : {kGabaritTalon, kGabaritMousse}) {
+        Rib().TypeGabarit = kind;
+        world.window->affiche();
+        const auto drawn = world.Find<PicView>("Pic")->Dessin()->Operations();
+        EXPECT_NE(drawn, plain);
+        Open([](Seen &dialog) {
+            dialog.Fill("txt(1)", "35");
+            dialog.Fill("txt(3)", "4");
+            dialog.Click("cmdannuler");
+        });
+        EXPECT_EQ(Rib().TypeGabarit, kind);
+        EXPECT_EQ(Rib().talon.TalonBA, 0);
+        EXPECT_EQ(world.Find<PicView>("Pic")->Dessin()->Operations(), drawn);
+    }
 }
 
 TEST_F(HeelCommandTest, OkKeepsTheHeightThatWasTyped) {

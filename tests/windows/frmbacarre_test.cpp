@@ -213,12 +213,38 @@ TEST_F(NotchCommandTest, OkLeavesTheSquareInPlaceOfTheStock) {
     EXPECT_EQ(Rib().EpBA, 0.0F);
 }
 
-TEST_F(NotchCommandTest, CancelTakesTheStockAwayToo) {
-    InNextDialog([](Seen &dialog) { dialog.Click("cmdannuler"); });
+TEST_F(NotchCommandTest, CancelKeepsTheStockAndTheFormOfTheEdge) {
+    for (const int type : {1, 0}) {
+        Rib().TypeBA = static_cast<std::uint8_t>(type);
+        world.window->affiche();
+        const auto drawn = world.Find<PicView>("Pic")->Dessin()->Operations();
+        Rib().Modifie = false;
+        InNextDialog([](Seen &dialog) {
+            dialog.Fill("infotxt(0)", "5");
+            dialog.Click("cmdannuler");
+        });
+        world.Action("mnu_profilbaC")->trigger();
+        EXPECT_EQ(Rib().TypeBA, type);
+        EXPECT_EQ(Rib().EpBAAfich, "3");
+        EXPECT_EQ(Rib().EpBA, 3.0F);
+        EXPECT_EQ(Rib().carre.CarreBAAfich, "0");
+        EXPECT_FALSE(Rib().Modifie);
+        EXPECT_EQ(world.Find<PicView>("Pic")->Dessin()->Operations(), drawn);
+    }
+}
+
+TEST_F(NotchCommandTest, CancelAfterApplyLeavesWhatApplyShowed) {
+    InNextDialog([this](Seen &dialog) {
+        dialog.Fill("infotxt(0)", "5");
+        dialog.Click("CmdApply");
+        EXPECT_EQ(Rib().TypeBA, 0);
+        dialog.Fill("infotxt(0)", "7");
+        dialog.Click("cmdannuler");
+    });
     world.Action("mnu_profilbaC")->trigger();
-    EXPECT_EQ(Rib().TypeBA, 1);
-    EXPECT_EQ(Rib().EpBAAfich, "0");
-    EXPECT_EQ(Rib().EpBA, 0.0F);
+    EXPECT_EQ(Rib().TypeBA, 0);
+    EXPECT_EQ(Rib().carre.CarreBA, 5.0F);
+    EXPECT_EQ(Rib().EpBA, 3.0F);
 }
 
 TEST_F(NotchCommandTest, TheButtonOpensTheWindowOfTheKindInUse) {

@@ -3,6 +3,9 @@
 #include "support/qt_window_world.h"
 #include "windows/addon_fixture.h"
 
+#include <algorithm>
+#include <array>
+
 namespace loftwing {
 namespace {
 
@@ -140,6 +143,34 @@ TEST_F(FrmblocTest, TheTailIsKeptAtOnce) {
     });
 }
 
+TEST_F(FrmblocTest, TheSketchFollowsTailAndWashoutAsTheyAreTyped) {
+    programme.rib.AffHaut = true;
+    programme.rib.vrillage = -2;
+    Use([](Seen &window) {
+        auto &sketch = window.Find<BlocSketch>("Picture1");
+        const auto rise = [&sketch] {
+            const FormeBloc block = sketch.Forme();
+            return block.bas_arriere.y() - block.bas_avant.y();
+        };
+        EXPECT_LT(rise(), 0);
+        window.Type("txt(5)", "3");
+        EXPECT_GT(rise(), 0);
+        window.Type("txt(5)", "");
+        EXPECT_EQ(rise(), 0);
+        EXPECT_LT(sketch.Forme().queue.y(), 0);
+        window.Click("Optquebf(1)");
+        EXPECT_GT(sketch.Forme().queue.y(), 0);
+        const auto place = [&sketch](const char *letter) {
+            sketch.grab();
+            const auto word =
+                std::find_if(sketch.Words().begin(), sketch.Words().end(),
+                             [letter](const SketchWord &each) { return each.text == letter; });
+            return word->place.center().y();
+        };
+        EXPECT_LT(place("A"), place("E")); // upside down as the rib is
+    });
+}
+
 TEST_F(FrmblocTest, ApplyPutsTheTemplateOnTheRibAndStays) {
     const Left left = Use([this](Seen &window) {
         window.Keys("txt(0)", "10"); // the first field waits for typing
@@ -237,13 +268,18 @@ TEST_F(FrmblocTest, AFractionOfZerothsIsToldAndTheWindowGoesOn) {
     EXPECT_EQ(programme.rib.bloc.BAbloc, 25.4F);
 }
 
-TEST_F(FrmblocTest, CancelTakesTheTemplateAwayEvenIfItWasSet) {
+TEST_F(FrmblocTest, CancelEscapeAndTheClosingButtonGiveBackWhatWasInUse) {
     for (const int way : {0, 1, 2}) {
+        const std::uint8_t before = std::array{kSansGabarit, kGabaritMousse, kGabaritTalon}[way];
+        programme.rib.TypeGabarit = before;
         programme.rib.Annule = false;
         view.asked.clear();
+        std::uint8_t at_redraw = 99;
+        view.on_draw = [&] { at_redraw = programme.rib.TypeGabarit; };
         const Left left = Use([this, way](Seen &window) {
-            window.Click("CmdApply");
-            EXPECT_EQ(programme.rib.TypeGabarit, kGabaritMousse);
+            EXPECT_EQ(programme.rib.TypeGabarit, kSansGabarit);
+            window.Type("txt(4)", "77");
+            window.Click("Optquebf(1)");
             if (way == 0) {
                 window.Click("cmdannuler");
             } else if (way == 1) {
@@ -254,8 +290,13 @@ TEST_F(FrmblocTest, CancelTakesTheTemplateAwayEvenIfItWasSet) {
         });
         EXPECT_EQ(left, Left::rejected);
         EXPECT_TRUE(programme.rib.Annule);
-        EXPECT_EQ(programme.rib.TypeGabarit, 0);
-        EXPECT_EQ(Redraws(), 2);
+        EXPECT_EQ(programme.rib.TypeGabarit, before);
+        EXPECT_EQ(programme.rib.bloc.HTblocAfich, "");
+        EXPECT_EQ(programme.rib.bloc.Optquebf, 0);
+        EXPECT_EQ(programme.rib.bloc.LongBloc, 0.0F);
+        EXPECT_FALSE(programme.rib.Modifie);
+        EXPECT_EQ(Redraws(), 1);
+        EXPECT_EQ(at_redraw, before);
     }
 }
 
@@ -269,6 +310,7 @@ TEST_F(FrmblocTest, CancelPutsBackWhatWasTypedSinceTheLastApply) {
         EXPECT_EQ(programme.rib.bloc.BAbloc, 35.0F);
         window.Click("cmdannuler");
     });
+    EXPECT_EQ(programme.rib.TypeGabarit, kGabaritMousse);
     EXPECT_EQ(programme.rib.bloc.BAblocAfich, "20");
     EXPECT_EQ(programme.rib.bloc.BAbloc, 20.0F);
     EXPECT_EQ(programme.rib.vrillage, -3.0F);
@@ -307,7 +349,7 @@ class TemplateCommandTest : public testing::Test {
     WindowWorld world;
 };
 
-TEST_F(TemplateCommandTest, OpensWithoutHeelAndWithBothEntriesDead) {
+TEST_F(TemplateCommandTest, IsOpenWithoutHeelAndWithBothEntriesDead) {
     Rib().TypeGabarit = kGabaritTalon;
     Open([this](Seen &dialog) {
         EXPECT_EQ(dialog.Name(), "frmbloc");
@@ -318,7 +360,29 @@ TEST_F(TemplateCommandTest, OpensWithoutHeelAndWithBothEntriesDead) {
     });
     EXPECT_TRUE(Alive("mnu_profilTalon"));
     EXPECT_TRUE(Alive("mnu_parambloc"));
-    EXPECT_EQ(Rib().TypeGabarit, 0);
+}
+
+TEST_F(TemplateCommandTest, CancelGivesTemplateOrHeelBackInThePictureToo) {
+    Rib().bloc.BAbloc = 20;
+    Rib().bloc.HTbloc = 40;
+    Rib().talon.TalonIntra = 15;
+    Rib().talon.TalonIntraAfich = "15";
+    world.window->affiche();
+    const auto plain = world.Find<PicView>("Pic")->Dessin()->Operations();
+    for (const std::uint8_t kind : {kGabaritMousse, kGabaritTalon}) {
+        Rib().TypeGabarit = kind;
+        world.window->affiche();
+        const auto drawn = world.Find<PicView>("Pic")->Dessin()->Operations();
+        EXPECT_NE(drawn, plain);
+        Open([](Seen &dialog) {
+            dialog.Fill("txt(1)", "35");
+            dialog.Fill("txt(5)", "4");
+            dialog.Click("cmdannuler");
+        });
+        EXPECT_EQ(Rib().TypeGabarit, kind);
+        EXPECT_EQ(Rib().bloc.BAbloc, 20.0F);
+        EXPECT_EQ(world.Find<PicView>("Pic")->Dessin()->Operations(), drawn);
+    }
 }
 
 TEST_F(TemplateCommandTest, OkMakesTextAndHeelHeightsAnew) {

@@ -101,7 +101,7 @@ TEST_F(Defaults, InchesWithNoLeaveTheRibTheFileAndTheUnit) {
     EXPECT_EQ(ChordDialog().first, "200");
 }
 
-TEST_F(Defaults, CancelPutsTheUnitBack) {
+TEST_F(Defaults, CancelPutsUnitAndPageBack) {
     Start();
     const std::string file = File();
     Use("inches", "", "cmdannuler");
@@ -109,10 +109,9 @@ TEST_F(Defaults, CancelPutsTheUnitBack) {
     EXPECT_EQ(Settings().Unite, " mm");
     EXPECT_EQ(world->Panel(3), "unit : mm");
     EXPECT_EQ(File(), file);
-    // The page settings of the click stay in memory until they are read again.
-    EXPECT_EQ(Settings().page.MargeHautAfich, "1/2");
-    world->Open();
     EXPECT_EQ(Settings().page.MargeHautAfich, "10");
+    EXPECT_EQ(Settings().page.MargeHaut, 10.0F);
+    EXPECT_EQ(Settings().page.NumIndex, 0);
 }
 
 TEST_F(Defaults, AnotherChordRedrawsTheRibThatIsThere) {

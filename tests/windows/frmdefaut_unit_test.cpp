@@ -170,14 +170,16 @@ TEST_F(FrmdefautTest, ThereAndBackNeedsNoQuestion) {
     EXPECT_THAT(view.asked, ElementsAre("AfficheUnite", "AfficheCorde"));
 }
 
-TEST_F(FrmdefautTest, CancelEscapeAndTheClosingButtonPutBackTheUnitAlone) {
+TEST_F(FrmdefautTest, CancelEscapeAndTheClosingButtonPutBackUnitPageAndTexts) {
     const User ways[] = {[](Seen &dialog) { dialog.Click("cmdannuler"); },
                          [](Seen &dialog) { dialog.Key(Qt::Key_Escape); },
                          [](Seen &dialog) { dialog.Close(); }};
     const std::string file = folder.Bytes("Loftwing.ini");
     for (const auto &leave : ways) {
         view.asked.clear();
-        programme.settings.page = MiseEnPage{};
+        programme.settings.page.MargeHautAfich = "12";
+        programme.settings.page.MargeHaut = 12;
+        programme.settings.page.NbPages = 3;
         EXPECT_EQ(Use([&leave](Seen &dialog) {
                       dialog.Click("inches");
                       dialog.Fill("txtdefprof", "/elsewhere");
@@ -186,9 +188,12 @@ TEST_F(FrmdefautTest, CancelEscapeAndTheClosingButtonPutBackTheUnitAlone) {
                   Left::rejected);
         EXPECT_EQ(programme.settings.Unite, " mm");
         EXPECT_THAT(view.asked, ElementsAre("AfficheUnite"));
-        // The page that the click has set stays until settings are read again.
-        EXPECT_EQ(Page().MargeHautAfich, "1/2");
-        EXPECT_EQ(Page().NumIndex, 1);
+        EXPECT_EQ(Page().MargeHautAfich, "12");
+        EXPECT_EQ(Page().MargeHaut, 12.0F);
+        EXPECT_EQ(Page().MargeBasAfich, "15");
+        EXPECT_EQ(Page().YdprintAfich, "50");
+        EXPECT_EQ(Page().NumIndex, 0);
+        EXPECT_EQ(Page().NbPages, 3);
         EXPECT_EQ(Rib().cordeAfich, "200");
         EXPECT_EQ(programme.settings.repertoires.RepProfil, "/home/me/airfoils");
         EXPECT_EQ(folder.Bytes("Loftwing.ini"), file);

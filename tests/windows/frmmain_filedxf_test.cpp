@@ -103,6 +103,36 @@ TEST_F(ExportingDxf, TheChooserOffersBothFormsAndANameFromTheFile) {
     EXPECT_EQ(LastQuestion().folder, world.folder.Path("ribs"));
 }
 
+TEST_F(ExportingDxf, TheChooserStartsWithTheFormThatWasUsedLast) {
+    const auto expect_start = [this](int form) {
+        Export(kPlain, ""); // cancelled with another form chosen: not used
+        EXPECT_EQ(LastQuestion().form, form);
+    };
+    OpenBytes("rib.lfw", ComponentsText{}.Current());
+    expect_start(kInterchange);
+    Export(kPlain, Out());
+    expect_start(kPlain);
+    world.Open(); // the next run
+    OpenBytes("rib.lfw", ComponentsText{}.Current());
+    expect_start(kPlain);
+    Export(kInterchange, Out());
+    expect_start(kInterchange);
+    // A form that this program doesn't know.
+    WriteINIFile("Export", "FormeDxf", "spline", world.programme.paths.fichier);
+    expect_start(kInterchange);
+}
+
+TEST_F(ExportingDxf, AFormThatWasRefusedWasNotUsed) {
+    ComponentsText file = LadenRib("0", false);
+    file.inverted = "1";
+    OpenBytes("inverted.lfw", file.Current());
+    Export(kPlain, Out());
+    world.platform.Expect(BoxAnswer::ok);
+    Export(kInterchange, Out("interchange.dxf"));
+    Export(kPlain, "");
+    EXPECT_EQ(LastQuestion().form, kPlain);
+}
+
 TEST_F(ExportingDxf, ACancelledChooserWritesNothing) {
     OpenBytes("rib.lfw", ComponentsText{}.Current());
     for (const int form : {kInterchange, kPlain}) {

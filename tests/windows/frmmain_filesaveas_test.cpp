@@ -52,6 +52,32 @@ TEST_F(SavingRibs, ASavedRibIsUnchangedAndInTheCaption) {
     EXPECT_TRUE(world.platform.boxes.empty());
 }
 
+TEST_F(SavingRibs, ARibWhoseChordWasRefusedCanBeSavedAndOpenedAgain) {
+    world.window->OuvreFichier(world.folder.Path("airfoils/naca2412.dat"));
+    world.platform.Expect(BoxAnswer::ok);
+    InNextDialog([](Seen &dialog) {
+        dialog.Type("infotxt", "0");
+        dialog.Click("cmdok");
+        dialog.Click("cmdannuler");
+    });
+    world.Action("mnu_profilcorde")->trigger();
+    world.platform.Expect(BoxAnswer::ok);
+    InNextDialog([](Seen &dialog) {
+        dialog.Type("infotxt", "201");
+        dialog.Click("cmdok");
+    });
+    world.Action("mnu_profilbf")->trigger();
+    EXPECT_EQ(Rib().EpBFAfich, "201"); // to be met again
+    Save(world.folder.Path("ribs/new.lfw"));
+    ComponentsText wanted;
+    wanted.spars[0][8] = "";
+    wanted.holes[0][7] = "";
+    EXPECT_EQ(world.folder.Bytes("ribs/new.lfw"), wanted.Current());
+    Open(world.folder.Path("ribs/new.lfw"));
+    EXPECT_EQ(Rib().corde, 200.0F);
+    EXPECT_NE(Drawing(), nullptr);
+}
+
 TEST_F(SavingRibs, ANewRibHasOneBlankRecordOfEachKind) {
     world.window->OuvreFichier(world.folder.Path("airfoils/naca2412.dat"));
     Save(world.folder.Path("ribs/new.lfw"));

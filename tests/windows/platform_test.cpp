@@ -265,6 +265,23 @@ TEST(QtPlatformChooser, AsksBeforeAFileIsReplaced) {
     EXPECT_EQ(world.folder.Bytes("rib.pdf"), "older") << "choosing doesn't write";
 }
 
+TEST(QtPlatformChooser, StartsWithTheFormThatIsAskedFor) {
+    World world;
+    for (const int form : {0, 1}) {
+        FileQuestion question = {"t", world.folder.Path(), "", "DXF Files (*.dxf)", "dxf"};
+        question.form = form;
+        InNextDialog([form](Seen &dialog) {
+            EXPECT_EQ(dialog.As<QFileDialog>().selectedNameFilter(),
+                      form == 0 ? "DXF Files (*.dxf)" : "DXF for cutters (*.dxf)");
+            TypeName(dialog, "rib");
+        });
+        const FormAnswer answer =
+            world.platform.ChooseSaveForm(question, {"DXF for cutters (*.dxf)"});
+        EXPECT_EQ(answer.path, world.folder.Path("rib.dxf"));
+        EXPECT_EQ(answer.form, form);
+    }
+}
+
 TEST(QtPlatformChooser, ChoosesAFolder) {
     World world;
     fs::create_directory(world.folder.Path("rib sets"));

@@ -1,7 +1,10 @@
 #include "features/qt_bloc_sketch.h"
 #include "features/qt_carre_sketch.h"
 #include "features/qt_talon_sketch.h"
+#include "output/recording.h"
+#include "output/styles.h"
 #include "support/qt_nothing_cut.h"
+#include "support/rib_world.h"
 #include "utilities/qt_angle_sketch.h"
 #include "utilities/qt_diedre_sketch.h"
 #include "utilities/qt_panneau_sketch.h"
@@ -14,6 +17,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <set>
@@ -29,11 +33,24 @@ std::unique_ptr<Sketch> Heel(int side) {
     return sketch;
 }
 
-std::unique_ptr<Sketch> Foam(int tail) {
+std::unique_ptr<Sketch> Foam(const AspectBloc &aspect) {
     auto sketch = std::make_unique<BlocSketch>();
     sketch->SetChordWord("Corde");
-    sketch->Montre(tail);
+    sketch->Montre(aspect);
     return sketch;
+}
+
+/// Every way in which a template can look.
+std::vector<AspectBloc> Aspects() {
+    std::vector<AspectBloc> aspects;
+    for (const int tail : {0, 1}) {
+        for (const double washout : {0.0, 2.5, -2.5}) {
+            for (const bool inverted : {false, true}) {
+                aspects.push_back({tail, washout, inverted});
+            }
+        }
+    }
+    return aspects;
 }
 
 struct Kind {
@@ -44,15 +61,18 @@ struct Kind {
 std::vector<Kind> Kinds() {
     const std::set<std::string> heel = {"A", "B", "C", "D", "B.A.", "B.F."};
     const std::set<std::string> foam = {"A", "B", "C", "D", "E", "F", "L", "Corde", "B.A.", "B.F."};
-    return {{heel, [] { return Heel(0); }},
-            {heel, [] { return Heel(1); }},
-            {{"A", "B", "C", "B.A."}, [] { return std::make_unique<CarreSketch>(); }},
-            {foam, [] { return Foam(0); }},
-            {foam, [] { return Foam(1); }},
-            {{"A", "B", "C", "D", "E", "F", "G"}, [] { return std::make_unique<PanneauSketch>(); }},
-            {{"A", "B", "C"}, [] { return std::make_unique<DiedreSketch>(); }},
-            {{"A", "B", "C"}, [] { return std::make_unique<ObliqueSketch>(); }},
-            {{"A", "B", "C"}, [] { return std::make_unique<InclineSketch>(); }}};
+    std::vector<Kind> kinds = {
+        {heel, [] { return Heel(0); }},
+        {heel, [] { return Heel(1); }},
+        {{"A", "B", "C", "B.A."}, [] { return std::make_unique<CarreSketch>(); }},
+        {{"A", "B", "C", "D", "E", "F", "G"}, [] { return std::make_unique<PanneauSketch>(); }},
+        {{"A", "B", "C"}, [] { return std::make_unique<DiedreSketch>(); }},
+        {{"A", "B", "C"}, [] { return std::make_unique<ObliqueSketch>(); }},
+        {{"A", "B", "C"}, [] { return std::make_unique<InclineSketch>(); }}};
+    for (const AspectBloc &aspect : Aspects()) {
+        kinds.push_back({foam, [aspect] { return Foam(aspect); }});
+    }
+    return kinds;
 }
 
 /// Paints the sketch at that size and gives its picture.
@@ -122,13 +142,92 @@ TEST(Sketches, TheHeelChangesSides) {
     EXPECT_LT(PlaceOf(sketch, "A").bottom(), PlaceOf(sketch, "B.A.").top());
 }
 
-TEST(Sketches, TheTailOfTheTemplateFollowsItsOption) {
+TEST(Sketches, TheTemplateFollowsTailWashoutAndView) {
     BlocSketch sketch;
-    const QImage upper = Painted(sketch, sketch.sizeHint());
-    sketch.Montre(1);
-    EXPECT_NE(Painted(sketch, sketch.sizeHint()), upper);
-    sketch.Montre(0);
-    EXPECT_EQ(Painted(sketch, sketch.sizeHint()), upper);
+    std::vector<QImage> pictures;
+    for (const AspectBloc &aspect : Aspects()) {
+        sketch.Montre(aspect);
+        const QImage picture = Painted(sketch, sketch.sizeHint());
+        EXPECT_EQ(std::count(pictures.begin(), pictures.end(), picture), 0);
+        pictures.push_back(picture);
+    }
+    sketch.Montre(Aspects().front());
+    EXPECT_EQ(Painted(sketch, sketch.sizeHint()), pictures.front());
+}
+
+/// The template's lines of a plot, in the plot's order, y upwards on the device.
+std::vector<QLineF> PlottedTemplate(const AspectBloc &aspect) {
+    RibWorld world;
+    TakeAirfoil(world, Naca(12, 20, true)); // a thick trailing edge about the reference line
+    ValeursDefautTraits(world.settings);
+    RibModel &rib = world.rib;
+    rib.corde = 140;
+    rib.EpCoffrage = 0;
+    rib.TypeGabarit = kGabaritMousse;
+    rib.bloc.BAbloc = 38;
+    rib.bloc.BFbloc = 42;
+    rib.bloc.HTbasbloc = 32;
+    rib.bloc.HTbloc = 69;
+    rib.bloc.Optquebf = static_cast<std::uint8_t>(aspect.Optquebf);
+    rib.vrillage = static_cast<float>(aspect.vrillage);
+    rib.AffHaut = aspect.AffHaut;
+    Recording device;
+    world.Place();
+    EXPECT_TRUE(PrintSubroutine(world.On(device), 1.0));
+    std::vector<QLineF> lines;
+    for (const Operation &operation : device.Operations()) {
+        const auto &line = std::get<DrawnSegment>(operation);
+        lines.emplace_back(line.x1, -line.y1, line.x2, -line.y2);
+        if (lines.size() == 8) { // ramp, front below, above, top, rear above, bottom, rear, tail
+            break;
+        }
+    }
+    return lines;
+}
+
+int Sign(double value) {
+    return value > 1E-6 ? 1 : value < -1E-6 ? -1 : 0;
+}
+
+TEST(Sketches, TheTemplateLeansAndEndsAsThePlotHasIt) {
+    for (const AspectBloc &aspect : Aspects()) {
+        SCOPED_TRACE(testing::Message() << aspect.Optquebf << aspect.vrillage << aspect.AffHaut);
+        const std::vector<QLineF> plot = PlottedTemplate(aspect);
+        ASSERT_EQ(plot.size(), 8U);
+        BlocSketch sketch;
+        sketch.Montre(aspect);
+        const FormeBloc block = sketch.Forme();
+        const double up = aspect.AffHaut ? -1 : 1; // the sketch is mirrored as a whole
+        const auto expect_same_way = [up](QPointF from, QPointF to, const QLineF &plotted) {
+            EXPECT_EQ(Sign(to.x() - from.x()), Sign(plotted.dx()));
+            EXPECT_EQ(Sign(up * (to.y() - from.y())), Sign(plotted.dy()));
+        };
+        const QPointF tip(0, 0);
+        expect_same_way(tip, block.bas_avant, plot[1]);
+        expect_same_way(tip, block.haut_avant, plot[2]);
+        expect_same_way(block.haut_avant, block.haut_arriere, plot[3]);
+        expect_same_way(block.bas_avant, block.bas_arriere, plot[5]);
+        expect_same_way(block.queue, block.bord, plot[7]); // the tail
+    }
+}
+
+TEST(Sketches, TheAngleOfTheTemplateStandsOnItsSide) {
+    BlocSketch sketch;
+    const auto middle = [&sketch](const AspectBloc &aspect) {
+        sketch.Montre(aspect);
+        Painted(sketch, sketch.sizeHint());
+        return PlaceOf(sketch, "F").center().y();
+    };
+    EXPECT_LT(middle({0, 2.5, false}), middle({0, -2.5, false})); // above, y downwards
+    EXPECT_GT(middle({0, 2.5, true}), middle({0, -2.5, true}));
+    // The height under the reference line is above it where the rib is upside down.
+    const auto below = [&sketch](bool inverted) {
+        sketch.Montre({0, 0, inverted});
+        Painted(sketch, sketch.sizeHint());
+        return PlaceOf(sketch, "A").center().y() > PlaceOf(sketch, "E").center().y();
+    };
+    EXPECT_TRUE(below(false));
+    EXPECT_FALSE(below(true));
 }
 
 /// Pixels as dark or as light as the text's colour.

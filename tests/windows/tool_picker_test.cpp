@@ -15,11 +15,11 @@ class ToolPicker : public Views {
         Rib().texte.InsTexte = "my own words";
         Rib().texte.TexteUtilisateur = true;
         Rib().Modifie = true;
-        before = EcritComposants(Rib());
+        before = EcritComposants(Rib(), world.programme.settings.Unite);
         points = Rib().ProfilY.Values();
     }
     void ExpectUntouched() {
-        EXPECT_EQ(EcritComposants(Rib()), before);
+        EXPECT_EQ(EcritComposants(Rib(), world.programme.settings.Unite), before);
         EXPECT_EQ(Rib().ProfilY.Values(), points);
         EXPECT_EQ(Rib().CheminProfil, WindowWorld::Sample("naca2412.dat"));
         EXPECT_EQ(Rib().EnteteProfil, "NACA 2412");
