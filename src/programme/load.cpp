@@ -98,6 +98,7 @@ void VideRib(Programme &programme) {
     rib.NomProfil.clear();
     rib.EnteteProfil.clear();
     rib.ProfilCharge = false;
+    rib.Efface = true;
     rib.Modifie = false;
     rib.Annule = false;
     rib.SansApercu = false;

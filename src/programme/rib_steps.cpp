@@ -2,6 +2,7 @@
 
 #include "base/version.h"
 #include "core/contour.h"
+#include "features/inserted_text.h"
 #include "features/rib_entry.h"
 #include "output/page_setup.h"
 #include "output/screen_plot.h"
@@ -58,12 +59,13 @@ bool ConfirmeFin(const Programme &programme) {
     return programme.messages.Confirm(text, kTitre);
 }
 
-void RepriseProfil(Programme &programme, CommandView &view) {
+void RepriseProfil(Programme &programme, CommandView &view, const RibAvant &before) {
     view.Titre(TitreFenetre(programme.rib, programme.messages));
     const Sablier sablier(programme.platform);
     EntreProfil(programme);
     view.AfficheFichiersRecents();
     CordeDuTitre(programme.rib, programme.SaisieEnCours());
+    RepriseTexte(programme.rib, before.etiquette, programme.messages);
     RecalculProfil(programme, view);
 }
 

@@ -3,6 +3,7 @@
 
 #include "programme/command_view.h"
 #include "programme/programme.h"
+#include "programme/rib_avant.h"
 
 namespace loftwing {
 
@@ -13,8 +14,9 @@ bool ConfirmePerte(const Programme &programme, LngKey text, LngKey title);
 /// Whether the user wants to leave the program. A rib with changes is asked about in other words.
 bool ConfirmeFin(const Programme &programme);
 
-/// The airfoil that was read takes over the rib and brings its chord along.
-void RepriseProfil(Programme &programme, CommandView &view);
+/// The airfoil that was read takes over the rib, which was `before` until then, and brings its
+/// chord along. A label of the airfoil before becomes the label of this one.
+void RepriseProfil(Programme &programme, CommandView &view, const RibAvant &before);
 
 /// Makes the contour of the rib's airfoil and shows the rib; an impossible one clears it.
 void RecalculProfil(Programme &programme, CommandView &view);

@@ -12,6 +12,12 @@ using testing::IsEmpty;
 class RibSteps : public StepsWorld {
   protected:
     bool Confirm() const { return ConfirmePerte(programme, {"fileopen", "1"}, {"fileopen", "2"}); }
+    /// Another airfoil is read and takes over the rib.
+    void TakeOver(const std::string &path) {
+        const RibAvant before = RibAvantLecture(Rib(), programme.messages);
+        ASSERT_TRUE(Read(path));
+        RepriseProfil(programme, view, before);
+    }
     void ExpectQuestion(BoxAnswer answer) {
         ExpectBox(answer, "The rib has changes that are not saved. Open another rib all the same?",
                   "Open rib components");
@@ -60,11 +66,10 @@ TEST_F(RibSteps, TheEndIsAskedAboutInWordsThatNameChanges) {
 }
 
 TEST_F(RibSteps, AnAirfoilIsNamedNotedAndShown) {
-    ASSERT_TRUE(Read(Sample("naca2412.dat")));
     Rib().talon.TalonIntra = 3;
     Pointer while_drawn = Pointer::normal;
     view.on_draw = [&] { while_drawn = platform.pointer; };
-    RepriseProfil(programme, view);
+    TakeOver(Sample("naca2412.dat"));
     EXPECT_THAT(view.asked,
                 ElementsAre("Titre Loftwing Airfoil : naca2412", "AfficheFichiersRecents",
                             "ViewReset", "ActiveCommandes", "affiche"));
@@ -78,9 +83,7 @@ TEST_F(RibSteps, AnAirfoilIsNamedNotedAndShown) {
 }
 
 TEST_F(RibSteps, AnAirfoilBringsTheChordOfItsTitle) {
-    ASSERT_TRUE(Read(Sample("naca2412.dat")));
-    Rib().EnteteProfil = "Root rib: 150";
-    RepriseProfil(programme, view);
+    TakeOver(Named("root.dat", "Root rib: 150"));
     EXPECT_EQ(Rib().corde, 150.0F);
 }
 
