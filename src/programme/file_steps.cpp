@@ -92,8 +92,7 @@ bool OuvreProfil(Programme &programme, CommandView &view) {
         rib.ModeCouple = was_simple && rib.ProfilCharge;
         return false;
     }
-    RepriseProfil(programme, view, rib.Efface ? RibAvantVide(rib) : before);
-    return true;
+    return RepriseProfil(programme, view, rib.Efface ? RibAvantVide(rib) : before);
 }
 
 void OuvreRib(Programme &programme, CommandView &view) {

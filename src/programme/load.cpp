@@ -70,11 +70,6 @@ void NoteRecent(Programme &programme, const std::string &path) {
     }
 }
 
-void EntreProfil(Programme &programme) {
-    ReprendProfil(programme.rib);
-    NoteRecent(programme, programme.rib.CheminProfil);
-}
-
 FichiersRecents FichiersRecentsConnus(Programme &programme) {
     try {
         return LitFichiersRecents(programme.paths.fichier);
