@@ -132,9 +132,7 @@ void VideTout(Programme &programme, CommandView &view) {
 }
 
 void DemandeVide(Programme &programme, CommandView &view) {
-    const RibModel &rib = programme.rib;
-    const bool ask = rib.ProfilCharge && !rib.ModeCouple && !rib.FichierRibOuvert;
-    if (!ask || ConfirmePerte(programme, {"FrmMainMessage", "5"}, {"FrmMainMessage", "6"})) {
+    if (ConfirmePerte(programme, {"FrmMainMessage", "5"}, {"FrmMainMessage", "6"})) {
         view.affclear();
     }
 }

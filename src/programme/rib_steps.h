@@ -30,8 +30,7 @@ void ChangeCorde(Programme &programme, CommandView &view);
 /// Clears everything: rib, view and commands. The user's defaults are read anew. A failure is told,
 /// and what comes after it stays as it is.
 void VideTout(Programme &programme, CommandView &view);
-/// The same as the user's command, which asks where changes could be lost. What can be read from a
-/// file again is not asked about: bare points and a rib that came from a rib components file.
+/// The same as the user's command, which asks where changes could be lost.
 void DemandeVide(Programme &programme, CommandView &view);
 
 } // namespace loftwing

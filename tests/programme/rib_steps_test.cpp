@@ -3,6 +3,8 @@
 #include "persist/default_entry.h"
 #include "support/steps_world.h"
 
+#include <functional>
+
 namespace loftwing {
 namespace {
 
@@ -157,18 +159,23 @@ TEST_F(RibSteps, TheCommandAsksBeforeItClearsChanges) {
     EXPECT_THAT(view.asked, ElementsAre("affclear"));
 }
 
-TEST_F(RibSteps, WhatHasAFileOfItsOwnIsClearedUnasked) {
-    Rib().ProfilCharge = true;
-    Rib().Modifie = true;
-    Rib().FichierRibOuvert = true;
+TEST_F(RibSteps, ChangesOfWhateverIsThereAreAskedAboutBeforeTheCommandClears) {
+    const auto from_file = [this] { Rib().ProfilCharge = Rib().FichierRibOuvert = true; };
+    const auto simple = [this] { Rib().ProfilCharge = Rib().ModeCouple = true; };
+    const auto typed_before_an_airfoil = [] {};
+    for (const std::function<void()> &there :
+         {std::function<void()>(from_file), std::function<void()>(simple),
+          std::function<void()>(typed_before_an_airfoil)}) {
+        Rib().ProfilCharge = Rib().FichierRibOuvert = Rib().ModeCouple = false;
+        there();
+        Rib().Modifie = true;
+        platform.Expect(BoxAnswer::no, {.title = "Clear all data"});
+        DemandeVide(programme, view);
+    }
+    EXPECT_THAT(view.asked, IsEmpty());
+    Rib().Modifie = false;
     DemandeVide(programme, view);
-    Rib().FichierRibOuvert = false;
-    Rib().ModeCouple = true;
-    DemandeVide(programme, view);
-    Rib().ModeCouple = false;
-    Rib().ProfilCharge = false;
-    DemandeVide(programme, view);
-    EXPECT_THAT(view.asked, ElementsAre("affclear", "affclear", "affclear"));
+    EXPECT_THAT(view.asked, ElementsAre("affclear"));
 }
 
 TEST_F(RibSteps, AChordIsDrawnInWhicheverViewIsUp) {

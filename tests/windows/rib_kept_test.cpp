@@ -161,6 +161,7 @@ TEST_F(RibKept, AnAirfoilWhoseChordASparDoesNotFitAsksAndCostsNothing) {
 TEST_F(RibKept, DefaultsThatTheRibCannotTakeAreForTheNextOne) {
     EXPECT_TRUE(Chord("500"));
     Spar("450");
+    world.platform.Expect(BoxAnswer::yes); // the rib is to take them
     world.platform.Expect(BoxAnswer::ok, {.text = HasSubstr("Spars 1")});
     InNextDialog([](Seen &dialog) { dialog.Click("cmdok"); });
     world.Action("mnu_affdefaut")->trigger();
