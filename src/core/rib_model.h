@@ -7,23 +7,26 @@
 
 namespace loftwing {
 
+/// All parts of a rib together. A copy of them is the whole rib as it was at that time.
+struct PartiesRib : IdentiteProfil,
+                    FichierRib,
+                    FichierConnu,
+                    PointsLus,
+                    ContourPrepare,
+                    NouvelleSection,
+                    Dimensions,
+                    Ajouts,
+                    Vue {};
+
 /// The rib on which the whole program works. There is one for the life of the process; it is passed
 /// by reference and never copied. Its parts are: a trial, a snapshot or a view that is put back
 /// keeps the parts concerned and nothing else.
-struct RibModel : IdentiteProfil,
-                  FichierRib,
-                  FichierConnu,
-                  PointsLus,
-                  ContourPrepare,
-                  NouvelleSection,
-                  Dimensions,
-                  Ajouts,
-                  Vue {
+struct RibModel : PartiesRib {
     RibModel() = default;
     RibModel(const RibModel &) = delete;
     RibModel &operator=(const RibModel &) = delete;
 
-    /// One of the parts, to be copied or replaced as a whole.
+    /// One of the parts, or all of them as PartiesRib, to be copied or replaced as a whole.
     template <class Part>
     Part &Partie() {
         return *this;
@@ -37,6 +40,7 @@ struct RibModel : IdentiteProfil,
 
     // What dialogs tell the command that opened them.
     bool Annule = false; ///< the last picker, entry, page, heel or template dialog was cancelled
+    bool Efface = false; ///< the rib was cleared while the picker was open
     bool SansApercu = false;
     bool MemProfil = false;
 };

@@ -12,14 +12,18 @@ namespace {
 
 constexpr std::array<float, 11> kTaillesCourantes = {6, 7, 8, 9, 10, 11, 12, 14, 16, 18, 20};
 
-/// What stands before the chord, and tells a label from a text of the user.
-std::string DebutEtiquette(const RibModel &rib, const Messages &messages) {
-    const bool washout = rib.TypeGabarit != kSansGabarit && rib.vrillage != 0.0F;
+/// What stands before the chord of a label, with or without the words on the washout.
+std::string Debut(const RibModel &rib, bool washout, const Messages &messages) {
     std::string text = rib.NomProfil + " ";
     if (washout) {
         text += messages.Text({"FrmInsText", "7"}) + " " + NumberText(rib.vrillage) + "° ";
     }
     return text + messages.Text({"FrmInsText", "6"});
+}
+
+/// The one of them that the rib has, which tells a label from a text of the user.
+std::string DebutEtiquette(const RibModel &rib, const Messages &messages) {
+    return Debut(rib, rib.TypeGabarit != kSansGabarit && rib.vrillage != 0.0F, messages);
 }
 
 /// `text` up to `colon`, less the one character (the label's blank) in front of it.
@@ -46,6 +50,20 @@ bool EstEtiquette(const RibModel &rib, const Messages &messages) {
     const std::size_t colon = text.find(':');
     return text.empty() ||
            (colon != std::string::npos && DebutTexte(text, colon) == DebutEtiquette(rib, messages));
+}
+
+bool EtiquetteDuProfil(const RibModel &rib, const Messages &messages) {
+    const std::string &text = rib.texte.InsTexte;
+    // A washout that was set after the text was placed isn't named in it.
+    return text.starts_with(Debut(rib, false, messages) + " : ") ||
+           text.starts_with(Debut(rib, true, messages) + " : ");
+}
+
+void RepriseTexte(RibModel &rib, bool etiquette, const Messages &messages) {
+    if (etiquette) {
+        rib.texte.InsTexte = GeneratedLabel(rib, messages);
+    }
+    rib.texte.TexteUtilisateur = !etiquette && !rib.texte.InsTexte.empty();
 }
 
 void RegenereTexte(RibModel &rib, const Messages &messages) {

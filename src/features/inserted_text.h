@@ -17,6 +17,14 @@ std::string GeneratedLabel(const RibModel &rib, const Messages &messages);
 /// Whether InsTexte is empty or still begins like the label of the rib as it is now.
 bool EstEtiquette(const RibModel &rib, const Messages &messages);
 
+/// Whether InsTexte is a label of the airfoil that the rib has now, whoever it counts as. An empty
+/// text names none.
+bool EtiquetteDuProfil(const RibModel &rib, const Messages &messages);
+
+/// What becomes of InsTexte when another airfoil has taken over the rib: `etiquette`, a label of
+/// the one before, becomes the label of this one; other words stay and are the user's.
+void RepriseTexte(RibModel &rib, bool etiquette, const Messages &messages);
+
 /// Makes InsTexte anew, unless it is the user's own.
 void RegenereTexte(RibModel &rib, const Messages &messages);
 

@@ -7,6 +7,7 @@
 #include "mainwindow/frmmain.h"
 #include "output/frmPrint.h"
 #include "output/frmcoul.h"
+#include "output/screen_plot.h"
 #include "output/sheeting.h"
 #include "output/view_plots.h"
 #include "persist/frmdefaut.h"
@@ -59,6 +60,8 @@ void frmmain::mnu_fileexit_Click() {
 
 void frmmain::mnu_affinver_Click() {
     PrendCoche("mnu_affinver");
+    // The rib's file holds which way up it is.
+    programme_.rib.Modifie = programme_.rib.Modifie || RibVisible(programme_.rib);
     if (programme_.rib.ModeCouple) {
         afficheCouple();
     } else {
@@ -107,6 +110,10 @@ void frmmain::mnu_affclear_Click() {
 }
 
 void frmmain::mnu_affLang_Click() {
+    // The window clears the rib, whose texts are in the language that goes.
+    if (!ConfirmePerte(programme_, {"FrmMainMessage", "102"}, {"LANGUAGE", "2"})) {
+        return;
+    }
     lang dialog(programme_, *this, this);
     ShowModal(dialog);
 }

@@ -39,8 +39,8 @@ void frmmain::mnu_Outilcoord_Click() {
 }
 
 void frmmain::mnu_outilevolut_Click() {
-    if (ControleSeparateurCommande(programme_, {"MenuOutils", "4t"}) &&
-        FaitPlaceAuJeu(programme_, *this)) {
+    if (ControleSeparateurCommande(programme_, {"MenuOutils", "4t"}) && ConfirmeJeu(programme_)) {
+        FaitPlaceAuJeu(programme_, *this);
         frmribevol dialog(programme_, *this, this);
         ShowModal(dialog);
     }
@@ -48,10 +48,12 @@ void frmmain::mnu_outilevolut_Click() {
 
 void frmmain::mnu_outilevolut2_Click() {
     if (!ControleSeparateurCommande(programme_, {"MenuOutils", "4at"}) ||
-        !FaitPlaceAuJeu(programme_, *this)) {
+        !ConfirmeJeu(programme_)) {
         return;
     }
+    // Whoever calls off the number has no set, and still has his rib.
     if (const int count = DemandeNombre(programme_, S(windowTitle())); count != 0) {
+        FaitPlaceAuJeu(programme_, *this);
         programme_.rib.jeu.NbNervInter = ToInt16(count);
         frmribevol2 dialog(programme_, *this, this);
         ShowModal(dialog);

@@ -67,17 +67,25 @@ float LongueurBlocPour(const RibModel &rib, const Longueurs &mm) {
     return ToSingle(Wide(mm[kDefautCorde]) + Wide(mm[kDefautBAbloc]) + Wide(mm[kDefautBFbloc]));
 }
 
-/// Stores texts and numbers; whether that changed a text.
-bool Stocke(RibModel &rib, const TextesDefaut &typed, const Longueurs &mm) {
+/// Whether the rib has other lengths. The number counts too: that of a stock which was too wide is
+/// 0 under its text.
+bool Differe(RibModel &rib, const TextesDefaut &typed, const Longueurs &mm) {
     auto fields = ChampsDe(rib);
-    bool changed = false;
+    bool differs = false;
     for (int i = 0; i < kChampsDefaut; ++i) {
         const ChampDefaut &field = At(fields, i);
-        changed = changed || field.afich != At(typed, i);
+        differs = differs || field.afich != At(typed, i) || field.mm != At(mm, i);
+    }
+    return differs;
+}
+
+void Stocke(RibModel &rib, const TextesDefaut &typed, const Longueurs &mm) {
+    auto fields = ChampsDe(rib);
+    for (int i = 0; i < kChampsDefaut; ++i) {
+        const ChampDefaut &field = At(fields, i);
         field.afich = At(typed, i);
         field.mm = At(mm, i);
     }
-    return changed;
 }
 
 /// Gives a label the chord in force, even one that counts as the user's since the text dialog.
@@ -139,11 +147,15 @@ FinDefauts PrendDefauts(RibModel &rib, const TextesDefaut &typed, const Saisie &
                         messages.Text({"FrmDefaut", "1"}));
         return FinDefauts::sans_corde;
     }
-    rib.bloc.LongBloc = LongueurBlocPour(rib, mm);
-    const bool changed = Stocke(rib, typed, mm);
+    const float LongBloc = LongueurBlocPour(rib, mm);
+    if (!Differe(rib, typed, mm)) {
+        return FinDefauts::inchangee;
+    }
+    rib.bloc.LongBloc = LongBloc;
+    Stocke(rib, typed, mm);
     if (rib.ProfilCharge) {
         ReprendEtiquette(rib, messages);
-        rib.Modifie = rib.Modifie || changed;
+        rib.Modifie = true;
     }
     return FinDefauts::prise;
 }

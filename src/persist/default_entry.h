@@ -40,6 +40,7 @@ bool ConfirmeUnite(const Messages &messages);
 /// What became of the typed defaults.
 enum class FinDefauts {
     prise,     ///< in the rib
+    inchangee, ///< what the rib has already; nothing was touched
     sans_corde ///< a chord of 0: a box told so and the rib is what it was
 };
 

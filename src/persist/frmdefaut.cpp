@@ -128,6 +128,17 @@ bool frmdefaut::UniteGardee() const {
     return Trim(kept) == Trim(programme_.settings.Unite);
 }
 
+/// Whether the rib that is there takes the defaults, which are for the next one: only when the user
+/// wants it so, and the rib can do with them.
+bool frmdefaut::PrendDansLaNervure() {
+    const RibModel &rib = programme_.rib;
+    const bool something = rib.ProfilCharge || rib.Modifie;
+    return (!something || programme_.messages.Confirm(programme_.Text({"FrmDefaut", "100"}) + "\n" +
+                                                          programme_.Text({"FrmDefaut", "101"}),
+                                                      Titre())) &&
+           RibTracable(programme_, Titre());
+}
+
 void frmdefaut::Enregistre() {
     if (!AccepteUnite()) {
         RemetUnite();
@@ -151,8 +162,8 @@ void frmdefaut::Enregistre() {
                   programme_.paths.fichier, programme_.platform);
     if (unite_acceptee_) {
         view_.affclear();
-    } else if (!RibTracable(programme_, Titre())) {
-        back(); // the defaults are for the next rib; this one can't do with them
+    } else if (fin == FinDefauts::prise && !PrendDansLaNervure()) {
+        back();
     }
     view_.AfficheUnite();
     view_.AfficheCorde();

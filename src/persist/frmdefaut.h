@@ -16,7 +16,8 @@ namespace loftwing {
 
 /// A click on a unit brings that unit, its page settings and its usual values into the fields;
 /// Cancel puts unit and page back. OK asks before another unit clears the rib; after a No all is
-/// as the dialog found it and the dialog stays.
+/// as the dialog found it and the dialog stays. A rib that is there takes other values only after a
+/// question; they are saved either way.
 class frmdefaut : public Dialogue {
     Q_OBJECT
 
@@ -67,6 +68,7 @@ class frmdefaut : public Dialogue {
     void RemetReglages();
     bool AccepteUnite();
     bool UniteGardee() const;
+    bool PrendDansLaNervure();
     void Enregistre();
     void ChoisitDossier(NumericField &field, std::string &folder);
 };

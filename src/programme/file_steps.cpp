@@ -57,8 +57,7 @@ void newLfw(Programme &programme, CommandView &view, const std::string &path,
 
 void LitEtReprend(Programme &programme, CommandView &view, const std::string &path) {
     RibModel &rib = programme.rib;
-    const ProfilPrecedent before(rib);
-    const bool was_simple = rib.ModeCouple;
+    const RibAvant before = RibAvantLecture(rib, programme.messages);
     rib.ModeCouple = false;
     rib.SansApercu = true;
     rib.CheminProfil = path;
@@ -71,20 +70,21 @@ void LitEtReprend(Programme &programme, CommandView &view, const std::string &pa
     }
     if (read.issue == Lecture::refuse) {
         // The rib on the screen is still the one that was there.
-        before.Rend(rib);
-        rib.ModeCouple = was_simple;
+        rib.Partie<PartiesRib>() = before.parties;
         return;
     }
     NommeProfil(rib, path);
     rib.ProfilCharge = true;
-    RepriseProfil(programme, view);
+    RepriseProfil(programme, view, before);
 }
 
 } // namespace
 
 bool OuvreProfil(Programme &programme, CommandView &view) {
     RibModel &rib = programme.rib;
+    const RibAvant before = RibAvantLecture(rib, programme.messages);
     const bool was_simple = rib.ModeCouple;
+    rib.Efface = false;
     rib.MemProfil = false;
     rib.ModeCouple = false;
     if (!view.ChoisitFichier({.titre = programme.Text({"frmopen", "1"})})) {
@@ -92,8 +92,7 @@ bool OuvreProfil(Programme &programme, CommandView &view) {
         rib.ModeCouple = was_simple && rib.ProfilCharge;
         return false;
     }
-    RepriseProfil(programme, view);
-    return true;
+    return RepriseProfil(programme, view, rib.Efface ? RibAvantVide(rib) : before);
 }
 
 void OuvreRib(Programme &programme, CommandView &view) {

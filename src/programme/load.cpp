@@ -70,11 +70,6 @@ void NoteRecent(Programme &programme, const std::string &path) {
     }
 }
 
-void EntreProfil(Programme &programme) {
-    ReprendProfil(programme.rib);
-    NoteRecent(programme, programme.rib.CheminProfil);
-}
-
 FichiersRecents FichiersRecentsConnus(Programme &programme) {
     try {
         return LitFichiersRecents(programme.paths.fichier);
@@ -98,6 +93,7 @@ void VideRib(Programme &programme) {
     rib.NomProfil.clear();
     rib.EnteteProfil.clear();
     rib.ProfilCharge = false;
+    rib.Efface = true;
     rib.Modifie = false;
     rib.Annule = false;
     rib.SansApercu = false;

@@ -20,9 +20,6 @@ void FinPremierDemarrage(Programme &programme);
 /// on although the list can't be kept.
 void NoteRecent(Programme &programme, const std::string &path);
 
-/// A new airfoil takes over the rib: heel and washout reset, the file noted among the recent ones.
-void EntreProfil(Programme &programme);
-
 /// The recent files; none when the settings file can't be read, which is told once in a run.
 FichiersRecents FichiersRecentsConnus(Programme &programme);
 

@@ -2,12 +2,16 @@
 
 #include "base/version.h"
 #include "core/contour.h"
+#include "features/inserted_text.h"
 #include "features/rib_entry.h"
 #include "output/page_setup.h"
 #include "output/screen_plot.h"
 #include "output/view_plots.h"
 #include "platform/busy_pointer.h"
 #include "programme/load.h"
+#include "programme/sans_place.h"
+
+#include <optional>
 
 namespace loftwing {
 
@@ -44,6 +48,33 @@ void Vide(Programme &programme, CommandView &view) {
     RelitDefauts(programme, view);
 }
 
+/// Shows the rib of a new airfoil; one that has no contour is cleared.
+void MontreRib(CommandView &view, Preparation made) {
+    if (made == Preparation::impossible) {
+        view.affclear();
+        return;
+    }
+    view.ViewReset();
+    view.ActiveCommandes();
+    view.affiche();
+}
+
+/// The rib with the airfoil that was read, its chord and its contour; nothing where the user rather
+/// keeps the rib that was there.
+std::optional<Preparation> EssaieProfil(Programme &programme) {
+    Preparation made{};
+    {
+        const Sablier sablier(programme.platform);
+        ReprendProfil(programme.rib);
+        CordeDuTitre(programme.rib, programme.SaisieEnCours());
+        made = PrepareContour(programme.rib, programme.messages);
+    }
+    if (made == Preparation::impossible || AccepteProfil(programme)) {
+        return made;
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 bool ConfirmePerte(const Programme &programme, LngKey text, LngKey title) {
@@ -58,23 +89,30 @@ bool ConfirmeFin(const Programme &programme) {
     return programme.messages.Confirm(text, kTitre);
 }
 
-void RepriseProfil(Programme &programme, CommandView &view) {
-    view.Titre(TitreFenetre(programme.rib, programme.messages));
+bool RepriseProfil(Programme &programme, CommandView &view, const RibAvant &before) {
+    RibModel &rib = programme.rib;
+    std::optional<Preparation> made;
+    try {
+        made = EssaieProfil(programme);
+    } catch (const Failure &) {
+        rib.Partie<PartiesRib>() = before.parties;
+        throw;
+    }
+    if (!made) {
+        rib.Partie<PartiesRib>() = before.parties;
+        return false;
+    }
+    RepriseTexte(rib, before.etiquette, programme.messages);
     const Sablier sablier(programme.platform);
-    EntreProfil(programme);
+    view.Titre(TitreFenetre(rib, programme.messages));
+    NoteRecent(programme, rib.CheminProfil);
     view.AfficheFichiersRecents();
-    CordeDuTitre(programme.rib, programme.SaisieEnCours());
-    RecalculProfil(programme, view);
+    MontreRib(view, *made);
+    return true;
 }
 
 void RecalculProfil(Programme &programme, CommandView &view) {
-    if (PrepareContour(programme.rib, programme.messages) == Preparation::impossible) {
-        view.affclear();
-        return;
-    }
-    view.ViewReset();
-    view.ActiveCommandes();
-    view.affiche();
+    MontreRib(view, PrepareContour(programme.rib, programme.messages));
 }
 
 void ChangeCorde(Programme &programme, CommandView &view) {
@@ -94,9 +132,7 @@ void VideTout(Programme &programme, CommandView &view) {
 }
 
 void DemandeVide(Programme &programme, CommandView &view) {
-    const RibModel &rib = programme.rib;
-    const bool ask = rib.ProfilCharge && !rib.ModeCouple && !rib.FichierRibOuvert;
-    if (!ask || ConfirmePerte(programme, {"FrmMainMessage", "5"}, {"FrmMainMessage", "6"})) {
+    if (ConfirmePerte(programme, {"FrmMainMessage", "5"}, {"FrmMainMessage", "6"})) {
         view.affclear();
     }
 }

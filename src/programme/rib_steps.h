@@ -3,6 +3,7 @@
 
 #include "programme/command_view.h"
 #include "programme/programme.h"
+#include "programme/rib_avant.h"
 
 namespace loftwing {
 
@@ -13,8 +14,11 @@ bool ConfirmePerte(const Programme &programme, LngKey text, LngKey title);
 /// Whether the user wants to leave the program. A rib with changes is asked about in other words.
 bool ConfirmeFin(const Programme &programme);
 
-/// The airfoil that was read takes over the rib and brings its chord along.
-void RepriseProfil(Programme &programme, CommandView &view);
+/// The airfoil that was read takes over the rib, which was `before` until then, and brings its
+/// chord along. A label of the airfoil before becomes the label of this one. Where something on the
+/// rib has no room on the chord the user is asked; false when he keeps the rib that was there,
+/// which is then what it was to the last value, as after a failure.
+bool RepriseProfil(Programme &programme, CommandView &view, const RibAvant &before);
 
 /// Makes the contour of the rib's airfoil and shows the rib; an impossible one clears it.
 void RecalculProfil(Programme &programme, CommandView &view);
@@ -26,8 +30,7 @@ void ChangeCorde(Programme &programme, CommandView &view);
 /// Clears everything: rib, view and commands. The user's defaults are read anew. A failure is told,
 /// and what comes after it stays as it is.
 void VideTout(Programme &programme, CommandView &view);
-/// The same as the user's command, which asks where changes could be lost. What can be read from a
-/// file again is not asked about: bare points and a rib that came from a rib components file.
+/// The same as the user's command, which asks where changes could be lost.
 void DemandeVide(Programme &programme, CommandView &view);
 
 } // namespace loftwing

@@ -15,22 +15,29 @@ std::function<void()> RetourDuRib(RibModel &rib) {
     };
 }
 
+std::optional<Failure> EchecDuTrace(Programme &programme) {
+    try {
+        Recording nowhere;
+        PlotState apart = programme.plot;
+        apart.CordeEchelle = ToSingle(Wide(programme.rib.corde) * kUnitsPerMm);
+        DrawRib({nowhere, programme.rib, programme.settings, apart, programme.messages});
+    } catch (const Failure &failure) {
+        return failure;
+    }
+    return std::nullopt;
+}
+
 bool RibTracable(Programme &programme, const std::string &titre) {
     const RibModel &rib = programme.rib;
     if (!RibVisible(rib) || rib.NbContour == 0) {
         return true;
     }
-    try {
-        Recording nowhere;
-        PlotState apart = programme.plot;
-        apart.CordeEchelle = ToSingle(Wide(rib.corde) * kUnitsPerMm);
-        DrawRib({nowhere, programme.rib, programme.settings, apart, programme.messages});
-    } catch (const Failure &failure) {
+    const auto failure = EchecDuTrace(programme);
+    if (failure) {
         programme.messages.Inform(
-            programme.Text({"FrmMainMessage", "18"}) + "\n" + failure.description, titre);
-        return false;
+            programme.Text({"FrmMainMessage", "18"}) + "\n" + failure->description, titre);
     }
-    return true;
+    return !failure;
 }
 
 } // namespace loftwing

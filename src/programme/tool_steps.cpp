@@ -6,15 +6,15 @@
 
 namespace loftwing {
 
-bool FaitPlaceAuJeu(Programme &programme, CommandView &view) {
-    if (!programme.rib.ProfilCharge) {
-        return true;
+bool ConfirmeJeu(const Programme &programme) {
+    return !programme.rib.ProfilCharge ||
+           ConfirmePerte(programme, {"FrmMainMessage", "11"}, {"FrmMainMessage", "12"});
+}
+
+void FaitPlaceAuJeu(const Programme &programme, CommandView &view) {
+    if (programme.rib.ProfilCharge) {
+        view.affclear();
     }
-    if (!ConfirmePerte(programme, {"FrmMainMessage", "11"}, {"FrmMainMessage", "12"})) {
-        return false;
-    }
-    view.affclear();
-    return true;
 }
 
 int DemandeNombre(const Programme &programme, const std::string &titre) {

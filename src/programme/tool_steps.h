@@ -9,8 +9,10 @@
 
 namespace loftwing {
 
-/// Clears the rib for a set of ribs, which takes its place; false when the user keeps it.
-bool FaitPlaceAuJeu(Programme &programme, CommandView &view);
+/// Whether a set of ribs may take the place of the rib. Where changes could be lost the user says.
+bool ConfirmeJeu(const Programme &programme);
+/// Clears the rib for it.
+void FaitPlaceAuJeu(const Programme &programme, CommandView &view);
 
 /// Asks for the number of intermediate ribs until it is one that can be had; 0 when the user gives
 /// up. `titre` is the title of the question.

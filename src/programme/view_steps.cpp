@@ -143,7 +143,7 @@ void ModifieEpCourb(Programme &programme, CommandView &view) {
 void TraceSimple(Programme &programme, CommandView &view) {
     RibModel &rib = programme.rib;
     view.mnu_affclear_Click();
-    if (rib.ProfilCharge) {
+    if (rib.ProfilCharge || rib.Modifie) {
         return; // the user keeps the rib
     }
     rib.ModeCouple = true;

@@ -180,11 +180,19 @@ TEST_F(DefaultEntryTest, WithoutARibThereIsNoLabel) {
 
 TEST_F(DefaultEntryTest, ALoadedRibIsChangedOnlyByOtherLengths) {
     rib.ProfilCharge = true;
-    Take({"200", "1.5", "0", "", "0", "0"});
+    EXPECT_EQ(Take({"200", "1.5", "0", "", "0", "0"}), FinDefauts::inchangee);
     EXPECT_FALSE(rib.Modifie);
     Take({"200", "1.5", "0", "", "0", "1"});
     EXPECT_TRUE(rib.Modifie);
     Take({"200", "1.5", "0", "", "0", "1"});
+    EXPECT_TRUE(rib.Modifie);
+}
+
+TEST_F(DefaultEntryTest, AStockThatWasTooWideComesIntoForceUnderItsText) {
+    rib.ProfilCharge = true;
+    rib.EpBAAfich = "150"; // refused at an earlier chord: its number is 0
+    EXPECT_EQ(Take({"200", "1.5", "150", "", "0", "0"}), FinDefauts::prise);
+    EXPECT_EQ(rib.EpBA, 150.0F);
     EXPECT_TRUE(rib.Modifie);
 }
 

@@ -1,5 +1,7 @@
 #include "programme/file_steps.h"
 
+#include "features/inserted_text.h"
+#include "persist/LireEcrire.h"
 #include "support/components_text.h"
 #include "support/steps_world.h"
 
@@ -41,6 +43,55 @@ TEST_F(FileSteps, AnAirfoilThatIsPickedTakesOverTheRib) {
     EXPECT_FALSE(view.choices[0].laisse_rib);
     EXPECT_FALSE(view.choices[0].case_memoire);
     EXPECT_EQ(view.choices[0].memoire, "");
+}
+
+TEST_F(FileSteps, EveryRibOfASetGetsItsOwnLabel) {
+    OuvreFichier(programme, view, Named("rib2.dat", "Rib 2: 160"));
+    // Placed by the text window, after which a text counts as the user's.
+    PrendTexteInsere(Rib(), {GeneratedLabel(Rib(), programme.messages), "50", "5"},
+                     programme.SaisieEnCours());
+    OuvreFichier(programme, view, Named("rib3.dat", "Rib 3: 150"));
+    EXPECT_EQ(Rib().texte.InsTexte, "rib3 Chord :  150"); // the chord has the place of its sign
+    EXPECT_EQ(Rib().texte.InsTextX, 50.0F);
+    WillPick({Named("rib4.dat", "Rib 4: 140")});
+    EXPECT_TRUE(OuvreProfil(programme, view));
+    EXPECT_EQ(Rib().texte.InsTexte, "rib4 Chord :  140");
+    EXPECT_THAT(EcritComposants(Rib()), testing::HasSubstr("\r\nrib4 Chord :  140\r\n50\r\n"));
+}
+
+TEST_F(FileSteps, ALabelFollowsTheAirfoilWhateverItSaysOfTheWashout) {
+    for (const bool named : {true, false}) {
+        OuvreFichier(programme, view, Named("rib2.dat", "Rib 2"));
+        if (named) {
+            Rib().TypeGabarit = kGabaritMousse;
+            Rib().vrillage = 2;
+        }
+        PrendTexteInsere(Rib(), {"", "50", "5"}, programme.SaisieEnCours());
+        ASSERT_EQ(Rib().texte.InsTexte, named ? "rib2 Washout 2° Chord : 200" : "rib2 Chord : 200");
+        Rib().TypeGabarit = kGabaritMousse;
+        Rib().vrillage = 2;
+        OuvreFichier(programme, view, Named("rib3.dat", "Rib 3"));
+        // A new airfoil has no washout.
+        EXPECT_EQ(Rib().texte.InsTexte, "rib3 Chord : 200");
+    }
+}
+
+TEST_F(FileSteps, WordsOfTheUserStayOnTheNextRib) {
+    for (const char *words : {"left wing", "left wing : 1", "rib2x Chord : 200"}) {
+        OuvreFichier(programme, view, Named("rib2.dat", "Rib 2"));
+        PrendTexteInsere(Rib(), {words, "50", "5"}, programme.SaisieEnCours());
+        OuvreFichier(programme, view, Named("rib3.dat", "Rib 3: 150"));
+        EXPECT_EQ(Rib().texte.InsTexte, words);
+        // And are the user's there too: a chord typed later doesn't touch them.
+        EXPECT_TRUE(Rib().texte.TexteUtilisateur);
+    }
+}
+
+TEST_F(FileSteps, ATextThatWasNeverMadeIsNotMadeByAnAirfoil) {
+    OuvreFichier(programme, view, Sample("naca2412.dat"));
+    OuvreFichier(programme, view, Sample("naca0012.dat"));
+    EXPECT_EQ(Rib().texte.InsTexte, "");
+    EXPECT_FALSE(Rib().texte.TexteUtilisateur);
 }
 
 TEST_F(FileSteps, ACancelledPickerLeavesTheSimplePlot) {

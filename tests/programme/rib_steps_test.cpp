@@ -3,6 +3,8 @@
 #include "persist/default_entry.h"
 #include "support/steps_world.h"
 
+#include <functional>
+
 namespace loftwing {
 namespace {
 
@@ -12,6 +14,12 @@ using testing::IsEmpty;
 class RibSteps : public StepsWorld {
   protected:
     bool Confirm() const { return ConfirmePerte(programme, {"fileopen", "1"}, {"fileopen", "2"}); }
+    /// Another airfoil is read and takes over the rib.
+    void TakeOver(const std::string &path) {
+        const RibAvant before = RibAvantLecture(Rib(), programme.messages);
+        ASSERT_TRUE(Read(path));
+        RepriseProfil(programme, view, before);
+    }
     void ExpectQuestion(BoxAnswer answer) {
         ExpectBox(answer, "The rib has changes that are not saved. Open another rib all the same?",
                   "Open rib components");
@@ -60,11 +68,10 @@ TEST_F(RibSteps, TheEndIsAskedAboutInWordsThatNameChanges) {
 }
 
 TEST_F(RibSteps, AnAirfoilIsNamedNotedAndShown) {
-    ASSERT_TRUE(Read(Sample("naca2412.dat")));
     Rib().talon.TalonIntra = 3;
     Pointer while_drawn = Pointer::normal;
     view.on_draw = [&] { while_drawn = platform.pointer; };
-    RepriseProfil(programme, view);
+    TakeOver(Sample("naca2412.dat"));
     EXPECT_THAT(view.asked,
                 ElementsAre("Titre Loftwing Airfoil : naca2412", "AfficheFichiersRecents",
                             "ViewReset", "ActiveCommandes", "affiche"));
@@ -78,9 +85,7 @@ TEST_F(RibSteps, AnAirfoilIsNamedNotedAndShown) {
 }
 
 TEST_F(RibSteps, AnAirfoilBringsTheChordOfItsTitle) {
-    ASSERT_TRUE(Read(Sample("naca2412.dat")));
-    Rib().EnteteProfil = "Root rib: 150";
-    RepriseProfil(programme, view);
+    TakeOver(Named("root.dat", "Root rib: 150"));
     EXPECT_EQ(Rib().corde, 150.0F);
 }
 
@@ -154,18 +159,23 @@ TEST_F(RibSteps, TheCommandAsksBeforeItClearsChanges) {
     EXPECT_THAT(view.asked, ElementsAre("affclear"));
 }
 
-TEST_F(RibSteps, WhatHasAFileOfItsOwnIsClearedUnasked) {
-    Rib().ProfilCharge = true;
-    Rib().Modifie = true;
-    Rib().FichierRibOuvert = true;
+TEST_F(RibSteps, ChangesOfWhateverIsThereAreAskedAboutBeforeTheCommandClears) {
+    const auto from_file = [this] { Rib().ProfilCharge = Rib().FichierRibOuvert = true; };
+    const auto simple = [this] { Rib().ProfilCharge = Rib().ModeCouple = true; };
+    const auto typed_before_an_airfoil = [] {};
+    for (const std::function<void()> &there :
+         {std::function<void()>(from_file), std::function<void()>(simple),
+          std::function<void()>(typed_before_an_airfoil)}) {
+        Rib().ProfilCharge = Rib().FichierRibOuvert = Rib().ModeCouple = false;
+        there();
+        Rib().Modifie = true;
+        platform.Expect(BoxAnswer::no, {.title = "Clear all data"});
+        DemandeVide(programme, view);
+    }
+    EXPECT_THAT(view.asked, IsEmpty());
+    Rib().Modifie = false;
     DemandeVide(programme, view);
-    Rib().FichierRibOuvert = false;
-    Rib().ModeCouple = true;
-    DemandeVide(programme, view);
-    Rib().ModeCouple = false;
-    Rib().ProfilCharge = false;
-    DemandeVide(programme, view);
-    EXPECT_THAT(view.asked, ElementsAre("affclear", "affclear", "affclear"));
+    EXPECT_THAT(view.asked, ElementsAre("affclear"));
 }
 
 TEST_F(RibSteps, AChordIsDrawnInWhicheverViewIsUp) {

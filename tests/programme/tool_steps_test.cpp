@@ -35,7 +35,8 @@ class ToolSteps : public StepsWorld {
 
 TEST_F(ToolSteps, ASetOfRibsFindsRoomWhereThereIsNoRib) {
     Rib().Modifie = true;
-    EXPECT_TRUE(FaitPlaceAuJeu(programme, view));
+    EXPECT_TRUE(ConfirmeJeu(programme));
+    FaitPlaceAuJeu(programme, view);
     EXPECT_THAT(view.asked, IsEmpty());
 }
 
@@ -45,10 +46,11 @@ TEST_F(ToolSteps, ASetOfRibsClearsTheRibUnlessTheUserKeepsIt) {
     const std::string question = "The rib has changes that are not saved. Generate a set of ribs "
                                  "all the same?";
     ExpectBox(BoxAnswer::no, question, "Full set of ribs");
-    EXPECT_FALSE(FaitPlaceAuJeu(programme, view));
+    EXPECT_FALSE(ConfirmeJeu(programme));
     EXPECT_THAT(view.asked, IsEmpty());
     ExpectBox(BoxAnswer::yes, question, "Full set of ribs");
-    EXPECT_TRUE(FaitPlaceAuJeu(programme, view));
+    EXPECT_TRUE(ConfirmeJeu(programme));
+    FaitPlaceAuJeu(programme, view);
     EXPECT_THAT(view.asked, ElementsAre("affclear"));
 }
 

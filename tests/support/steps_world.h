@@ -1,6 +1,7 @@
 /// A program with settings, folders and words of its own, and a main window that only notes.
 #pragma once
 
+#include "base/whole_file.h"
 #include "core/airfoil_reader.h"
 #include "programme/load.h"
 #include "support/noted_window.h"
@@ -30,6 +31,12 @@ class StepsWorld : public testing::Test {
 
     static std::string Sample(const std::string &name) {
         return LOFTWING_SOURCE_DIR "/resources/airfoils/" + name;
+    }
+    /// A sample airfoil under another name and title.
+    std::string Named(const std::string &name, const std::string &title) const {
+        std::string bytes = ReadWholeFile(Sample("naca2412.dat"));
+        bytes.replace(0, bytes.find_first_of("\r\n"), title);
+        return folder.File(name, bytes);
     }
     /// An airfoil that is read but too short for a contour.
     std::string Short() const {

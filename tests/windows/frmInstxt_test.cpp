@@ -337,6 +337,19 @@ TEST(InsertText, TheCommandChangesTheLabelOfTheRib) {
     EXPECT_TRUE(world.programme.rib.Modifie);
 }
 
+TEST(InsertText, ALabelThatWasPlacedNamesTheNextAirfoil) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    InNextDialog([](Seen &dialog) {
+        dialog.Type("infotxt(1)", "60");
+        dialog.Key("infotxt(1)", Qt::Key_Return);
+    });
+    world.Action("mnu_affInstxt")->trigger();
+    world.window->OuvreFichier(WindowWorld::Sample("naca0012.dat"));
+    EXPECT_EQ(world.programme.rib.texte.InsTexte, "naca0012 Chord : 200");
+    EXPECT_EQ(world.programme.rib.texte.InsTextX, 60.0F);
+}
+
 TEST(InsertText, TheSizeIsThereAtTheNextStartAndAResetPutsItBack) {
     WindowWorld world;
     world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));

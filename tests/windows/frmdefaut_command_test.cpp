@@ -1,6 +1,7 @@
 // The whole road of a change of the defaults, through the main window.
 
 #include "lang/ini_file.h"
+#include "persist/LireEcrire.h"
 #include "support/qt_window_world.h"
 
 #include <gmock/gmock.h>
@@ -119,6 +120,12 @@ TEST_F(Defaults, AnotherChordRedrawsTheRibThatIsThere) {
     InNextDialog([](Seen &dialog) { dialog.Click("cmdok"); });
     world->Action("mnu_affInstxt")->trigger();
     ASSERT_EQ(Rib().texte.InsTexte, "naca2412 Chord : 200");
+    world->platform.Expect(
+        BoxAnswer::yes,
+        {.text = "The defaults are saved for the next rib.\n"
+                 "Should the rib that is open now take them too? No leaves it as it is.",
+         .title = "Template defaults",
+         .buttons = BoxButtons::yes_no});
     Use("", "150", "cmdok");
     EXPECT_TRUE(Rib().ProfilCharge);
     EXPECT_EQ(Rib().corde, 150.0F);
@@ -126,8 +133,36 @@ TEST_F(Defaults, AnotherChordRedrawsTheRibThatIsThere) {
     EXPECT_EQ(Rib().texte.InsTexte, "naca2412 Chord : 150");
 }
 
+TEST_F(Defaults, WithNoTheRibStaysAsItIsAndTheDefaultsAreSaved) {
+    Start();
+    InNextDialog([](Seen &dialog) {
+        dialog.Type("infotxt", "220");
+        dialog.Click("cmdok");
+    });
+    world->Action("mnu_profilcorde")->trigger();
+    Rib().Modifie = false;
+    const std::string rib = EcritComposants(Rib());
+    world->platform.Expect(BoxAnswer::no);
+    Use("", "150", "cmdok");
+    EXPECT_EQ(EcritComposants(Rib()), rib);
+    EXPECT_EQ(Rib().corde, 220.0F);
+    EXPECT_FALSE(Rib().Modifie);
+    EXPECT_THAT(world->Panel(2), HasSubstr("Chord : 220 mm"));
+    EXPECT_THAT(File(), HasSubstr("cordeAfich=150\r\n"));
+}
+
+TEST_F(Defaults, ValuesThatTheRibHasAlreadyAreSavedWithoutAQuestion) {
+    Start();
+    Rib().Modifie = false;
+    const std::string rib = EcritComposants(Rib());
+    Use("", "200", "cmdok");
+    EXPECT_EQ(EcritComposants(Rib()), rib);
+    EXPECT_FALSE(Rib().Modifie);
+}
+
 TEST_F(Defaults, AClearedRibStartsFromWhatWasSaved) {
     Start();
+    world->platform.Expect(BoxAnswer::yes);
     Use("", "150", "cmdok");
     Rib().cordeAfich = "99";
     Rib().Modifie = false;

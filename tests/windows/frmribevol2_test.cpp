@@ -406,6 +406,11 @@ TEST_F(VariableSetCommand, AsksBeforeChangesOfTheRibAreLost) {
     world.platform.Expect(BoxAnswer::no);
     EXPECT_EQ(Comes({}), 0);
     EXPECT_TRUE(world.programme.rib.ProfilCharge);
+    // Nor is the rib gone where the number is called off.
+    world.platform.Expect(BoxAnswer::yes);
+    EXPECT_EQ(Comes({std::nullopt}), 0);
+    EXPECT_TRUE(world.programme.rib.ProfilCharge);
+    EXPECT_TRUE(world.programme.rib.Modifie);
     world.platform.Expect(BoxAnswer::yes);
     EXPECT_EQ(Comes({"2"}), 2);
     EXPECT_FALSE(world.programme.rib.ProfilCharge);

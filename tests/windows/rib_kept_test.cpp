@@ -1,5 +1,6 @@
 // What a rib must survive: values that can't be drawn, typed or chosen anywhere.
 
+#include "base/whole_file.h"
 #include "mainwindow/pic_view.h"
 #include "support/qt_window_world.h"
 
@@ -130,9 +131,37 @@ TEST_F(RibKept, ChordShorterThanTheTemplatesRampIsRefused) {
     EXPECT_TRUE(Rib().ProfilCharge);
 }
 
+TEST_F(RibKept, AnAirfoilWhoseChordASparDoesNotFitAsksAndCostsNothing) {
+    EXPECT_TRUE(Chord("220"));
+    Spar("150");
+    Rib().NbLongeron = 1;
+    world.window->affiche();
+    std::string bytes = ReadWholeFile(WindowWorld::Sample("naca0012.dat"));
+    bytes.replace(0, bytes.find_first_of("\r\n"), "Rib 3: 140");
+    const std::string next = world.folder.File("rib3.dat", bytes);
+    const std::size_t drawn = Operations();
+    const std::string caption = world.Main().Title();
+    world.platform.Expect(BoxAnswer::no, {.text = HasSubstr("\nSpars 1\n")});
+    world.window->OuvreFichier(next);
+    EXPECT_EQ(Rib().NomProfil, "naca2412");
+    EXPECT_EQ(Rib().corde, 220.0F);
+    EXPECT_EQ(Operations(), drawn);
+    EXPECT_EQ(world.Main().Title(), caption);
+    // The rib that was kept can be drawn as before.
+    world.window->affiche();
+    EXPECT_EQ(Operations(), drawn);
+    world.platform.Expect(BoxAnswer::yes, {.text = HasSubstr("Airfoil : rib3   Chord : 140 mm")});
+    world.window->OuvreFichier(next);
+    EXPECT_TRUE(Rib().ProfilCharge);
+    EXPECT_EQ(Rib().corde, 140.0F);
+    EXPECT_EQ(Rib().NbLongeron, 0);
+    EXPECT_GT(Operations(), 0U);
+}
+
 TEST_F(RibKept, DefaultsThatTheRibCannotTakeAreForTheNextOne) {
     EXPECT_TRUE(Chord("500"));
     Spar("450");
+    world.platform.Expect(BoxAnswer::yes); // the rib is to take them
     world.platform.Expect(BoxAnswer::ok, {.text = HasSubstr("Spars 1")});
     InNextDialog([](Seen &dialog) { dialog.Click("cmdok"); });
     world.Action("mnu_affdefaut")->trigger();

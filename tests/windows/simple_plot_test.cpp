@@ -176,9 +176,14 @@ TEST_F(SimplePlot, ACancelledOrRefusedFileLeavesThePlot) {
     EXPECT_EQ(Rib().NomProfil, "five");
 }
 
-TEST_F(SimplePlot, ClearingEndsTheViewWithoutAQuestion) {
+TEST_F(SimplePlot, ClearingEndsTheViewAndAsksWhereSomethingWasChanged) {
     Plot();
-    Rib().Modifie = true;
+    Rib().Modifie = true; // another chord, say
+    world.platform.Expect(BoxAnswer::no, {.title = "Clear all data"});
+    world.Action("mnu_affclear")->trigger();
+    EXPECT_TRUE(Rib().ModeCouple);
+    EXPECT_NE(Drawing(), nullptr);
+    Rib().Modifie = false;
     world.Action("mnu_affclear")->trigger();
     EXPECT_FALSE(Rib().ModeCouple);
     EXPECT_EQ(Drawing(), nullptr);
