@@ -160,10 +160,13 @@ void NumericField::inputMethodEvent(QInputMethodEvent *event) {
 
 void NumericField::contextMenuEvent(QContextMenuEvent *event) {
     const std::unique_ptr<QMenu> menu(createStandardContextMenu());
-    if (auto *paste = menu->findChild<QAction *>("edit-paste")) {
-        paste->disconnect(SIGNAL(triggered(bool)));
-        connect(paste, &QAction::triggered, this,
-                [this] { Paste(QApplication::clipboard()->text()); });
+    // The toolkit's entry has no name; its words stand in front of the shortcut.
+    for (QAction *entry : menu->actions()) {
+        if (entry->text().section('\t', 0, 0) == QLineEdit::tr("&Paste")) {
+            entry->disconnect(SIGNAL(triggered(bool)));
+            connect(entry, &QAction::triggered, this,
+                    [this] { Paste(QApplication::clipboard()->text()); });
+        }
     }
     menu->exec(event->globalPos());
 }

@@ -56,7 +56,8 @@ TEST_F(FileSteps, EveryRibOfASetGetsItsOwnLabel) {
     WillPick({Named("rib4.dat", "Rib 4: 140")});
     EXPECT_TRUE(OuvreProfil(programme, view));
     EXPECT_EQ(Rib().texte.InsTexte, "rib4 Chord :  140");
-    EXPECT_THAT(EcritComposants(Rib()), testing::HasSubstr("\r\nrib4 Chord :  140\r\n50\r\n"));
+    EXPECT_THAT(EcritComposants(Rib(), programme.settings.Unite),
+                testing::HasSubstr("\r\nrib4 Chord :  140\r\n50\r\n"));
 }
 
 TEST_F(FileSteps, ALabelFollowsTheAirfoilWhateverItSaysOfTheWashout) {

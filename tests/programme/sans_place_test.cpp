@@ -76,7 +76,7 @@ class SansPlaceTest : public StepsWorld {
     };
     Kept All() {
         const RibModel &rib = Rib();
-        return {EcritComposants(rib),
+        return {EcritComposants(rib, programme.settings.Unite),
                 rib.CheminProfil,
                 rib.EnteteProfil,
                 rib.NomFichierRib,

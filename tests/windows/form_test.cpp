@@ -212,9 +212,11 @@ TEST(NumericField, TheMenuAndADropBringNumbersInTheSameWay) {
     QTimer::singleShot(0, &form, [] {
         auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
         ASSERT_NE(menu, nullptr);
-        auto *paste = menu->findChild<QAction *>("edit-paste");
-        ASSERT_NE(paste, nullptr);
-        paste->trigger();
+        for (QAction *entry : menu->actions()) {
+            if (entry->text().startsWith("&Paste")) {
+                entry->trigger();
+            }
+        }
         menu->close();
     });
     QContextMenuEvent asked(QContextMenuEvent::Keyboard, {5, 5},

@@ -141,10 +141,10 @@ TEST_F(Defaults, WithNoTheRibStaysAsItIsAndTheDefaultsAreSaved) {
     });
     world->Action("mnu_profilcorde")->trigger();
     Rib().Modifie = false;
-    const std::string rib = EcritComposants(Rib());
+    const std::string rib = EcritComposants(Rib(), world->programme.settings.Unite);
     world->platform.Expect(BoxAnswer::no);
     Use("", "150", "cmdok");
-    EXPECT_EQ(EcritComposants(Rib()), rib);
+    EXPECT_EQ(EcritComposants(Rib(), world->programme.settings.Unite), rib);
     EXPECT_EQ(Rib().corde, 220.0F);
     EXPECT_FALSE(Rib().Modifie);
     EXPECT_THAT(world->Panel(2), HasSubstr("Chord : 220 mm"));
@@ -154,9 +154,9 @@ TEST_F(Defaults, WithNoTheRibStaysAsItIsAndTheDefaultsAreSaved) {
 TEST_F(Defaults, ValuesThatTheRibHasAlreadyAreSavedWithoutAQuestion) {
     Start();
     Rib().Modifie = false;
-    const std::string rib = EcritComposants(Rib());
+    const std::string rib = EcritComposants(Rib(), world->programme.settings.Unite);
     Use("", "200", "cmdok");
-    EXPECT_EQ(EcritComposants(Rib()), rib);
+    EXPECT_EQ(EcritComposants(Rib(), world->programme.settings.Unite), rib);
     EXPECT_FALSE(Rib().Modifie);
 }
 

@@ -96,12 +96,12 @@ TEST_F(RibModified, EveryChangeOfWhatTheFileHoldsCounts) {
     for (const Change &change : Changes()) {
         SCOPED_TRACE(change.what);
         Have();
-        const std::string before = EcritComposants(Rib());
+        const std::string before = EcritComposants(Rib(), world.programme.settings.Unite);
         for (int i = 0; i < change.questions; ++i) {
             world.platform.Expect(BoxAnswer::yes);
         }
         Run(change.command, change.user);
-        EXPECT_NE(EcritComposants(Rib()), before);
+        EXPECT_NE(EcritComposants(Rib(), world.programme.settings.Unite), before);
         EXPECT_TRUE(Rib().Modifie);
     }
 }
@@ -113,9 +113,9 @@ TEST_F(RibModified, AWindowThatIsCancelledChangesNothing) {
           "mnu_affdefaut"}) {
         SCOPED_TRACE(command);
         Have();
-        const std::string before = EcritComposants(Rib());
+        const std::string before = EcritComposants(Rib(), world.programme.settings.Unite);
         Run(command, [](Seen &dialog) { dialog.Key(Qt::Key_Escape); });
-        EXPECT_EQ(EcritComposants(Rib()), before);
+        EXPECT_EQ(EcritComposants(Rib(), world.programme.settings.Unite), before);
         EXPECT_FALSE(Rib().Modifie);
     }
 }
