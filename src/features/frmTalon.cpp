@@ -141,7 +141,7 @@ void frmTalon::Abandonne() {
     rib.vrillage = vrillage_avant_;
     rib.Annule = true;
     view_.affiche();
-    QDialog::reject();
+    Renonce();
 }
 
 } // namespace loftwing

@@ -121,7 +121,7 @@ void frmbloc::cmdannuler_Click() {
         programme_.rib.TypeGabarit = kSansGabarit;
         programme_.rib.Annule = true;
         view_.affiche();
-        QDialog::reject();
+        Renonce();
     });
 }
 

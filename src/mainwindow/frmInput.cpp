@@ -43,7 +43,7 @@ void frmInput::cmdok_Click() {
 
 void frmInput::cmdannuler_Click() {
     programme_.rib.Annule = true;
-    QDialog::reject();
+    Renonce();
 }
 
 } // namespace loftwing

@@ -160,7 +160,7 @@ void frmdefaut::cmdok_Click() {
 void frmdefaut::cmdannuler_Click() {
     programme_.settings.Unite = unite_avant_;
     view_.AfficheUnite();
-    QDialog::reject();
+    Renonce();
 }
 
 /// Lets the user choose a folder; it counts at once, a cancelled choice changes nothing.
