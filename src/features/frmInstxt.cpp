@@ -85,7 +85,7 @@ void frmInstxt::cmdannuler_Click() {
     // A size counts as soon as it is chosen; only Apply and OK make it stay.
     programme_.rib.texte.TailleFont = taille_avant_;
     Garde(" InsText/Cancel", [this] { Redessine(); });
-    QDialog::reject();
+    Renonce();
 }
 
 void frmInstxt::ComboTaille_Click() {

@@ -137,7 +137,7 @@ void frmTalon::Abandonne() {
     retour_();
     rib.Annule = true;
     view_.affiche();
-    QDialog::reject();
+    Renonce();
 }
 
 } // namespace loftwing

@@ -122,7 +122,7 @@ void frmbloc::cmdannuler_Click() {
         retour_(); // ramps and angle go into the rib while they are typed
         programme_.rib.Annule = true;
         view_.affiche();
-        QDialog::reject();
+        Renonce();
     });
 }
 

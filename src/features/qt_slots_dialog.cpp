@@ -298,7 +298,7 @@ void SlotsDialog::cmdannuler_Click() {
     // The first number lets the user go whatever has been refused.
     if (choisi_ == 0 || !echec_) {
         RemetRefuses();
-        QDialog::reject();
+        Renonce();
         return;
     }
     // The entry that is spoken of is shown.

@@ -48,7 +48,7 @@ void frmInput::cmdok_Click() {
 void frmInput::cmdannuler_Click() {
     retour_(); // a refused chord has left its text
     programme_.rib.Annule = true;
-    QDialog::reject();
+    Renonce();
 }
 
 } // namespace loftwing

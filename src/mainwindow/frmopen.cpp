@@ -199,7 +199,7 @@ void frmopen::cmdannuler_Click() {
     precedent_.Rend(rib_);
     MontreMemoire(false, {});
     rib_.MemProfil = false;
-    QDialog::reject();
+    Renonce();
 }
 
 bool frmopen::eventFilter(QObject *watched, QEvent *event) {

@@ -206,7 +206,7 @@ void frmPrint::cmdok_Click() {
 
 void frmPrint::cmdannuler_Click() {
     programme_.rib.Annule = true;
-    QDialog::reject();
+    Renonce();
 }
 
 void frmPrint::cmdconfigImprim_Click() {

@@ -111,7 +111,7 @@ void frmcoul::cmdannuler_Click() {
         return;
     }
     programme_.settings.traits = avant_;
-    QDialog::reject();
+    Renonce();
 }
 
 void frmcoul::cmdImprtest_Click() {

@@ -176,7 +176,7 @@ void frmdefaut::cmdok_Click() {
 
 void frmdefaut::cmdannuler_Click() {
     RemetReglages();
-    QDialog::reject();
+    Renonce();
 }
 
 /// Lets the user choose a folder; it counts at once, a cancelled choice changes nothing.

@@ -43,7 +43,9 @@ class Dialogue : public QDialog {
     // What the shared buttons do. Close is the Cancel of a window that has nothing to take back.
     virtual void CmdApply_Click() {}
     virtual void cmdok_Click() { accept(); }
-    virtual void cmdannuler_Click() { QDialog::reject(); }
+    virtual void cmdannuler_Click() { Renonce(); }
+    /// Closes the window as one that was given up; there is nothing left to take back.
+    void Renonce() { QDialog::reject(); }
 
     /// A shared button, made when it is first asked for.
     QPushButton &Bouton(SharedWord word);

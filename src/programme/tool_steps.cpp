@@ -46,7 +46,9 @@ void OuvreCalculette(const Programme &programme) {
     if (text.empty()) {
         text = "The windows Calculator does not exist";
     }
-    programme.messages.Tell(text, std::string(kTitre) + " No-Calc", BoxIcon::warning);
+    std::string title = kTitre;
+    title += " No-Calc";
+    programme.messages.Tell(text, title, BoxIcon::warning);
 }
 
 } // namespace loftwing

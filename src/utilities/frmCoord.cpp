@@ -230,7 +230,7 @@ bool frmCoord::Form_Unload() {
 
 void frmCoord::cmdannuler_Click() {
     if (Form_Unload()) {
-        QDialog::reject();
+        Renonce();
     }
 }
 

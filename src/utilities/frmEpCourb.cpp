@@ -73,7 +73,7 @@ void frmEpCourb::Applique() {
     view_.afficheEpcourb();
     if (!rib.ProfilCharge) {
         // A drawing that failed has cleared the rib, and nothing is left to be changed.
-        QDialog::reject();
+        Renonce();
     }
 }
 
@@ -170,7 +170,7 @@ void frmEpCourb::cmdannuler_Click() {
         rib.NouvEpaisseur = 0;
         rib.NouvCambrure = 0;
         view_.affclear();
-        QDialog::reject();
+        Renonce();
     });
 }
 

@@ -117,7 +117,7 @@ bool RibSetDialog::EssaieEcrire(const std::function<void()> &action) {
     if (Essaie(action)) {
         return true;
     }
-    QDialog::reject();
+    Renonce();
     view_.affclear();
     return false;
 }
@@ -135,7 +135,7 @@ void RibSetDialog::Ecrit(const JeuDeNervures &jeu, const std::string &resultat) 
 
 void RibSetDialog::cmdannuler_Click() {
     Garde(" RibEvol/Close", [this] { view_.mnu_affclear_Click(); });
-    QDialog::reject();
+    Renonce();
 }
 
 } // namespace loftwing
