@@ -115,7 +115,7 @@ TEST_F(FrmInputTest, TabGoesFromTheBoxThroughTheButtons) {
 TEST_F(FrmInputTest, InMmOnlyDigitsAndPointGetIn) {
     for (const char *mode : {"corde", "epcof", "ba", "bf", "rep"}) {
         Use(mode, [](Seen &window) {
-            window.Keys("infotxt", "a1-2,3/4%5 6.7e890");
+            window.Keys("infotxt", "a1-2;3/4%5 6.7e890");
             EXPECT_EQ(window.Text("infotxt"), "123456.7890");
             window.Key("infotxt", Qt::Key_Backspace);
             EXPECT_EQ(window.Text("infotxt"), "123456.789");
@@ -127,7 +127,7 @@ TEST_F(FrmInputTest, InInchesTheSlashGetsInToo) {
     programme.settings.Unite = kUniteIn;
     for (const char *mode : {"corde", "epcof", "ba", "bf", "rep"}) {
         Use(mode, [](Seen &window) {
-            window.Keys("infotxt", "a8-.1,/2%\"");
+            window.Keys("infotxt", "a8-.1;/2%\"");
             EXPECT_EQ(window.Text("infotxt"), "8.1/2");
         });
     }

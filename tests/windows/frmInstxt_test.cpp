@@ -101,9 +101,9 @@ TEST_F(FrmInstxtTest, TheTextTakesEverythingAndThePlacesTheirKeys) {
         Use([&row](Seen &dialog) {
             dialog.Type("infotxt(0)", "Wing 2/3 -e%,:");
             EXPECT_EQ(dialog.Text("infotxt(0)"), "Wing 2/3 -e%,:");
-            dialog.Type("infotxt(1)", "a-12/3.4%,");
+            dialog.Type("infotxt(1)", "a-12/3.4%;");
             EXPECT_EQ(dialog.Text("infotxt(1)"), row.x);
-            dialog.Type("infotxt(2)", "a-12/3.4%,");
+            dialog.Type("infotxt(2)", "a-12/3.4%;");
             EXPECT_EQ(dialog.Text("infotxt(2)"), row.y);
         });
     }

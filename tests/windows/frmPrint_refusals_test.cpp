@@ -109,13 +109,13 @@ TEST_F(FrmPrintTest, ATextThatIsNoLengthIsToldAtItsOwnChangesOnly) {
 TEST_F(FrmPrintTest, BoxesTakeTheKeysOfTheUnit) {
     Use([](Seen &dialog) {
         for (const int index : {0, 1, 2}) {
-            dialog.Type({"Text1", index}, "a1-./,%2");
+            dialog.Type({"Text1", index}, "a1-./;%2");
             EXPECT_EQ(dialog.Text({"Text1", index}), "1.2") << index;
         }
     });
     Inches();
     Use([](Seen &dialog) {
-        dialog.Type("Text1(0)", "a1-.1/,%2");
+        dialog.Type("Text1(0)", "a1-.1/;%2");
         EXPECT_EQ(dialog.Text("Text1(0)"), "1.1/2");
     });
 }

@@ -84,7 +84,7 @@ TEST_F(FrmTalonTest, OpensOnTheSideOfTheRib) {
 TEST_F(FrmTalonTest, FieldsSwallowWhatIsNoLengthOrAngle) {
     Use([](Seen &window) {
         for (const char *name : {"txt(0)", "txt(1)", "txt(2)"}) {
-            window.Type(name, "a1-2/,.5%");
+            window.Type(name, "a1-2/;.5%");
             EXPECT_EQ(window.Text(name), "12.5") << name;
         }
         window.Type("txt(3)", "-a1/.5%");

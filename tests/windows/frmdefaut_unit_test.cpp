@@ -10,12 +10,12 @@ using testing::IsEmpty;
 TEST_F(FrmdefautTest, FieldsTakeTheKeysOfTheUnit) {
     Use([](Seen &dialog) {
         for (int i = 0; i < kChampsDefaut; ++i) {
-            dialog.Type({"txtdef", i}, "a-1/2.5%,");
+            dialog.Type({"txtdef", i}, "a-1/2.5%;");
             EXPECT_EQ(dialog.Text({"txtdef", i}), "12.5");
         }
         dialog.Click("inches");
         for (int i = 0; i < kChampsDefaut; ++i) {
-            dialog.Type({"txtdef", i}, "a-1.1/2%,");
+            dialog.Type({"txtdef", i}, "a-1.1/2%;");
             EXPECT_EQ(dialog.Text({"txtdef", i}), "1.1/2");
         }
         dialog.Click("mm");

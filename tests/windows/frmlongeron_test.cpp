@@ -65,12 +65,12 @@ TEST_F(FrmLongeronTest, SpeaksFrenchAndInches) {
 TEST_F(FrmLongeronTest, KeysOfTheFieldsInMm) {
     Use([](SeenSlots &window) {
         window.Click("OptLong(3)");
-        window.Type(0, "a1-2,3/4%5 6.7e");
+        window.Type(0, "a1-2;3/4%5 6.7e");
         EXPECT_EQ(window.Text("Text1(0)"), "1234%56.7");
         window.Key(Qt::Key_Backspace);
         EXPECT_EQ(window.Text("Text1(0)"), "1234%56.");
         for (int i = 1; i < 4; ++i) {
-            window.Type(i, "a1-2,3/4%5 6.7e");
+            window.Type(i, "a1-2;3/4%5 6.7e");
             EXPECT_EQ(window.Text({"Text1", i}), "123456.7");
         }
     });
@@ -80,10 +80,10 @@ TEST_F(FrmLongeronTest, KeysOfTheFieldsInInches) {
     Inches();
     Use([](SeenSlots &window) {
         window.Click("OptLong(3)");
-        window.Type(0, "a1-2,3/4%5 6.7e");
+        window.Type(0, "a1-2;3/4%5 6.7e");
         EXPECT_EQ(window.Text("Text1(0)"), "123/4%56.7");
         for (int i = 1; i < 4; ++i) {
-            window.Type(i, "a1-2,3/4%5 6.7e");
+            window.Type(i, "a1-2;3/4%5 6.7e");
             EXPECT_EQ(window.Text({"Text1", i}), "123/456.7");
         }
     });

@@ -59,13 +59,13 @@ TEST_F(FrmTrouTest, SpeaksFrenchAndInches) {
 TEST_F(FrmTrouTest, OnlyTheDistanceTakesAMinusSign) {
     Use([](SeenSlots &window) {
         window.Click("OptTrouRec(1)");
-        window.Type(0, "a1-2,3/4%5 6.7e");
+        window.Type(0, "a1-2;3/4%5 6.7e");
         EXPECT_EQ(window.Text("Text1(0)"), "1234%56.7");
         for (int i = 1; i < 3; ++i) {
-            window.Type(i, "a1-2,3/4%5 6.7e");
+            window.Type(i, "a1-2;3/4%5 6.7e");
             EXPECT_EQ(window.Text({"Text1", i}), "123456.7");
         }
-        window.Type("Text2", "-1,3/4%5 6.7e");
+        window.Type("Text2", "-1;3/4%5 6.7e");
         EXPECT_EQ(window.Text("Text2"), "-13456.7");
         window.Key(Qt::Key_Backspace);
         EXPECT_EQ(window.Text("Text2"), "-13456.");
@@ -76,13 +76,13 @@ TEST_F(FrmTrouTest, KeysOfTheFieldsInInches) {
     Inches();
     Use([](SeenSlots &window) {
         window.Click("OptTrouRec(1)");
-        window.Type(0, "a1-2,3/4%5 6.7e");
+        window.Type(0, "a1-2;3/4%5 6.7e");
         EXPECT_EQ(window.Text("Text1(0)"), "123/4%56.7");
         for (int i = 1; i < 3; ++i) {
-            window.Type(i, "a1-2,3/4%5 6.7e");
+            window.Type(i, "a1-2;3/4%5 6.7e");
             EXPECT_EQ(window.Text({"Text1", i}), "123/456.7");
         }
-        window.Type("Text2", "-1,3/4%5 6.7e");
+        window.Type("Text2", "-1;3/4%5 6.7e");
         EXPECT_EQ(window.Text("Text2"), "-13/456.7");
     });
 }
