@@ -37,6 +37,7 @@ void ChargeReglages(Programme &programme) {
         programme.settings.fichier.perdu = true;
         programme.settings.Unite = kUniteMm;
         ValeursDefaut(programme.ReglagesEnCours(), programme.paths.programme);
+        ReadInstallFolders(programme.ReglagesEnCours(), programme.paths.programme);
     }
     DitReglagesPerdus(programme);
     ControlRep(programme.ReglagesEnCours(), programme.paths.programme);

@@ -30,6 +30,14 @@ class StartupTest : public testing::Test {
         ASSERT_TRUE(WriteINIFile("Language", "Langue", name, programme.paths.fichier));
     }
 
+    /// The folders that an installation brings.
+    void Installe() {
+        for (const char *key : {"RepAirfoil", "RepEvol"}) {
+            std::filesystem::create_directory(folder.Path(key));
+            platform.store[{"Install", key}] = folder.Path(key);
+        }
+    }
+
     static void NobodyAsked() { ADD_FAILURE() << "the language dialog was shown"; }
 
     TempFolder folder;
@@ -109,6 +117,7 @@ TEST_F(StartupTest, UnreadableLanguageFileIsReportedAndTextsStayEmpty) {
 
 TEST_F(StartupTest, ASettingsFileThatCannotBeReadIsToldOnceAndInTheLanguageThatIsChosen) {
     std::filesystem::create_directory(folder.Path("Loftwing.ini"));
+    Installe();
     platform.Expect(BoxAnswer::ok, {.text = "lost\n" + folder.Path("Loftwing.ini") + "\nbuilt in",
                                     .icon = BoxIcon::warning});
     ChargeLangue(programme, [&] {
@@ -117,6 +126,7 @@ TEST_F(StartupTest, ASettingsFileThatCannotBeReadIsToldOnceAndInTheLanguageThatI
     });
     EXPECT_EQ(programme.language.LangueCourante, "One");
     EXPECT_EQ(programme.rib.corde, 200.0F);
+    EXPECT_EQ(programme.settings.repertoires.RepProfil, folder.Path("RepAirfoil"));
     ChargeReglages(programme);
     EXPECT_TRUE(FichiersRecentsConnus(programme).front().empty());
     NoteRecent(programme, "/a.dat");
@@ -125,6 +135,7 @@ TEST_F(StartupTest, ASettingsFileThatCannotBeReadIsToldOnceAndInTheLanguageThatI
 
 TEST_F(StartupTest, AFolderThatTakesNoSettingsLeavesTheBuiltInDefaultsAndIsToldOnce) {
     programme.paths.fichier = folder.Path("no/such/folder/Loftwing.ini");
+    Installe();
     programme.language.Charge(folder.Path(), "One");
     platform.Expect(BoxAnswer::ok, {.text = "lost\n" + programme.paths.fichier + "\nbuilt in"});
     ChargeReglages(programme);

@@ -227,6 +227,8 @@ TEST(NumericField, TheMenuAndADropBringNumbersInTheSameWay) {
     QMimeData data;
     data.setText("9,75\n");
     form.second.clear();
+    QDragEnterEvent enter({3, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&form.second, &enter); // without one no drop is passed on
     QDropEvent drop(QPointF(3, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&form.second, &drop);
     EXPECT_EQ(form.second.text(), "9.75");

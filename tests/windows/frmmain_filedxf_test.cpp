@@ -1,6 +1,7 @@
 // Exporting DXF from the main window.
 
 #include "base/number_text.h"
+#include "features/talon.h"
 #include "support/ordinary_user.h"
 #include "windows/frmmain_files_fixture.h"
 
@@ -27,6 +28,9 @@ class ExportingDxf : public RibFiles {
   protected:
     void Export(int form, const std::string &path) {
         world.platform.form_chosen = form;
+        if (MargesEnAttente(Rib(), world.programme.SaisieEnCours())) {
+            world.platform.Expect(BoxAnswer::no, {.title = "Rib levelling heel"}); // as it is shown
+        }
         Choose("mnu_filedxf", path);
     }
     std::string Out(const char *name = "rib.dxf") const { return world.folder.Path(name); }
@@ -66,7 +70,7 @@ class ExportingDxf : public RibFiles {
 };
 
 TEST_F(ExportingDxf, WritesTheFormThatIsChosen) {
-    OpenBytes("laden.lfw", LadenRib("11", false).Current());
+    OpenBytes("laden.lfw", LadenRib("1", false).Current());
     Export(kInterchange, Out("interchange.dxf"));
     Export(kPlain, Out("plain.dxf"));
     const std::string interchange = world.folder.Bytes("interchange.dxf");

@@ -72,6 +72,8 @@ TEST_F(SavingRibs, ARibWhoseChordWasRefusedCanBeSavedAndOpenedAgain) {
     ComponentsText wanted;
     wanted.spars[0][8] = "";
     wanted.holes[0][7] = "";
+    wanted.total = Rib().bloc.HTblocAfich;
+    wanted.text = Rib().texte.InsTexte;
     EXPECT_EQ(world.folder.Bytes("ribs/new.lfw"), wanted.Current());
     Open(world.folder.Path("ribs/new.lfw"));
     EXPECT_EQ(Rib().corde, 200.0F);

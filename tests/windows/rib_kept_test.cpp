@@ -51,7 +51,7 @@ class RibKept : public testing::Test {
 };
 
 TEST_F(RibKept, ResizingTheWindowDrawsNothingOfARefusedSpar) {
-    world.platform.Expect(BoxAnswer::ok, {.text = HasSubstr("leading or trailing edge")});
+    world.platform.Expect(BoxAnswer::ok, {.text = HasSubstr("reaches beyond the leading edge")});
     InNextDialog([this](Seen &dialog) {
         dialog.Fill("Text1(0)", "2");
         dialog.Fill("Text1(1)", "10");

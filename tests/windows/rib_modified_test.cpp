@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,7 +17,7 @@ struct Change {
     const char *what;
     const char *command;
     User user = {};
-    int questions = 0; ///< answered by Yes
+    std::optional<BoxAnswer> answer = {}; ///< to the box that it brings
 };
 
 /// Types one value and presses a button.
@@ -54,7 +55,7 @@ const std::vector<Change> &Changes() {
         {"V-notch, OK", "mnu_profilbaC", Types("infotxt(0)", "6")},
         {"V-notch, Apply", "mnu_profilbaC", Types("infotxt(0)", "6", "CmdApply")},
         {"spar, OK", "mnu_profillongeron", Slot("cmdok")},
-        {"spar, Add", "mnu_profillongeron", Slot("cmdajout")},
+        {"spar, Add", "mnu_profillongeron", Slot("cmdajout"), BoxAnswer::ok} /* it has no notch */,
         {"spar, Apply", "mnu_profillongeron", Slot("CmdApply")},
         {"hole, OK", "mnu_profiltrou", Slot("cmdok")},
         {"hole, Add", "mnu_profiltrou", Slot("cmdajout")},
@@ -66,7 +67,7 @@ const std::vector<Change> &Changes() {
         {"text, OK", "mnu_affInstxt", Types("infotxt(0)", "left wing")},
         {"text's place, Apply", "mnu_affInstxt", Types("infotxt(1)", "40", "CmdApply")},
         {"inversion", "mnu_affinver"},
-        {"defaults", "mnu_affdefaut", Types("txtdef(0)", "180"), 1},
+        {"defaults", "mnu_affdefaut", Types("txtdef(0)", "180"), BoxAnswer::yes},
     };
     return changes;
 }
@@ -97,8 +98,8 @@ TEST_F(RibModified, EveryChangeOfWhatTheFileHoldsCounts) {
         SCOPED_TRACE(change.what);
         Have();
         const std::string before = EcritComposants(Rib(), world.programme.settings.Unite);
-        for (int i = 0; i < change.questions; ++i) {
-            world.platform.Expect(BoxAnswer::yes);
+        if (change.answer) {
+            world.platform.Expect(*change.answer);
         }
         Run(change.command, change.user);
         EXPECT_NE(EcritComposants(Rib(), world.programme.settings.Unite), before);
