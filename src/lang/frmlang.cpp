@@ -1,5 +1,7 @@
 #include "lang/frmlang.h"
 
+#include <QPushButton>
+
 namespace loftwing {
 
 lang::lang(Programme &programme, MainView &view, QWidget *parent)
