@@ -105,6 +105,7 @@ std::vector<std::string> TaillesProposees(float taille) {
         sizes.insert(place, taille);
     }
     std::vector<std::string> entries;
+    entries.reserve(sizes.size());
     for (const float size : sizes) {
         entries.push_back(NumberText(size));
     }

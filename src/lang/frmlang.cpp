@@ -2,6 +2,8 @@
 
 #include "programme/load.h"
 
+#include <QPushButton>
+
 namespace loftwing {
 
 lang::lang(Programme &programme, MainView &view, QWidget *parent)

@@ -2,6 +2,7 @@
 
 #include "lang/frmlang.h"
 
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace loftwing {

@@ -68,6 +68,7 @@ void CommandBars::BuildMenus() {
     for (const Command &command : MenuCommands()) {
         AddCommand(command);
     }
+    // They stand above the entry that ends the program.
     BuildRecentFiles(menus_.at("mnu_file"), actions_.at("mnu_fileexit"));
 }
 

@@ -3,6 +3,7 @@
 #include "mainwindow/frmAbout.h"
 
 #include <QFormLayout>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace loftwing {

@@ -1,5 +1,6 @@
 #include "programme/qt_dialogue.h"
 
+#include "support/qt_seen.h"
 #include "support/scripted_platform.h"
 #include "support/temp_folder.h"
 
@@ -53,7 +54,7 @@ class Fenetre : public Dialogue {
     }
     void cmdannuler_Click() override {
         Note("cancel");
-        QDialog::reject();
+        Renonce();
     }
 };
 
@@ -64,11 +65,6 @@ class DialogueTest : public testing::Test {
     void Speak(const std::string &ok, const std::string &cancel) {
         folder.File("Test.lng", "[TextButton]\n1=" + ok + "\n2=" + cancel + "\n3=Help\n4=Apply\n");
         programme.language.Charge(folder.Path(), "Test");
-    }
-    static QPushButton &Button(const Fenetre &window, const char *name) {
-        auto *button = window.findChild<QPushButton *>(name);
-        EXPECT_NE(button, nullptr) << name;
-        return *button;
     }
 
     TempFolder folder;
@@ -85,16 +81,16 @@ TEST_F(DialogueTest, ButtonsStandInTheirRowWithTheirWords) {
     }
     EXPECT_THAT(names,
                 ElementsAre("cmdtest", "CmdApply", "cmdsave", "cmdok", "cmdannuler", "cmdaide"));
-    EXPECT_EQ(Button(window, "cmdok").text(), "Fine");
-    EXPECT_TRUE(Button(window, "cmdok").isDefault());
-    EXPECT_EQ(window.findChild<QPushButton *>("cmdfermer"), nullptr);
+    EXPECT_EQ(Seen(window).Word("cmdok"), "Fine");
+    EXPECT_TRUE(Seen(window).Find<QPushButton>("cmdok").isDefault());
+    EXPECT_FALSE(Seen(window).Has("cmdfermer"));
 }
 
 TEST_F(DialogueTest, EachButtonCallsItsHandler) {
     Fenetre window(programme);
     window.show();
     for (const char *name : {"CmdApply", "cmdaide", "cmdsave", "cmdok"}) {
-        Button(window, name).click();
+        Seen(window).Click(name);
     }
     EXPECT_THAT(window.called, ElementsAre("apply", "ok"));
     EXPECT_EQ(window.result(), QDialog::Accepted);
@@ -109,7 +105,7 @@ TEST_F(DialogueTest, EscapeAndTheClosingButtonCancel) {
     window.show();
     EXPECT_TRUE(window.close());
     window.show();
-    Button(window, "cmdannuler").click();
+    Seen(window).Click("cmdannuler");
     EXPECT_THAT(window.called, ElementsAre("cancel", "cancel", "cancel"));
     EXPECT_EQ(window.result(), QDialog::Rejected);
 }
@@ -120,7 +116,7 @@ TEST_F(DialogueTest, AFailureOfAHandlerIsToldAndGoesNoFurther) {
     window.show();
     for (const char *name : {"CmdApply", "cmdok", "cmdannuler"}) {
         platform.Expect(BoxAnswer::ok);
-        Button(window, name).click();
+        Seen(window).Click(name);
         EXPECT_EQ(platform.boxes.back().title, std::string(" fenetre/") + name);
     }
     platform.Expect(BoxAnswer::ok);
@@ -131,10 +127,10 @@ TEST_F(DialogueTest, AFailureOfAHandlerIsToldAndGoesNoFurther) {
 TEST_F(DialogueTest, AnotherLanguageIsTakenOverWhileItIsOpen) {
     Fenetre window(programme);
     Speak("Bien", "Sortir");
-    EXPECT_EQ(Button(window, "cmdok").text(), "Fine");
+    EXPECT_EQ(Seen(window).Word("cmdok"), "Fine");
     window.PoseMotsPartages();
-    EXPECT_EQ(Button(window, "cmdok").text(), "Bien");
-    EXPECT_EQ(Button(window, "cmdannuler").text(), "Sortir");
+    EXPECT_EQ(Seen(window).Word("cmdok"), "Bien");
+    EXPECT_EQ(Seen(window).Word("cmdannuler"), "Sortir");
 }
 
 TEST_F(DialogueTest, AnActionAloneLetsNoOtherStartUntilItIsDone) {
