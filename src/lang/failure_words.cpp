@@ -50,7 +50,7 @@ std::string Description(const Failure &failure, const LngIni &language) {
         return failure.detail; // nothing happened that has a name
     }
     const Row &row = RowOf(failure.number);
-    const std::string meaning = Or(language.LngText(row.words), row.usual);
+    std::string meaning = Or(language.LngText(row.words), row.usual);
     if (failure.detail.empty()) {
         return meaning;
     }
