@@ -111,11 +111,12 @@ std::vector<OptionRule> DrawingOptions(const DrawingVerb &verb) {
     return rules;
 }
 
-DrawingTarget TargetOf(const Arguments &arguments, const DrawingVerb &verb) {
+DrawingTarget TargetOf(const Arguments &arguments, const DrawingVerb &verb,
+                       const std::vector<std::string> &files) {
     const std::string out = arguments.Value("--output");
-    const bool one = arguments.Files().size() == verb.files_each;
+    const bool one = files.size() == verb.files_each;
     const bool more_may_be = verb.files_each == 1;
-    if (arguments.Files().empty() || out.empty() || (!one && !more_may_be)) {
+    if (files.empty() || out.empty() || (!one && !more_may_be)) {
         throw UsageError(std::string(verb.name) + " wants " + verb.wants + " and -o OUT");
     }
     if (out == "-") {
@@ -166,14 +167,14 @@ std::optional<std::string> Dessine(Programme &programme, const DrawingTarget &ta
     return std::move(exported.bytes);
 }
 
-int DrawAll(const Arguments &arguments, const DrawingVerb &verb, const Draw &draw) {
-    const DrawingTarget target = TargetOf(arguments, verb);
+int DrawAll(const Arguments &arguments, const DrawingVerb &verb,
+            const std::vector<std::string> &files, const Draw &draw) {
+    const DrawingTarget target = TargetOf(arguments, verb, files);
     if (target.several) {
         std::error_code error;
         fs::create_directories(target.folder, error);
     }
     const Toolkit toolkit(target.form->needs_toolkit);
-    const std::vector<std::string> &files = arguments.Files();
     int status = kDone;
     const auto each = static_cast<std::ptrdiff_t>(verb.files_each);
     for (auto at = files.begin(); at != files.end(); at += each) {
