@@ -67,6 +67,15 @@ const ExportForm &FormNamed(const Arguments &arguments, const DrawingVerb &verb,
     return variant == nullptr ? *usual : *variant;
 }
 
+/// Whether the page of several sheets is set up, which nobody can be asked for.
+bool HasOverlap(const Programme &programme) {
+    if (programme.settings.page.recouvrement != 0.0F) {
+        return true;
+    }
+    programme.messages.Inform(programme.Text({"FrmPrint", "24"}), "--overlap");
+    return false;
+}
+
 /// Runs the drawing of some FILEs. A failure to draw is told with the first one's name; one to
 /// write names OUT itself.
 bool DrawAndDeliver(const DrawingTarget &target, const std::vector<std::string> &files,
@@ -154,13 +163,10 @@ bool Deliver(const DrawingTarget &target, const std::string &file, const std::st
 std::optional<std::string> Dessine(Programme &programme, const DrawingTarget &target) {
     // Nothing was shown before: the form that goes on from the last plot starts primed as well.
     programme.plot = EtatAmorce(programme.rib);
-    Exported exported = target.form->Export(programme, [&programme] {
-        if (programme.settings.page.recouvrement != 0.0F) {
-            return true;
-        }
-        programme.messages.Inform(programme.Text({"FrmPrint", "24"}), "--overlap");
-        return false;
-    });
+    const ReglagePage page{[&programme] { return HasOverlap(programme); },
+                           {"--reference-line-at", "--margin-before", "--margin-after", "--paper"},
+                           false};
+    Exported exported = target.form->Export(programme, page);
     if (exported.rupture) {
         throw *exported.rupture;
     }

@@ -27,6 +27,10 @@ bool frmmain::RegleMiseEnPage() {
     return ShowModal(dialog) == QDialog::Accepted;
 }
 
+ReglagePage frmmain::ReglagePageIci() {
+    return ReglageDeFenetre(programme_.messages, [this] { return RegleMiseEnPage(); });
+}
+
 void frmmain::mnu_fileprinterconfig_Click() {
     programme_.platform.ShowPrinterSettings();
 }
@@ -42,7 +46,14 @@ void frmmain::mnu_fileprint_Click() {
     }
     PlotState plot = EtatAmorce(programme_.rib);
     const Impression run = ImpressionDeVue(programme_, plot);
-    if (!PrepareFeuilles(run, [this] { return RegleMiseEnPage(); })) {
+    const ReglagePage page = ReglagePageIci();
+    if (!PrepareFeuilles(run, page.regle)) {
+        return;
+    }
+    if (const auto end = AvertitHorsFeuille(programme_, page, PapierDe(programme_.settings.page))) {
+        if (*end == FinImpression::trace_echec) {
+            affclear();
+        }
         return;
     }
     const auto printer = programme_.platform.OpenPrinter(DemandeImprimante(run));

@@ -12,14 +12,18 @@ namespace {
 constexpr double kBras = 5.0; // arms of a cross, mm
 constexpr double kTailleTexte = 10.0;
 
+void MetEchelle(const Impression &run) {
+    run.plot.CordeEchelle = ToSingle(Wide(run.rib.corde) * kUnitsPerMm);
+    run.rib.Zoom = 1;
+}
+
 void PrepareImprimante(const Impression &run, Printer &printer, const Papier &paper) {
     printer.SetOrientation(Orientation::landscape);
     printer.SetPaperSize(paper.largeur, paper.tailleFeuille);
     printer.Font.size = kTailleTexte;
     printer.CurrentX = 0;
     printer.CurrentY = 0;
-    run.plot.CordeEchelle = ToSingle(Wide(run.rib.corde) * kUnitsPerMm);
-    run.rib.Zoom = 1;
+    MetEchelle(run);
 }
 
 void PlaceOrigine(const Impression &run) {
@@ -112,6 +116,14 @@ bool PrepareFeuilles(const Impression &run, const std::function<bool()> &set_up_
     } catch (const Failure &failure) {
         run.messages.ReportPlot(failure, "");
         return false;
+    }
+}
+
+void PlaceFeuille(const Impression &run, int i) {
+    MetEchelle(run);
+    PlaceOrigine(run);
+    if (run.settings.page.NumIndex != kPapierImprimante) {
+        DecaleOrigine(run, i);
     }
 }
 

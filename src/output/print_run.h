@@ -42,6 +42,9 @@ std::string QuestionImpression(const RibModel &rib, const Comparaison &compare,
 /// table hasn't, are reported before.
 bool PrepareFeuilles(const Impression &run, const std::function<bool()> &set_up_page);
 
+/// Sets scale and origin as sheet `i` of the run, from 0, has them.
+void PlaceFeuille(const Impression &run, int i);
+
 /// What the platform is asked for the run's paper.
 PrintQuestion DemandeImprimante(const Impression &run);
 

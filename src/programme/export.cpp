@@ -1,5 +1,6 @@
 #include "programme/export.h"
 
+#include "output/sheeting.h"
 #include "output/view_screen.h"
 
 namespace loftwing {
@@ -31,6 +32,48 @@ Impression ImpressionDeVue(Programme &programme, PlotState &plot) {
                 return TraceVue({device, rib, settings, plot, messages}, compare);
             },
             NomDuDessin(rib, compare)};
+}
+
+ReglagePage ReglageDeFenetre(const Messages &messages, std::function<bool()> regle) {
+    return {std::move(regle),
+            {messages.Text({"FrmPrint", "7"}), messages.Text({"FrmPrint", "19"}),
+             messages.Text({"FrmPrint", "20"}), messages.Text({"FrmPrint", "3"})}};
+}
+
+namespace {
+
+/// Measures the view's drawing, which leaves no trace on the one that is printed. A failure is the
+/// print run's to tell; here there is then nothing to say.
+std::optional<HorsFeuille> MesureVue(Programme &programme, const Papier &propre) {
+    const PartieGardee<Vue> view(programme.rib);
+    try {
+        PlotState apart = EtatAmorce(programme.rib);
+        return MesureHorsFeuille(ImpressionDeVue(programme, apart), propre);
+    } catch (const Failure &) {
+        return HorsFeuille{};
+    }
+}
+
+} // namespace
+
+std::optional<FinImpression> AvertitHorsFeuille(Programme &programme, const ReglagePage &page,
+                                                const Papier &propre) {
+    const Messages &messages = programme.messages;
+    const std::optional<HorsFeuille> found = MesureVue(programme, propre);
+    if (!found) {
+        return FinImpression::trace_echec;
+    }
+    if (found->tout.Aucun()) {
+        return std::nullopt;
+    }
+    const std::string titre = messages.Text({"FrmPrint", "1"});
+    const std::string text = TexteHorsFeuille(*found, page.noms, programme.SaisieEnCours());
+    if (!page.demande) {
+        messages.Tell(text, titre, BoxIcon::warning);
+        return std::nullopt;
+    }
+    const bool goes_on = messages.Confirm(text + "\n" + messages.Text({"FrmPrint", "240"}), titre);
+    return goes_on ? std::nullopt : std::optional(FinImpression::annule);
 }
 
 FinImpression ImprimeVue(const Impression &run, Printer &printer) {

@@ -80,9 +80,9 @@ Choix DemandeFichier(const Programme &programme, const EntreeExport &entree,
     return {answer.path, At(forms, static_cast<long>(answer.form))};
 }
 
-Exported Fait(Programme &programme, const ExportForm &form, const SetUpPage &set_up_page) {
+Exported Fait(Programme &programme, const ExportForm &form, const ReglagePage &page) {
     const Sablier sablier(programme.platform);
-    return form.Export(programme, set_up_page);
+    return form.Export(programme, page);
 }
 
 void Ecrit(const Programme &programme, const EntreeExport &entree, const Choix &choix,
@@ -101,7 +101,7 @@ void Ecrit(const Programme &programme, const EntreeExport &entree, const Choix &
 
 } // namespace
 
-bool ExporteVue(Programme &programme, const EntreeExport &entree, const SetUpPage &set_up_page) {
+bool ExporteVue(Programme &programme, const EntreeExport &entree, const ReglagePage &page) {
     if (entree.separateur) {
         // A warning only: the export writes points whatever the system has.
         ControleSeparateurCommande(programme, *entree.separateur);
@@ -110,14 +110,14 @@ bool ExporteVue(Programme &programme, const EntreeExport &entree, const SetUpPag
     Choix choix;
     Exported exported;
     if (forms.size() == 1) {
-        exported = Fait(programme, *forms.front(), set_up_page);
+        exported = Fait(programme, *forms.front(), page);
         if (exported.bytes) {
             choix = DemandeFichier(programme, entree, forms);
         }
     } else {
         choix = DemandeFichier(programme, entree, forms);
         if (!choix.path.empty()) {
-            exported = Fait(programme, *choix.form, set_up_page);
+            exported = Fait(programme, *choix.form, page);
         }
     }
     if (!choix.path.empty()) {
