@@ -44,23 +44,7 @@ void frmmain::mnu_fileprint_Click() {
     if (!DemandeMarges(programme_, *this)) {
         return;
     }
-    PlotState plot = EtatAmorce(programme_.rib);
-    const Impression run = ImpressionDeVue(programme_, plot);
-    const ReglagePage page = ReglagePageIci();
-    if (!PrepareFeuilles(run, page.regle)) {
-        return;
-    }
-    if (const auto end = AvertitHorsFeuille(programme_, page, PapierDe(programme_.settings.page))) {
-        if (*end == FinImpression::trace_echec) {
-            affclear();
-        }
-        return;
-    }
-    const auto printer = programme_.platform.OpenPrinter(DemandeImprimante(run));
-    if (!printer) {
-        return;
-    }
-    if (ImprimeVue(run, *printer) == FinImpression::trace_echec) {
+    if (ImprimeSurDemande(programme_, ReglagePageIci()) == FinImpression::trace_echec) {
         affclear();
     }
 }

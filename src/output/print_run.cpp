@@ -1,6 +1,8 @@
 #include "output/print_run.h"
 
+#include "base/number_text.h"
 #include "output/page_entry.h"
+#include "output/print_file.h"
 #include "output/styles.h"
 #include "output/view_plots.h"
 #include "platform/busy_pointer.h"
@@ -134,7 +136,18 @@ PrintQuestion DemandeImprimante(const Impression &run) {
     question.long_side_mm = paper.tailleFeuille;
     question.short_side_mm = paper.largeur;
     question.proposed_pdf = run.nom + ".pdf";
+    question.pdf_title = TitreFichierImprime(run.messages);
     return question;
+}
+
+std::string ResumeFeuilles(const Impression &run) {
+    const MiseEnPage &page = run.settings.page;
+    MiseEnPage counted = page;
+    if (page.NumIndex == kPapierImprimante) {
+        counted.NbPages = 1;
+    }
+    return TextePages(counted, run.messages.language) + "\n" +
+           std::string(Trim(NomFeuille(page.NumIndex, run.messages.language)));
 }
 
 FinImpression imprime1page(const Impression &run, Printer &printer) {

@@ -48,6 +48,9 @@ void PlaceFeuille(const Impression &run, int i);
 /// What the platform is asked for the run's paper.
 PrintQuestion DemandeImprimante(const Impression &run);
 
+/// How many sheets of which paper the run takes, a line each.
+std::string ResumeFeuilles(const Impression &run);
+
 /// One sheet on the printer's own paper; what lies beyond it is lost.
 FinImpression imprime1page(const Impression &run, Printer &printer);
 /// NbPages sheets of the chosen paper, with alignment crosses where there are several.

@@ -1,7 +1,9 @@
 #include "programme/export.h"
 
+#include "output/print_file.h"
 #include "output/sheeting.h"
 #include "output/view_screen.h"
+#include "programme/nom_propose.h"
 
 namespace loftwing {
 
@@ -79,6 +81,28 @@ std::optional<FinImpression> AvertitHorsFeuille(Programme &programme, const Regl
 FinImpression ImprimeVue(const Impression &run, Printer &printer) {
     const PartieGardee<Vue> view(run.rib);
     return Imprime(run, printer);
+}
+
+FinImpression ImprimeSurDemande(Programme &programme, const ReglagePage &page) {
+    PlotState plot = EtatAmorce(programme.rib);
+    const Impression run = ImpressionDeVue(programme, plot);
+    if (!PrepareFeuilles(run, page.regle)) {
+        return FinImpression::annule;
+    }
+    if (const auto end = AvertitHorsFeuille(programme, page, PapierDe(programme.settings.page))) {
+        return *end;
+    }
+    PrintQuestion question = DemandeImprimante(run);
+    question.proposed_pdf = NomPropose(programme) + ".pdf";
+    const auto printer = programme.platform.OpenPrinter(question);
+    if (!printer) {
+        return FinImpression::annule;
+    }
+    const FinImpression end = ImprimeVue(run, *printer);
+    if (end == FinImpression::imprime) {
+        DitFichierImprime(*printer, programme.messages, ResumeFeuilles(run));
+    }
+    return end;
 }
 
 } // namespace loftwing

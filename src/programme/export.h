@@ -38,6 +38,10 @@ ReglagePage ReglageDeFenetre(const Messages &messages, std::function<bool()> reg
 std::optional<FinImpression> AvertitHorsFeuille(Programme &programme, const ReglagePage &page,
                                                 const Papier &propre);
 
+/// The whole of a print command: sheets, warning, the choice of a printer, the run, and where it
+/// went if that is a file. Failures of a printer that doesn't open.
+FinImpression ImprimeSurDemande(Programme &programme, const ReglagePage &page);
+
 /// Imprime, after which the screen's zoom is in force again: it is what the list of zooms shows.
 FinImpression ImprimeVue(const Impression &run, Printer &printer);
 

@@ -2,26 +2,16 @@
 
 #include "base/whole_file.h"
 #include "lang/ini_file.h"
-#include "output/view_screen.h"
 #include "platform/busy_pointer.h"
 #include "programme/dossiers.h"
-#include "programme/rib_file.h"
+#include "programme/nom_propose.h"
 #include "programme/startup.h"
 
 #include <algorithm>
-#include <filesystem>
 
 namespace loftwing {
 
 namespace {
-
-/// The file's name without its extension: the rib file's where the rib has one, else the drawing's.
-std::string NomPropose(const Programme &programme, const EntreeExport &entree) {
-    const RibModel &rib = programme.rib;
-    const bool of_rib_file = entree.dossier != nullptr && EstComposants(rib.NomFichierRib);
-    return of_rib_file ? std::filesystem::path(rib.NomFichierRib).stem().string()
-                       : NomDuDessin(rib, programme.compare);
-}
 
 constexpr const char *kSection = "Export";
 
@@ -62,7 +52,7 @@ Choix DemandeFichier(const Programme &programme, const EntreeExport &entree,
     FileQuestion question;
     question.filter_text = FiltreDe(first, messages);
     question.title = entree.titre ? messages.Text(*entree.titre) : question.filter_text;
-    question.name = NomPropose(programme, entree) + "." + first.extension;
+    question.name = NomPropose(programme) + "." + first.extension;
     question.default_extension = first.extension;
     if (entree.dossier != nullptr) {
         question.folder =
