@@ -26,6 +26,8 @@ Impression ImpressionDeVue(Programme &programme, PlotState &plot) {
     const AppSettings &settings = programme.settings;
     const Messages &messages = programme.messages;
     const Comparaison &compare = programme.compare;
+    // A rib from a file has none yet; its sheets would be counted as if it were nothing long.
+    ReprendLongueur(rib);
     return {rib,
             programme.settings,
             plot,

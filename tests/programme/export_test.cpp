@@ -63,6 +63,25 @@ TEST_F(PrintCommand, ThePrintersOwnPaperIsOneSheet) {
     EXPECT_EQ(Print(), FinImpression::imprime);
 }
 
+TEST_F(PrintCommand, ATemplateFromAFileIsTiledByItsWholeLength) {
+    ComponentsText rib;
+    rib.kind = "1";
+    rib.chord = "230";
+    rib.below = "20";
+    rib.total = "60";
+    rib.ramp = "30";
+    rib.tail_ramp = "50"; // 310 mm with margins of 25 mm: more than 297, less than two steps of 252
+    folder.File("airfoils/naca2412.dat", ReadWholeFile(Sample("naca2412.dat")));
+    Rib().Modifie = false;
+    OuvreFichier(programme, view, folder.File("template.lfw", rib.Current()));
+    ASSERT_EQ(Rib().TypeGabarit, kGabaritMousse);
+    file = "/tmp/template.pdf";
+    ExpectBox(BoxAnswer::ok,
+              "The print is a PDF file :\n/tmp/template.pdf\nNumber of pages : 2\nA4 210 x 297 mm",
+              "Loftwing");
+    EXPECT_EQ(Print(), FinImpression::imprime);
+}
+
 TEST_F(PrintCommand, APrinterNeedsNoWord) {
     EXPECT_EQ(Print(), FinImpression::imprime);
     EXPECT_THAT(platform.boxes, IsEmpty());
