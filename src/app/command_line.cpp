@@ -14,11 +14,14 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 #include <iostream>
 
 namespace loftwing {
 
 namespace {
+
+namespace fs = std::filesystem;
 
 struct Verb {
     const char *name;
@@ -26,11 +29,14 @@ struct Verb {
     const char *summary;
     std::vector<OptionRule> (*options)();
     int (*run)(const Arguments &arguments);
+    // Another way to use it, for its own help; null without one.
+    const char *other_usage = nullptr;
+    const char *other_summary = nullptr;
 };
 
 constexpr std::array kVerbs = {
     Verb{"draw", "draw FILE... -o OUT", "a rib drawing (or several: --to EXT -o DIR/)", DrawOptions,
-         RunDraw},
+         RunDraw, "draw RIB.lfw --on FILE... -o OUT", "the rib's features on other airfoils"},
     Verb{"info", "info FILE... [--json]", "what the program knows of an airfoil", InfoOptions,
          RunInfo},
     Verb{"ribs", "ribs ROOT TIP ... -o DIR", "a full set of ribs between two airfoils", RibsOptions,
@@ -70,7 +76,11 @@ void PrintHelp() {
 }
 
 void PrintHelp(const Verb &verb) {
-    std::cout << "loftwing " << verb.usage << "\n    " << verb.summary << "\n\n";
+    std::cout << "loftwing " << verb.usage << "\n    " << verb.summary << '\n';
+    if (verb.other_usage != nullptr) {
+        std::cout << "loftwing " << verb.other_usage << "\n    " << verb.other_summary << '\n';
+    }
+    std::cout << '\n';
     for (const OptionRule &rule : verb.options()) {
         const std::string value = rule.value == nullptr ? "" : std::string(" ") + rule.value;
         std::cout << "  " << Padded(rule.name + value, kOptionColumn) << rule.help << '\n';
@@ -101,10 +111,20 @@ int Run(const Verb &verb, const std::vector<std::string> &words) {
     return RunVerb(verb, Arguments({words.begin() + 1, words.end()}, verb.options()));
 }
 
+/// Whether a word is nothing that the program could do: it is no command, and no file has that
+/// name. Where that can't be told the window tries, and says what is wrong.
+bool IsNothing(const std::vector<std::string> &words) {
+    if (words.empty() || words.front().starts_with('-') || FindVerb(words) != nullptr) {
+        return false;
+    }
+    std::error_code error;
+    return fs::status(words.front(), error).type() == fs::file_type::not_found;
+}
+
 } // namespace
 
 bool IsCommandLine(const std::vector<std::string> &words) {
-    return FindVerb(words) != nullptr ||
+    return FindVerb(words) != nullptr || IsNothing(words) ||
            (!words.empty() && (words.front() == "--help" || words.front() == "--version"));
 }
 
@@ -112,6 +132,9 @@ int RunCommandLine(const std::vector<std::string> &words) {
     try {
         if (const Verb *verb = FindVerb(words)) {
             return Run(*verb, words);
+        }
+        if (IsNothing(words)) {
+            throw UsageError("no command \"" + words.front() + "\", and no file of that name");
         }
         if (words.front() == "--version") {
             std::cout << "loftwing " << kVersion << '\n';

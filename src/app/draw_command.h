@@ -1,4 +1,4 @@
-/// `loftwing draw`: a rib drawing as a file.
+/// `loftwing draw`: rib drawings as files.
 #pragma once
 
 #include "app/arguments.h"
@@ -6,7 +6,8 @@
 namespace loftwing {
 
 std::vector<OptionRule> DrawOptions();
-/// Draws each FILE; the exit status. Nothing half written is left under the name of OUT.
+/// Draws each FILE, or one rib on several airfoils; the exit status. Nothing half written is left
+/// under the name of OUT.
 int RunDraw(const Arguments &arguments);
 
 } // namespace loftwing

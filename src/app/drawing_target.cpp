@@ -67,6 +67,15 @@ const ExportForm &FormNamed(const Arguments &arguments, const DrawingVerb &verb,
     return variant == nullptr ? *usual : *variant;
 }
 
+/// Whether the page of several sheets is set up, which nobody can be asked for.
+bool HasOverlap(const Programme &programme) {
+    if (programme.settings.page.recouvrement != 0.0F) {
+        return true;
+    }
+    programme.messages.Inform(programme.Text({"FrmPrint", "24"}), "--overlap");
+    return false;
+}
+
 /// Runs the drawing of some FILEs. A failure to draw is told with the first one's name; one to
 /// write names OUT itself.
 bool DrawAndDeliver(const Arguments &arguments, const DrawingTarget &target,
@@ -111,11 +120,12 @@ std::vector<OptionRule> DrawingOptions(const DrawingVerb &verb) {
     return rules;
 }
 
-DrawingTarget TargetOf(const Arguments &arguments, const DrawingVerb &verb) {
+DrawingTarget TargetOf(const Arguments &arguments, const DrawingVerb &verb,
+                       const std::vector<std::string> &files) {
     const std::string out = arguments.Value("--output");
-    const bool one = arguments.Files().size() == verb.files_each;
+    const bool one = files.size() == verb.files_each;
     const bool more_may_be = verb.files_each == 1;
-    if (arguments.Files().empty() || out.empty() || (!one && !more_may_be)) {
+    if (files.empty() || out.empty() || (!one && !more_may_be)) {
         throw UsageError(std::string(verb.name) + " wants " + verb.wants + " and -o OUT");
     }
     if (out == "-") {
@@ -153,27 +163,24 @@ bool Deliver(const DrawingTarget &target, const std::string &file, const std::st
 std::optional<std::string> Dessine(Programme &programme, const DrawingTarget &target) {
     // Nothing was shown before: the form that goes on from the last plot starts primed as well.
     programme.plot = EtatAmorce(programme.rib);
-    Exported exported = target.form->Export(programme, [&programme] {
-        if (programme.settings.page.recouvrement != 0.0F) {
-            return true;
-        }
-        programme.messages.Inform(programme.Text({"FrmPrint", "24"}), "--overlap");
-        return false;
-    });
+    const ReglagePage page{[&programme] { return HasOverlap(programme); },
+                           {"--reference-line-at", "--margin-before", "--margin-after", "--paper"},
+                           false};
+    Exported exported = target.form->Export(programme, page);
     if (exported.rupture) {
         throw *exported.rupture;
     }
     return std::move(exported.bytes);
 }
 
-int DrawAll(const Arguments &arguments, const DrawingVerb &verb, const Draw &draw) {
-    const DrawingTarget target = TargetOf(arguments, verb);
+int DrawAll(const Arguments &arguments, const DrawingVerb &verb,
+            const std::vector<std::string> &files, const Draw &draw) {
+    const DrawingTarget target = TargetOf(arguments, verb, files);
     if (target.several) {
         std::error_code error;
         fs::create_directories(target.folder, error);
     }
     const Toolkit toolkit(target.form->needs_toolkit);
-    const std::vector<std::string> &files = arguments.Files();
     int status = kDone;
     const auto each = static_cast<std::ptrdiff_t>(verb.files_each);
     for (auto at = files.begin(); at != files.end(); at += each) {

@@ -30,8 +30,10 @@ struct DrawingVerb {
 /// apart.
 std::vector<OptionRule> DrawingOptions(const DrawingVerb &verb);
 
-/// Throws UsageError for words that name no place, no form, or one that the verb doesn't have.
-DrawingTarget TargetOf(const Arguments &arguments, const DrawingVerb &verb);
+/// Where the drawings of `files` go. Throws UsageError for words that name no place, no form, or
+/// one that the verb doesn't have.
+DrawingTarget TargetOf(const Arguments &arguments, const DrawingVerb &verb,
+                       const std::vector<std::string> &files);
 
 /// Writes a drawing whole; in a folder it is named after `file`. Failure 75 when it is refused.
 /// False when standard output is.
@@ -47,8 +49,9 @@ std::optional<std::string> Dessine(Programme &programme, const DrawingTarget &ta
 using Draw = std::function<std::optional<std::string>(
     const DrawingTarget &target, const std::vector<std::string> &files, bool &complete)>;
 
-/// Draws all that the command line names and gives the exit status. A refused drawing stops no
-/// other one, and leaves nothing under its name.
-int DrawAll(const Arguments &arguments, const DrawingVerb &verb, const Draw &draw);
+/// Draws all `files`, as many as the verb wants at a time, and gives the exit status. A refused
+/// drawing stops no other one, and leaves nothing under its name.
+int DrawAll(const Arguments &arguments, const DrawingVerb &verb,
+            const std::vector<std::string> &files, const Draw &draw);
 
 } // namespace loftwing

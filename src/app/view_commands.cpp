@@ -118,7 +118,7 @@ std::vector<OptionRule> PlotOptions() {
 }
 
 int RunPlot(const Arguments &arguments) {
-    return DrawAll(arguments, kPlot,
+    return DrawAll(arguments, kPlot, arguments.Files(),
                    [&arguments](const DrawingTarget &target, const std::vector<std::string> &files,
                                 bool &complete) {
                        complete = true;
@@ -132,7 +132,7 @@ std::vector<OptionRule> CompareOptions() {
 
 int RunCompare(const Arguments &arguments) {
     return DrawAll(
-        arguments, kCompare,
+        arguments, kCompare, arguments.Files(),
         [&arguments](const DrawingTarget &target, const std::vector<std::string> &files,
                      bool &complete) { return DrawCompare(arguments, target, files, complete); });
 }

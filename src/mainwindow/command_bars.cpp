@@ -43,12 +43,14 @@ void CommandBars::AddCommand(const Command &command) {
     QAction *action = nullptr;
     if (command.submenu) {
         auto *menu = new QMenu(&window_);
+        menu->setToolTipsVisible(true); // of entries that have one
         menu->setObjectName(command.name);
         menus_[command.name] = menu;
         action = parent == nullptr ? window_.menuBar()->addMenu(menu) : parent->addMenu(menu);
     } else {
         action = parent->addAction(QString());
         action->setCheckable(command.checkable);
+        action->setEnabled(!command.ailleurs);
         if (command.keys != nullptr) {
             action->setShortcut(QKeySequence(QString::fromLatin1(command.keys)));
         }
@@ -175,6 +177,9 @@ void CommandBars::PoseTextes(const LngIni &language) {
     const auto caption = [&language](LngKey key) { return Q(language.LngText(key)); };
     for (const Command &command : MenuCommands()) {
         actions_.at(command.name)->setText(caption(command.text));
+        if (command.ailleurs) {
+            actions_.at(command.name)->setToolTip(caption(*command.ailleurs));
+        }
     }
     actions_.at("mnu_helpVersion")->setText("Check " + caption({"FrmAbout", "3"}));
     for (const PushButton &button : PushButtons()) {

@@ -29,6 +29,13 @@ Command Check(const char *name, const char *menu, LngKey text, unsigned groups,
     return {name, menu, text, nullptr, groups, true, false, false, handler};
 }
 
+/// An entry whose thing is found elsewhere.
+Command Ailleurs(const char *name, const char *menu, LngKey text, LngKey ailleurs) {
+    Command command = Entry(name, menu, text, kAlways, nullptr);
+    command.ailleurs = ailleurs;
+    return command;
+}
+
 Command Below(Command command) {
     command.separator = true;
     return command;
@@ -133,7 +140,7 @@ std::vector<Command> LayoutMenu() {
         Menu(menu, {"MenuLayout", "1"}, kWithRib | kDiesOnClear | kNotInView),
         Entry("mnu_paramrep", menu, {"MenuLayout", "2"}, kAlways, &frmmain::mnu_paramrep_Click),
         Entry("mnu_parambloc", menu, {"MenuLayout", "3"}, kAlways, &frmmain::mnu_parambloc_Click),
-        Entry("mnu_paramvril", menu, {"MenuLayout", "4"}, kAlways, nullptr),
+        Ailleurs("mnu_paramvril", menu, {"MenuLayout", "4"}, {"MenuLayout", "230"}),
     };
 }
 
@@ -171,8 +178,8 @@ std::vector<Command> HelpMenu() {
         Entry("mnu_helpsearch", menu, {"MenuHelp", "2"}, kAlways, &frmmain::mnu_helpsearch_Click,
               "F1"),
         // Its caption is a fixed word and the word for version; see AppliqueLangue.
-        Entry("mnu_helpVersion", menu, {"FrmAbout", "3"}, kAlways, nullptr),
-        Entry("mnu_helpConfig", menu, {"MenuHelp", "4"}, kAlways, nullptr),
+        Ailleurs("mnu_helpVersion", menu, {"FrmAbout", "3"}, {"MenuHelp", "230"}),
+        Ailleurs("mnu_helpConfig", menu, {"MenuHelp", "4"}, {"MenuHelp", "231"}),
         Below(Entry("mnu_helpAbout", menu, {"MenuHelp", "3"}, kAlways,
                     &frmmain::mnu_helpAbout_Click)),
     };

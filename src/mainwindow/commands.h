@@ -5,6 +5,7 @@
 #include "lang/LngIni.h"
 #include "programme/command_states.h"
 
+#include <optional>
 #include <vector>
 
 namespace loftwing {
@@ -27,6 +28,9 @@ struct Command {
     bool separator; ///< a line before it
     CommandHandler handler;
     const EntreeExport *exporte = nullptr; ///< of an entry that writes the drawing to a file
+    /// Of an entry that does nothing and is never alive: its tool tip, which says where the thing
+    /// is found.
+    std::optional<LngKey> ailleurs = std::nullopt;
 };
 
 /// All menus and menu entries, in the order in which they stand.

@@ -9,6 +9,7 @@
 namespace loftwing {
 
 struct EntreeExport;
+struct ReglagePage;
 
 /// The commands of the main window and its redraws. What a command does stands in the units
 /// programme/*_steps; its handler here only opens windows and asks those.
@@ -94,6 +95,8 @@ class frmmain : public MainFrame {
     void ConnectPicture();
     /// Lets the user set up the page; false when that is cancelled.
     bool RegleMiseEnPage();
+    /// How a print run reaches that.
+    ReglagePage ReglagePageIci();
     void Exporte(const EntreeExport &entree);
 };
 

@@ -27,6 +27,10 @@ bool frmmain::RegleMiseEnPage() {
     return ShowModal(dialog) == QDialog::Accepted;
 }
 
+ReglagePage frmmain::ReglagePageIci() {
+    return ReglageDeFenetre(programme_.messages, [this] { return RegleMiseEnPage(); });
+}
+
 void frmmain::mnu_fileprinterconfig_Click() {
     programme_.platform.ShowPrinterSettings();
 }
@@ -40,16 +44,7 @@ void frmmain::mnu_fileprint_Click() {
     if (!DemandeMarges(programme_, *this)) {
         return;
     }
-    PlotState plot = EtatAmorce(programme_.rib);
-    const Impression run = ImpressionDeVue(programme_, plot);
-    if (!PrepareFeuilles(run, [this] { return RegleMiseEnPage(); })) {
-        return;
-    }
-    const auto printer = programme_.platform.OpenPrinter(DemandeImprimante(run));
-    if (!printer) {
-        return;
-    }
-    if (ImprimeVue(run, *printer) == FinImpression::trace_echec) {
+    if (ImprimeSurDemande(programme_, ReglagePageIci()) == FinImpression::trace_echec) {
         affclear();
     }
 }

@@ -1,6 +1,7 @@
 // The commands of the main window that read and write files of the rib.
 
 #include "mainwindow/frmmain.h"
+#include "programme/export.h"
 #include "programme/file_steps.h"
 #include "programme/heel_steps.h"
 #include "programme/qt_export_command.h"
@@ -34,8 +35,7 @@ void frmmain::mnu_filesaveas_Click() {
 
 void frmmain::Exporte(const EntreeExport &entree) {
     Garde(entree.etiquette, [this, &entree] {
-        if (DemandeMarges(programme_, *this) &&
-            !ExporteVue(programme_, entree, [this] { return RegleMiseEnPage(); })) {
+        if (DemandeMarges(programme_, *this) && !ExporteVue(programme_, entree, ReglagePageIci())) {
             affclear();
         }
     });

@@ -1,6 +1,8 @@
 #include "output/print_run.h"
 
+#include "base/number_text.h"
 #include "output/page_entry.h"
+#include "output/print_file.h"
 #include "output/styles.h"
 #include "output/view_plots.h"
 #include "platform/busy_pointer.h"
@@ -12,14 +14,18 @@ namespace {
 constexpr double kBras = 5.0; // arms of a cross, mm
 constexpr double kTailleTexte = 10.0;
 
+void MetEchelle(const Impression &run) {
+    run.plot.CordeEchelle = ToSingle(Wide(run.rib.corde) * kUnitsPerMm);
+    run.rib.Zoom = 1;
+}
+
 void PrepareImprimante(const Impression &run, Printer &printer, const Papier &paper) {
     printer.SetOrientation(Orientation::landscape);
     printer.SetPaperSize(paper.largeur, paper.tailleFeuille);
     printer.Font.size = kTailleTexte;
     printer.CurrentX = 0;
     printer.CurrentY = 0;
-    run.plot.CordeEchelle = ToSingle(Wide(run.rib.corde) * kUnitsPerMm);
-    run.rib.Zoom = 1;
+    MetEchelle(run);
 }
 
 void PlaceOrigine(const Impression &run) {
@@ -115,6 +121,14 @@ bool PrepareFeuilles(const Impression &run, const std::function<bool()> &set_up_
     }
 }
 
+void PlaceFeuille(const Impression &run, int i) {
+    MetEchelle(run);
+    PlaceOrigine(run);
+    if (run.settings.page.NumIndex != kPapierImprimante) {
+        DecaleOrigine(run, i);
+    }
+}
+
 PrintQuestion DemandeImprimante(const Impression &run) {
     const Papier &paper = PapierDe(run.settings.page);
     PrintQuestion question;
@@ -122,7 +136,18 @@ PrintQuestion DemandeImprimante(const Impression &run) {
     question.long_side_mm = paper.tailleFeuille;
     question.short_side_mm = paper.largeur;
     question.proposed_pdf = run.nom + ".pdf";
+    question.pdf_title = TitreFichierImprime(run.messages);
     return question;
+}
+
+std::string ResumeFeuilles(const Impression &run) {
+    const MiseEnPage &page = run.settings.page;
+    MiseEnPage counted = page;
+    if (page.NumIndex == kPapierImprimante) {
+        counted.NbPages = 1;
+    }
+    return TextePages(counted, run.messages.language) + "\n" +
+           std::string(Trim(NomFeuille(page.NumIndex, run.messages.language)));
 }
 
 FinImpression imprime1page(const Impression &run, Printer &printer) {

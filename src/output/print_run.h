@@ -42,8 +42,14 @@ std::string QuestionImpression(const RibModel &rib, const Comparaison &compare,
 /// table hasn't, are reported before.
 bool PrepareFeuilles(const Impression &run, const std::function<bool()> &set_up_page);
 
+/// Sets scale and origin as sheet `i` of the run, from 0, has them.
+void PlaceFeuille(const Impression &run, int i);
+
 /// What the platform is asked for the run's paper.
 PrintQuestion DemandeImprimante(const Impression &run);
+
+/// How many sheets of which paper the run takes, a line each.
+std::string ResumeFeuilles(const Impression &run);
 
 /// One sheet on the printer's own paper; what lies beyond it is lost.
 FinImpression imprime1page(const Impression &run, Printer &printer);

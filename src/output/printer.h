@@ -22,6 +22,8 @@ class Printer : public PlotDevice {
     /// Drops the job: nothing is printed, no file is left. A job that is destroyed without EndDoc
     /// is dropped too.
     virtual void Abort() = 0;
+    /// The file that EndDoc writes; empty where it is no file that the user named.
+    virtual std::string Fichier() const { return {}; }
 };
 
 } // namespace loftwing

@@ -1,6 +1,7 @@
 #include "output/test_page.h"
 
 #include "base/version.h"
+#include "output/print_file.h"
 #include "output/printer.h"
 #include "output/styles.h"
 
@@ -96,6 +97,7 @@ PrintQuestion DemandePageTest(const Messages &messages) {
     question.document = messages.Text({"FrmLines", "19"});
     question.landscape = false;
     question.proposed_pdf = question.document + ".pdf";
+    question.pdf_title = TitreFichierImprime(messages);
     return question;
 }
 
@@ -139,17 +141,19 @@ void TracePageTest(PlotDevice &device, const LngIni &language) {
 }
 
 bool cmdImprtest(const Messages &messages) {
+    std::string file;
     try {
         const auto printer = messages.platform.OpenPrinter(DemandePageTest(messages));
         if (!printer) {
             return false;
         }
         Imprime(*printer, messages.language);
+        file = TexteFichierImprime(*printer, messages);
     } catch (const Failure &failure) {
         messages.ReportPlot(failure, " cmdImprtest");
         return false;
     }
-    messages.Inform(messages.Text({"FrmLines", "23"}), kTitre);
+    messages.Inform(file.empty() ? messages.Text({"FrmLines", "23"}) : file, kTitre);
     return true;
 }
 

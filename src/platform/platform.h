@@ -50,11 +50,12 @@ struct FormAnswer {
 
 /// What a print run wants to know of the sheet before it opens the printer.
 struct PrintQuestion {
-    std::string document;     ///< name of the job in the queue
-    bool landscape = true;    ///< portrait otherwise
-    double long_side_mm = 0;  ///< 0: the paper that is set in the printer
-    double short_side_mm = 0; ///< likewise
-    std::string proposed_pdf; ///< file name to offer where no printer is installed
+    std::string document;       ///< name of the job in the queue
+    bool landscape = true;      ///< portrait otherwise
+    double long_side_mm = 0;    ///< 0: the paper that is set in the printer
+    double short_side_mm = 0;   ///< likewise
+    std::string proposed_pdf;   ///< file name to offer for a PDF
+    std::string pdf_title = {}; ///< of the box that asks for it where no printer is installed
 };
 
 enum class Pointer { normal, busy };

@@ -29,7 +29,6 @@ QPageSize PaperOfCountry() {
 /// What the dialogs show at first: how the sheets will lie, and on which paper.
 void Preselect(QPrinter &printer, const PrintQuestion &question,
                const std::optional<QPageSize> &paper) {
-    printer.setDocName(Q(question.document));
     QPageLayout layout = printer.pageLayout();
     layout.setOrientation(question.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
     if (question.long_side_mm > 0 && question.short_side_mm > 0) {
@@ -71,11 +70,14 @@ std::unique_ptr<Printer> QtPlatform::OpenPrinter(const PrintQuestion &question) 
     const PointerPause pause;
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     Preselect(*printer, question, paper_);
+    // The dialog makes the name of a PDF from that of the document.
+    printer->setDocName(QFileInfo(Q(question.proposed_pdf)).fileName());
     QPrintDialog dialog(printer.get(), QApplication::activeWindow());
     dialog.setOptions(QAbstractPrintDialog::PrintToFile);
     if (dialog.exec() != QDialog::Accepted) {
         return nullptr;
     }
+    printer->setDocName(Q(question.document));
     if (printer->outputFormat() == QPrinter::PdfFormat) {
         return MakePdfFilePrinter(S(printer->outputFileName()), question.document,
                                   printer->pageLayout().pageSize());
@@ -90,8 +92,9 @@ std::unique_ptr<Printer> QtPlatform::OpenPdf(const PrintQuestion &question) {
     const QFileInfo proposed(Q(question.proposed_pdf));
     const bool placed = question.proposed_pdf.find('/') != std::string::npos;
     const std::string path =
-        ChooseSaveFile({question.document, placed ? S(proposed.path()) : std::string(),
-                        S(proposed.fileName()), "PDF (*.pdf)", "pdf"});
+        ChooseSaveFile({question.pdf_title.empty() ? question.document : question.pdf_title,
+                        placed ? S(proposed.path()) : std::string(), S(proposed.fileName()),
+                        "PDF (*.pdf)", "pdf"});
     if (path.empty()) {
         return nullptr;
     }

@@ -8,6 +8,7 @@
 #include "platform/qt_text.h"
 
 #include <QBuffer>
+#include <QFileInfo>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
@@ -174,6 +175,8 @@ class FilePdf : public PdfPrinter {
   public:
     FilePdf(const std::string &path, const std::string &title, const QPageSize &paper)
         : PdfPrinter(title, paper), path_(path) {}
+
+    std::string Fichier() const override { return S(QFileInfo(Q(path_)).absoluteFilePath()); }
 
   protected:
     void Deliver(std::string bytes) override {

@@ -7,6 +7,7 @@
 #include "persist/default_entry.h"
 #include "platform/busy_pointer.h"
 #include "programme/dossiers.h"
+#include "programme/nom_propose.h"
 #include "programme/rib_file.h"
 #include "programme/rib_steps.h"
 
@@ -130,7 +131,8 @@ void EnregistreRib(Programme &programme, CommandView &view) {
     RibModel &rib = programme.rib;
     FileQuestion question = QuestionComposants(programme, programme.Text({"filesaveas", "1"}));
     if (!EstComposants(question.name)) {
-        question.name += ".lfw"; // a name with a point in it would count as having an extension
+        // A name with a point in it would count as having an extension.
+        question.name = NomPropose(programme) + ".lfw";
     }
     const std::string path = programme.platform.ChooseSaveFile(question);
     if (path.empty()) {

@@ -2,26 +2,16 @@
 
 #include "base/whole_file.h"
 #include "lang/ini_file.h"
-#include "output/view_screen.h"
 #include "platform/busy_pointer.h"
 #include "programme/dossiers.h"
-#include "programme/rib_file.h"
+#include "programme/nom_propose.h"
 #include "programme/startup.h"
 
 #include <algorithm>
-#include <filesystem>
 
 namespace loftwing {
 
 namespace {
-
-/// The file's name without its extension: the rib file's where the rib has one, else the drawing's.
-std::string NomPropose(const Programme &programme, const EntreeExport &entree) {
-    const RibModel &rib = programme.rib;
-    const bool of_rib_file = entree.dossier != nullptr && EstComposants(rib.NomFichierRib);
-    return of_rib_file ? std::filesystem::path(rib.NomFichierRib).stem().string()
-                       : NomDuDessin(rib, programme.compare);
-}
 
 constexpr const char *kSection = "Export";
 
@@ -62,7 +52,7 @@ Choix DemandeFichier(const Programme &programme, const EntreeExport &entree,
     FileQuestion question;
     question.filter_text = FiltreDe(first, messages);
     question.title = entree.titre ? messages.Text(*entree.titre) : question.filter_text;
-    question.name = NomPropose(programme, entree) + "." + first.extension;
+    question.name = NomPropose(programme) + "." + first.extension;
     question.default_extension = first.extension;
     if (entree.dossier != nullptr) {
         question.folder =
@@ -80,9 +70,9 @@ Choix DemandeFichier(const Programme &programme, const EntreeExport &entree,
     return {answer.path, At(forms, static_cast<long>(answer.form))};
 }
 
-Exported Fait(Programme &programme, const ExportForm &form, const SetUpPage &set_up_page) {
+Exported Fait(Programme &programme, const ExportForm &form, const ReglagePage &page) {
     const Sablier sablier(programme.platform);
-    return form.Export(programme, set_up_page);
+    return form.Export(programme, page);
 }
 
 void Ecrit(const Programme &programme, const EntreeExport &entree, const Choix &choix,
@@ -101,7 +91,7 @@ void Ecrit(const Programme &programme, const EntreeExport &entree, const Choix &
 
 } // namespace
 
-bool ExporteVue(Programme &programme, const EntreeExport &entree, const SetUpPage &set_up_page) {
+bool ExporteVue(Programme &programme, const EntreeExport &entree, const ReglagePage &page) {
     if (entree.separateur) {
         // A warning only: the export writes points whatever the system has.
         ControleSeparateurCommande(programme, *entree.separateur);
@@ -110,14 +100,14 @@ bool ExporteVue(Programme &programme, const EntreeExport &entree, const SetUpPag
     Choix choix;
     Exported exported;
     if (forms.size() == 1) {
-        exported = Fait(programme, *forms.front(), set_up_page);
+        exported = Fait(programme, *forms.front(), page);
         if (exported.bytes) {
             choix = DemandeFichier(programme, entree, forms);
         }
     } else {
         choix = DemandeFichier(programme, entree, forms);
         if (!choix.path.empty()) {
-            exported = Fait(programme, *choix.form, set_up_page);
+            exported = Fait(programme, *choix.form, page);
         }
     }
     if (!choix.path.empty()) {

@@ -10,6 +10,6 @@ namespace loftwing {
 /// refusal comes first. False after a plot's failure, which has been reported: the caller clears
 /// the rib. Failures of folders and files, and of a writing that breaks off, which leaves the file
 /// as far as it came.
-bool ExporteVue(Programme &programme, const EntreeExport &entree, const SetUpPage &set_up_page);
+bool ExporteVue(Programme &programme, const EntreeExport &entree, const ReglagePage &page);
 
 } // namespace loftwing

@@ -10,7 +10,6 @@
 #include "persist/LireEcrire.h"
 #include "platform/qt_plot_device.h"
 #include "platform/qt_printer.h"
-#include "programme/export.h"
 
 #include <algorithm>
 #include <cctype>
@@ -26,7 +25,7 @@ std::unique_ptr<Recording> PourFichier(Programme &programme, Exported &exported,
     return DessineVue(programme, plot, exported.failed, std::move(measure));
 }
 
-Exported AsSvg(Programme &programme, const SetUpPage &) {
+Exported AsSvg(Programme &programme, const ReglagePage &) {
     Exported exported;
     if (const auto drawing = PourFichier(programme, exported)) {
         exported.bytes = WriteSvg(*drawing, NomDuDessin(programme.rib, programme.compare));
@@ -34,7 +33,7 @@ Exported AsSvg(Programme &programme, const SetUpPage &) {
     return exported;
 }
 
-Exported AsPng(Programme &programme, const SetUpPage &) {
+Exported AsPng(Programme &programme, const ReglagePage &) {
     Exported exported;
     if (const auto drawing = PourFichier(programme, exported, ScreenAdvance)) {
         exported.bytes = PngOf(*drawing);
@@ -42,15 +41,19 @@ Exported AsPng(Programme &programme, const SetUpPage &) {
     return exported;
 }
 
-Exported AsPdf(Programme &programme, const SetUpPage &set_up_page) {
+Exported AsPdf(Programme &programme, const ReglagePage &page) {
     const bool of_rib = RibVisible(programme.rib);
     if (of_rib && !StocksTiennent(programme.rib, programme.messages)) {
         return {};
     }
     PlotState plot = EtatAmorce(programme.rib);
     const Impression run = ImpressionDeVue(programme, plot);
-    if (!PrepareFeuilles(run, set_up_page)) {
+    if (!PrepareFeuilles(run, page.regle)) {
         return {};
+    }
+    // A PDF has no printer whose paper could be meant.
+    if (const auto end = AvertitHorsFeuille(programme, page, Papiers().front())) {
+        return {std::nullopt, *end == FinImpression::trace_echec, std::nullopt};
     }
     std::string bytes;
     const auto printer = MakePdfPrinter(bytes, run.nom);
@@ -75,7 +78,7 @@ void EcritTrace(const Programme &programme, const PlotState &plot, const Ecrit &
 
 /// The interchange form is read by other people's macros and has always shown what the screen's
 /// plots leave behind, at the screen's zoom. An inverted view has no such form.
-Exported AsDxf(Programme &programme, const SetUpPage &) {
+Exported AsDxf(Programme &programme, const ReglagePage &) {
     Exported exported;
     if (programme.rib.AffHaut) {
         programme.messages.Inform(programme.Text({"filedxf", "1"}), kTitre);
@@ -90,7 +93,7 @@ Exported AsDxf(Programme &programme, const SetUpPage &) {
     return exported;
 }
 
-Exported AsDxfSimple(Programme &programme, const SetUpPage &) {
+Exported AsDxfSimple(Programme &programme, const ReglagePage &) {
     Exported exported;
     PlotState plot = EtatAmorce(programme.rib);
     if (DessineVue(programme, plot, exported.failed)) {
@@ -102,7 +105,7 @@ Exported AsDxfSimple(Programme &programme, const SetUpPage &) {
     return exported;
 }
 
-Exported AsComposants(Programme &programme, const SetUpPage &) {
+Exported AsComposants(Programme &programme, const ReglagePage &) {
     return {EcritComposants(programme.rib, programme.settings.Unite), false, std::nullopt};
 }
 

@@ -2,6 +2,7 @@
 /// command line and its help.
 #pragma once
 
+#include "programme/export.h"
 #include "programme/programme.h"
 
 #include <functional>
@@ -18,9 +19,6 @@ struct Exported {
     /// What broke the writing off; `bytes` is then how far it had come.
     std::optional<Failure> rupture;
 };
-
-/// Lets the user set up the page of a print run; false when that is given up.
-using SetUpPage = std::function<bool()>;
 
 /// The views of the main window, as bits.
 enum VueExport : unsigned {
@@ -54,7 +52,7 @@ struct ExportForm {
     bool needs_toolkit;         ///< drawn with the toolkit's fonts, so its application must run
     const EntreeExport *entree; ///< null: a command of its own, or none, writes it
     /// Makes the bytes of a file.
-    std::function<Exported(Programme &, const SetUpPage &)> Export;
+    std::function<Exported(Programme &, const ReglagePage &)> Export;
     // What tells forms of one extension apart on the command line: "--dxf plain". Empty for the
     // usual form.
     const char *option = nullptr;

@@ -86,12 +86,16 @@ std::string CheminDuProfil(const Programme &programme, const DemandeComposants &
     return path.empty() ? Localise(programme, demande) : path;
 }
 
-void NoteOuvert(RibModel &rib, const std::string &path, const Messages &messages) {
+void NoteFichier(RibModel &rib, const std::string &path) {
     rib.NomFichierRib = fs::path(path).filename().string();
     rib.FichierRibOuvert = true;
-    rib.ProfilCharge = true;
     rib.Modifie = false;
     rib.CheminRib = CheminEntier(path);
+}
+
+void NoteOuvert(RibModel &rib, const std::string &path, const Messages &messages) {
+    NoteFichier(rib, path);
+    rib.ProfilCharge = true;
     rib.texte.TexteUtilisateur = !EstEtiquette(rib, messages);
 }
 
@@ -149,6 +153,17 @@ OuvertureComposants OuvreComposants(Programme &programme, const DemandeComposant
         return OuvertureComposants::echec;
     }
     return LitProfil(programme, demande, name);
+}
+
+bool OuvreSansProfil(Programme &programme, const std::string &path) {
+    try {
+        LitFichier(programme, {path, {}, false});
+    } catch (const Failure &failure) {
+        Rapporte(programme, failure);
+        return false;
+    }
+    NoteFichier(programme.rib, path);
+    return true;
 }
 
 std::string TitreComposants(const Programme &programme, const std::string &ecart) {

@@ -34,6 +34,10 @@ enum class OuvertureComposants {
 /// airfoil of another name that the user locates becomes the rib's, whose label then names it.
 OuvertureComposants OuvreComposants(Programme &programme, const DemandeComposants &demande);
 
+/// The same without its airfoil, which is neither searched nor read: NomProfil tells which it is.
+/// A file of the older format stays as it is. False when it was refused; a box told why.
+bool OuvreSansProfil(Programme &programme, const std::string &path);
+
 /// The caption of the main window with a rib components file: title, file, airfoil. `ecart` stands
 /// between file and airfoil.
 std::string TitreComposants(const Programme &programme, const std::string &ecart);

@@ -1,6 +1,7 @@
 // The printed sheet of a tapered panel.
 
 #include "base/number_text.h"
+#include "output/print_file.h"
 #include "output/printer.h"
 #include "output/text_lines.h"
 #include "platform/busy_pointer.h"
@@ -138,12 +139,17 @@ void ImprimeNervures(const Nervures &panneau, const Saisie &saisie, const std::s
         question.document = *nom;
         question.landscape = false;
         question.proposed_pdf = *nom + ".pdf";
+        question.pdf_title = TitreFichierImprime(messages);
         printer = messages.platform.OpenPrinter(question);
-        if (printer) {
+        if (!printer) {
+            return;
+        }
+        {
             const Sablier sablier(messages.platform);
             TraceFeuille(*printer, panneau, *nom, saisie);
             printer->EndDoc();
         }
+        DitFichierImprime(*printer, messages);
     } catch (const Failure &failure) {
         if (printer) {
             printer->Abort();

@@ -61,6 +61,23 @@ TEST(CommandLine, WrongUsageIsStatusTwoWithAReason) {
     }
 }
 
+TEST(CommandLine, AWordThatIsNeitherCommandNorFileIsWrongUsage) {
+    // Also where no window could be shown: a script must see its mistake.
+    const std::string program = "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM " +
+                                ShellWord(LOFTWING_BINARY_DIR "/loftwing");
+    for (const std::string words : {"frob", "darw naca2412.dat -o rib.svg", "/nowhere/rib.lfw"}) {
+        const Ran ran = RunShell(program + " " + words);
+        EXPECT_EQ(ran.status, 2) << words;
+        EXPECT_EQ(ran.err, "loftwing: no command \"" + words.substr(0, words.find(' ')) +
+                               "\", and no file of that name (see loftwing --help)\n");
+        EXPECT_EQ(ran.out, "") << words;
+    }
+    // A file of that name is one for the window.
+    const TempFolder folder;
+    const std::string file = folder.File("frob", "");
+    EXPECT_EQ(RunShell("cd " + ShellWord(folder.Path()) + " && " + program + " frob").status, 1);
+}
+
 TEST(CommandLine, WithoutADisplayTheWindowSaysSo) {
     const Ran ran = RunShell(
         "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM " LOFTWING_BINARY_DIR "/loftwing " +

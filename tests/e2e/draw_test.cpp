@@ -244,6 +244,35 @@ Ran DrawHeel(const TempFolder &folder, const ComponentsText &rib, std::vector<st
     return RunLoftwing(words);
 }
 
+TEST(Draw, APdfThatLeavesTheSheetIsToldAndDrawn) {
+    const TempFolder folder;
+    const std::string out = folder.Path("rib.pdf");
+    const auto draw = [&out](std::vector<std::string> more) {
+        std::vector<std::string> words = {"draw", Sample("naca2412.dat"), "-o", out};
+        words.insert(words.end(), more.begin(), more.end());
+        const Ran ran = RunLoftwing(words);
+        EXPECT_EQ(ran.status, 0) << ran.err;
+        EXPECT_THAT(ReadWholeFile(out), StartsWith("%PDF"));
+        std::filesystem::remove(out);
+        return ran.err;
+    };
+    // The file's highest point lies 0.07918 of the chord above the line: 15.84 mm of 200.
+    EXPECT_THAT(draw({"--reference-line-at", "5"}),
+                StartsWith("Page setup: The drawing leaves the sheet. What lies beyond its edge is "
+                           "lost : Upper edge : 10.9 mm  What helps : --reference-line-at : 16 mm "
+                           "to "));
+    EXPECT_EQ(draw({"--reference-line-at", "16"}), "");
+    EXPECT_EQ(draw({}), "");
+    // The lower edge of A3 is further away than that of A4; 4.2 % are below the line.
+    EXPECT_THAT(draw({"--reference-line-at", "205"}), HasSubstr("Lower edge : "));
+    EXPECT_EQ(draw({"--reference-line-at", "205", "--paper", "A3"}), "");
+    // Nothing of this is said of a form without sheets.
+    EXPECT_EQ(RunLoftwing({"draw", Sample("naca2412.dat"), "--to", "svg", "-o", "-",
+                           "--reference-line-at", "5"})
+                  .err,
+              "");
+}
+
 TEST(Draw, HeelMarginsThatAreNotInForceAreToldOnStandardError) {
     const TempFolder folder;
     const Ran ran = DrawHeel(folder, HeelRib("20", "30"), {});

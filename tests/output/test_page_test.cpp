@@ -14,7 +14,7 @@ namespace {
 
 constexpr const char *kTable =
     "[FrmLines]\n17=all colours\n18=all styles\n19=Sheet\n23=sent\n[Erreur]\n1=Error\n2=of\n"
-    "3=Trouble\n";
+    "3=Trouble\n[FrmPrint]\n241=which pdf\n242=pdf file\n";
 
 /// A line of a drawing that is exact but for the rounding of sums.
 void ExpectLine(const Operation &operation, double x1, double x2, double y, const Pen &pen) {
@@ -164,6 +164,18 @@ TEST_F(TestPagePrinted, GoesInPortraitToThePrintersOwnPaperAndIsTold) {
     EXPECT_EQ(printer.sheets.front(), drawing.Operations());
     EXPECT_EQ(words.LastBox().text, "sent");
     EXPECT_EQ(words.LastBox().icon, BoxIcon::information);
+}
+
+TEST_F(TestPagePrinted, AsAFileItSaysWhereThatIs) {
+    words.platform.make_printer = [](const PrintQuestion &) {
+        auto made = std::make_unique<TestPrinter>();
+        made->file = "/tmp/Sheet.pdf";
+        return made;
+    };
+    words.platform.Expect(BoxAnswer::ok);
+    EXPECT_TRUE(cmdImprtest(words.messages));
+    EXPECT_EQ(words.LastBox().text, "pdf file\n/tmp/Sheet.pdf");
+    EXPECT_EQ(words.platform.print_questions.at(0).pdf_title, "which pdf");
 }
 
 TEST_F(TestPagePrinted, NothingIsSaidWhenTheUserTakesNoPrinter) {

@@ -217,10 +217,10 @@ TEST_F(FileSteps, ChangesWithoutAnAirfoilAreNotAskedAbout) {
 
 TEST_F(FileSteps, SavingProposesTheNameWithItsExtension) {
     platform.files_expected = {"", ""};
-    Rib().NomFichierRib = "clark.y";
+    Rib().NomProfil = Rib().NomFichierRib = "clark.y";
     EnregistreRib(programme, view);
     EXPECT_EQ(Question().title, "Save as rib components");
-    EXPECT_EQ(Question().name, "clark.y.lfw");
+    EXPECT_EQ(Question().name, "clark.y 200 mm.lfw");
     Rib().NomFichierRib = "root.lfw";
     EnregistreRib(programme, view);
     EXPECT_EQ(Question().name, "root.lfw");

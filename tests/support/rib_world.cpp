@@ -23,7 +23,9 @@ std::string Words() {
         {"MainTolbar", {"11", "13", "15", "21"}},
         {"FrmMainMessage", {"2", "3", "13", "14", "15", "16", "17"}},
         {"FrmLines", {"5", "6", "7", "8", "9", "10", "11", "12", "13", "24"}},
-        {"FrmPrint", {"22", "tailleFeuille(8)", "tailleFeuille(8) "}},
+        {"FrmPrint",
+         {"22", "230", "231", "232", "233", "234", "235", "236", "237", "238", "239", "241", "242",
+          "10", "tailleFeuille(8)", "tailleFeuille(8) "}},
         {"FrmEpCourb", {"1", "10", "11", "12", "17", "18"}},
         {"OutilCompare", {"5", "6"}},
         {"Message", {"20"}}};

@@ -17,6 +17,7 @@ class TestPrinter : public Printer {
     std::vector<std::vector<Operation>> sheets = std::vector<std::vector<Operation>>(1);
     int fails_at_sheet = -1; ///< NewPage to this sheet, counted from 0, is a device error
     bool fails_at_end = false;
+    std::string file; ///< which the job is written to
 
     void SetOrientation(Orientation orientation) override {
         calls.emplace_back(orientation == Orientation::landscape ? "landscape" : "portrait");
@@ -38,6 +39,7 @@ class TestPrinter : public Printer {
         calls.emplace_back("end");
     }
     void Abort() override { calls.emplace_back("abort"); }
+    std::string Fichier() const override { return file; }
 
   protected:
     void Segment(double x1, double y1, double x2, double y2, const Pen &pen) override {

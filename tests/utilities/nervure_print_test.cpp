@@ -17,6 +17,7 @@ class LentPrinter : public Printer {
     void NewPage() override { kept_.NewPage(); }
     void EndDoc() override { kept_.EndDoc(); }
     void Abort() override { kept_.Abort(); }
+    std::string Fichier() const override { return kept_.Fichier(); }
 
   protected:
     void Segment(double x1, double y1, double x2, double y2, const Pen &pen) override {
@@ -155,6 +156,13 @@ TEST_F(NervurePrintTest, TheNameIsAskedForAndNamesTheJob) {
     EXPECT_EQ(question.document, "Left wing");
     EXPECT_EQ(question.proposed_pdf, "Left wing.pdf");
     EXPECT_FALSE(question.landscape);
+}
+
+TEST_F(NervurePrintTest, AsAFileItSaysWhereThatIs) {
+    printer.file = "/tmp/Left wing.pdf";
+    words.platform.Expect(BoxAnswer::ok);
+    Imprime("Left wing");
+    EXPECT_EQ(words.LastBox().text, "pdf file\n/tmp/Left wing.pdf");
 }
 
 TEST_F(NervurePrintTest, WithoutANameNothingIsPrinted) {

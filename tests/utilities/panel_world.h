@@ -14,7 +14,8 @@ class PanelTest : public testing::Test {
         "[FrmNervure]\r\n1=Ribs\r\n3=Spacing\r\n4=Major\r\n5=Minor\r\n6=Length\r\n7=Count\r\n"
         "8=Thickness\r\n10=Chord\r\n11=Spar\r\n14=Major is\r\n15=Minor is\r\n"
         "16=Major below minor\r\n17=No count\r\n18=Which name\r\n19=Name\r\n"
-        "[Erreur]\r\n1=Error\r\n2=in\r\n3=Run-time\r\n[Message]\r\n20=Wrong : \r\n"};
+        "[Erreur]\r\n1=Error\r\n2=in\r\n3=Run-time\r\n[Message]\r\n20=Wrong : \r\n"
+        "[FrmPrint]\r\n242=pdf file\r\n"};
     std::string Unite{kUniteMm};
     Saisie saisie{Unite, words.messages};
     Nervures panneau;

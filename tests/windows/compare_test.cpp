@@ -265,11 +265,11 @@ TEST_F(CompareView, PrintsAndSavesWhatIsShown) {
         Printed("Print Airfoil #1 :  naca0012 / Airfoil #2 :  naca2412");
     EXPECT_THAT(TextsOf(sheet), ElementsAre("Airfoil #1 : naca0012     ", "Airfoil #2 : naca2412"));
     EXPECT_EQ(SegmentsOf(sheet).size(), SegmentsOf(Drawing()->Operations()).size());
-    EXPECT_EQ(world.platform.print_questions.back().proposed_pdf, "naca0012 - naca2412.pdf");
+    EXPECT_EQ(world.platform.print_questions.back().proposed_pdf, "naca0012 - naca2412 150 mm.pdf");
     world.platform.files_expected = {world.folder.Path("both.svg"), world.folder.Path("both.pdf")};
     world.Action("mnu_filesvg")->trigger();
     world.Action("mnu_filepdf")->trigger();
-    EXPECT_EQ(world.platform.file_questions[0].name, "naca0012 - naca2412.svg");
+    EXPECT_EQ(world.platform.file_questions[0].name, "naca0012 - naca2412 150 mm.svg");
     EXPECT_THAT(ReadWholeFile(world.folder.Path("both.svg")),
                 testing::HasSubstr("Airfoil #2 : naca2412"));
     EXPECT_GT(ReadWholeFile(world.folder.Path("both.pdf")).size(), 1000U);

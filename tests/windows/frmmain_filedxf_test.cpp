@@ -95,7 +95,7 @@ TEST_F(ExportingDxf, TheChooserOffersBothFormsAndANameFromTheFile) {
     EXPECT_EQ(LastQuestion().filter_text, "DXF Files (*.dxf)");
     EXPECT_EQ(world.platform.filters_offered, std::vector<std::string>{"DXF for cutters (*.dxf)"});
     EXPECT_EQ(LastQuestion().default_extension, "dxf");
-    EXPECT_EQ(LastQuestion().name, "naca2412.dxf");
+    EXPECT_EQ(LastQuestion().name, "naca2412 200 mm.dxf");
     EXPECT_EQ(LastQuestion().folder, world.folder.Path("sets")); // none was exported yet
     EXPECT_EQ(Setting("RepDxf"), "");
     Rib().Modifie = false;

@@ -13,14 +13,14 @@ class SavingRibs : public RibFiles {
     void Save(const std::string &path) { Choose("mnu_filesaveas", path); }
 };
 
-TEST_F(SavingRibs, ProposesTheAirfoilsNameInTheAirfoilFolderAtFirst) {
+TEST_F(SavingRibs, ProposesAirfoilAndChordInTheAirfoilFolderAtFirst) {
     world.window->OuvreFichier(WindowWorld::Sample("naca2412.dat"));
     Save("");
     EXPECT_EQ(LastQuestion().title, "Save as rib components");
     EXPECT_EQ(LastQuestion().filter_text, "Rib components Loftwing (*.lfw)");
     EXPECT_EQ(LastQuestion().default_extension, "lfw");
     EXPECT_EQ(LastQuestion().folder, world.folder.Path("airfoils"));
-    EXPECT_EQ(LastQuestion().name, "naca2412.lfw");
+    EXPECT_EQ(LastQuestion().name, "naca2412 200 mm.lfw");
 }
 
 TEST_F(SavingRibs, ProposesTheOpenFileInItsFolder) {

@@ -487,7 +487,7 @@ TEST(MainWindow, ExportsGoToTheFileThatIsChosen) {
     world.Action("mnu_filesvg")->trigger();
     world.Action("mnu_filepdf")->trigger();
     world.Action("mnu_filesvg")->trigger();
-    EXPECT_EQ(world.platform.file_questions[0].name, "naca2412.svg");
+    EXPECT_EQ(world.platform.file_questions[0].name, "naca2412 200 mm.svg");
     EXPECT_GT(std::filesystem::file_size(world.folder.Path("rib.svg")), 1000U);
     EXPECT_GT(std::filesystem::file_size(world.folder.Path("rib.pdf")), 1000U);
 }

@@ -406,10 +406,13 @@ TEST(QtPlatformPrinter, WithoutOneAsksForAPdf) {
     const std::string path = world.folder.Path("Clark Y.pdf");
     InNextDialog([&](Seen &dialog) {
         EXPECT_EQ(dialog.Text("fileNameEdit"), "Clark Y.pdf");
+        EXPECT_EQ(S(dialog.As<QDialog>().windowTitle()), "No printer: a PDF");
         dialog.As<QDialog>().accept();
     });
-    const auto printer = world.platform.OpenPrinter({"Clark Y", true, 297, 210, path});
+    const auto printer =
+        world.platform.OpenPrinter({"Clark Y", true, 297, 210, path, "No printer: a PDF"});
     ASSERT_NE(printer, nullptr);
+    EXPECT_EQ(printer->Fichier(), path);
     printer->SetOrientation(Orientation::landscape);
     printer->SetPaperSize(210, 297);
     printer->Line(0, 0, 567, 567, 0);

@@ -137,7 +137,7 @@ TEST_F(SimplePlot, DxfHoldsThePointsAndTheReferenceLine) {
     Plot();
     world.platform.files_expected = {world.folder.Path("five.dxf")};
     world.Action("mnu_filedxf")->trigger();
-    EXPECT_EQ(world.platform.file_questions.back().name, "five.dxf");
+    EXPECT_EQ(world.platform.file_questions.back().name, "five 200 mm.dxf");
     const std::string dxf = ReadWholeFile(world.folder.Path("five.dxf"));
     const auto count = [&dxf](const std::string &word) {
         std::size_t times = 0;
