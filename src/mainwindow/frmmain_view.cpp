@@ -1,6 +1,5 @@
 // The picture of the main window: redraw, zoom, scroll and size.
 
-#include "base/version.h"
 #include "mainwindow/beside.h"
 #include "mainwindow/frmmain.h"
 #include "output/view_screen.h"
@@ -87,9 +86,6 @@ void frmmain::Combo1_Click(int row) {
 }
 
 void frmmain::Form_Resize() {
-    // A fixed oddity: a change of size leaves the plain caption, as users know it; the status bar
-    // has the airfoil's name. Nothing depends on it.
-    Titre(kTitre);
     // What is typed in a dialog may not fit yet, and a plot that fails costs the rib.
     if (DialogueNervureOuvert(*this)) {
         return;
