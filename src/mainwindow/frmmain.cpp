@@ -74,7 +74,9 @@ void frmmain::ActiveCommandesCouple() {
 }
 
 void frmmain::ActiveCommandesVides() {
-    commands_.Met(EtatCommandes::vide);
+    // What clears before there was any airfoil, as the choice of the first language does, leaves
+    // the program as every other start has it.
+    commands_.Met(dessine_ ? EtatCommandes::vide : EtatCommandes::depart);
 }
 
 void frmmain::closeEvent(QCloseEvent *event) {

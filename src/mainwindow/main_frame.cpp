@@ -88,6 +88,7 @@ void MainFrame::Dessine(const std::function<Affichage(const Trace &)> &draw,
         affclear();
     }
     if (result == Affichage::dessine) {
+        dessine_ = true;
         picture_->Montre(std::move(recording));
         Panneau(1, kVersion);
         tell();

@@ -45,6 +45,7 @@ class MainFrame : public QMainWindow, public CommandView {
     Programme &programme_;
     CommandBars commands_;
     PictureArea *picture_;
+    bool dessine_ = false; ///< something has been drawn since the start
 
     /// Runs what an event asks for: no failure may pass into the toolkit's event loop.
     void Garde(const std::string &label, const std::function<void()> &action);

@@ -95,6 +95,33 @@ TEST(MainWindow, ClearingLeavesTheStateOfTheStartWithTheRibMenusAlive) {
     EXPECT_EQ(world.Find<QComboBox>("Combo1")->currentIndex(), 3);
 }
 
+TEST(MainWindow, ClearingBeforeTheFirstAirfoilLeavesTheStateOfTheStart) {
+    WindowWorld world;
+    world.Open();
+    world.Action("mnu_affclear")->trigger();
+    ExpectEnabled(world, kBornWithARib, false);
+    ExpectEnabled(world, kAlwaysAlive, true);
+}
+
+TEST(MainWindow, TheChoiceOfTheFirstLanguageLeavesTheStateOfTheStart) {
+    WindowWorld world;
+    world.Open();
+    InNextDialog([](Seen &dialog) {
+        EXPECT_EQ(dialog.Name(), "lang");
+        dialog.Click("ok");
+    });
+    world.Action("mnu_affLang")->trigger();
+    ExpectEnabled(world, kBornWithARib, false);
+}
+
+TEST(MainWindow, AFirstFileThatCannotBeReadLeavesTheStateOfTheStart) {
+    WindowWorld world;
+    world.Open();
+    world.platform.Expect(BoxAnswer::ok);
+    world.window->OuvreFichier(world.folder.Path("missing.dat"));
+    ExpectEnabled(world, kBornWithARib, false);
+}
+
 TEST(MainWindow, ClearingStopsAtNo) {
     WindowWorld world;
     world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
