@@ -50,7 +50,7 @@ void CommandBars::AddCommand(const Command &command) {
         action = parent->addAction(QString());
         action->setCheckable(command.checkable);
         if (command.keys != nullptr) {
-            action->setShortcut(QKeySequence(QString::fromLatin1(command.keys)));
+            action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(command.keys)));
         }
         QObject::connect(action, &QAction::triggered, &window_, [this, &command] {
             if (command.exporte != nullptr) {

@@ -66,7 +66,7 @@ std::vector<Command> FileMenu() {
         Entry("mnu_fileprofilopen", menu, {"MenuFile", "3"}, kAlways,
               &frmmain::mnu_fileprofilopen_Click, "Ctrl+O"),
         Entry("mnu_filesaveas", menu, {"MenuFile", "4"}, kFile, &frmmain::mnu_filesaveas_Click,
-              "Ctrl+Shift+S"),
+              "Ctrl+Shift+S; Ctrl+S"),
     };
     Ajoute(commands, ExportEntries(menu));
     Ajoute(commands, {
