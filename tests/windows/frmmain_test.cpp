@@ -349,6 +349,33 @@ TEST(MainWindow, CheckedEntriesOfTheViewMenuChangeTheRib) {
     EXPECT_TRUE(rib.AffHautBF);
 }
 
+/// How many lines of the drawing have a colour.
+long LinesIn(const WindowWorld &world, Colour colour) {
+    const auto &operations = world.Find<PicView>("Pic")->Dessin()->Operations();
+    return std::count_if(operations.begin(), operations.end(), [colour](const Operation &each) {
+        const auto *line = std::get_if<DrawnSegment>(&each);
+        return line != nullptr && line->pen.colour == colour;
+    });
+}
+
+TEST(MainWindow, TheEntryThatHidesTheContourSaysSoInEveryLanguage) {
+    for (const auto &[language, caption] :
+         {std::pair("English", "&Show the outer contour"),
+          std::pair("French", "Afficher le &contour extérieur")}) {
+        WindowWorld world(language);
+        world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+        EXPECT_EQ(world.Action("mnu_affTrac")->text().toStdString(), caption);
+        const Colour contour = PaletteColour(0);
+        const Colour sheeting = PaletteColour(9);
+        const long sheeting_lines = LinesIn(world, sheeting);
+        EXPECT_GT(LinesIn(world, contour), 100);
+        EXPECT_GT(sheeting_lines, 100);
+        world.Action("mnu_affTrac")->trigger();
+        EXPECT_EQ(LinesIn(world, contour), 0);
+        EXPECT_EQ(LinesIn(world, sheeting), sheeting_lines);
+    }
+}
+
 TEST(MainWindow, ATypedChordIsDrawn) {
     WindowWorld world;
     world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
