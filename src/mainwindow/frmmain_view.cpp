@@ -17,6 +17,9 @@ void frmmain::ConnectPicture() {
             [this](const QPoint &place) { commands_.OuvreMenu("mnuprofil", place); });
     connect(picture_, &PictureArea::ZoomDemande, this, &frmmain::ZoomSur);
     connect(picture_, &PictureArea::Redimensionne, this, &frmmain::Form_Resize);
+    const EmptyHint &hint = picture_->Accueil();
+    connect(&hint, &EmptyHint::Ouvre, &commands_.Entree("mnu_fileprofilopen"), &QAction::trigger);
+    connect(&hint, &EmptyHint::OuvreRecent, this, &frmmain::mnuFileMRU_Click);
 }
 
 void frmmain::affiche() {

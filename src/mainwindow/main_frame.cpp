@@ -55,11 +55,14 @@ void MainFrame::AfficheCorde() {
 }
 
 void MainFrame::AfficheFichiersRecents() {
-    commands_.MontreFichiersRecents(FichiersRecentsConnus(programme_));
+    const FichiersRecents recents = FichiersRecentsConnus(programme_);
+    commands_.MontreFichiersRecents(recents);
+    picture_->Accueil().MontreRecents(recents);
 }
 
 void MainFrame::AppliqueLangue() {
     commands_.PoseTextes(programme_.language);
+    picture_->Accueil().PoseTextes(programme_.language);
     programme_.messages.PoseMotsDesBoutons();
     toolkit_words_.Follow(programme_.language.LangueCourante);
     AppliqueLangueOutils(*this);

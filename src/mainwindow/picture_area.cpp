@@ -4,6 +4,7 @@
 
 #include <QGridLayout>
 #include <QSignalBlocker>
+#include <QVBoxLayout>
 
 namespace loftwing {
 
@@ -19,8 +20,8 @@ void SetRange(QScrollBar &bar, const ScrollRange &range) {
 } // namespace
 
 PictureArea::PictureArea(RibModel &rib, QWidget *parent)
-    : QWidget(parent), rib_(rib), notices_(this), Pic_(this), Hsbpic_(Qt::Horizontal, this),
-      Vsbpic_(Qt::Vertical, this) {
+    : QWidget(parent), rib_(rib), notices_(this), Pic_(this), hint_(&Pic_),
+      Hsbpic_(Qt::Horizontal, this), Vsbpic_(Qt::Vertical, this) {
     Hsbpic_.setObjectName("Hsbpic");
     Vsbpic_.setObjectName("Vsbpic");
     // Runs from 0 at the top to a negative value at the bottom.
@@ -41,6 +42,9 @@ void PictureArea::LayOut() {
     grid->addWidget(&Pic_, 1, 0);
     grid->addWidget(&Vsbpic_, 1, 1);
     grid->addWidget(&Hsbpic_, 2, 0);
+    auto *cover = new QVBoxLayout(&Pic_);
+    cover->setContentsMargins(0, 0, 0, 0);
+    cover->addWidget(&hint_);
 }
 
 void PictureArea::Connect() {
@@ -71,7 +75,17 @@ void PictureArea::Repose() {
     Q_EMIT Redimensionne();
 }
 
+void PictureArea::Montre(std::unique_ptr<Recording> drawing) {
+    Pic_.Montre(std::move(drawing));
+    MontreAccueil();
+}
+
+void PictureArea::MontreAccueil() {
+    hint_.setVisible(Pic_.Dessin() == nullptr && !rib_.ProfilCharge);
+}
+
 void PictureArea::RegleDefilement() {
+    MontreAccueil();
     const Recording *drawing = Pic_.Dessin();
     const Defilement bars =
         DefilementSur(rib_, drawing == nullptr ? std::nullopt : std::optional(drawing->Bounds()),

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/rib_model.h"
+#include "mainwindow/empty_hint.h"
 #include "mainwindow/notice_bar.h"
 #include "mainwindow/pic_view.h"
 #include "output/scrolling.h"
@@ -22,11 +23,13 @@ class PictureArea : public QWidget {
     PictureArea(RibModel &rib, QWidget *parent);
 
     /// Takes a new drawing, null for an empty picture. The bars stay until RegleDefilement.
-    void Montre(std::unique_ptr<Recording> drawing) { Pic_.Montre(std::move(drawing)); }
+    void Montre(std::unique_ptr<Recording> drawing);
     /// Gives the bars their ranges over the present drawing.
     void RegleDefilement();
     /// The strips above the picture.
     NoticeBar &Avis() { return notices_; }
+    /// What stands in the empty picture.
+    EmptyHint &Accueil() { return hint_; }
     /// Scrolls back without a redraw.
     void RemetDefilement();
 
@@ -44,6 +47,7 @@ class PictureArea : public QWidget {
     RibModel &rib_;
     NoticeBar notices_;
     PicView Pic_;
+    EmptyHint hint_; ///< covers the picture as long as there is neither airfoil nor drawing
     QScrollBar Hsbpic_;
     QScrollBar Vsbpic_;
     QTimer resized_;
@@ -53,6 +57,7 @@ class PictureArea : public QWidget {
     void LayOut();
     void Connect();
     void Repose();
+    void MontreAccueil();
     void Hsbpic_Change(int value);
     void Vsbpic_Change(int value);
     void Deplace(const ScrollMove &move);
