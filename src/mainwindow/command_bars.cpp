@@ -120,6 +120,7 @@ void CommandBars::BuildZoomList() {
         Combo1_->addItem(QString::fromLatin1(row));
     }
     Combo1_->setCurrentIndex(kZoomRow100);
+    Combo1_->setFocusPolicy(Qt::TabFocus); // after a choice the arrow keys scroll again
     QObject::connect(Combo1_, &QComboBox::activated, &window_,
                      [this](int row) { demandes_.zoom(row); });
     tools_[kZoomTool] = Toolbar1_->addWidget(Combo1_);

@@ -41,6 +41,7 @@ frmmain::frmmain(Programme &programme)
     ConnectPicture();
     LitPlace(*this);
     Form_Load();
+    picture_->setFocus(); // arrow keys scroll from the start
 }
 
 void frmmain::Form_Load() {

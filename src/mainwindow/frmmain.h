@@ -54,6 +54,10 @@ class frmmain : public MainFrame {
     void mnu_affInstxt_Click();
     void mnu_affTrac_Click();
     void mnu_afflignRef_Click();
+    void mnu_affzoomplus_Click();
+    void mnu_affzoommoins_Click();
+    void mnu_affzoom100_Click();
+    void mnu_affajuste_Click();
     void mnu_affclear_Click() override;
     void mnu_affLang_Click();
     void mnu_profilcorde_Click();
@@ -90,7 +94,9 @@ class frmmain : public MainFrame {
     void Form_Load();
     void Form_Resize();
     void Combo1_Click(int row);
-    void ZoomSur(int steps);
+    void ZoomSur(int steps, const PicturePlace &place);
+    /// Draws at the zoom of a row of the list, scrolled so.
+    void MetZoom(int row, const ScrollMove &bars);
     void ConnectPicture();
     /// Lets the user set up the page; false when that is cancelled.
     bool RegleMiseEnPage();

@@ -65,27 +65,49 @@ void frmmain::ViewReset() {
     RemetVue(programme_.rib);
     programme_.plot.BlocBA = 0;
     programme_.plot.BlocEp = 0;
-    picture_->RemetDefilement();
+    picture_->MetDefilement();
 }
 
 void frmmain::affclear() {
     VideTout(programme_, *this);
 }
 
-void frmmain::ZoomSur(int steps) {
-    QComboBox &zoom = commands_.ListeZoom();
-    const int wanted = ZoomRow(zoom.currentIndex(), steps);
-    if (wanted != zoom.currentIndex()) {
-        zoom.setCurrentIndex(wanted);
-        Combo1_Click(wanted);
+void frmmain::ZoomSur(int steps, const PicturePlace &place) {
+    const int present = commands_.ListeZoom().currentIndex();
+    const int wanted = ZoomRow(present, steps);
+    if (wanted != present) {
+        MetZoom(wanted, ZoomAt(programme_.rib, place, FacteurZoom(kZoomRows.at(wanted))));
     }
 }
 
-void frmmain::Combo1_Click(int row) {
+void frmmain::MetZoom(int row, const ScrollMove &bars) {
+    commands_.ListeZoom().setCurrentIndex(row);
     programme_.rib.Zoom = FacteurZoom(S(commands_.ListeZoom().itemText(row)));
-    picture_->RemetDefilement();
+    picture_->MetDefilement(bars);
     RetraceVues();
     affiche();
+}
+
+void frmmain::Combo1_Click(int row) {
+    MetZoom(row, {});
+}
+
+void frmmain::mnu_affzoomplus_Click() {
+    ZoomSur(1, picture_->Milieu());
+}
+
+void frmmain::mnu_affzoommoins_Click() {
+    ZoomSur(-1, picture_->Milieu());
+}
+
+void frmmain::mnu_affzoom100_Click() {
+    MetZoom(kZoomRow100, {});
+}
+
+void frmmain::mnu_affajuste_Click() {
+    if (const auto whole = picture_->VueEntiere()) {
+        MetZoom(whole->row, whole->bars);
+    }
 }
 
 void frmmain::Form_Resize() {

@@ -11,6 +11,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 
 namespace loftwing {
 
@@ -30,18 +31,25 @@ class PictureArea : public QWidget {
     NoticeBar &Avis() { return notices_; }
     /// What stands in the empty picture.
     EmptyHint &Accueil() { return hint_; }
-    /// Scrolls back without a redraw.
-    void RemetDefilement();
+    /// Scrolls to these values of the bars, or back, without a redraw. What the next drawing has no
+    /// room for is cut back then.
+    void MetDefilement(const ScrollMove &bars = {});
+    /// How the present drawing is seen whole; nothing without one.
+    std::optional<WholeView> VueEntiere() const;
+    PicturePlace Milieu() const;
 
   Q_SIGNALS:
     /// A bar has changed the rib's offsets.
     void Defile();
     void MenuDemande(const QPoint &global);
     /// Ctrl with the wheel: that many steps of the zoom list, positive to a larger one.
-    void ZoomDemande(int steps);
+    void ZoomDemande(int steps, const PicturePlace &place);
     /// The picture has another size, by the window's doing and not by a notice, and has come to
     /// rest.
     void Redimensionne();
+
+  protected:
+    void keyPressEvent(QKeyEvent *event) override;
 
   private:
     RibModel &rib_;
@@ -61,6 +69,8 @@ class PictureArea : public QWidget {
     void Hsbpic_Change(int value);
     void Vsbpic_Change(int value);
     void Deplace(const ScrollMove &move);
+    /// What a line is in units of the bars.
+    ScrollMove Pas() const { return {Hsbpic_.singleStep(), Vsbpic_.singleStep()}; }
 };
 
 } // namespace loftwing
