@@ -69,6 +69,10 @@ void MainFrame::AppliqueLangue() {
     MontreAvis();
 }
 
+int MainFrame::ShowModal(QDialog &dialog) const {
+    return loftwing::ShowModal(dialog, picture_->PlaceDuDessin());
+}
+
 void MainFrame::MontreCoches() {
     commands_.MontreCoches(programme_.rib);
 }

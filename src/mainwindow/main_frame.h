@@ -53,6 +53,9 @@ class MainFrame : public QMainWindow, public CommandView {
     /// which has been reported, the rib is cleared. Nothing happens while a redraw is under way.
     void Dessine(const std::function<Affichage(const Trace &)> &draw,
                  const std::function<void()> &tell);
+    /// Shows a dialog of this window beside the drawing, where the screen has room. The commands
+    /// mean this one by the name.
+    int ShowModal(QDialog &dialog) const;
     /// Takes a check of the view menu into the rib.
     void PrendCoche(const char *name);
 

@@ -114,6 +114,18 @@ void PictureArea::MetDefilement(const ScrollMove &bars) {
     MetBarre(Vsbpic_, bars.down);
 }
 
+QRect PictureArea::PlaceDuDessin() const {
+    const Recording *drawing = Pic_.Dessin();
+    if (drawing == nullptr) {
+        return {};
+    }
+    const Extent extent = drawing->Bounds();
+    const QRectF pixels(QPointF(extent.left, extent.top) / kUnitsPerPixel,
+                        QPointF(extent.right, extent.bottom) / kUnitsPerPixel);
+    const QRect seen = pixels.toAlignedRect() & Pic_.rect();
+    return {Pic_.mapToGlobal(seen.topLeft()), seen.size()};
+}
+
 std::optional<WholeView> PictureArea::VueEntiere() const {
     const Recording *drawing = Pic_.Dessin();
     if (drawing == nullptr) {

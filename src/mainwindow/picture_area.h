@@ -34,6 +34,8 @@ class PictureArea : public QWidget {
     /// Scrolls to these values of the bars, or back, without a redraw. What the next drawing has no
     /// room for is cut back then.
     void MetDefilement(const ScrollMove &bars = {});
+    /// What of the drawing is seen, on the screen; empty without one.
+    QRect PlaceDuDessin() const;
     /// How the present drawing is seen whole; nothing without one.
     std::optional<WholeView> VueEntiere() const;
     PicturePlace Milieu() const;
