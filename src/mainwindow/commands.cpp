@@ -65,8 +65,13 @@ std::vector<Command> FileMenu() {
               "Ctrl+Shift+O"),
         Entry("mnu_fileprofilopen", menu, {"MenuFile", "3"}, kAlways,
               &frmmain::mnu_fileprofilopen_Click, "Ctrl+O"),
+        Entry("mnu_filesuivant", menu, {"MenuFile", "211"}, kAlways,
+              &frmmain::mnu_filesuivant_Click, "Alt+Right"),
+        Entry("mnu_fileprecedent", menu, {"MenuFile", "212"}, kAlways,
+              &frmmain::mnu_fileprecedent_Click, "Alt+Left"),
         Entry("mnu_filesaveas", menu, {"MenuFile", "4"}, kFile, &frmmain::mnu_filesaveas_Click,
               "Ctrl+Shift+S; Ctrl+S"),
+        SubMenu("mnu_fileribs", menu, {"MenuFile", "210"}, kAlways),
     };
     Ajoute(commands, ExportEntries(menu));
     Ajoute(commands, {

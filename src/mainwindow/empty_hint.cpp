@@ -39,7 +39,7 @@ EmptyHint::EmptyHint(QWidget *parent) : QWidget(parent) {
         connect(&fichiers_[i], &QPushButton::clicked, this,
                 [this, i] { Q_EMIT OuvreRecent(chemins_[i]); });
     }
-    MontreRecents({});
+    MontreRecents({}, {});
 }
 
 void EmptyHint::NameAll() {
@@ -90,13 +90,14 @@ void EmptyHint::PoseTextes(const LngIni &language) {
     MontreCeQuiTient();
 }
 
-void EmptyHint::MontreRecents(const FichiersRecents &recents) {
-    chemins_ = recents;
-    for (std::size_t i = 0; i < recents.size(); ++i) {
-        QString name = Q(std::filesystem::path(recents[i]).filename().string());
+void EmptyHint::MontreRecents(const FichiersRecents &ribs, const FichiersRecents &profils) {
+    std::copy(profils.begin(), profils.end(),
+              std::copy(ribs.begin(), ribs.end(), chemins_.begin()));
+    for (std::size_t i = 0; i < kFichiers; ++i) {
+        QString name = Q(std::filesystem::path(chemins_[i]).filename().string());
         fichiers_[i].setText(name.replace('&', "&&"));
-        SetTip(fichiers_[i], recents[i]);
-        fichiers_[i].setVisible(!recents[i].empty());
+        SetTip(fichiers_[i], chemins_[i]);
+        fichiers_[i].setVisible(!chemins_[i].empty());
     }
     MontreCeQuiTient();
 }

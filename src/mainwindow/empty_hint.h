@@ -13,7 +13,7 @@
 
 namespace loftwing {
 
-/// Says how to come to a first drawing: open, drop, or one of the airfoils that were opened last.
+/// Says how to come to a first drawing: open, drop, or one of the files that were opened last.
 /// It is no paper and so has the desktop's colours. What a click does is not its business.
 class EmptyHint : public QWidget {
     Q_OBJECT
@@ -23,8 +23,8 @@ class EmptyHint : public QWidget {
 
     /// Gives it the words of the language in force.
     void PoseTextes(const LngIni &language);
-    /// The files that it offers, the last one first; an empty path is none.
-    void MontreRecents(const FichiersRecents &recents);
+    /// The files that it offers, of each kind the last one first; an empty path is none.
+    void MontreRecents(const FichiersRecents &ribs, const FichiersRecents &profils);
 
   Q_SIGNALS:
     void Ouvre();
@@ -39,8 +39,9 @@ class EmptyHint : public QWidget {
     QLabel depose_;
     QWidget recents_; ///< the words and buttons below
     QLabel avant_;
-    std::array<QPushButton, kFichiersRecents> fichiers_;
-    FichiersRecents chemins_;
+    static constexpr std::size_t kFichiers = std::size_t{2} * kFichiersRecents;
+    std::array<QPushButton, kFichiers> fichiers_;
+    std::array<std::string, kFichiers> chemins_;
 
     void NameAll();
     void LayOut();

@@ -35,6 +35,7 @@ frmmain::frmmain(Programme &programme)
                             },
                             [this](const EntreeExport &entree) { Exporte(entree); },
                             [this](const std::string &path) { mnuFileMRU_Click(path); },
+                            [this](const std::string &path) { mnuRibMRU_Click(path); },
                             [this](int row) { Combo1_Click(row); }}) {
     setObjectName("frmmain");
     setAcceptDrops(true);

@@ -38,6 +38,8 @@ class frmmain : public MainFrame {
 
     // Commands, named after their controls.
     void mnu_fileprofilopen_Click();
+    void mnu_filesuivant_Click();
+    void mnu_fileprecedent_Click();
     void mnu_fileopen_Click();
     void mnu_filesaveas_Click();
     void mnu_filepage_Click();
@@ -45,6 +47,7 @@ class frmmain : public MainFrame {
     void mnu_fileprint_Click() override;
     void mnu_fileexit_Click();
     void mnuFileMRU_Click(const std::string &path) override;
+    void mnuRibMRU_Click(const std::string &path);
     void mnu_affinver_Click();
     void mnu_affdefaut_Click();
     void mnu_affcouleur_Click();

@@ -4,6 +4,7 @@
 #include "mainwindow/frmmain.h"
 #include "output/view_screen.h"
 #include "platform/qt_text.h"
+#include "programme/rib_file.h"
 #include "programme/rib_steps.h"
 
 namespace loftwing {
@@ -19,7 +20,9 @@ void frmmain::ConnectPicture() {
     connect(picture_, &PictureArea::Redimensionne, this, &frmmain::Form_Resize);
     const EmptyHint &hint = picture_->Accueil();
     connect(&hint, &EmptyHint::Ouvre, &commands_.Entree("mnu_fileprofilopen"), &QAction::trigger);
-    connect(&hint, &EmptyHint::OuvreRecent, this, &frmmain::mnuFileMRU_Click);
+    connect(&hint, &EmptyHint::OuvreRecent, this, [this](const std::string &path) {
+        EstComposants(path) ? mnuRibMRU_Click(path) : mnuFileMRU_Click(path);
+    });
 }
 
 void frmmain::affiche() {

@@ -55,9 +55,10 @@ void MainFrame::AfficheCorde() {
 }
 
 void MainFrame::AfficheFichiersRecents() {
-    const FichiersRecents recents = FichiersRecentsConnus(programme_);
-    commands_.MontreFichiersRecents(recents);
-    picture_->Accueil().MontreRecents(recents);
+    const FichiersRecents profils = FichiersRecentsConnus(programme_);
+    const FichiersRecents ribs = RibsRecentsConnus(programme_);
+    commands_.MontreFichiersRecents(profils, ribs);
+    picture_->Accueil().MontreRecents(ribs, profils);
 }
 
 void MainFrame::AppliqueLangue() {

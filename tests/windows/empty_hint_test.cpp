@@ -1,6 +1,7 @@
 // What the picture says as long as it has nothing to show.
 
 #include "mainwindow/empty_hint.h"
+#include "support/components_text.h"
 #include "windows/views_fixture.h"
 
 #include <QApplication>
@@ -65,13 +66,24 @@ TEST_F(EmptyPicture, OffersTheAirfoilsOpenedLast) {
     world.Action("mnu_affclear")->trigger();
     const Seen window = world.Main();
     EXPECT_EQ(window.Label("EmptyHint_before"), "Opened last");
-    EXPECT_EQ(window.Word({"EmptyHint_file", 0}), "naca0012.dat");
-    EXPECT_EQ(window.Word({"EmptyHint_file", 1}), "naca2412.dat");
-    EXPECT_EQ(window.Tip({"EmptyHint_file", 1}), File("naca2412.dat"));
-    EXPECT_FALSE(window.Shown({"EmptyHint_file", 2}));
-    window.Click({"EmptyHint_file", 1});
+    EXPECT_FALSE(window.Shown({"EmptyHint_file", 3})); // the ribs stand before them
+    EXPECT_EQ(window.Word({"EmptyHint_file", 4}), "naca0012.dat");
+    EXPECT_EQ(window.Word({"EmptyHint_file", 5}), "naca2412.dat");
+    EXPECT_EQ(window.Tip({"EmptyHint_file", 5}), File("naca2412.dat"));
+    EXPECT_FALSE(window.Shown({"EmptyHint_file", 6}));
+    window.Click({"EmptyHint_file", 5});
     EXPECT_EQ(Rib().CheminProfil, File("naca2412.dat"));
     EXPECT_TRUE(Rib().ProfilCharge);
+}
+
+TEST_F(EmptyPicture, OffersTheRibsOpenedLast) {
+    std::filesystem::copy_file(File("naca2412.dat"), world.folder.Path("airfoils/naca2412.dat"));
+    const std::string path = world.folder.File("root.lfw", ComponentsText{}.Current());
+    world.window->OuvreFichier(path);
+    world.Action("mnu_affclear")->trigger();
+    EXPECT_EQ(world.Main().Word({"EmptyHint_file", 0}), "root.lfw");
+    world.Main().Click({"EmptyHint_file", 0});
+    EXPECT_EQ(Caption(), "Loftwing Rib : root.lfw Airfoil : naca2412");
 }
 
 TEST_F(EmptyPicture, LeavesTheRecentAirfoilsToTheMenuWhereTheyHaveNoRoom) {

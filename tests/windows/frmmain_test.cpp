@@ -475,31 +475,6 @@ TEST(MainWindow, SpeaksFrench) {
     EXPECT_EQ(world.Main().Word("cmdcorde"), world.programme.Text({"MainTolbar", "13"}));
 }
 
-TEST(MainWindow, NoShortcutStandsForTwoCommands) {
-    WindowWorld world;
-    world.Open();
-    std::set<QString> keys;
-    for (const Command &command : MenuCommands()) {
-        for (const QKeySequence &key : world.Action(command.name)->shortcuts()) {
-            EXPECT_FALSE(key.isEmpty()) << command.name;
-            EXPECT_TRUE(keys.insert(key.toString()).second) << command.name;
-        }
-    }
-    EXPECT_GE(keys.size(), 5U);
-}
-
-TEST(MainWindow, CtrlSSavesAsCtrlShiftSDoes) {
-    WindowWorld world;
-    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
-    world.platform.files_expected = {world.folder.Path("a.lfw"), world.folder.Path("b.lfw")};
-    QTest::keyClick(world.window.get(), Qt::Key_S, Qt::ControlModifier);
-    EXPECT_TRUE(std::filesystem::exists(world.folder.Path("a.lfw")));
-    EXPECT_FALSE(world.programme.rib.Modifie);
-    QTest::keyClick(world.window.get(), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_TRUE(std::filesystem::exists(world.folder.Path("b.lfw")));
-    EXPECT_EQ(world.Action("mnu_filesaveas")->shortcut().toString().toStdString(), "Ctrl+Shift+S");
-}
-
 TEST(MainWindow, AFileDroppedOnItOpens) {
     WindowWorld world;
     world.Open();
