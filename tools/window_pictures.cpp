@@ -82,6 +82,7 @@ class Pictures {
     void Take() {
         window_->resize(1000, 420);
         window_->show();
+        TakeEmpty();
         RibModel &rib = programme_.rib;
         window_->OuvreFichier(programme_.settings.repertoires.RepProfil + "/naca2412.dat");
         rib.EpBA = 8;
@@ -110,6 +111,16 @@ class Pictures {
     static Paths PathsIn(const std::string &home) {
         const std::string resources = std::string(LOFTWING_SOURCE_DIR) + "/resources";
         return {resources, resources + "/lng", home + "/Loftwing.ini", resources + "/help"};
+    }
+
+    /// The window before the first airfoil, and after one.
+    void TakeEmpty() {
+        Save(*window_, "frmmain-empty");
+        for (const char *airfoil : {"/naca0012.dat", "/naca2412.dat"}) {
+            window_->OuvreFichier(programme_.settings.repertoires.RepProfil + airfoil);
+        }
+        window_->affclear();
+        Save(*window_, "frmmain-cleared");
     }
 
     void AddFeatures() {

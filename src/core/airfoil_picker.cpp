@@ -124,6 +124,24 @@ ContenuDossier LitDossier(const std::string &folder, std::string_view motif) {
     return contenu;
 }
 
+std::string ProfilVoisin(const std::string &chemin, int pas) {
+    const fs::path path(chemin);
+    const std::string folder = path.parent_path().string();
+    const std::string name = path.filename().string();
+    std::vector<std::string> names = LitDossier(folder, "*").fichiers;
+    std::erase_if(names, [](const std::string &each) {
+        return !SuitMotif(each, "*.dat") && !SuitMotif(each, "*.cor");
+    });
+    auto place = name.empty() && pas < 0
+                     ? names.end()
+                     : std::lower_bound(names.begin(), names.end(), name, Avant);
+    if (pas > 0) {
+        place += place != names.end() && *place == name ? 1 : 0;
+        return place == names.end() ? std::string() : CheminDans(folder, *place);
+    }
+    return place == names.begin() ? std::string() : CheminDans(folder, *std::prev(place));
+}
+
 std::string DossierDepart(const std::string &last) {
     std::error_code error;
     const fs::path current = fs::current_path(error);

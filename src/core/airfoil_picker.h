@@ -63,6 +63,12 @@ struct ContenuDossier {
 /// off.
 ContenuDossier LitDossier(const std::string &folder, std::string_view motif);
 
+/// The airfoil file that stands next to `chemin` in the list of its folder, of all kinds that the
+/// picker lists: behind it where `pas` is above 0, before it otherwise. A file that is gone counts
+/// where it would stand, and a folder, a path that ends in "/", has all its files next to it.
+/// Empty at the end of the list. Failures as LitDossier.
+std::string ProfilVoisin(const std::string &chemin, int pas);
+
 /// The folder on which the picker opens: `last` as an absolute path where that can be listed,
 /// otherwise the current folder, otherwise the top one.
 std::string DossierDepart(const std::string &last);

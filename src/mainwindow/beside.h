@@ -1,16 +1,17 @@
 /// The windows that stand open beside the main one.
 #pragma once
 
+#include "platform/qt_place.h"
 #include "programme/programme.h"
 
 #include <QWidget>
 
 namespace loftwing {
 
-/// Shows a window that stays open beside the main one. There is one of each kind: a second command
-/// brings it to the front.
+/// Shows a window that stays open beside the main one, off `clear` where the screen has room. There
+/// is one of each kind: a second command brings it to the front.
 template <class Window>
-void ShowBeside(QWidget &parent, Programme &programme) {
+void ShowBeside(QWidget &parent, Programme &programme, const QRect &clear) {
     for (Window *open : parent.findChildren<Window *>()) {
         if (open->isVisible()) {
             open->setWindowState(open->windowState() & ~Qt::WindowMinimized);
@@ -21,6 +22,7 @@ void ShowBeside(QWidget &parent, Programme &programme) {
     }
     auto *window = new Window(programme, &parent);
     window->setAttribute(Qt::WA_DeleteOnClose);
+    PlaceDialog(*window, parent, clear);
     window->show();
 }
 

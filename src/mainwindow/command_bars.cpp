@@ -21,6 +21,22 @@ void Enable(EtatCommandes state, unsigned groups, Control &control) {
     }
 }
 
+/// Shows files in their entries; says whether there is any.
+template <class Entries>
+bool MontreRecents(const Entries &entries, const FichiersRecents &recent) {
+    bool any = false;
+    for (std::size_t i = 0; i < recent.size(); ++i) {
+        const QString path = Q(recent[i]);
+        QString shown = path;
+        shown.replace('&', "&&");
+        entries[i]->setText(QStringLiteral("&%1 %2").arg(i + 1).arg(shown));
+        entries[i]->setData(path);
+        entries[i]->setVisible(!path.isEmpty());
+        any = any || !path.isEmpty();
+    }
+    return any;
+}
+
 } // namespace
 
 CommandBars::CommandBars(QMainWindow &window, Demandes demandes)
@@ -52,7 +68,7 @@ void CommandBars::AddCommand(const Command &command) {
         action->setCheckable(command.checkable);
         action->setEnabled(!command.ailleurs);
         if (command.keys != nullptr) {
-            action->setShortcut(QKeySequence(QString::fromLatin1(command.keys)));
+            action->setShortcuts(QKeySequence::listFromString(QString::fromLatin1(command.keys)));
         }
         QObject::connect(action, &QAction::triggered, &window_, [this, &command] {
             if (command.exporte != nullptr) {
@@ -70,22 +86,32 @@ void CommandBars::BuildMenus() {
     for (const Command &command : MenuCommands()) {
         AddCommand(command);
     }
-    // They stand above the entry that ends the program.
-    BuildRecentFiles(menus_.at("mnu_file"), actions_.at("mnu_fileexit"));
+    BuildRecentFiles();
 }
 
-void CommandBars::BuildRecentFiles(QMenu *menu, QAction *before) {
-    for (int i = 0; i < kFichiersRecents; ++i) {
-        auto *entry = new QAction(&window_);
-        entry->setObjectName(QStringLiteral("mnuFileMRU(%1)").arg(i + 1));
+void CommandBars::BuildRecentFiles() {
+    QMenu &menu = *menus_.at("mnu_file");
+    // They stand above the entry that ends the program.
+    mnuFileMRU_ = AddRecents("mnuFileMRU", menu, actions_.at("mnu_fileexit"), demandes_.fichier);
+    mnuFileMRUTrait_ = menu.insertSeparator(mnuFileMRU_.front());
+    mnuFileMRUTrait_->setVisible(false);
+    mnuRibMRU_ = AddRecents("mnuRibMRU", *menus_.at("mnu_fileribs"), nullptr, demandes_.rib);
+}
+
+CommandBars::EntreesRecentes
+CommandBars::AddRecents(const char *name, QMenu &menu, QAction *before,
+                        const std::function<void(const std::string &path)> &opens) {
+    EntreesRecentes entries{};
+    int number = 0;
+    for (QAction *&entry : entries) {
+        entry = new QAction(&window_);
+        entry->setObjectName(QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(++number));
         entry->setVisible(false);
         QObject::connect(entry, &QAction::triggered, &window_,
-                         [this, entry] { demandes_.fichier(S(entry->data().toString())); });
-        menu->insertAction(before, entry);
-        mnuFileMRU_[static_cast<std::size_t>(i)] = entry;
+                         [entry, opens] { opens(S(entry->data().toString())); });
+        menu.insertAction(before, entry);
     }
-    mnuFileMRUTrait_ = menu->insertSeparator(mnuFileMRU_.front());
-    mnuFileMRUTrait_->setVisible(false);
+    return entries;
 }
 
 void CommandBars::BuildToolbar() {
@@ -122,6 +148,7 @@ void CommandBars::BuildZoomList() {
         Combo1_->addItem(QString::fromLatin1(row));
     }
     Combo1_->setCurrentIndex(kZoomRow100);
+    Combo1_->setFocusPolicy(Qt::TabFocus); // after a choice the arrow keys scroll again
     QObject::connect(Combo1_, &QComboBox::activated, &window_,
                      [this](int row) { demandes_.zoom(row); });
     tools_[kZoomTool] = Toolbar1_->addWidget(Combo1_);
@@ -159,18 +186,10 @@ void CommandBars::MontreCoches(const RibModel &rib) {
     }
 }
 
-void CommandBars::MontreFichiersRecents(const FichiersRecents &recent) {
-    bool any = false;
-    for (std::size_t i = 0; i < recent.size(); ++i) {
-        const QString path = Q(recent[i]);
-        QString shown = path;
-        shown.replace('&', "&&");
-        mnuFileMRU_[i]->setText(QStringLiteral("&%1 %2").arg(i + 1).arg(shown));
-        mnuFileMRU_[i]->setData(path);
-        mnuFileMRU_[i]->setVisible(!path.isEmpty());
-        any = any || !path.isEmpty();
-    }
-    mnuFileMRUTrait_->setVisible(any);
+void CommandBars::MontreFichiersRecents(const FichiersRecents &profils,
+                                        const FichiersRecents &ribs) {
+    mnuFileMRUTrait_->setVisible(MontreRecents(mnuFileMRU_, profils));
+    actions_.at("mnu_fileribs")->setEnabled(MontreRecents(mnuRibMRU_, ribs));
 }
 
 void CommandBars::PoseTextes(const LngIni &language) {

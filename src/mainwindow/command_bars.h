@@ -25,7 +25,8 @@ class CommandBars {
     struct Demandes {
         std::function<void(const char *name, CommandHandler handler)> execute; ///< never null
         std::function<void(const EntreeExport &entree)> exporte;
-        std::function<void(const std::string &path)> fichier; ///< a recent file
+        std::function<void(const std::string &path)> fichier; ///< a recent airfoil
+        std::function<void(const std::string &path)> rib;     ///< a recent rib components file
         std::function<void(int row)> zoom;                    ///< a row of the zoom list
     };
 
@@ -43,7 +44,7 @@ class CommandBars {
     void Met(EtatCommandes state);
     /// Makes the checks of the view menu show what the rib has.
     void MontreCoches(const RibModel &rib);
-    void MontreFichiersRecents(const FichiersRecents &recent);
+    void MontreFichiersRecents(const FichiersRecents &profils, const FichiersRecents &ribs);
     /// Gives every control its words.
     void PoseTextes(const LngIni &language);
 
@@ -52,7 +53,9 @@ class CommandBars {
     Demandes demandes_;
     std::map<std::string, QAction *> actions_; ///< menus and entries by control name
     std::map<std::string, QMenu *> menus_;
-    std::array<QAction *, kFichiersRecents> mnuFileMRU_{};
+    using EntreesRecentes = std::array<QAction *, kFichiersRecents>;
+    EntreesRecentes mnuFileMRU_{};
+    EntreesRecentes mnuRibMRU_{};
     QAction *mnuFileMRUTrait_ = nullptr;
     QToolBar *Toolbar1_ = nullptr;
     std::map<int, QAction *> tools_; ///< buttons of Toolbar1 by index
@@ -63,7 +66,10 @@ class CommandBars {
     void Execute(const char *name, CommandHandler handler);
     void BuildMenus();
     void AddCommand(const Command &command);
-    void BuildRecentFiles(QMenu *menu, QAction *before);
+    void BuildRecentFiles();
+    /// Entries of a menu, the last ones or before another, that open what they name.
+    EntreesRecentes AddRecents(const char *name, QMenu &menu, QAction *before,
+                               const std::function<void(const std::string &path)> &opens);
     void BuildToolbar();
     void AddTool(const ToolButton &button);
     void BuildZoomList();

@@ -72,8 +72,13 @@ std::vector<Command> FileMenu() {
               "Ctrl+Shift+O"),
         Entry("mnu_fileprofilopen", menu, {"MenuFile", "3"}, kAlways,
               &frmmain::mnu_fileprofilopen_Click, "Ctrl+O"),
+        Entry("mnu_filesuivant", menu, {"MenuFile", "211"}, kAlways,
+              &frmmain::mnu_filesuivant_Click, "Alt+Right"),
+        Entry("mnu_fileprecedent", menu, {"MenuFile", "212"}, kAlways,
+              &frmmain::mnu_fileprecedent_Click, "Alt+Left"),
         Entry("mnu_filesaveas", menu, {"MenuFile", "4"}, kFile, &frmmain::mnu_filesaveas_Click,
-              "Ctrl+Shift+S"),
+              "Ctrl+Shift+S; Ctrl+S"),
+        SubMenu("mnu_fileribs", menu, {"MenuFile", "210"}, kAlways),
     };
     Ajoute(commands, ExportEntries(menu));
     Ajoute(commands, {
@@ -92,6 +97,7 @@ std::vector<Command> FileMenu() {
 
 std::vector<Command> ViewMenu() {
     const char *menu = "mnu_aff";
+    const char *zoom = "mnu_affzoom";
     return {
         Menu(menu, {"MenuAffich", "1"}),
         Check("mnu_affinver", menu, {"MenuAffich", "2"}, kRib | kAliveInSimplePlot,
@@ -106,6 +112,15 @@ std::vector<Command> ViewMenu() {
               &frmmain::mnu_affInstxt_Click),
         Check("mnu_affTrac", menu, {"MenuAffich", "9"}, kRib, &frmmain::mnu_affTrac_Click),
         Check("mnu_afflignRef", menu, {"MenuAffich", "12"}, kRib, &frmmain::mnu_afflignRef_Click),
+        Below(SubMenu(zoom, menu, {"MenuAffich", "210"}, kAlways)),
+        Entry("mnu_affzoomplus", zoom, {"MenuAffich", "211"}, kAlways,
+              &frmmain::mnu_affzoomplus_Click, "Ctrl++; Ctrl+="),
+        Entry("mnu_affzoommoins", zoom, {"MenuAffich", "212"}, kAlways,
+              &frmmain::mnu_affzoommoins_Click, "Ctrl+-"),
+        Entry("mnu_affzoom100", zoom, {"MenuAffich", "213"}, kAlways,
+              &frmmain::mnu_affzoom100_Click, "Ctrl+0"),
+        Entry("mnu_affajuste", zoom, {"MenuAffich", "214"}, kAlways, &frmmain::mnu_affajuste_Click,
+              "F"),
         Below(Entry("mnu_affclear", menu, {"MenuAffich", "10"}, kAlways,
                     &frmmain::mnu_affclear_Click)),
         Below(

@@ -21,7 +21,7 @@ struct Command {
     const char *name; ///< of the control
     const char *menu; ///< name of the menu it stands in; null for none or the menu bar
     LngKey text;      ///< caption
-    const char *keys; ///< shortcut, may be null
+    const char *keys; ///< shortcuts, parted by "; ", the shown one first; may be null
     unsigned groups;  ///< CommandGroup bits
     bool checkable;
     bool submenu;   ///< a menu of its own rather than an entry

@@ -3,6 +3,7 @@
 #include "base/version.h"
 #include "platform/qt_text.h"
 
+#include <QScreen>
 #include <QShowEvent>
 
 namespace loftwing {
@@ -38,10 +39,9 @@ void frmSplash::Form_Load() {
 
 void frmSplash::showEvent(QShowEvent *event) {
     QDialog::showEvent(event);
-    if (const QWidget *window = parentWidget()) {
-        adjustSize();
-        move(window->frameGeometry().center() - rect().center());
-    }
+    adjustSize();
+    const QScreen *where = parentWidget() != nullptr ? parentWidget()->screen() : screen();
+    move(where->availableGeometry().center() - rect().center());
     Timer1.start();
 }
 

@@ -10,7 +10,8 @@
 
 namespace loftwing {
 
-/// Shows the program's name and version over the main window while that appears. It is shown
+/// Shows the program's name and version in the middle of the screen on which the main window
+/// appears, for that window may still move when it is there. It is shown
 /// without waiting for it; it closes of itself, or when its image is clicked, and the mouse pointer
 /// is normal from then on.
 class frmSplash : public QDialog {

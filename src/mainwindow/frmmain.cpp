@@ -35,12 +35,14 @@ frmmain::frmmain(Programme &programme)
                             },
                             [this](const EntreeExport &entree) { Exporte(entree); },
                             [this](const std::string &path) { mnuFileMRU_Click(path); },
+                            [this](const std::string &path) { mnuRibMRU_Click(path); },
                             [this](int row) { Combo1_Click(row); }}) {
     setObjectName("frmmain");
     setAcceptDrops(true);
     ConnectPicture();
     LitPlace(*this);
     Form_Load();
+    picture_->setFocus(); // arrow keys scroll from the start
 }
 
 void frmmain::Form_Load() {
@@ -74,7 +76,9 @@ void frmmain::ActiveCommandesCouple() {
 }
 
 void frmmain::ActiveCommandesVides() {
-    commands_.Met(EtatCommandes::vide);
+    // What clears before there was any airfoil, as the choice of the first language does, leaves
+    // the program as every other start has it.
+    commands_.Met(dessine_ ? EtatCommandes::vide : EtatCommandes::depart);
 }
 
 void frmmain::closeEvent(QCloseEvent *event) {

@@ -39,6 +39,8 @@ class frmmain : public MainFrame {
 
     // Commands, named after their controls.
     void mnu_fileprofilopen_Click();
+    void mnu_filesuivant_Click();
+    void mnu_fileprecedent_Click();
     void mnu_fileopen_Click();
     void mnu_filesaveas_Click();
     void mnu_filepage_Click();
@@ -46,6 +48,7 @@ class frmmain : public MainFrame {
     void mnu_fileprint_Click() override;
     void mnu_fileexit_Click();
     void mnuFileMRU_Click(const std::string &path) override;
+    void mnuRibMRU_Click(const std::string &path);
     void mnu_affinver_Click();
     void mnu_affdefaut_Click();
     void mnu_affcouleur_Click();
@@ -55,6 +58,10 @@ class frmmain : public MainFrame {
     void mnu_affInstxt_Click();
     void mnu_affTrac_Click();
     void mnu_afflignRef_Click();
+    void mnu_affzoomplus_Click();
+    void mnu_affzoommoins_Click();
+    void mnu_affzoom100_Click();
+    void mnu_affajuste_Click();
     void mnu_affclear_Click() override;
     void mnu_affLang_Click();
     void mnu_profilcorde_Click();
@@ -91,7 +98,9 @@ class frmmain : public MainFrame {
     void Form_Load();
     void Form_Resize();
     void Combo1_Click(int row);
-    void ZoomSur(int steps);
+    void ZoomSur(int steps, const PicturePlace &place);
+    /// Draws at the zoom of a row of the list, scrolled so.
+    void MetZoom(int row, const ScrollMove &bars);
     void ConnectPicture();
     /// Lets the user set up the page; false when that is cancelled.
     bool RegleMiseEnPage();

@@ -21,8 +21,20 @@ void frmmain::mnuFileMRU_Click(const std::string &path) {
     }
 }
 
+void frmmain::mnuRibMRU_Click(const std::string &path) {
+    Garde(EtiquetteOuverture(path), [&] { OuvreRibRecent(programme_, *this, path); });
+}
+
 void frmmain::mnu_fileprofilopen_Click() {
     OuvreProfil(programme_, *this);
+}
+
+void frmmain::mnu_filesuivant_Click() {
+    OuvreVoisin(programme_, *this, 1);
+}
+
+void frmmain::mnu_fileprecedent_Click() {
+    OuvreVoisin(programme_, *this, -1);
 }
 
 void frmmain::mnu_fileopen_Click() {

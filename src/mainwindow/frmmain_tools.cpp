@@ -22,19 +22,19 @@ std::optional<ProfilChoisi> frmmain::ChoisitProfil(const std::string &titre) {
 
 void frmmain::mnu_outilnervinter_Click() {
     if (ControleSeparateurCommande(programme_, {"MenuOutils", "3t"})) {
-        ShowBeside<frmnervure>(*this, programme_);
+        ShowBeside<frmnervure>(*this, programme_, picture_->PlaceDuDessin());
     }
 }
 
 void frmmain::mnu_OutlilDiedre_Click() {
     if (ControleSeparateurCommande(programme_, {"MenuOutils", "10t"})) {
-        ShowBeside<frmdiedre>(*this, programme_);
+        ShowBeside<frmdiedre>(*this, programme_, picture_->PlaceDuDessin());
     }
 }
 
 void frmmain::mnu_Outilcoord_Click() {
     if (ControleSeparateurCommande(programme_, {"MenuOutils", "11t"})) {
-        ShowBeside<frmCoord>(*this, programme_);
+        ShowBeside<frmCoord>(*this, programme_, picture_->PlaceDuDessin());
     }
 }
 

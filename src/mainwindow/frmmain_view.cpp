@@ -1,10 +1,10 @@
 // The picture of the main window: redraw, zoom, scroll and size.
 
-#include "base/version.h"
 #include "mainwindow/beside.h"
 #include "mainwindow/frmmain.h"
 #include "output/view_screen.h"
 #include "platform/qt_text.h"
+#include "programme/rib_file.h"
 #include "programme/rib_steps.h"
 
 namespace loftwing {
@@ -18,6 +18,11 @@ void frmmain::ConnectPicture() {
             [this](const QPoint &place) { commands_.OuvreMenu("mnuprofil", place); });
     connect(picture_, &PictureArea::ZoomDemande, this, &frmmain::ZoomSur);
     connect(picture_, &PictureArea::Redimensionne, this, &frmmain::Form_Resize);
+    const EmptyHint &hint = picture_->Accueil();
+    connect(&hint, &EmptyHint::Ouvre, &commands_.Entree("mnu_fileprofilopen"), &QAction::trigger);
+    connect(&hint, &EmptyHint::OuvreRecent, this, [this](const std::string &path) {
+        EstComposants(path) ? mnuRibMRU_Click(path) : mnuFileMRU_Click(path);
+    });
 }
 
 void frmmain::affiche() {
@@ -63,33 +68,52 @@ void frmmain::ViewReset() {
     RemetVue(programme_.rib);
     programme_.plot.BlocBA = 0;
     programme_.plot.BlocEp = 0;
-    picture_->RemetDefilement();
+    picture_->MetDefilement();
 }
 
 void frmmain::affclear() {
     VideTout(programme_, *this);
 }
 
-void frmmain::ZoomSur(int steps) {
-    QComboBox &zoom = commands_.ListeZoom();
-    const int wanted = ZoomRow(zoom.currentIndex(), steps);
-    if (wanted != zoom.currentIndex()) {
-        zoom.setCurrentIndex(wanted);
-        Combo1_Click(wanted);
+void frmmain::ZoomSur(int steps, const PicturePlace &place) {
+    const int present = commands_.ListeZoom().currentIndex();
+    const int wanted = ZoomRow(present, steps);
+    if (wanted != present) {
+        MetZoom(wanted, ZoomAt(programme_.rib, place, FacteurZoom(kZoomRows.at(wanted))));
     }
 }
 
-void frmmain::Combo1_Click(int row) {
+void frmmain::MetZoom(int row, const ScrollMove &bars) {
+    commands_.ListeZoom().setCurrentIndex(row);
     programme_.rib.Zoom = FacteurZoom(S(commands_.ListeZoom().itemText(row)));
-    picture_->RemetDefilement();
+    picture_->MetDefilement(bars);
     RetraceVues();
     affiche();
 }
 
+void frmmain::Combo1_Click(int row) {
+    MetZoom(row, {});
+}
+
+void frmmain::mnu_affzoomplus_Click() {
+    ZoomSur(1, picture_->Milieu());
+}
+
+void frmmain::mnu_affzoommoins_Click() {
+    ZoomSur(-1, picture_->Milieu());
+}
+
+void frmmain::mnu_affzoom100_Click() {
+    MetZoom(kZoomRow100, {});
+}
+
+void frmmain::mnu_affajuste_Click() {
+    if (const auto whole = picture_->VueEntiere()) {
+        MetZoom(whole->row, whole->bars);
+    }
+}
+
 void frmmain::Form_Resize() {
-    // A fixed oddity: a change of size leaves the plain caption, as users know it; the status bar
-    // has the airfoil's name. Nothing depends on it.
-    Titre(kTitre);
     // What is typed in a dialog may not fit yet, and a plot that fails costs the rib.
     if (DialogueNervureOuvert(*this)) {
         return;

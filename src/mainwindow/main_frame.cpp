@@ -55,15 +55,23 @@ void MainFrame::AfficheCorde() {
 }
 
 void MainFrame::AfficheFichiersRecents() {
-    commands_.MontreFichiersRecents(FichiersRecentsConnus(programme_));
+    const FichiersRecents profils = FichiersRecentsConnus(programme_);
+    const FichiersRecents ribs = RibsRecentsConnus(programme_);
+    commands_.MontreFichiersRecents(profils, ribs);
+    picture_->Accueil().MontreRecents(ribs, profils);
 }
 
 void MainFrame::AppliqueLangue() {
     commands_.PoseTextes(programme_.language);
+    picture_->Accueil().PoseTextes(programme_.language);
     programme_.messages.PoseMotsDesBoutons();
     toolkit_words_.Follow(programme_.language.LangueCourante);
     AppliqueLangueOutils(*this);
     MontreAvis();
+}
+
+int MainFrame::ShowModal(QDialog &dialog) const {
+    return loftwing::ShowModal(dialog, picture_->PlaceDuDessin());
 }
 
 void MainFrame::MontreCoches() {
@@ -88,6 +96,7 @@ void MainFrame::Dessine(const std::function<Affichage(const Trace &)> &draw,
         affclear();
     }
     if (result == Affichage::dessine) {
+        dessine_ = true;
         picture_->Montre(std::move(recording));
         Panneau(1, kVersion);
         tell();

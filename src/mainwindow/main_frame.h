@@ -45,6 +45,7 @@ class MainFrame : public QMainWindow, public CommandView {
     Programme &programme_;
     CommandBars commands_;
     PictureArea *picture_;
+    bool dessine_ = false; ///< something has been drawn since the start
 
     /// Runs what an event asks for: no failure may pass into the toolkit's event loop.
     void Garde(const std::string &label, const std::function<void()> &action);
@@ -52,6 +53,9 @@ class MainFrame : public QMainWindow, public CommandView {
     /// which has been reported, the rib is cleared. Nothing happens while a redraw is under way.
     void Dessine(const std::function<Affichage(const Trace &)> &draw,
                  const std::function<void()> &tell);
+    /// Shows a dialog of this window beside the drawing, where the screen has room. The commands
+    /// mean this one by the name.
+    int ShowModal(QDialog &dialog) const;
     /// Takes a check of the view menu into the rib.
     void PrendCoche(const char *name);
 

@@ -13,6 +13,7 @@ PicView::PicView(QWidget *parent) : QWidget(parent) {
     setMinimumSize(120, 80);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus); // for the keys that scroll
 }
 
 void PicView::Montre(std::unique_ptr<Recording> drawing) {
@@ -39,7 +40,7 @@ void PicView::wheelEvent(QWheelEvent *event) {
     if (!keys.testFlag(Qt::ControlModifier)) {
         Q_EMIT Roule(NotchesOf(turn.x(), turn.y(), keys.testFlag(Qt::ShiftModifier)));
     } else if (const int steps = zoom_wheel_.Turn(turn.y()); steps != 0) {
-        Q_EMIT ZoomDemande(steps);
+        Q_EMIT ZoomDemande(steps, event->position());
     }
     event->accept();
 }

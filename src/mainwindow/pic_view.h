@@ -25,8 +25,8 @@ class PicView : public QWidget {
 
   Q_SIGNALS:
     void MenuDemande(const QPoint &global);
-    /// Ctrl with the wheel: +1 a step larger, -1 a step smaller.
-    void ZoomDemande(int steps);
+    /// Ctrl with the wheel: +1 a step larger, -1 a step smaller, at that logical pixel.
+    void ZoomDemande(int steps, const QPointF &place);
     /// The wheel alone.
     void Roule(const WheelNotches &notches);
     /// The middle button drags the drawing by that many logical pixels.

@@ -3,7 +3,11 @@
 #include "platform/qt_plot_device.h"
 
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QSignalBlocker>
+#include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace loftwing {
 
@@ -16,11 +20,18 @@ void SetRange(QScrollBar &bar, const ScrollRange &range) {
     bar.setEnabled(range.lowest != range.highest);
 }
 
+/// Puts a bar to a value that the present drawing may have no room for.
+void MetBarre(QScrollBar &bar, int value) {
+    const QSignalBlocker quiet(bar);
+    bar.setRange(std::min(bar.minimum(), value), std::max(bar.maximum(), value));
+    bar.setValue(value);
+}
+
 } // namespace
 
 PictureArea::PictureArea(RibModel &rib, QWidget *parent)
-    : QWidget(parent), rib_(rib), notices_(this), Pic_(this), Hsbpic_(Qt::Horizontal, this),
-      Vsbpic_(Qt::Vertical, this) {
+    : QWidget(parent), rib_(rib), notices_(this), Pic_(this), hint_(&Pic_),
+      Hsbpic_(Qt::Horizontal, this), Vsbpic_(Qt::Vertical, this) {
     Hsbpic_.setObjectName("Hsbpic");
     Vsbpic_.setObjectName("Vsbpic");
     // Runs from 0 at the top to a negative value at the bottom.
@@ -29,6 +40,7 @@ PictureArea::PictureArea(RibModel &rib, QWidget *parent)
     for (QScrollBar *bar : {&Hsbpic_, &Vsbpic_}) {
         bar->setRange(0, 0);
     }
+    setFocusProxy(&Pic_);
     LayOut();
     Connect();
 }
@@ -41,16 +53,20 @@ void PictureArea::LayOut() {
     grid->addWidget(&Pic_, 1, 0);
     grid->addWidget(&Vsbpic_, 1, 1);
     grid->addWidget(&Hsbpic_, 2, 0);
+    auto *cover = new QVBoxLayout(&Pic_);
+    cover->setContentsMargins(0, 0, 0, 0);
+    cover->addWidget(&hint_);
 }
 
 void PictureArea::Connect() {
     connect(&Hsbpic_, &QScrollBar::valueChanged, this, &PictureArea::Hsbpic_Change);
     connect(&Vsbpic_, &QScrollBar::valueChanged, this, &PictureArea::Vsbpic_Change);
     connect(&Pic_, &PicView::MenuDemande, this, &PictureArea::MenuDemande);
-    connect(&Pic_, &PicView::ZoomDemande, this, &PictureArea::ZoomDemande);
-    connect(&Pic_, &PicView::Roule, this, [this](const WheelNotches &notches) {
-        Deplace(WheelMove(notches, {Hsbpic_.singleStep(), Vsbpic_.singleStep()}));
+    connect(&Pic_, &PicView::ZoomDemande, this, [this](int steps, const QPointF &place) {
+        Q_EMIT ZoomDemande(steps, {place.x() * kUnitsPerPixel, place.y() * kUnitsPerPixel});
     });
+    connect(&Pic_, &PicView::Roule, this,
+            [this](const WheelNotches &notches) { Deplace(WheelMove(notches, Pas())); });
     connect(&Pic_, &PicView::Tire, this, [this](const QPoint &pixels) {
         Deplace(drag_.Drag(pixels.x(), pixels.y(), UniteDefilement(rib_) / kUnitsPerPixel));
     });
@@ -71,7 +87,17 @@ void PictureArea::Repose() {
     Q_EMIT Redimensionne();
 }
 
+void PictureArea::Montre(std::unique_ptr<Recording> drawing) {
+    Pic_.Montre(std::move(drawing));
+    MontreAccueil();
+}
+
+void PictureArea::MontreAccueil() {
+    hint_.setVisible(Pic_.Dessin() == nullptr && !rib_.ProfilCharge);
+}
+
 void PictureArea::RegleDefilement() {
+    MontreAccueil();
     const Recording *drawing = Pic_.Dessin();
     const Defilement bars =
         DefilementSur(rib_, drawing == nullptr ? std::nullopt : std::optional(drawing->Bounds()),
@@ -81,13 +107,36 @@ void PictureArea::RegleDefilement() {
     SetRange(Vsbpic_, bars.down);
 }
 
-void PictureArea::RemetDefilement() {
-    const QSignalBlocker across(Hsbpic_);
-    const QSignalBlocker down(Vsbpic_);
-    rib_.DecalX = 0;
-    rib_.DecalY = 0;
-    Hsbpic_.setValue(0);
-    Vsbpic_.setValue(0);
+void PictureArea::MetDefilement(const ScrollMove &bars) {
+    rib_.DecalX = DecalageDe(bars.across);
+    rib_.DecalY = DecalageDe(bars.down);
+    MetBarre(Hsbpic_, bars.across);
+    MetBarre(Vsbpic_, bars.down);
+}
+
+QRect PictureArea::PlaceDuDessin() const {
+    const Recording *drawing = Pic_.Dessin();
+    if (drawing == nullptr) {
+        return {};
+    }
+    const Extent extent = drawing->Bounds();
+    const QRectF pixels(QPointF(extent.left, extent.top) / kUnitsPerPixel,
+                        QPointF(extent.right, extent.bottom) / kUnitsPerPixel);
+    const QRect seen = pixels.toAlignedRect() & Pic_.rect();
+    return {Pic_.mapToGlobal(seen.topLeft()), seen.size()};
+}
+
+std::optional<WholeView> PictureArea::VueEntiere() const {
+    const Recording *drawing = Pic_.Dessin();
+    if (drawing == nullptr) {
+        return std::nullopt;
+    }
+    return FitTo(rib_, drawing->Bounds(), Pic_.width() * kUnitsPerPixel,
+                 Pic_.height() * kUnitsPerPixel);
+}
+
+PicturePlace PictureArea::Milieu() const {
+    return {Pic_.width() * kUnitsPerPixel / 2.0, Pic_.height() * kUnitsPerPixel / 2.0};
 }
 
 void PictureArea::Hsbpic_Change(int value) {
@@ -98,6 +147,21 @@ void PictureArea::Hsbpic_Change(int value) {
 void PictureArea::Vsbpic_Change(int value) {
     rib_.DecalY = DecalageDe(value);
     Q_EMIT Defile();
+}
+
+void PictureArea::keyPressEvent(QKeyEvent *event) {
+    switch (event->key()) {
+    case Qt::Key_Left:
+        return Deplace(ArrowMove(-1, 0, Pas()));
+    case Qt::Key_Right:
+        return Deplace(ArrowMove(1, 0, Pas()));
+    case Qt::Key_Up:
+        return Deplace(ArrowMove(0, -1, Pas()));
+    case Qt::Key_Down:
+        return Deplace(ArrowMove(0, 1, Pas()));
+    default:
+        return QWidget::keyPressEvent(event);
+    }
 }
 
 void PictureArea::Deplace(const ScrollMove &move) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/rib_model.h"
+#include "mainwindow/empty_hint.h"
 #include "mainwindow/notice_bar.h"
 #include "mainwindow/pic_view.h"
 #include "output/scrolling.h"
@@ -10,6 +11,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 
 namespace loftwing {
 
@@ -22,28 +24,40 @@ class PictureArea : public QWidget {
     PictureArea(RibModel &rib, QWidget *parent);
 
     /// Takes a new drawing, null for an empty picture. The bars stay until RegleDefilement.
-    void Montre(std::unique_ptr<Recording> drawing) { Pic_.Montre(std::move(drawing)); }
+    void Montre(std::unique_ptr<Recording> drawing);
     /// Gives the bars their ranges over the present drawing.
     void RegleDefilement();
     /// The strips above the picture.
     NoticeBar &Avis() { return notices_; }
-    /// Scrolls back without a redraw.
-    void RemetDefilement();
+    /// What stands in the empty picture.
+    EmptyHint &Accueil() { return hint_; }
+    /// Scrolls to these values of the bars, or back, without a redraw. What the next drawing has no
+    /// room for is cut back then.
+    void MetDefilement(const ScrollMove &bars = {});
+    /// What of the drawing is seen, on the screen; empty without one.
+    QRect PlaceDuDessin() const;
+    /// How the present drawing is seen whole; nothing without one.
+    std::optional<WholeView> VueEntiere() const;
+    PicturePlace Milieu() const;
 
   Q_SIGNALS:
     /// A bar has changed the rib's offsets.
     void Defile();
     void MenuDemande(const QPoint &global);
     /// Ctrl with the wheel: that many steps of the zoom list, positive to a larger one.
-    void ZoomDemande(int steps);
+    void ZoomDemande(int steps, const PicturePlace &place);
     /// The picture has another size, by the window's doing and not by a notice, and has come to
     /// rest.
     void Redimensionne();
+
+  protected:
+    void keyPressEvent(QKeyEvent *event) override;
 
   private:
     RibModel &rib_;
     NoticeBar notices_;
     PicView Pic_;
+    EmptyHint hint_; ///< covers the picture as long as there is neither airfoil nor drawing
     QScrollBar Hsbpic_;
     QScrollBar Vsbpic_;
     QTimer resized_;
@@ -53,9 +67,12 @@ class PictureArea : public QWidget {
     void LayOut();
     void Connect();
     void Repose();
+    void MontreAccueil();
     void Hsbpic_Change(int value);
     void Vsbpic_Change(int value);
     void Deplace(const ScrollMove &move);
+    /// What a line is in units of the bars.
+    ScrollMove Pas() const { return {Hsbpic_.singleStep(), Vsbpic_.singleStep()}; }
 };
 
 } // namespace loftwing

@@ -16,6 +16,7 @@ frmcoul::frmcoul(Programme &programme, QWidget *parent)
     : Dialogue(programme, "frmcoul", kAide, parent), avant_(programme.settings.traits) {
     NameAll();
     LayOut();
+    ConnectEach(txtcoul, &QLineEdit::textChanged, this, &frmcoul::txtcoul_Change);
     Form_Load();
     connect(&cmdImprtest, &QPushButton::clicked, this, &frmcoul::cmdImprtest_Click);
 }
@@ -112,6 +113,10 @@ void frmcoul::cmdannuler_Click() {
     }
     programme_.settings.traits = avant_;
     Renonce();
+}
+
+void frmcoul::txtcoul_Change(int index) {
+    At(Swatch, index).Montre(CouleurTapee(S(At(txtcoul, index).text())));
 }
 
 void frmcoul::cmdImprtest_Click() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "output/qt_legend_view.h"
+#include "output/qt_swatch.h"
 #include "output/style_entry.h"
 #include "programme/qt_dialogue.h"
 
@@ -29,6 +30,7 @@ class frmcoul : public Dialogue {
     QLabel Label3;                ///< head of the compared airfoils
     std::array<QLabel, kElements> Label1;
     std::array<NumericField, kElements> txtcoul;
+    std::array<ColourSwatch, kElements> Swatch; ///< what the numbers of txtcoul mean
     std::array<NumericField, kElements> txtline;
     std::array<NumericField, kEpaisseurs> txtEpR;
     QLabel LabelFixe; ///< in the place of the width that axes haven't
@@ -46,6 +48,7 @@ class frmcoul : public Dialogue {
     void cmdok_Click() override;
     void cmdannuler_Click() override;
     void cmdImprtest_Click();
+    void txtcoul_Change(int index);
 
     TextesTraits TextesTapes() const;
     bool Accepte(const LectureTraits &read, const char *label);

@@ -14,6 +14,9 @@ constexpr const char *kBulle = " Entre 0 et 3 ";
 constexpr int kPremierCompare = 9;
 constexpr int kEcart = 8; // pixels that set the legend off
 
+/// Columns of the grid behind the captions of its rows.
+enum Colonne { kColCouleur = 1, kColPatch, kColStyle, kColLargeur, kColonnes };
+
 template <class Fields>
 void Prepare(Fields &fields) {
     for (NumericField &field : fields) {
@@ -34,6 +37,7 @@ void frmcoul::NameAll() {
     NameControls(Label1, "Label1");
     NameControls(Label2, "Label2");
     NameControls(txtcoul, "txtcoul");
+    NameControls(Swatch, "Swatch");
     NameControls(txtline, "txtline");
     NameControls(txtEpR, "txtEpR");
 }
@@ -57,24 +61,25 @@ void frmcoul::LayOut() {
 }
 
 void frmcoul::LayOutGrid(QGridLayout &grid) {
-    for (int column = 0; column < 3; ++column) {
-        grid.addWidget(&At(Label2, column), 0, column + 1);
-    }
+    grid.addWidget(&Label2[0], 0, kColCouleur, 1, 2);
+    grid.addWidget(&Label2[1], 0, kColStyle);
+    grid.addWidget(&Label2[2], 0, kColLargeur);
     int row = 1;
     int width = 0;
     for (int i = 0; i < static_cast<int>(kElements); ++i, ++row) {
         if (i == kPremierCompare) {
-            grid.addWidget(&Label3, row++, 0, 1, 4);
+            grid.addWidget(&Label3, row++, 0, 1, kColonnes);
         }
         grid.addWidget(&At(Label1, i), row, 0);
-        grid.addWidget(&At(txtcoul, i), row, 1);
-        grid.addWidget(&At(txtline, i), row, 2);
+        grid.addWidget(&At(txtcoul, i), row, kColCouleur);
+        grid.addWidget(&At(Swatch, i), row, kColPatch);
+        grid.addWidget(&At(txtline, i), row, kColStyle);
         At(Label1, i).setBuddy(&At(txtcoul, i));
         const DrawingElement &element = At(DrawingElements(), i);
         if (element.width_key != nullptr) {
-            grid.addWidget(&At(txtEpR, width++), row, 3);
+            grid.addWidget(&At(txtEpR, width++), row, kColLargeur);
         } else if (element.element == Element::axe) {
-            grid.addWidget(&LabelFixe, row, 3);
+            grid.addWidget(&LabelFixe, row, kColLargeur);
         }
     }
 }

@@ -49,6 +49,10 @@ struct WheelNotches {
 /// where `sideways` says so.
 WheelNotches NotchesOf(int turn_x, int turn_y, bool sideways);
 
+/// The move for an arrow key, of which one direction is -1 or 1: positive to the right or down. It
+/// is one line of `steps` units.
+ScrollMove ArrowMove(int across, int down, const ScrollMove &steps);
+
 /// The move for a turn of the wheel, where a line is `steps` units of the bars.
 ScrollMove WheelMove(const WheelNotches &notches, const ScrollMove &steps);
 
@@ -73,6 +77,28 @@ class ZoomWheel {
   private:
     int rest_ = 0;
 };
+
+/// A place of the picture in device units from its upper left corner.
+struct PicturePlace {
+    double x = 0;
+    double y = 0;
+};
+
+/// The values of the bars at which the drawing still has at `place` what it has there now, to the
+/// nearest unit, when it is zoomed from the rib's zoom to another.
+ScrollMove ZoomAt(const RibModel &rib, const PicturePlace &place, float zoom);
+
+/// How a drawing is seen whole.
+struct WholeView {
+    int row;         ///< of the zoom list
+    ScrollMove bars; ///< their values
+
+    bool operator==(const WholeView &) const = default;
+};
+
+/// The largest zoom of the list at which all of a drawing can be seen, the smallest one where none
+/// does. The drawing was made at the rib's present zoom and offsets.
+WholeView FitTo(const RibModel &rib, const Extent &drawn, double width, double height);
 
 /// The row of the zoom list that lies so many steps from another; the larger zooms stand above.
 int ZoomRow(int row, int steps);

@@ -90,6 +90,16 @@ LectureTraits LitTraits(const TextesTraits &typed, const Traits &base) {
     return read;
 }
 
+std::optional<Colour> CouleurTapee(const std::string &typed) {
+    try {
+        const int number = ToInt16(LeadingNumber(typed));
+        return number < 0 || number > kCouleurMax ? std::nullopt
+                                                  : std::optional(PaletteColour(number));
+    } catch (const Failure &) {
+        return std::nullopt; // told when it is to be taken
+    }
+}
+
 std::string TexteFaute(ListeTraits liste, const LngIni &language) {
     switch (liste) {
     case ListeTraits::couleur:

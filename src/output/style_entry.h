@@ -50,6 +50,9 @@ struct LectureTraits {
 /// styles, then all widths. Widths that can't be chosen are those of `base`.
 LectureTraits LitTraits(const TextesTraits &typed, const Traits &base);
 
+/// The colour of a typed number, read as LitTraits reads it; none where that refuses it.
+std::optional<Colour> CouleurTapee(const std::string &typed);
+
 /// What a box out of range is told: the range of its list.
 std::string TexteFaute(ListeTraits liste, const LngIni &language);
 

@@ -215,18 +215,57 @@ bool UniteDuFichier(const Reglages &reglages) {
     }
 }
 
-std::string CleRecente(int number) {
-    return "RecentFile" + std::to_string(number);
+/// Where a list of recent files stands.
+struct ListeRecente {
+    const char *section;
+    const char *cle; ///< of its entries, without their number
+};
+constexpr ListeRecente kProfilsRecents{"LastFiles", "RecentFile"};
+constexpr ListeRecente kRibsRecents{"LastRibs", "RecentRib"};
+
+std::string CleRecente(const ListeRecente &liste, int number) {
+    return liste.cle + std::to_string(number);
+}
+
+FichiersRecents LitRecents(const ListeRecente &liste, const IniFile &file) {
+    FichiersRecents recent;
+    for (int i = 1; i <= kFichiersRecents; ++i) {
+        At(recent, i - 1) = file.Value(liste.section, CleRecente(liste, i));
+    }
+    return recent;
 }
 
 /// Writes entries 1 to `count` one place lower.
-void DescendRecents(IniFile &file, const FichiersRecents &recent, int count, bool with_empty) {
+void DescendRecents(const ListeRecente &liste, IniFile &file, const FichiersRecents &recent,
+                    int count, bool with_empty) {
     for (int i = 1; i <= count; ++i) {
         const std::string &entry = At(recent, i - 1);
         if (with_empty || !entry.empty()) {
-            file.SetValue("LastFiles", CleRecente(i + 1), entry);
+            file.SetValue(liste.section, CleRecente(liste, i + 1), entry);
         }
     }
+}
+
+void NoteRecent(const ListeRecente &liste, const std::string &path, const std::string &fichier) {
+    IniFile file = IniFile::Read(fichier);
+    const FichiersRecents recent = LitRecents(liste, file);
+    if (recent.front() == path) {
+        return;
+    }
+    // Where the path is found, what stands above it moves down by one, empty entries included.
+    bool found = false;
+    for (int i = 2; i <= kFichiersRecents; ++i) {
+        if (At(recent, i - 1) == path) {
+            DescendRecents(liste, file, recent, i - 1, true);
+            found = true;
+        }
+    }
+    if (!found) {
+        // All move down and the last one drops out; an empty entry overwrites nothing.
+        DescendRecents(liste, file, recent, kFichiersRecents - 1, false);
+    }
+    file.SetValue(liste.section, CleRecente(liste, 1), path);
+    file.Save(fichier);
 }
 
 } // namespace
@@ -329,34 +368,19 @@ void ControlRep(const Reglages &reglages, const std::string &programme) {
 }
 
 FichiersRecents LitFichiersRecents(const std::string &fichier) {
-    const IniFile file = IniFile::Read(fichier);
-    FichiersRecents recent;
-    for (int i = 1; i <= kFichiersRecents; ++i) {
-        At(recent, i - 1) = file.Value("LastFiles", CleRecente(i));
-    }
-    return recent;
+    return LitRecents(kProfilsRecents, IniFile::Read(fichier));
 }
 
 void NoteFichierRecent(const std::string &path, const std::string &fichier) {
-    const FichiersRecents recent = LitFichiersRecents(fichier);
-    if (recent.front() == path) {
-        return;
-    }
-    IniFile file = IniFile::Read(fichier);
-    // Where the path is found, what stands above it moves down by one, empty entries included.
-    bool found = false;
-    for (int i = 2; i <= kFichiersRecents; ++i) {
-        if (At(recent, i - 1) == path) {
-            DescendRecents(file, recent, i - 1, true);
-            found = true;
-        }
-    }
-    if (!found) {
-        // All move down and the last one drops out; an empty entry overwrites nothing.
-        DescendRecents(file, recent, kFichiersRecents - 1, false);
-    }
-    file.SetValue("LastFiles", CleRecente(1), path);
-    file.Save(fichier);
+    NoteRecent(kProfilsRecents, path, fichier);
+}
+
+FichiersRecents LitRibsRecents(const std::string &fichier) {
+    return LitRecents(kRibsRecents, IniFile::Read(fichier));
+}
+
+void NoteRibRecent(const std::string &path, const std::string &fichier) {
+    NoteRecent(kRibsRecents, path, fichier);
 }
 
 } // namespace loftwing

@@ -67,5 +67,8 @@ using FichiersRecents = std::array<std::string, kFichiersRecents>;
 FichiersRecents LitFichiersRecents(const std::string &fichier);
 /// Puts `path` at the top of the list.
 void NoteFichierRecent(const std::string &path, const std::string &fichier);
+/// The same for rib components files, whose list stands beside it.
+FichiersRecents LitRibsRecents(const std::string &fichier);
+void NoteRibRecent(const std::string &path, const std::string &fichier);
 
 } // namespace loftwing

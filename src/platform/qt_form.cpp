@@ -1,16 +1,14 @@
 #include "platform/qt_form.h"
 
 #include "platform/platform.h"
+#include "platform/qt_place.h"
 #include "platform/qt_pointer.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
 #include <QLabel>
-#include <QScreen>
 #include <QShortcut>
-
-#include <algorithm>
 
 namespace loftwing {
 
@@ -30,28 +28,6 @@ LngKey KeyOf(SharedWord word) {
         break;
     }
     return {"TextButton", "5"};
-}
-
-// Only where nobody has chosen a size; the size found here counts as found, not as chosen.
-void FitToContent(QDialog &dialog) {
-    if (!dialog.testAttribute(Qt::WA_Resized)) {
-        dialog.adjustSize();
-        dialog.setAttribute(Qt::WA_Resized, false);
-    }
-}
-
-void CentreOn(QDialog &dialog, const QWidget &window) {
-    const QRect space = window.screen()->availableGeometry();
-    // The dialog has no frame yet; it will be like that of the window.
-    const QSize frame = window.frameGeometry().size() - window.geometry().size();
-    QRect place({}, dialog.size() + frame);
-    place.moveCenter(window.frameGeometry().center());
-    // A window that reaches beyond the screen must not take its dialogs along.
-    place.moveRight(std::min(place.right(), space.right()));
-    place.moveBottom(std::min(place.bottom(), space.bottom()));
-    place.moveLeft(std::max(place.left(), space.left()));
-    place.moveTop(std::max(place.top(), space.top()));
-    dialog.move(place.topLeft());
 }
 
 } // namespace
@@ -129,14 +105,13 @@ void NameControls(std::initializer_list<std::pair<QObject *, const char *>> name
     }
 }
 
-int ShowModal(QDialog &dialog) {
+int ShowModal(QDialog &dialog, const QRect &clear) {
     const PointerPause pause;
     dialog.setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     const QWidget *parent =
         dialog.parentWidget() ? dialog.parentWidget()->window() : QApplication::activeWindow();
     if (parent && parent->isVisible()) {
-        FitToContent(dialog);
-        CentreOn(dialog, *parent);
+        PlaceDialog(dialog, *parent, clear);
     }
     return dialog.exec();
 }

@@ -5,6 +5,8 @@
 #include "platform/qt_numeric_field.h"
 #include "platform/qt_text.h"
 
+#include <QRect>
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -113,8 +115,9 @@ void NameControls(Array &controls, const char *name) {
     }
 }
 
-/// Shows a dialog centred on its parent, or on the active window, and waits until it is closed.
-/// Gives what exec() gives. A busy pointer is put aside meanwhile.
-int ShowModal(QDialog &dialog);
+/// Shows a dialog in the middle of its parent, or of the active window, or beside `clear` where the
+/// screen has room for that, and waits until it is closed. Gives what exec() gives. A busy pointer
+/// is put aside meanwhile.
+int ShowModal(QDialog &dialog, const QRect &clear = {});
 
 } // namespace loftwing

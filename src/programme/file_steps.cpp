@@ -2,11 +2,13 @@
 
 #include "base/version.h"
 #include "base/whole_file.h"
+#include "core/airfoil_picker.h"
 #include "core/airfoil_reader.h"
 #include "persist/LireEcrire.h"
 #include "persist/default_entry.h"
 #include "platform/busy_pointer.h"
 #include "programme/dossiers.h"
+#include "programme/load.h"
 #include "programme/nom_propose.h"
 #include "programme/rib_file.h"
 #include "programme/rib_steps.h"
@@ -48,6 +50,9 @@ void newLfw(Programme &programme, CommandView &view, const std::string &path,
                               {path, {folders.RepProfil, folders.RepProfilevol}, true, true});
     }
     if (end == OuvertureComposants::ouverte) {
+        programme.voisin = {};
+        NoteRib(programme, CheminEntier(path));
+        view.AfficheFichiersRecents();
         view.Titre(TitreComposants(programme, " "));
         view.MontreCoches();
         RecalculProfil(programme, view);
@@ -56,7 +61,11 @@ void newLfw(Programme &programme, CommandView &view, const std::string &path,
     }
 }
 
-void LitEtReprend(Programme &programme, CommandView &view, const std::string &path) {
+/// What becomes of the rib when the reading of a file fails. When a file is refused it stays.
+enum class SurEchec { vide, reste };
+
+void LitEtReprend(Programme &programme, CommandView &view, const std::string &path,
+                  SurEchec on_failure) {
     RibModel &rib = programme.rib;
     const RibAvant before = RibAvantLecture(rib, programme.messages);
     rib.ModeCouple = false;
@@ -65,11 +74,11 @@ void LitEtReprend(Programme &programme, CommandView &view, const std::string &pa
     const ResultatLecture read =
         FichierLecture(rib, programme.messages, programme.Text({"frmopen", "1"}));
     rib.SansApercu = false;
-    if (read.issue == Lecture::echec) {
+    if (read.issue == Lecture::echec && on_failure == SurEchec::vide) {
         view.affclear();
         return;
     }
-    if (read.issue == Lecture::refuse) {
+    if (read.issue != Lecture::lu) {
         // The rib on the screen is still the one that was there.
         rib.Partie<PartiesRib>() = before.parties;
         return;
@@ -77,6 +86,17 @@ void LitEtReprend(Programme &programme, CommandView &view, const std::string &pa
     NommeProfil(rib, path);
     rib.ProfilCharge = true;
     RepriseProfil(programme, view, before);
+}
+
+/// Where the next and the previous airfoil are counted from.
+std::string DepartVoisin(const Programme &programme) {
+    const std::string &chemin = programme.rib.CheminProfil;
+    const VoisinEssaye &tried = programme.voisin;
+    if (!tried.chemin.empty() && tried.depuis == chemin) {
+        return tried.chemin;
+    }
+    return chemin.empty() ? CheminDans(programme.settings.repertoires.LastOpenProfil, "")
+                          : CheminEntier(chemin);
 }
 
 } // namespace
@@ -110,7 +130,7 @@ void OuvreRib(Programme &programme, CommandView &view) {
 
 void OuvreFichier(Programme &programme, CommandView &view, const std::string &path) {
     if (!EstComposants(path)) {
-        LitEtReprend(programme, view, path);
+        LitEtReprend(programme, view, path, SurEchec::vide);
     } else if (ConfirmePerte(programme, {"fileopen", "1"}, {"fileopen", "2"})) {
         newLfw(programme, view, path);
     }
@@ -121,6 +141,30 @@ void OuvreAutreUnite(Programme &programme, CommandView &view) {
         const std::string path = programme.rib.CheminRib; // goes with the rib
         newLfw(programme, view, path, AutreUnite(programme.settings.Unite));
     }
+}
+
+void OuvreRibRecent(Programme &programme, CommandView &view, const std::string &path) {
+    std::error_code error;
+    if (fs::exists(path, error)) {
+        OuvreFichier(programme, view, path);
+    } else {
+        programme.messages.Inform(programme.Text({"FrmMainMessage", "216"}) + "\n" + path,
+                                  programme.Text({"fileopen", "2"}));
+    }
+}
+
+void OuvreVoisin(Programme &programme, CommandView &view, int pas) {
+    const std::string from = DepartVoisin(programme);
+    const std::string path = ProfilVoisin(from, pas);
+    if (path.empty()) {
+        const std::string text = pas > 0 ? programme.Text({"FrmMainMessage", "214"})
+                                         : programme.Text({"FrmMainMessage", "215"});
+        programme.messages.Inform(text + "\n" + DossierDe(from), kTitre);
+        return;
+    }
+    programme.voisin = {path, programme.rib.CheminProfil};
+    // Who leafs through a folder meets files that are no airfoils; they must not cost the rib.
+    LitEtReprend(programme, view, path, SurEchec::reste);
 }
 
 std::string EtiquetteOuverture(const std::string &path) {
@@ -143,6 +187,8 @@ void EnregistreRib(Programme &programme, CommandView &view) {
     rib.NomFichierRib = fs::path(path).filename().string();
     rib.Modifie = false;
     rib.CheminRib = CheminEntier(path);
+    NoteRib(programme, rib.CheminRib);
+    view.AfficheFichiersRecents();
     const Repertoires &folders = programme.settings.repertoires;
     rib.ProfilAilleurs = !EstDans(rib.CheminProfil, {folders.RepProfil, folders.RepProfilevol});
     view.MontreAvis();

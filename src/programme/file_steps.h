@@ -19,6 +19,13 @@ void OuvreRib(Programme &programme, CommandView &view);
 /// for. An airfoil that is refused or of which nothing can be drawn, or on whose chord not all of
 /// the rib fits and the user says so, leaves the rib; one whose reading fails clears it.
 void OuvreFichier(Programme &programme, CommandView &view, const std::string &path);
+/// The same for a rib components file of the recent ones. One that is gone is told, and the rib
+/// stays.
+void OuvreRibRecent(Programme &programme, CommandView &view, const std::string &path);
+/// Opens the next airfoil of the folder, or the previous one where `pas` is -1; a box says where
+/// there is none. A file that can't be taken is told and leaves the rib, and the next call goes on
+/// from it.
+void OuvreVoisin(Programme &programme, CommandView &view, int pas);
 /// Under which a failure of that is reported.
 std::string EtiquetteOuverture(const std::string &path);
 

@@ -24,6 +24,24 @@ void LitOuEcrit(Programme &programme) {
     }
 }
 
+void Note(Programme &programme, void (*note)(const std::string &, const std::string &),
+          const std::string &path) {
+    try {
+        note(path, programme.paths.fichier);
+    } catch (const Failure &failure) {
+        PerdFichier(programme.settings, programme.messages, failure, kLabelRecents);
+    }
+}
+
+FichiersRecents Connus(Programme &programme, FichiersRecents (*read)(const std::string &)) {
+    try {
+        return read(programme.paths.fichier);
+    } catch (const Failure &failure) {
+        PerdFichier(programme.settings, programme.messages, failure, kLabelRecents);
+        return {};
+    }
+}
+
 } // namespace
 
 void ChargeReglages(Programme &programme) {
@@ -65,20 +83,19 @@ void FinPremierDemarrage(Programme &programme) {
 
 void NoteRecent(Programme &programme, const std::string &path) {
     programme.DernierProfil = path;
-    try {
-        NoteFichierRecent(path, programme.paths.fichier);
-    } catch (const Failure &failure) {
-        PerdFichier(programme.settings, programme.messages, failure, kLabelRecents);
-    }
+    Note(programme, NoteFichierRecent, path);
+}
+
+void NoteRib(Programme &programme, const std::string &path) {
+    Note(programme, NoteRibRecent, path);
 }
 
 FichiersRecents FichiersRecentsConnus(Programme &programme) {
-    try {
-        return LitFichiersRecents(programme.paths.fichier);
-    } catch (const Failure &failure) {
-        PerdFichier(programme.settings, programme.messages, failure, kLabelRecents);
-        return {};
-    }
+    return Connus(programme, LitFichiersRecents);
+}
+
+FichiersRecents RibsRecentsConnus(Programme &programme) {
+    return Connus(programme, LitRibsRecents);
 }
 
 void VideRib(Programme &programme) {

@@ -20,8 +20,13 @@ void FinPremierDemarrage(Programme &programme);
 /// on although the list can't be kept.
 void NoteRecent(Programme &programme, const std::string &path);
 
-/// The recent files; none when the settings file can't be read, which is told once in a run.
+/// The same for a rib components file.
+void NoteRib(Programme &programme, const std::string &path);
+
+/// The recent airfoils, and the recent ribs; none when the settings file can't be read, which is
+/// told once in a run.
 FichiersRecents FichiersRecentsConnus(Programme &programme);
+FichiersRecents RibsRecentsConnus(Programme &programme);
 
 /// The values of a cleared rib: no airfoil, no features, the plain view. The user's defaults are
 /// read anew by LitDefauts afterwards.

@@ -23,6 +23,12 @@ struct Paths {
     std::string aide;      ///< help
 };
 
+/// The neighbour of an airfoil that was tried last and not taken; none while it is empty.
+struct VoisinEssaye {
+    std::string chemin;
+    std::string depuis; ///< the airfoil that the rib had then
+};
+
 /// Made once in main and passed by reference to windows and to the command line's verbs. A routine
 /// below them takes the narrowest part of it that it needs.
 struct Programme {
@@ -37,6 +43,7 @@ struct Programme {
     Platform &platform;
     Messages messages{platform, language};
     std::string DernierProfil;     ///< the airfoil file that was opened last in this run
+    VoisinEssaye voisin;
     bool PremierDemarrage = false; ///< no settings file was there
     bool SeparateurDit = false;    ///< this run has told of a decimal separator that is no point
 

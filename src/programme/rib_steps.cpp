@@ -94,6 +94,7 @@ bool RepriseProfil(Programme &programme, CommandView &view, const RibAvant &befo
         rib.Partie<PartiesRib>() = before.parties;
         return false;
     }
+    programme.voisin = {};
     RepriseTexte(rib, before.etiquette, programme.messages);
     const Sablier sablier(programme.platform);
     view.Titre(TitreFenetre(rib, programme.messages));

@@ -81,6 +81,77 @@ TEST_F(Scrolling, WithoutAChordTheBarsStandStill) {
     EXPECT_EQ(Bars().down, ScrollRange());
 }
 
+// 100 mm behind the leading edge and 20 mm below the margin.
+constexpr PicturePlace kPlace{283.5 + 5670, 850.5 + 1134};
+
+TEST_F(Scrolling, AZoomKeepsAPlaceToTheNearestUnit) {
+    // At 200 % the place lies 5670 and 1134 further off, in units of 200.
+    EXPECT_EQ(ZoomAt(rib, kPlace, 2), (ScrollMove{28, -6}));
+    // At 50 % it lies 2835 and 567 nearer, in units of 50.
+    EXPECT_EQ(ZoomAt(rib, kPlace, 0.5F), (ScrollMove{-57, 11}));
+}
+
+TEST_F(Scrolling, AZoomGoesOnFromWhereItIsScrolled) {
+    rib.DecalX = -10; // the bars stand at 10 and -2
+    rib.DecalY = 2;
+    // 66.7 units across become 28.35, 13.34 down become 5.67.
+    EXPECT_EQ(ZoomAt(rib, kPlace, 2), (ScrollMove{38, -8}));
+    EXPECT_EQ(ZoomAt(rib, kPlace, 1), (ScrollMove{10, -2}));
+}
+
+TEST_F(Scrolling, AtTheCornerOfTheMarginsAZoomScrollsNothing) {
+    for (const float zoom : {0.25F, 3.0F}) {
+        EXPECT_EQ(ZoomAt(rib, {283.5, 850.5}, zoom), ScrollMove());
+    }
+}
+
+TEST_F(Scrolling, AZoomOfAViewOfFixedHeightScrollsAcrossOnly) {
+    rib.ModeEpCourb = true;
+    EXPECT_EQ(ZoomAt(rib, kPlace, 2), (ScrollMove{28, 0}));
+}
+
+TEST_F(Scrolling, AZoomStaysInSixteenBitsAndWantsAChord) {
+    rib.corde = 0.001F;
+    EXPECT_EQ(ZoomAt(rib, kPlace, 2), (ScrollMove{32767, -32767}));
+    rib.corde = 0;
+    EXPECT_EQ(ZoomAt(rib, kPlace, 2), ScrollMove());
+}
+
+TEST_F(Scrolling, TheLargestZoomThatShowsAllIsTaken) {
+    // 283.5 + 11340 z + 283.5 across, 850.5 + 1149.5 z + 283.5 down.
+    EXPECT_EQ(FitTo(rib, drawn, 6000, 1500), (WholeView{6, {}}));  // z up to 0.48 and 0.32
+    EXPECT_EQ(FitTo(rib, drawn, 40000, 6000), (WholeView{0, {}})); // 3.48 and 4.23
+    EXPECT_EQ(FitTo(rib, drawn, 40000, 3000), (WholeView{2, {}})); // 3.48 and 1.62
+    EXPECT_EQ(FitTo(rib, drawn, 11907, 6000), (WholeView{3, {}})); // 1 to the unit
+    EXPECT_EQ(FitTo(rib, drawn, 11906, 6000), (WholeView{4, {}}));
+}
+
+TEST_F(Scrolling, WhereNoZoomShowsAllItIsTheSmallest) {
+    EXPECT_EQ(FitTo(rib, drawn, 1000, 1000).row, 6);
+}
+
+TEST_F(Scrolling, WhatShowsAllDoesNotDependOnThePresentView) {
+    rib.Zoom = 2;
+    drawn = {283.5, 850.5, 283.5 + 22680, 850.5 + 2299};
+    rib.DecalX = -10;
+    rib.DecalY = 5;
+    Shift(-2000, -1000);
+    EXPECT_EQ(FitTo(rib, drawn, 40000, 3000), (WholeView{2, {}}));
+}
+
+TEST_F(Scrolling, ADrawingThatBeginsBeforeThePictureIsScrolledIntoIt) {
+    drawn.left = 283.5 - 2000;
+    // At 100 % 20 units of 100 show it with its margin, and it ends at 13907.
+    EXPECT_EQ(FitTo(rib, drawn, 14500, 6000), (WholeView{3, {-20, 0}}));
+}
+
+TEST(ArrowKeys, MoveByALine) {
+    EXPECT_EQ(ArrowMove(1, 0, {4, 5}), (ScrollMove{4, 0}));
+    EXPECT_EQ(ArrowMove(-1, 0, {4, 5}), (ScrollMove{-4, 0}));
+    EXPECT_EQ(ArrowMove(0, 1, {4, 5}), (ScrollMove{0, -5}));
+    EXPECT_EQ(ArrowMove(0, -1, {4, 5}), (ScrollMove{0, 5}));
+}
+
 TEST(ScrollRangeRule, TheRangeIsSixteenBitsWide) {
     const ScrollRange range = RangeOver(-1e9, 1e9, 100, 1);
     EXPECT_EQ(range.lowest, -32767);

@@ -21,6 +21,14 @@ class StyleEntry : public testing::Test {
     TextesTraits typed;
 };
 
+TEST(TypedColour, IsTheOneThatOkTakes) {
+    EXPECT_EQ(CouleurTapee("0"), 0x000000U);
+    EXPECT_EQ(CouleurTapee("14"), 0xFFFF00U);
+    EXPECT_EQ(CouleurTapee(""), 0x000000U); // no number counts as 0
+    EXPECT_EQ(CouleurTapee("15"), std::nullopt);
+    EXPECT_EQ(CouleurTapee("99999"), std::nullopt); // no 16-bit number
+}
+
 TEST_F(StyleEntry, BoxesShowTheNumbers) {
     settings.TraitDe(Element::bloc) = {7, 2, 3};
     const TextesTraits texts = TextesDe(settings.traits);

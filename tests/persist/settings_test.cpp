@@ -436,6 +436,18 @@ TEST_F(Recents, EmptyEntryOverwritesNothingWhenAllMoveDown) {
     EXPECT_EQ(After({"a", "", "c", ""}, "e"), (FichiersRecents{"e", "a", "c", "c"}));
 }
 
+TEST_F(Recents, RibsHaveAListOfTheirOwn) {
+    Keep({"/a.dat", "/b.dat", "", ""});
+    for (const char *path : {"/1.lfw", "/2.lfw", "/1.lfw"}) {
+        NoteRibRecent(path, fichier);
+    }
+    EXPECT_EQ(LitRibsRecents(fichier), (FichiersRecents{"/1.lfw", "/2.lfw", "", ""}));
+    EXPECT_EQ(GetINIFile("LastRibs", "RecentRib2", fichier), "/2.lfw");
+    EXPECT_EQ(LitFichiersRecents(fichier), (FichiersRecents{"/a.dat", "/b.dat", "", ""}));
+    NoteFichierRecent("/c.dat", fichier);
+    EXPECT_EQ(LitRibsRecents(fichier), (FichiersRecents{"/1.lfw", "/2.lfw", "", ""}));
+}
+
 TEST_F(Recents, NoPathIsAlreadyFirstInAnEmptyList) {
     NoteFichierRecent("", fichier);
     EXPECT_FALSE(fs::exists(fichier));

@@ -161,9 +161,9 @@ TEST_F(FileSteps, AKnownRibFileIsAskedAboutWhereChangesCouldBeLost) {
 TEST_F(FileSteps, ARibFileClearsWhatWasThereAndIsShown) {
     HaveAirfoil();
     OuvreFichier(programme, view, RibFile());
-    EXPECT_THAT(view.asked,
-                ElementsAre("affclear", "Titre Loftwing Rib : root.lfw Airfoil : naca2412",
-                            "MontreCoches", "ViewReset", "ActiveCommandes", "affiche"));
+    EXPECT_THAT(view.asked, ElementsAre("affclear", "AfficheFichiersRecents",
+                                        "Titre Loftwing Rib : root.lfw Airfoil : naca2412",
+                                        "MontreCoches", "ViewReset", "ActiveCommandes", "affiche"));
     EXPECT_EQ(Setting("Repertoires", "LastOpenLfw"), folder.Path());
     EXPECT_FALSE(Rib().Modifie);
     EXPECT_EQ(platform.pointer, Pointer::normal);
@@ -231,7 +231,7 @@ TEST_F(FileSteps, ASavedRibHasANameAndNoChanges) {
     platform.files_expected = {folder.Path("wing.lfw")};
     EnregistreRib(programme, view);
     EXPECT_THAT(view.asked,
-                ElementsAre("MontreAvis",
+                ElementsAre("AfficheFichiersRecents", "MontreAvis",
                             "Titre Loftwing Rib : wing.lfw  Airfoil : naca0012")); // two blanks
     EXPECT_EQ(Rib().NomFichierRib, "wing.lfw");
     EXPECT_FALSE(Rib().Modifie);
@@ -253,6 +253,47 @@ TEST_F(FileSteps, ASavedRibKnowsItsFileAndWhetherItsAirfoilLiesElsewhere) {
         EnregistreRib(programme, view);
         EXPECT_FALSE(Rib().ProfilAilleurs) << inside;
     }
+}
+
+TEST_F(FileSteps, OpenedAndSavedRibsAreAmongTheRecentOnes) {
+    HaveAirfoil();
+    const std::string root = RibFile();
+    OuvreFichier(programme, view, root);
+    EXPECT_EQ(Setting("LastRibs", "RecentRib1"), root);
+    platform.files_expected = {folder.Path("wing.lfw")};
+    EnregistreRib(programme, view);
+    EXPECT_EQ(Setting("LastRibs", "RecentRib1"), folder.Path("wing.lfw"));
+    EXPECT_EQ(Setting("LastRibs", "RecentRib2"), root);
+    // Those of the airfoils are as before.
+    EXPECT_EQ(Setting("LastFiles", "RecentFile1"), "");
+}
+
+TEST_F(FileSteps, ARibThatCannotBeOpenedIsNotAmongTheRecentOnes) {
+    folder.File("airfoils/naca2412.dat", "Title\n0.5 0.1\n1 0\n");
+    platform.Expect(BoxAnswer::ok);
+    OuvreFichier(programme, view, RibFile());
+    EXPECT_EQ(Setting("LastRibs", "RecentRib1"), "");
+}
+
+TEST_F(FileSteps, ARecentRibOpensAsAnyOther) {
+    HaveAirfoil();
+    HaveRib();
+    ExpectQuestion(BoxAnswer::no);
+    OuvreRibRecent(programme, view, RibFile());
+    EXPECT_EQ(Rib().NomProfil, "naca0012");
+    ExpectQuestion(BoxAnswer::yes);
+    OuvreRibRecent(programme, view, RibFile());
+    EXPECT_EQ(Rib().NomProfil, "naca2412");
+}
+
+TEST_F(FileSteps, ARecentRibThatIsGoneIsToldAndTheRibStays) {
+    HaveRib();
+    ExpectBox(BoxAnswer::ok, "This rib file is not there any more :\n" + folder.Path("gone.lfw"),
+              "Open rib components");
+    OuvreRibRecent(programme, view, folder.Path("gone.lfw"));
+    EXPECT_TRUE(Rib().ProfilCharge);
+    EXPECT_TRUE(Rib().Modifie);
+    EXPECT_THAT(view.asked, IsEmpty());
 }
 
 TEST_F(FileSteps, AFolderWhoseNameGoesOnIsAnotherOne) {
@@ -346,7 +387,7 @@ TEST_F(FileSteps, ARibIsReadAnewInTheOtherUnit) {
     EXPECT_EQ(Rib().EpCoffrage, 1.5875F);
     EXPECT_FALSE(Rib().UniteDouteuse);
     EXPECT_FALSE(Rib().Modifie);
-    EXPECT_THAT(view.asked, ElementsAre("affclear", "AfficheUnite",
+    EXPECT_THAT(view.asked, ElementsAre("affclear", "AfficheUnite", "AfficheFichiersRecents",
                                         "Titre Loftwing Rib : root.lfw Airfoil : naca2412",
                                         "MontreCoches", "ViewReset", "ActiveCommandes", "affiche"));
     // The user's own unit and defaults stay on file.

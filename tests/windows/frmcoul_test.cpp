@@ -67,6 +67,39 @@ TEST_F(FrmcoulTest, ShowsTheNumbersInForce) {
     });
 }
 
+/// The colour in the middle of a patch, and off its diagonals.
+QColor PatchColour(const Seen &dialog, int index) {
+    const QImage patch = dialog.Find({"Swatch", index}).grab().toImage();
+    return patch.pixelColor(patch.width() / 2, patch.height() / 4);
+}
+
+TEST_F(FrmcoulTest, APatchBesideEachNumberHasItsColour) {
+    Of(Element::bloc).couleur = 10;
+    Use([](Seen &dialog) {
+        for (int i = 0; i < 11; ++i) {
+            const int number = dialog.Box({"txtcoul", i}).text().toInt();
+            EXPECT_EQ(PatchColour(dialog, i), QColor::fromRgb(PaletteColour(number))) << i;
+            EXPECT_EQ(dialog.Find({"Swatch", i}).geometry().center().y(),
+                      dialog.Box({"txtcoul", i}).geometry().center().y());
+        }
+        EXPECT_EQ(PatchColour(dialog, 8), QColor(0, 255, 0));
+    });
+}
+
+TEST_F(FrmcoulTest, APatchFollowsWhatIsTyped) {
+    Use([](Seen &dialog) {
+        const QColor none = dialog.Window().palette().color(QPalette::Window);
+        dialog.Type({"txtcoul", 3}, "14");
+        EXPECT_EQ(PatchColour(dialog, 3), QColor(255, 255, 0));
+        for (const char *refused : {"15", "99999"}) {
+            dialog.Type({"txtcoul", 3}, refused);
+            EXPECT_EQ(PatchColour(dialog, 3), none) << refused;
+        }
+        dialog.Type({"txtcoul", 3}, "4");
+        EXPECT_EQ(PatchColour(dialog, 3), QColor(128, 0, 0));
+    });
+}
+
 TEST_F(FrmcoulTest, AxesAndComparedAirfoilsHaveNoWidthBox) {
     Use([](Seen &dialog) {
         EXPECT_FALSE(dialog.Has("txtEpR(8)"));

@@ -194,6 +194,21 @@ TEST_F(RibFiles, ToolBarButtonsOpenAndSave) {
     EXPECT_EQ(Caption(), "Loftwing Rib : saved.lfw Airfoil : naca2412");
 }
 
+TEST_F(RibFiles, RecentRibsStandUnderAnEntryOfTheirOwn) {
+    EXPECT_FALSE(world.Action("mnu_fileribs")->isEnabled());
+    const std::string a = OpenBytes("a&b.lfw", ComponentsText{}.Current());
+    const std::string c = OpenBytes("c.lfw", ComponentsText{}.Current());
+    EXPECT_TRUE(world.Action("mnu_fileribs")->isEnabled());
+    EXPECT_EQ(world.Action("mnuRibMRU(1)")->data().toString().toStdString(), c);
+    EXPECT_THAT(world.Action("mnuRibMRU(2)")->text().toStdString(), HasSubstr("&2 "));
+    EXPECT_THAT(world.Action("mnuRibMRU(2)")->text().toStdString(), HasSubstr("a&&b.lfw"));
+    EXPECT_FALSE(world.Action("mnuRibMRU(3)")->isVisible());
+    EXPECT_FALSE(world.Action("mnuFileMRU(1)")->isVisible()); // no airfoil was opened
+    world.Action("mnuRibMRU(2)")->trigger();
+    EXPECT_EQ(Caption(), "Loftwing Rib : a&b.lfw Airfoil : naca2412");
+    EXPECT_EQ(world.Action("mnuRibMRU(1)")->data().toString().toStdString(), a);
+}
+
 TEST_F(RibFiles, AFileHandedOverOpensWhateverTheCaseOfItsExtension) {
     for (const char *name : {"a.lfw", "B.LFW", "c.Lfw"}) {
         const std::string path =

@@ -7,10 +7,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <QApplication>
-#include <QStatusBar>
 #include <QTest>
-#include <QWheelEvent>
 
 #include <set>
 
@@ -93,6 +90,33 @@ TEST(MainWindow, ClearingLeavesTheStateOfTheStartWithTheRibMenusAlive) {
     EXPECT_EQ(world.Panel(2), "");
     EXPECT_EQ(world.window->windowTitle().toStdString(), "Loftwing");
     EXPECT_EQ(world.Find<QComboBox>("Combo1")->currentIndex(), 3);
+}
+
+TEST(MainWindow, ClearingBeforeTheFirstAirfoilLeavesTheStateOfTheStart) {
+    WindowWorld world;
+    world.Open();
+    world.Action("mnu_affclear")->trigger();
+    ExpectEnabled(world, kBornWithARib, false);
+    ExpectEnabled(world, kAlwaysAlive, true);
+}
+
+TEST(MainWindow, TheChoiceOfTheFirstLanguageLeavesTheStateOfTheStart) {
+    WindowWorld world;
+    world.Open();
+    InNextDialog([](Seen &dialog) {
+        EXPECT_EQ(dialog.Name(), "lang");
+        dialog.Click("ok");
+    });
+    world.Action("mnu_affLang")->trigger();
+    ExpectEnabled(world, kBornWithARib, false);
+}
+
+TEST(MainWindow, AFirstFileThatCannotBeReadLeavesTheStateOfTheStart) {
+    WindowWorld world;
+    world.Open();
+    world.platform.Expect(BoxAnswer::ok);
+    world.window->OuvreFichier(world.folder.Path("missing.dat"));
+    ExpectEnabled(world, kBornWithARib, false);
 }
 
 TEST(MainWindow, ClearingStopsAtNo) {
@@ -211,88 +235,6 @@ TEST(MainWindow, ARecentPathWithAnAmpersandIsShownWhole) {
     EXPECT_EQ(world.Action("mnuFileMRU(1)")->data().toString().toStdString(), path);
 }
 
-TEST(MainWindow, ZoomComesFromTheRowsTextAndResetsTheScrollBars) {
-    WindowWorld world;
-    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
-    auto *zoom = world.Find<QComboBox>("Combo1");
-    zoom->setCurrentIndex(0);
-    Q_EMIT zoom->activated(0);
-    EXPECT_EQ(world.programme.rib.Zoom, 3.0F);
-    auto *across = world.Find<QScrollBar>("Hsbpic");
-    ASSERT_GT(across->maximum(), 0);
-    across->setValue(1);
-    EXPECT_EQ(world.programme.rib.DecalX, -1);
-    zoom->setCurrentIndex(4);
-    Q_EMIT zoom->activated(4);
-    EXPECT_EQ(world.programme.rib.Zoom, 0.75F);
-    EXPECT_EQ(across->value(), 0);
-    EXPECT_EQ(world.programme.rib.DecalX, 0);
-}
-
-TEST(MainWindow, ScrollBarsReachTheWholeDrawing) {
-    WindowWorld world;
-    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
-    world.window->resize(400, 160);
-    QApplication::processEvents();
-    world.Find<QComboBox>("Combo1")->setCurrentIndex(0);
-    Q_EMIT world.Find<QComboBox>("Combo1")->activated(0);
-    auto *across = world.Find<QScrollBar>("Hsbpic");
-    auto *down = world.Find<QScrollBar>("Vsbpic");
-    across->setValue(across->maximum());
-    down->setValue(down->minimum());
-    EXPECT_LT(down->minimum(), 0);
-    EXPECT_EQ(down->maximum(), 0);
-    auto *pic = world.Find<PicView>("Pic");
-    const Extent extent = pic->Dessin()->Bounds();
-    EXPECT_LE(extent.right, pic->width() * 15.0);
-    EXPECT_LE(extent.bottom, pic->height() * 15.0);
-}
-
-TEST(MainWindow, WithoutAnAirfoilZoomAndScrollHaveNoVisibleEffect) {
-    WindowWorld world;
-    world.Open();
-    Q_EMIT world.Find<QComboBox>("Combo1")->activated(0);
-    EXPECT_EQ(world.Find<PicView>("Pic")->Dessin(), nullptr);
-    EXPECT_FALSE(world.Find<QScrollBar>("Hsbpic")->isEnabled());
-}
-
-TEST(MainWindow, CtrlWithTheWheelStepsThroughTheZoomList) {
-    WindowWorld world;
-    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
-    auto *pic = world.Find<PicView>("Pic");
-    const auto turn = [&](int eighths, Qt::KeyboardModifiers keys) {
-        QWheelEvent event(QPointF(50, 50), pic->mapToGlobal(QPointF(50, 50)), QPoint(),
-                          QPoint(0, eighths), Qt::NoButton, keys, Qt::NoScrollPhase, false);
-        QApplication::sendEvent(pic, &event);
-    };
-    turn(120, Qt::ControlModifier);
-    EXPECT_EQ(world.programme.rib.Zoom, 1.5F);
-    turn(60, Qt::ControlModifier);
-    EXPECT_EQ(world.programme.rib.Zoom, 1.5F);
-    turn(60, Qt::ControlModifier);
-    EXPECT_EQ(world.programme.rib.Zoom, 2.0F);
-    turn(-1200, Qt::ControlModifier);
-    EXPECT_EQ(world.programme.rib.Zoom, 0.25F);
-    world.window->resize(400, 160);
-    QApplication::processEvents();
-    turn(1200, Qt::ControlModifier);
-    EXPECT_EQ(world.programme.rib.Zoom, 3.0F);
-    turn(-120, Qt::NoModifier);
-    EXPECT_LT(world.Find<QScrollBar>("Vsbpic")->value(), 0);
-}
-
-TEST(MainWindow, TheMiddleButtonDragsTheDrawing) {
-    WindowWorld world;
-    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
-    Q_EMIT world.Find<QComboBox>("Combo1")->activated(0);
-    auto *pic = world.Find<PicView>("Pic");
-    QTest::mousePress(pic, Qt::MiddleButton, {}, QPoint(300, 100));
-    QTest::mouseMove(pic, QPoint(200, 100));
-    QTest::mouseRelease(pic, Qt::MiddleButton, {}, QPoint(200, 100));
-    // One unit is half the chord: 200 mm at three times are 300 units of 1/15 pixel, 20 pixels.
-    EXPECT_EQ(world.Find<QScrollBar>("Hsbpic")->value(), 5);
-}
-
 TEST(MainWindow, TheFitBoxAppearsOnEachRedrawAndTheOldDrawingStays) {
     WindowWorld world;
     world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
@@ -338,6 +280,33 @@ TEST(MainWindow, CheckedEntriesOfTheViewMenuChangeTheRib) {
     EXPECT_TRUE(rib.AffHautBA);
     world.Action("mnu_affhautbf")->trigger();
     EXPECT_TRUE(rib.AffHautBF);
+}
+
+/// How many lines of the drawing have a colour.
+long LinesIn(const WindowWorld &world, Colour colour) {
+    const auto &operations = world.Find<PicView>("Pic")->Dessin()->Operations();
+    return std::count_if(operations.begin(), operations.end(), [colour](const Operation &each) {
+        const auto *line = std::get_if<DrawnSegment>(&each);
+        return line != nullptr && line->pen.colour == colour;
+    });
+}
+
+TEST(MainWindow, TheEntryThatHidesTheContourSaysSoInEveryLanguage) {
+    for (const auto &[language, caption] :
+         {std::pair("English", "&Show the outer contour"),
+          std::pair("French", "Afficher le &contour extérieur")}) {
+        WindowWorld world(language);
+        world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+        EXPECT_EQ(world.Action("mnu_affTrac")->text().toStdString(), caption);
+        const Colour contour = PaletteColour(0);
+        const Colour sheeting = PaletteColour(9);
+        const long sheeting_lines = LinesIn(world, sheeting);
+        EXPECT_GT(LinesIn(world, contour), 100);
+        EXPECT_GT(sheeting_lines, 100);
+        world.Action("mnu_affTrac")->trigger();
+        EXPECT_EQ(LinesIn(world, contour), 0);
+        EXPECT_EQ(LinesIn(world, sheeting), sheeting_lines);
+    }
 }
 
 TEST(MainWindow, ATypedChordIsDrawn) {
@@ -522,16 +491,6 @@ TEST(MainWindow, SpeaksFrench) {
     }
     EXPECT_EQ(world.platform.button_words.yes, "Oui");
     EXPECT_EQ(world.Main().Word("cmdcorde"), world.programme.Text({"MainTolbar", "13"}));
-}
-
-TEST(MainWindow, NoShortcutStandsForTwoCommands) {
-    std::set<std::string> keys;
-    for (const Command &command : MenuCommands()) {
-        if (command.keys != nullptr) {
-            EXPECT_TRUE(keys.insert(command.keys).second) << command.name;
-        }
-    }
-    EXPECT_GE(keys.size(), 5U);
 }
 
 TEST(MainWindow, AFileDroppedOnItOpens) {
