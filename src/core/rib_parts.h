@@ -76,6 +76,9 @@ struct ContourPrepare {
     double IntradosMini = 0; ///< bottom of the lower surface, never above 0
 };
 
+/// An airfoil with its contour: all that contour preparation reads and makes.
+struct Profil : PointsLus, ContourPrepare {};
+
 /// The same section with another thickness and camber, in fractions of the chord.
 struct NouvelleSection {
     TableStation NouvExtrados{};
