@@ -1,6 +1,7 @@
 #include "app/command_line.h"
 
 #include "app/angle_command.h"
+#include "app/convert_command.h"
 #include "app/dihedral_command.h"
 #include "app/draw_command.h"
 #include "app/info_command.h"
@@ -47,6 +48,8 @@ constexpr std::array kVerbs = {
          ObliqueOptions, RunOblique},
     Verb{"incline", "incline FILE ... -o OUT.dat", "a rib inclined by the dihedral", InclineOptions,
          RunIncline},
+    Verb{"convert", "convert FILE... -o OUT.dat", "any table of coordinates as an airfoil file",
+         ConvertOptions, RunConvert},
 };
 
 std::string Padded(std::string text, std::size_t width) {
