@@ -34,7 +34,7 @@ void Read(const std::string &bytes, const std::string &Unite, Reading &reading) 
         reading.format = LitComposants(bytes, reading.rib, Saisie{Unite, messages}, reading.name);
         reading.read = true;
     } catch (const Failure &failure) {
-        Require(!failure.description.empty(), "failure with a description");
+        Require(!messages.Description(failure).empty(), "failure with a description");
     }
 }
 

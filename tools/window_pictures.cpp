@@ -34,8 +34,13 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QEventLoop>
+#include <QFile>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <iostream>
 
@@ -136,10 +141,12 @@ class Pictures {
         rib.talon.TalonBFAfich = programme_.settings.Unite == kUniteIn ? "1.1/4" : "30";
         rib.CheminRib = "/home/anna/models/swift/wing/ribs/root.lfw";
         rib.ProfilAilleurs = rib.UniteDouteuse = true;
+        rib.faute = {CauseContour::meme_hauteur, 30, 31, 28};
         window_->MontreAvis();
         Save(*window_, "frmmain-notices");
         rib.TypeGabarit = kSansGabarit;
         rib.Partie<FichierConnu>() = {};
+        rib.faute = {};
         window_->MontreAvis();
     }
 
@@ -167,17 +174,47 @@ class Pictures {
         Save(about, "frmAbout");
         frmSplash splash(programme_, window_.get());
         Save(splash, "frmSplash");
-        frmopen picker(programme_, *window_, window_.get());
-        picker.show();
-        if (auto *files = picker.findChild<QListWidget *>("File1")) {
-            files->setCurrentRow(3);
-        }
-        Save(picker, "frmopen");
-        picker.reject();
+        TakePicker();
         TakeViews();
         // Last, since it clears the rib.
         lang language(programme_, *window_, window_.get());
         Save(language, "lang");
+    }
+
+    /// The picker with a good file and with one that is refused.
+    void TakePicker() {
+        const std::string folder = programme_.settings.repertoires.LastOpenProfil;
+        programme_.settings.repertoires.LastOpenProfil = programme_.settings.repertoires.RepProfil;
+        frmopen picker(programme_, *window_, window_.get());
+        picker.show();
+        WaitForReading();
+        Save(picker, "frmopen");
+        QFile refused(home_.filePath("refused.dat"));
+        if (refused.open(QIODevice::WriteOnly)) {
+            refused.write("REFUSED\n1 0\n0.5 0.1\n0 0\n0.5 -0.1\n0.99 0\n");
+            refused.close();
+        }
+        if (auto *path = picker.findChild<QLineEdit *>("txtchemin")) {
+            path->setText(home_.path());
+        }
+        if (auto *open = picker.findChild<QPushButton *>("cmdouvrir")) {
+            open->click();
+        }
+        if (auto *files = picker.findChild<QListWidget *>("File1")) {
+            files->setCurrentRow(0);
+        }
+        WaitForReading();
+        Save(picker, "frmopen-refused");
+        picker.reject();
+        programme_.settings.repertoires.LastOpenProfil = folder;
+    }
+
+    /// A selected file is read when the selection rests.
+    static void WaitForReading() {
+        constexpr int kLongEnough = 300; // milliseconds
+        QEventLoop loop;
+        QTimer::singleShot(kLongEnough, &loop, &QEventLoop::quit);
+        loop.exec();
     }
 
     void TakeSets() {

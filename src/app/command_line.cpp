@@ -1,6 +1,7 @@
 #include "app/command_line.h"
 
 #include "app/angle_command.h"
+#include "app/console_program.h"
 #include "app/convert_command.h"
 #include "app/dihedral_command.h"
 #include "app/draw_command.h"
@@ -86,12 +87,21 @@ const Verb *FindVerb(const std::vector<std::string> &words) {
     return verb == kVerbs.end() ? nullptr : &*verb;
 }
 
+int RunVerb(const Verb &verb, const Arguments &arguments) {
+    try {
+        return verb.run(arguments);
+    } catch (const Failure &failure) {
+        std::cerr << "loftwing: " << FailureText(arguments, failure) << '\n';
+        return kRefused;
+    }
+}
+
 int Run(const Verb &verb, const std::vector<std::string> &words) {
     if (std::find(words.begin(), words.end(), "--help") != words.end()) {
         PrintHelp(verb);
         return kDone;
     }
-    return verb.run(Arguments({words.begin() + 1, words.end()}, verb.options()));
+    return RunVerb(verb, Arguments({words.begin() + 1, words.end()}, verb.options()));
 }
 
 } // namespace
@@ -116,9 +126,6 @@ int RunCommandLine(const std::vector<std::string> &words) {
         std::cerr << "loftwing: " << error.what() << " (see loftwing --help)\n";
         return kWrongUsage;
     } catch (const Refused &) {
-        return kRefused;
-    } catch (const Failure &failure) {
-        std::cerr << "loftwing: " << failure.description << '\n';
         return kRefused;
     }
 }

@@ -15,6 +15,8 @@ namespace loftwing {
 
 namespace {
 
+constexpr const char *kUsualLanguage = "English";
+
 /// The set of values that a choice of inches brings.
 void ValeursPouces(Programme &programme) {
     RibModel &rib = programme.rib;
@@ -53,8 +55,18 @@ ConsoleProgram::ConsoleProgram(const Arguments &arguments)
     ChargeValeurs(arguments);
 }
 
+std::string FailureText(const Arguments &arguments, const Failure &failure) {
+    LngIni language;
+    try {
+        language.Charge(ConsolePaths({}).langues, arguments.Value("--language", kUsualLanguage));
+    } catch (const Failure &) {
+        // Without its file the words are the program's own.
+    }
+    return Description(failure, language);
+}
+
 void ConsoleProgram::ChargeLangue(const Arguments &arguments) {
-    const std::string name = arguments.Value("--language", "English");
+    const std::string name = arguments.Value("--language", kUsualLanguage);
     const std::vector<std::string> names = LngIni::Languages(programme_.paths.langues);
     if (std::find(names.begin(), names.end(), name) == names.end()) {
         throw UsageError("no language " + name);

@@ -23,6 +23,10 @@ void Deliver(const std::string &path, const std::string &text);
 /// Says on standard error which of several FILEs was refused: the line that told why doesn't.
 void NameRefused(const std::string &file);
 
+/// The words of a failure in the language that the options name; a verb that failed has no program
+/// any more that could say it.
+std::string FailureText(const Arguments &arguments, const Failure &failure);
+
 /// One program for one drawing: every file of a command starts from a fresh state.
 class ConsoleProgram {
   public:

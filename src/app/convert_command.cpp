@@ -50,7 +50,7 @@ bool Convert(const Arguments &arguments, const ImportWishes &wishes, const std::
         messages.Inform(ImportRefusalText(messages, refusal), file);
         return false;
     } catch (const Failure &failure) {
-        messages.Inform(failure.description, file);
+        messages.Inform(messages.Description(failure), file);
         return false;
     }
     return static_cast<bool>(std::cout);

@@ -69,8 +69,8 @@ const ExportForm &FormNamed(const Arguments &arguments, const DrawingVerb &verb,
 
 /// Runs the drawing of some FILEs. A failure to draw is told with the first one's name; one to
 /// write names OUT itself.
-bool DrawAndDeliver(const DrawingTarget &target, const std::vector<std::string> &files,
-                    const Draw &draw) {
+bool DrawAndDeliver(const Arguments &arguments, const DrawingTarget &target,
+                    const std::vector<std::string> &files, const Draw &draw) {
     std::string concerned = files.front() + ": ";
     try {
         bool complete = false;
@@ -84,7 +84,7 @@ bool DrawAndDeliver(const DrawingTarget &target, const std::vector<std::string> 
         concerned.clear();
         return Deliver(target, files.front(), *bytes) && complete;
     } catch (const Failure &failure) {
-        std::cerr << "loftwing: " << concerned << failure.description << '\n';
+        std::cerr << "loftwing: " << concerned << FailureText(arguments, failure) << '\n';
         return false;
     }
 }
@@ -177,7 +177,7 @@ int DrawAll(const Arguments &arguments, const DrawingVerb &verb, const Draw &dra
     int status = kDone;
     const auto each = static_cast<std::ptrdiff_t>(verb.files_each);
     for (auto at = files.begin(); at != files.end(); at += each) {
-        if (!DrawAndDeliver(target, {at, at + each}, draw)) {
+        if (!DrawAndDeliver(arguments, target, {at, at + each}, draw)) {
             status = kRefused;
         }
     }

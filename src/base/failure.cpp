@@ -7,40 +7,6 @@ namespace loftwing {
 
 namespace {
 
-const char *UsualDescription(FailureNumber number) {
-    switch (number) {
-    case kInvalidProcedureCall:
-        return "Invalid procedure call or argument";
-    case kOverflow:
-        return "Overflow";
-    case kOutOfMemory:
-        return "Out of memory";
-    case kSubscriptOutOfRange:
-        return "Subscript out of range";
-    case kDivisionByZero:
-        return "Division by zero";
-    case kTypeMismatch:
-        return "Type mismatch";
-    case kFileNotFound:
-        return "File not found";
-    case kDeviceError:
-        return "Device input/output error";
-    case kDiskFull:
-        return "Disk full";
-    case kInputPastEnd:
-        return "Input past end of file";
-    case kPermissionDenied:
-        return "Permission denied";
-    case kPathFileAccess:
-        return "Path/file access error";
-    case kPathNotFound:
-        return "Path not found";
-    case kCancel:
-        return "Cancel was selected";
-    }
-    return "Unknown failure";
-}
-
 template <class Whole>
 Whole ToWhole(double value) {
     const double rounded = RoundHalfEven(value);
@@ -55,11 +21,7 @@ Whole ToWhole(double value) {
 } // namespace
 
 Failure MakeFailure(FailureNumber number, const std::string &detail) {
-    std::string description = UsualDescription(number);
-    if (!detail.empty()) {
-        description += ": " + detail;
-    }
-    return Failure{number, description};
+    return Failure{number, detail};
 }
 
 double Finite(double value) {

@@ -1,4 +1,5 @@
-/// Run-time failures with a number and a description, and the checked arithmetic that raises them.
+/// Run-time failures with a number and what they concern, and the checked arithmetic that raises
+/// them.
 #pragma once
 
 #include <cstdint>
@@ -8,10 +9,14 @@
 namespace loftwing {
 
 /// A run-time failure. It is thrown where it happens and caught by the routine that owns the
-/// failure's label, which shows the one standard box.
+/// failure's label, which shows the one standard box. What the number means is said in the user's
+/// language when the failure is shown; see lang/failure_words.h.
 struct Failure {
     int number;
-    std::string description;
+    std::string detail; ///< what it concerns (a path, a slot); empty where there is no more to say
+
+    /// Adds to the detail what a caller knows of it.
+    void Precise(const std::string &more) { detail += (detail.empty() ? "" : ": ") + more; }
 };
 
 /// Numbers of the failures that the program raises itself.
@@ -32,8 +37,6 @@ enum FailureNumber : int {
     kCancel = 32755
 };
 
-/// The failure of that number with its usual description, followed by ": " and `detail` where one
-/// is given (a path, a slot).
 Failure MakeFailure(FailureNumber number, const std::string &detail = {});
 
 /// `value` itself; failure 6 when it is infinite or not a number.

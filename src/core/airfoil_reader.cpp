@@ -5,12 +5,15 @@
 #include "base/whole_file.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <optional>
 #include <string_view>
 
 namespace loftwing {
 
 namespace {
+
+constexpr std::size_t kDebutDeLigne = 40; // characters of a line that a failure shows
 
 /// Words of a refusal: for the picker's label and for the box.
 struct RefusLecture {
@@ -76,10 +79,13 @@ class LecteurProfil {
     std::optional<RefusLecture> LitPoints();
     std::optional<RefusLecture> LitPoint(std::string_view line, bool &last);
 
+    std::string Point(long k) const;
+    std::string PointEtX(long k) const;
+    void Situe(Failure &failure, std::string_view line) const;
     RefusLecture SansEntete() const;
     RefusLecture PremierX() const;
-    RefusLecture PointsEgaux(double x, double before) const;
-    RefusLecture DernierX() const;
+    RefusLecture PointsEgaux(long k) const;
+    RefusLecture DernierX(long k) const;
 };
 
 RefusLecture LecteurProfil::SansEntete() const {
@@ -87,23 +93,39 @@ RefusLecture LecteurProfil::SansEntete() const {
     return {text, text};
 }
 
-RefusLecture LecteurProfil::PremierX() const {
-    return {messages_.Text({"frmopen", "12"}) + "\n" + Cloture(messages_),
-            messages_.Text({"frmopen", "13"}) + "\n" + messages_.Text({"frmopen", "14"}) + "\n" +
-                Cloture(messages_)};
+std::string LecteurProfil::Point(long k) const {
+    return messages_.Text({"frmopen", "190"}) + " " + std::to_string(k);
 }
 
-RefusLecture LecteurProfil::PointsEgaux(double x, double before) const {
-    const std::string text = messages_.Text({"frmopen", "16"}) + "= " + NumberText(x) +
-                             messages_.Text({"frmopen", "17"}) + "= " + NumberText(before) + "\n" +
-                             Cloture(messages_);
+/// The line of a refusal that names a point and its x; none where no point is at fault, as in a
+/// list without any or with the first one alone.
+std::string LecteurProfil::PointEtX(long k) const {
+    return k < 1 || rib_.ProfilX(k) == 1.0
+               ? ""
+               : Point(k) + ", x = " + NumberText(rib_.ProfilX(k)) + "\n";
+}
+
+RefusLecture LecteurProfil::PremierX() const {
+    const std::string end = "\n" + PointEtX(1) + Cloture(messages_);
+    return {messages_.Text({"frmopen", "12"}) + end,
+            messages_.Text({"frmopen", "13"}) + "\n" + messages_.Text({"frmopen", "14"}) + end};
+}
+
+RefusLecture LecteurProfil::PointsEgaux(long k) const {
+    const std::string text = messages_.Text({"frmopen", "16"}) + "= " +
+                             NumberText(rib_.ProfilX(k)) + messages_.Text({"frmopen", "17"}) +
+                             "= " + NumberText(rib_.ProfilX(k - 1)) + "\n" +
+                             messages_.Text({"frmopen", "191"}) + " " + std::to_string(k - 1) +
+                             " " + messages_.Text({"frmopen", "192"}) + " " + std::to_string(k) +
+                             ", x = " + NumberText(rib_.ProfilX(k)) +
+                             ", y = " + NumberText(rib_.ProfilY(k)) + "\n" + Cloture(messages_);
     return {text, text, BoxIcon::none};
 }
 
-RefusLecture LecteurProfil::DernierX() const {
-    const std::string text = messages_.Text({"frmopen", "18"});
-    return {text + "\n" + Cloture(messages_),
-            messages_.Text({"frmopen", "19"}) + "\n" + text + "\n" + Cloture(messages_)};
+RefusLecture LecteurProfil::DernierX(long k) const {
+    const std::string text =
+        messages_.Text({"frmopen", "18"}) + "\n" + PointEtX(k) + Cloture(messages_);
+    return {text, messages_.Text({"frmopen", "19"}) + "\n" + text};
 }
 
 void LecteurProfil::LitEntete() {
@@ -113,6 +135,13 @@ void LecteurProfil::LitEntete() {
     if (HasLetter(line)) {
         debut_ = std::min(end + 1, tampon_.size());
     }
+}
+
+/// Says of a failure at which point of which file it was, with the beginning of its line.
+void LecteurProfil::Situe(Failure &failure, std::string_view line) const {
+    failure.Precise(std::filesystem::path(rib_.CheminProfil).filename().string() + ", " +
+                    Point(rib_.ProfilX.Count()) + (line.empty() ? "" : ", ") +
+                    FirstCharacters(std::string(line), kDebutDeLigne));
 }
 
 std::optional<RefusLecture> LecteurProfil::LitPoint(std::string_view line, bool &last) {
@@ -130,20 +159,26 @@ std::optional<RefusLecture> LecteurProfil::LitPoint(std::string_view line, bool 
     last = k > 1 && rib_.ProfilX(k) >= 1.0;
     if (!last && k > 1 && rib_.ProfilX(k) == rib_.ProfilX(k - 1) &&
         rib_.ProfilY(k) == rib_.ProfilY(k - 1)) {
-        return PointsEgaux(rib_.ProfilX(k), rib_.ProfilX(k - 1));
+        return PointsEgaux(k);
     }
     return std::nullopt;
 }
 
 std::optional<RefusLecture> LecteurProfil::LitPoints() {
     std::int16_t k = 1;
+    bool last = false;
     rib_.ProfilX.Append(0.0);
     rib_.ProfilY.Append(0.0);
     while (!Reste().empty() && Reste() != "\n") {
         const std::size_t end = Reste().find('\n');
-        bool last = false;
-        if (auto refus = LitPoint(Trim(Reste().substr(0, end)), last)) {
-            return refus;
+        const std::string_view line = Trim(Reste().substr(0, end));
+        try {
+            if (auto refus = LitPoint(line, last)) {
+                return refus;
+            }
+        } catch (Failure &failure) {
+            Situe(failure, line);
+            throw;
         }
         if (last) {
             break;
@@ -154,7 +189,7 @@ std::optional<RefusLecture> LecteurProfil::LitPoints() {
         rib_.ProfilY.Append(0.0);
     }
     if (rib_.ProfilX(k) != 1.0) {
-        return DernierX();
+        return DernierX(last ? k : k - 1);
     }
     rib_.NbPoints = k;
     return std::nullopt;
@@ -184,21 +219,33 @@ std::string RefusTropCourt(const Messages &messages) {
     return messages.Text({"frmopen", "23"}) + "\n" + Cloture(messages);
 }
 
-ResultatLecture FichierLecture(RibModel &rib, const Messages &messages, const std::string &titre) {
+ResultatLecture EssaieLecture(RibModel &rib, const Messages &messages) {
     try {
         const std::optional<RefusLecture> refus = LecteurProfil(rib, messages).Lit();
         if (!refus) {
-            return {Lecture::lu, {}};
+            return {};
         }
-        messages.Tell(refus->boite, titre, refus->icone);
         rib.NbPoints = 0;
         rib.SansApercu = false;
-        return {Lecture::refuse, refus->etiquette};
+        return {Lecture::refuse, refus->etiquette, refus->boite, refus->icone};
     } catch (const Failure &failure) {
         rib.NbPoints = 0;
-        messages.Report(failure, " Open/FichierLecture");
-        return {Lecture::echec, {}};
+        return {Lecture::echec, {}, messages.TexteEchec(failure)};
     }
+}
+
+void AnnonceLecture(const ResultatLecture &read, const Messages &messages,
+                    const std::string &titre) {
+    if (read.issue != Lecture::lu) {
+        messages.Tell(read.boite, read.issue == Lecture::refuse ? titre : " Open/FichierLecture",
+                      read.icone);
+    }
+}
+
+ResultatLecture FichierLecture(RibModel &rib, const Messages &messages, const std::string &titre) {
+    ResultatLecture read = EssaieLecture(rib, messages);
+    AnnonceLecture(read, messages, titre);
+    return read;
 }
 
 } // namespace loftwing

@@ -11,19 +11,28 @@ namespace loftwing {
 /// How a reading ended.
 enum class Lecture {
     lu,     ///< the model holds the airfoil
-    refuse, ///< a box told why; NbPoints is 0
-    echec   ///< a run-time failure, reported; the caller clears the rib
+    refuse, ///< the file isn't an airfoil of ours; NbPoints is 0
+    echec   ///< a run-time failure; the caller clears the rib
 };
 
 /// What a reading leaves for the window that shows it.
 struct ResultatLecture {
     Lecture issue = Lecture::lu;
     std::string etiquette; ///< words of a refusal for the picker's label
+    std::string boite;     ///< what the box says of a refusal or a failure
+    BoxIcon icone = BoxIcon::information;
 };
 
 /// Reads the file CheminProfil (Selig order: x from 1 over the upper surface and back to 1) into
-/// ProfilX, ProfilY, NbPoints and EnteteProfil. A refusal shows a box with title `titre` and clears
-/// NbPoints and SansApercu.
+/// ProfilX, ProfilY, NbPoints and EnteteProfil. A refusal clears NbPoints and SansApercu. Nothing
+/// is shown.
+ResultatLecture EssaieLecture(RibModel &rib, const Messages &messages);
+
+/// Shows the box of a reading that went wrong; that of a refusal has the title `titre`.
+void AnnonceLecture(const ResultatLecture &read, const Messages &messages,
+                    const std::string &titre);
+
+/// Both of them.
 ResultatLecture FichierLecture(RibModel &rib, const Messages &messages, const std::string &titre);
 
 /// Fewer points than this make no rib; whoever lets the user choose a file refuses them.

@@ -1,5 +1,7 @@
 #include "core/contour.h"
 
+#include "core/contour_fault.h"
+
 #include <array>
 #include <cmath>
 
@@ -36,8 +38,19 @@ void EachStep(double from, double to, Sample sample) {
     }
 }
 
+/// Samples a segment. The points that a failure comes from are kept with the contour.
+template <class Sampling>
+void Segment(Profil &rib, const SegmentEchantillonne &segment, Sampling sampling) {
+    try {
+        sampling();
+    } catch (const Failure &failure) {
+        rib.faute = ChercheFaute(rib, segment, failure);
+        throw;
+    }
+}
+
 /// Samples segment i along x. A sample on the segment's own first point is dropped.
-void SegmentAlongX(Profil &rib, long i, long centre) {
+void SampleAlongX(Profil &rib, long i, long centre) {
     EachStep(rib.ProfilX(i), rib.ProfilX(i + 1), [&](double v) {
         if (rib.ProfilX(i) == v) {
             return false;
@@ -48,11 +61,27 @@ void SegmentAlongX(Profil &rib, long i, long centre) {
 }
 
 /// Samples segment i along y, for the nose, where the curve turns vertical.
-void SegmentAlongY(Profil &rib, long i) {
+void SampleAlongY(Profil &rib, long i) {
     EachStep(rib.ProfilY(i), rib.ProfilY(i + 1), [&](double v) {
         AppendSample(rib, InterpoleAitken(rib.ProfilY, rib.ProfilX, i, v), v);
         return true;
     });
+}
+
+void SegmentAlongX(Profil &rib, long i, long centre) {
+    Segment(rib, {i, centre, false}, [&] { SampleAlongX(rib, i, centre); });
+}
+
+void SegmentAlongY(Profil &rib, long i) {
+    Segment(rib, {i, i, true}, [&] { SampleAlongY(rib, i); });
+}
+
+/// Reports a failure with what `text` says of the airfoil's points.
+void RapporteFaute(const RibModel &rib, const Messages &messages, Failure failure,
+                   const char *label,
+                   std::string (*text)(const RibModel &rib, const Messages &messages)) {
+    failure.Precise(text(rib, messages));
+    messages.Report(failure, label);
 }
 
 /// The abscissas and heights around a station that linear interpolation needs.
@@ -140,6 +169,7 @@ void Alocate(Profil &rib) {
     rib.ContourX.Clear();
     rib.ContourY.Clear();
     rib.NbContour = 0;
+    rib.faute = {};
     AppendSample(rib, rib.ProfilX(1), rib.ProfilY(1));
     SegmentAlongX(rib, 1, 3);
     SegmentAlongX(rib, 2, 3);
@@ -237,7 +267,7 @@ Preparation PrepareContourSeul(RibModel &rib, const Messages &messages) {
     try {
         Alocate(rib);
     } catch (const Failure &failure) {
-        messages.Report(failure, " Calcul/Alocate");
+        RapporteFaute(rib, messages, failure, " Calcul/Alocate", TexteFaute);
         result = Preparation::incomplete;
     }
     try {
@@ -245,7 +275,11 @@ Preparation PrepareContourSeul(RibModel &rib, const Messages &messages) {
         CalculExtradosMaxi(rib);
         CalculIntradosMini(rib);
     } catch (const Failure &failure) {
-        messages.Report(failure, " Calcul/MiniX");
+        if (result == Preparation::complete) {
+            // Nothing failed before: the few points there are don't make a contour long enough.
+            rib.faute.cause = CauseContour::trop_court;
+        }
+        RapporteFaute(rib, messages, failure, " Calcul/MiniX", TexteSansContour);
         return Preparation::impossible;
     }
     return result;

@@ -13,7 +13,7 @@ double InterpoleAitken(const PointList &xs, const PointList &ys, long centre, do
 
 /// Densifies ProfilX, ProfilY to ten samples a segment: ContourX, ContourY, NbContour. Around the
 /// middle of the file, where the nose must lie, it samples along y. A failure leaves the contour
-/// with the samples made so far.
+/// with the samples made so far and says in `faute` which points it comes from.
 void Alocate(Profil &rib);
 
 /// The smallest x of the contour's first part, and NbExtrados, which counts the new minima on the

@@ -6,10 +6,10 @@ namespace loftwing {
 
 namespace {
 
-std::string FailureText(const std::string &opening, const std::string &middle,
-                        const Failure &failure) {
-    return opening + " # " + std::to_string(failure.number) + " " + middle + " " + kTitre + "\n" +
-           failure.description;
+std::string FailureText(const std::string &opening, const std::string &middle, int number,
+                        const std::string &description) {
+    return opening + " # " + std::to_string(number) + " " + middle + " " + kTitre + "\n" +
+           description;
 }
 
 } // namespace
@@ -34,7 +34,8 @@ bool Messages::Confirm(const std::string &text, const std::string &title) const 
 }
 
 std::string Messages::TexteEchec(const Failure &failure) const {
-    return FailureText(Text({"Erreur", "1"}), Text({"Erreur", "2"}), failure);
+    return FailureText(Text({"Erreur", "1"}), Text({"Erreur", "2"}), failure.number,
+                       Description(failure));
 }
 
 void Messages::Report(const Failure &failure, const std::string &label) const {
@@ -43,7 +44,8 @@ void Messages::Report(const Failure &failure, const std::string &label) const {
 
 void Messages::ReportPlot(const Failure &failure, const std::string &label,
                           const std::string &window) const {
-    Inform(FailureText(Text({"Erreur", "3"}), Text({"Erreur", "2"}), failure),
+    Inform(FailureText(Text({"Erreur", "3"}), Text({"Erreur", "2"}), failure.number,
+                       Description(failure)),
            window + Text({"Erreur", "1"}) + label);
 }
 

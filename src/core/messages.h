@@ -3,6 +3,7 @@
 
 #include "base/failure.h"
 #include "lang/LngIni.h"
+#include "lang/failure_words.h"
 #include "platform/platform.h"
 
 #include <string>
@@ -27,6 +28,10 @@ struct Messages {
     /// A question with Yes and No, No as default; true for Yes.
     bool Confirm(const std::string &text, const std::string &title) const;
 
+    /// What happened, in the user's language; see lang/failure_words.h.
+    std::string Description(const Failure &failure) const {
+        return loftwing::Description(failure, language);
+    }
     /// The text of a failure's standard box.
     std::string TexteEchec(const Failure &failure) const;
     /// The standard box of a run-time failure. `label` is the label of the routine that failed,

@@ -56,8 +56,27 @@ struct PointsLus {
     std::int16_t NbPoints = 0; ///< 0 after a failed reading
 };
 
+/// Why the making of a contour ended before its end.
+enum class CauseContour : std::uint8_t {
+    aucune,       ///< it didn't
+    meme_place,   ///< two points have the same x where samples are made along x
+    meme_hauteur, ///< two points have the same y where samples are made along y
+    trop_court,   ///< the file has too few points
+    trop_long,    ///< the contour would have more points than its count can tell
+    trop_grand    ///< a coordinate is beyond what can be computed with
+};
+
+/// The same with the points that are at fault, counted as in the file from 1.
+struct FauteContour {
+    CauseContour cause = CauseContour::aucune;
+    long premier = 0;
+    long second = 0; ///< where there are two
+    long jusque = 0; ///< the contour comes to this point of the file
+};
+
 /// What contour preparation makes of the points, in fractions of the chord.
 struct ContourPrepare {
+    FauteContour faute;
     PointList ContourX;
     PointList ContourY;
     std::int16_t NbContour = 0;

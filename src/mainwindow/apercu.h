@@ -3,6 +3,7 @@
 
 #include "output/recording.h"
 
+#include <QPainter>
 #include <QWidget>
 
 #include <memory>
@@ -18,10 +19,14 @@ class Apercu : public QWidget {
     explicit Apercu(QWidget *parent);
 
     void Montre(std::unique_ptr<Recording> drawing);
+    /// Shows words in the drawing's place.
+    void Dit(const QString &words);
     /// Clears the paper.
     void Efface() { Montre(nullptr); }
     /// What is shown, null for clear paper.
     const Recording *Dessin() const { return drawing_.get(); }
+    /// The words that are shown, empty for a drawing or clear paper.
+    const QString &Mots() const { return words_; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -31,6 +36,9 @@ class Apercu : public QWidget {
 
   private:
     std::unique_ptr<Recording> drawing_;
+    QString words_;
+
+    void PeintMots(QPainter &painter) const;
 };
 
 } // namespace loftwing

@@ -12,6 +12,7 @@ namespace {
 
 constexpr int kAide = 41;
 constexpr int kTitleLines = 3;
+constexpr int kRepos = 150; // milliseconds after which a selection rests
 
 } // namespace
 
@@ -76,11 +77,12 @@ void frmopen::ConnectAll() {
     }
     selection_.setSingleShot(true);
     connect(&selection_, &QTimer::timeout, this, &frmopen::File1_Click);
+    connect(&txtchemin, &QLineEdit::textChanged, this, &frmopen::MontreOuvrir);
     connect(&Combo1, &QComboBox::activated, this, &frmopen::Combo1_Change);
     connect(&Dir1, &QListWidget::itemDoubleClicked, this, &frmopen::Dir1_DblClick);
     connect(&File1, &QListWidget::itemSelectionChanged, this, [this] {
         if (!pressed_) {
-            selection_.start();
+            Attend(true);
         }
     });
     // After the mouse is done with the list, since the window may close.
@@ -91,7 +93,7 @@ void frmopen::ConnectAll() {
     connect(new QShortcut(QKeySequence(Qt::ALT | Qt::Key_Up), this), &QShortcut::activated, this,
             &frmopen::Monte);
     connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, this,
-            [this] { Ouvre(dossier_); });
+            &frmopen::Relit);
 }
 
 void frmopen::Form_Load() {
@@ -99,7 +101,7 @@ void frmopen::Form_Load() {
     rib_.ProfilCharge = false;
     Label1.clear();
     MontreMemoire(false, {});
-    Ouvre(DossierDepart(programme_.settings.repertoires.LastOpenProfil));
+    OuvreDernier();
 }
 
 void frmopen::MontreMemoire(bool check, const std::string &note) {
@@ -109,9 +111,35 @@ void frmopen::MontreMemoire(bool check, const std::string &note) {
     Label3.setVisible(!note.empty());
 }
 
+void frmopen::Attend(bool discret) {
+    discret_ = discret;
+    Refuse(false);
+    selection_.start(discret ? kRepos : 0);
+}
+
+void frmopen::Refuse(bool refuse) {
+    refuse_ = refuse;
+    MontreOuvrir();
+}
+
+void frmopen::MontreOuvrir() {
+    cmdouvrir.setEnabled(!refuse_ || ChercheAilleurs());
+}
+
+void frmopen::OublieFichier() {
+    selection_.stop();
+    rib_.CheminProfil.clear();
+    Surface.Efface();
+    Label1.clear();
+    nomfile1.clear();
+    Label2.clear();
+    Refuse(false);
+}
+
 void frmopen::LitSelection() {
     if (selection_.isActive()) {
         selection_.stop();
+        discret_ = false; // who opens a file wants to know what is wrong with it
         File1_Click();
     }
 }
@@ -128,7 +156,11 @@ void frmopen::File1_Click() {
     Surface.Efface();
     Label1.clear();
     Label2.clear();
-    MontreLecture(FichierLecture(rib_, programme_.messages, Titre()));
+    const ResultatLecture read = EssaieLecture(rib_, programme_.messages);
+    if (!discret_) {
+        AnnonceLecture(read, programme_.messages, Titre());
+    }
+    MontreLecture(read);
     // Only now, so that a refusal's box may have come before.
     const std::string warning = NomEcarte(rib_);
     if (!warning.empty()) {
@@ -139,19 +171,27 @@ void frmopen::File1_Click() {
 }
 
 void frmopen::MontreLecture(const ResultatLecture &lecture) {
-    if (lecture.issue == Lecture::echec) {
-        rib_.NbPoints = 0;
-        if (efface_) {
-            view_.affclear();
-            // There is no airfoil any more that a cancel could give back.
-            precedent_ = ProfilPrecedent(rib_);
-        }
-        return;
+    Refuse(lecture.issue != Lecture::lu);
+    if (lecture.issue == Lecture::lu) {
+        MontreProfil();
+    } else if (discret_) {
+        Surface.Dit(Q(lecture.boite));
+    } else {
+        MontreEchec(lecture);
     }
+}
+
+void frmopen::MontreEchec(const ResultatLecture &lecture) {
     if (lecture.issue == Lecture::refuse) {
         Label1.setText(Q(lecture.etiquette));
-        return;
+    } else if (efface_) {
+        view_.affclear();
+        // There is no airfoil any more that a cancel could give back.
+        precedent_ = ProfilPrecedent(rib_);
     }
+}
+
+void frmopen::MontreProfil() {
     if (rib_.SansApercu) {
         return;
     }
@@ -163,7 +203,10 @@ void frmopen::MontreLecture(const ResultatLecture &lecture) {
 }
 
 void frmopen::File1_DblClick() {
-    cmdouvrir_Click();
+    LitSelection();
+    if (!refuse_) {
+        cmdouvrir_Click();
+    }
 }
 
 void frmopen::memP1_Click() {
@@ -171,11 +214,13 @@ void frmopen::memP1_Click() {
 }
 
 void frmopen::cmdouvrir_Click() {
-    const bool typed = S(txtchemin.text()) != ToUtf8(dossier_);
-    if (typed && !txtchemin_Return()) {
+    if (ChercheAilleurs() && !txtchemin_Return()) {
         return;
     }
     LitSelection();
+    if (refuse_) {
+        return; // a box has just told why
+    }
     const std::string title = Titre();
     if (rib_.CheminProfil.empty()) {
         programme_.messages.Inform(programme_.Text({"frmopen", "22"}), title);
@@ -189,6 +234,7 @@ void frmopen::cmdouvrir_Click() {
     }
     rib_.ProfilCharge = true;
     programme_.settings.repertoires.LastOpenProfil = dossier_;
+    programme_.DernierProfil = rib_.CheminProfil;
     WriteINIFile("Repertoires", "LastOpenProfil", dossier_, programme_.paths.fichier);
     accept();
 }

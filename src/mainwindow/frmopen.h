@@ -20,8 +20,11 @@
 
 namespace loftwing {
 
-/// Folders, files, and a preview of the file that is selected: each is read into the rib and tested
-/// at once, so that a bad one is refused before it is accepted. Open leaves the airfoil in the rib,
+/// Folders, files, and a preview of the file that is selected: each is read into the rib and
+/// tested, so that a bad one is refused before it is accepted. A click reads at once and tells by a
+/// box; the keys read where the selection comes to rest, and what is wrong with a file stands in
+/// the preview's place, so that going through a folder is stopped by nothing and costs no rib. Open
+/// leaves the airfoil in the rib,
 /// every other way out puts back the identity of the one before and sets rib.Annule. The window's
 /// title is the title of its boxes; whoever opens it may set another.
 class frmopen : public Dialogue {
@@ -46,6 +49,8 @@ class frmopen : public Dialogue {
     ProfilPrecedent precedent_;
     std::string dossier_;  ///< whose content the lists show
     QTimer selection_;     ///< a selected file waits to be read
+    bool discret_ = false; ///< by its side: no box, and the rib stays
+    bool refuse_ = false;  ///< the selected file was read and can't be opened
     bool efface_ = true;   ///< a reading that fails clears the rib
     bool pressed_ = false; ///< the mouse is down on File1
 
@@ -82,6 +87,13 @@ class frmopen : public Dialogue {
     void ConnectAll();
     void Form_Load();
     void File1_Click();
+    /// Lets the selected file be read, at once after a click, otherwise when the selection rests.
+    void Attend(bool discret);
+    /// Open is dead for a file that was refused, unless another one is typed.
+    void Refuse(bool refuse);
+    void MontreOuvrir();
+    /// Nothing is chosen any more.
+    void OublieFichier();
     void File1_DblClick();
     void memP1_Click();
     void cmdouvrir_Click();
@@ -89,15 +101,22 @@ class frmopen : public Dialogue {
     /// Reads a file that is selected but still waits.
     void LitSelection();
     void MontreLecture(const ResultatLecture &lecture);
+    void MontreEchec(const ResultatLecture &lecture);
+    void MontreProfil();
 
     // frmopen_lists.cpp
     void Combo1_Change();
     void Dir1_Change(const std::string &came_from);
     void Dir1_DblClick();
+    /// Whether the path that is typed isn't the folder that is shown.
+    bool ChercheAilleurs() const;
     /// Goes where the path leads; true when it named a file, which is then selected.
     bool txtchemin_Return();
     /// Shows another folder. One that can't be listed is reported, and the present one stays.
     bool Ouvre(const std::string &folder, const std::string &came_from = {});
+    void Relit();
+    /// Opens the folder of the airfoil that was opened last and selects it there again.
+    void OuvreDernier();
     void Monte();
     void RemplitFile1(const std::vector<std::string> &names);
     std::string Motif() const;

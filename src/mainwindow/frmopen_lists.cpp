@@ -2,6 +2,8 @@
 
 #include "base/text_encoding.h"
 #include "mainwindow/frmopen.h"
+#include "programme/dossiers.h"
+#include "programme/load.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -34,6 +36,21 @@ bool Selectionne(QListWidget &list, const std::string &name) {
         }
     }
     return false;
+}
+
+/// The file of that folder that was opened last, in this run or before it; empty without one.
+std::string DernierOuvert(Programme &programme, const std::string &folder) {
+    std::vector<std::string> paths = {programme.DernierProfil};
+    if (programme.DernierProfil.empty()) {
+        const FichiersRecents recent = FichiersRecentsConnus(programme);
+        paths.assign(recent.begin(), recent.end());
+    }
+    for (const std::string &path : paths) {
+        if (!path.empty() && DossierDe(path) == folder) {
+            return std::filesystem::path(path).filename().string();
+        }
+    }
+    return {};
 }
 
 /// A path as typed: "~" is the home folder, and it may start from the folder that is shown.
@@ -72,9 +89,29 @@ bool frmopen::Ouvre(const std::string &folder, const std::string &came_from) {
     }
 }
 
+void frmopen::Relit() {
+    const QList<QListWidgetItem *> chosen = File1.selectedItems();
+    const std::string name = chosen.isEmpty() ? std::string() : NomDe(*chosen.front());
+    if (Ouvre(dossier_)) {
+        Selectionne(File1, name);
+    }
+}
+
+void frmopen::OuvreDernier() {
+    const std::string folder = DossierDepart(programme_.settings.repertoires.LastOpenProfil);
+    const std::string name = DernierOuvert(programme_, folder);
+    for (int row = 0; row < Combo1.count(); ++row) {
+        if (SuitMotif(name, MotifDeLigne(S(Combo1.itemText(row))))) {
+            Combo1.setCurrentIndex(row);
+        }
+    }
+    Ouvre(folder);
+    Selectionne(File1, name);
+}
+
 void frmopen::RemplitFile1(const std::vector<std::string> &names) {
     const QSignalBlocker no_selection(File1);
-    selection_.stop();
+    OublieFichier();
     File1.clear();
     for (const std::string &name : names) {
         Ajoute(File1, name);
@@ -82,9 +119,6 @@ void frmopen::RemplitFile1(const std::vector<std::string> &names) {
 }
 
 void frmopen::Dir1_Change(const std::string &came_from) {
-    Label1.clear();
-    nomfile1.clear();
-    Label2.clear();
     const std::string shown = ToUtf8(dossier_);
     Lbchemin.setText(Q(CheminAbrege(shown)));
     txtchemin.setText(Q(shown));
@@ -113,6 +147,10 @@ void frmopen::Dir1_DblClick() {
     }
 }
 
+bool frmopen::ChercheAilleurs() const {
+    return S(txtchemin.text()) != ToUtf8(dossier_);
+}
+
 bool frmopen::txtchemin_Return() {
     const std::filesystem::path path = CheminTape(S(txtchemin.text().trimmed()), dossier_);
     std::error_code error;
@@ -130,11 +168,11 @@ bool frmopen::txtchemin_Return() {
         Selectionne(File1, name);
     }
     File1.setFocus();
+    Attend(false);
     return true;
 }
 
 void frmopen::Combo1_Change() {
-    Label1.clear();
     try {
         RemplitFile1(LitDossier(dossier_, Motif()).fichiers);
     } catch (const Failure &failure) {
@@ -175,7 +213,7 @@ void frmopen::File1_Mouse(const QEvent &event) {
     pressed_ = false;
     const QPoint at = static_cast<const QMouseEvent &>(event).position().toPoint();
     if (File1.itemAt(at) != nullptr || Choisi() != rib_.CheminProfil) {
-        selection_.start();
+        Attend(false);
     }
 }
 

@@ -35,7 +35,8 @@ void frmPrint::LayOut() {
     LayOutPlace();
     LayOutPages();
     auto *place = new QHBoxLayout;
-    place->addWidget(&Frame2, 1);
+    // The margins have the longer words in front of their fields.
+    place->addWidget(&Frame2, 2);
     place->addWidget(&Frame5, 1);
     auto *rows = new QVBoxLayout(this);
     rows->addWidget(&Frame6);

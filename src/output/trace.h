@@ -36,15 +36,14 @@ struct Trace {
     Colour Couleur(Element element) const { return CouleurDe(settings, element); }
     void EnStyleDe(Element element) const { PrendStyle(device, settings, element); }
     void FinDeStyle() const { RendStyle(device); }
-    /// Runs a step. A failure passes on with the element's name behind its description, and the
+    /// Runs a step. A failure passes on with the element's name behind its detail, and the
     /// slot's number (from 1) where one is given, so that the user knows what to correct.
     template <class Step>
     void Nomme(LngKey name, const Step &step, int slot = 0) const {
         try {
             step();
         } catch (Failure &failure) {
-            failure.description += ": " + messages.Text(name);
-            failure.description += slot == 0 ? "" : " " + std::to_string(slot);
+            failure.Precise(messages.Text(name) + (slot == 0 ? "" : " " + std::to_string(slot)));
             throw;
         }
     }

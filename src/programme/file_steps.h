@@ -8,16 +8,16 @@
 
 namespace loftwing {
 
-/// Lets the user pick an airfoil and opens it; false when it was cancelled or the rib has no room
-/// on its chord and is kept.
+/// Lets the user pick an airfoil and opens it; false when it was cancelled or the rib that was
+/// there is kept.
 bool OuvreProfil(Programme &programme, CommandView &view);
 
 /// Lets the user choose a rib components file and opens it, asking first where that loses changes.
 void OuvreRib(Programme &programme, CommandView &view);
 
 /// Opens a file that is known: an airfoil, or a rib components file, before which changes are asked
-/// for. An airfoil that is refused, or on whose chord not all of the rib fits and the user says so,
-/// leaves the rib; one whose reading fails clears it.
+/// for. An airfoil that is refused or of which nothing can be drawn, or on whose chord not all of
+/// the rib fits and the user says so, leaves the rib; one whose reading fails clears it.
 void OuvreFichier(Programme &programme, CommandView &view, const std::string &path);
 /// Under which a failure of that is reported.
 std::string EtiquetteOuverture(const std::string &path);

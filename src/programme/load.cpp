@@ -64,6 +64,7 @@ void FinPremierDemarrage(Programme &programme) {
 }
 
 void NoteRecent(Programme &programme, const std::string &path) {
+    programme.DernierProfil = path;
     try {
         NoteFichierRecent(path, programme.paths.fichier);
     } catch (const Failure &failure) {

@@ -1,5 +1,6 @@
 #include "programme/notices.h"
 
+#include "core/contour_fault.h"
 #include "features/talon.h"
 #include "output/screen_plot.h"
 #include "programme/dossiers.h"
@@ -21,6 +22,14 @@ struct Row {
     std::string (*text)(const Programme &programme);
     std::vector<NoticeButton> (*buttons)(const Programme &programme);
 };
+
+/// How far the drawing comes, and which points end it there.
+std::string ContourText(const Programme &programme) {
+    const RibModel &rib = programme.rib;
+    return programme.Text({"FrmMainMessage", "190"}) + " " + std::to_string(rib.faute.jusque) +
+           " " + programme.Text({"FrmMainMessage", "191"}) + " " + std::to_string(rib.NbPoints) +
+           ". " + TexteFaute(rib, programme.messages) + ".";
+}
 
 bool InMm(const Programme &programme) {
     return programme.settings.Unite == kUniteMm;
@@ -54,7 +63,10 @@ std::vector<NoticeButton> NoButtons(const Programme & /*programme*/) {
     return {};
 }
 
-const std::array<Row, 3> kRows = {{
+const std::array<Row, 4> kRows = {{
+    {NoticeSubject::contour, "contour",
+     [](const Programme &programme) { return programme.rib.faute.cause != CauseContour::aucune; },
+     ContourText, NoButtons},
     {NoticeSubject::unit, "unit",
      [](const Programme &programme) { return programme.rib.UniteDouteuse; }, UnitText, UnitButtons},
     {NoticeSubject::heel_margins, "heel_margins",

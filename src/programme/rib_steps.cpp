@@ -11,8 +11,6 @@
 #include "programme/load.h"
 #include "programme/sans_place.h"
 
-#include <optional>
-
 namespace loftwing {
 
 namespace {
@@ -48,31 +46,25 @@ void Vide(Programme &programme, CommandView &view) {
     RelitDefauts(programme, view);
 }
 
-/// Shows the rib of a new airfoil; one that has no contour is cleared.
-void MontreRib(CommandView &view, Preparation made) {
-    if (made == Preparation::impossible) {
-        view.affclear();
-        return;
-    }
+/// Shows the rib of a new airfoil.
+void MontreRib(CommandView &view) {
     view.ViewReset();
     view.ActiveCommandes();
     view.affiche();
 }
 
-/// The rib with the airfoil that was read, its chord and its contour; nothing where the user rather
-/// keeps the rib that was there.
-std::optional<Preparation> EssaieProfil(Programme &programme) {
-    Preparation made{};
+/// The rib with the airfoil that was read, its chord and its contour; false where there is nothing
+/// to draw or the user rather keeps the rib that was there.
+bool EssaieProfil(Programme &programme) {
     {
         const Sablier sablier(programme.platform);
         ReprendProfil(programme.rib);
         CordeDuTitre(programme.rib, programme.SaisieEnCours());
-        made = PrepareContour(programme.rib, programme.messages);
+        if (PrepareContour(programme.rib, programme.messages) == Preparation::impossible) {
+            return false;
+        }
     }
-    if (made == Preparation::impossible || AccepteProfil(programme)) {
-        return made;
-    }
-    return std::nullopt;
+    return AccepteProfil(programme);
 }
 
 } // namespace
@@ -91,14 +83,14 @@ bool ConfirmeFin(const Programme &programme) {
 
 bool RepriseProfil(Programme &programme, CommandView &view, const RibAvant &before) {
     RibModel &rib = programme.rib;
-    std::optional<Preparation> made;
+    bool taken = false;
     try {
-        made = EssaieProfil(programme);
+        taken = EssaieProfil(programme);
     } catch (const Failure &) {
         rib.Partie<PartiesRib>() = before.parties;
         throw;
     }
-    if (!made) {
+    if (!taken) {
         rib.Partie<PartiesRib>() = before.parties;
         return false;
     }
@@ -107,12 +99,16 @@ bool RepriseProfil(Programme &programme, CommandView &view, const RibAvant &befo
     view.Titre(TitreFenetre(rib, programme.messages));
     NoteRecent(programme, rib.CheminProfil);
     view.AfficheFichiersRecents();
-    MontreRib(view, *made);
+    MontreRib(view);
     return true;
 }
 
 void RecalculProfil(Programme &programme, CommandView &view) {
-    MontreRib(view, PrepareContour(programme.rib, programme.messages));
+    if (PrepareContour(programme.rib, programme.messages) == Preparation::impossible) {
+        view.affclear();
+        return;
+    }
+    MontreRib(view);
 }
 
 void ChangeCorde(Programme &programme, CommandView &view) {

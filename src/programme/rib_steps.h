@@ -16,8 +16,9 @@ bool ConfirmeFin(const Programme &programme);
 
 /// The airfoil that was read takes over the rib, which was `before` until then, and brings its
 /// chord along. A label of the airfoil before becomes the label of this one. Where something on the
-/// rib has no room on the chord the user is asked; false when he keeps the rib that was there,
-/// which is then what it was to the last value, as after a failure.
+/// rib has no room on the chord the user is asked. False when he keeps the rib that was there or
+/// nothing of the airfoil can be drawn, which was told: the rib is then what it was to the last
+/// value, as after a failure.
 bool RepriseProfil(Programme &programme, CommandView &view, const RibAvant &before);
 
 /// Makes the contour of the rib's airfoil and shows the rib; an impossible one clears it.

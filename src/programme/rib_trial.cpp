@@ -34,8 +34,9 @@ bool RibTracable(Programme &programme, const std::string &titre) {
     }
     const auto failure = EchecDuTrace(programme);
     if (failure) {
-        programme.messages.Inform(
-            programme.Text({"FrmMainMessage", "18"}) + "\n" + failure->description, titre);
+        programme.messages.Inform(programme.Text({"FrmMainMessage", "18"}) + "\n" +
+                                      programme.messages.Description(*failure),
+                                  titre);
     }
     return !failure;
 }

@@ -174,7 +174,7 @@ bool AccepteProfil(Programme &programme) {
     if (found.echec) {
         programme.messages.Inform(Entete(programme) + "\n\n" +
                                       programme.Text({"FrmMainMessage", "18"}) + "\n" +
-                                      found.echec->description,
+                                      programme.messages.Description(*found.echec),
                                   titre);
         return false;
     }

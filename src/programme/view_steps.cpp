@@ -18,8 +18,9 @@ namespace loftwing {
 
 namespace {
 
-/// What a comparison that is called off gives back.
+/// What a comparison that is called off, or whose first airfoil can't be drawn, gives back.
 struct VueAvant {
+    PartiesRib parties;
     bool ModeCompare;
     bool ModeCouple;
     std::function<void()> retour; ///< the rib's dimensions
@@ -47,15 +48,15 @@ bool DemandeProfil1(Programme &programme, CommandView &view, const VueAvant &bef
         return false;
     }
     const Sablier sablier(programme.platform);
+    if (PrendProfil1(programme) == Preparation::impossible) {
+        rib.Partie<PartiesRib>() = before.parties;
+        return false;
+    }
     view.DesactiveCommandes();
     view.ActiveCommandesVue();
     view.VideImage();
     view.Titre(kTitre);
     NoteEtAfficheRecent(programme, view, rib.CheminProfil);
-    if (PrendProfil1(programme) == Preparation::impossible) {
-        view.affclear();
-        return false;
-    }
     view.Panneau(1, kVersion);
     view.Panneau(2, EtatProfil1(rib, programme.compare, programme.SaisieEnCours()));
     return true;
@@ -96,7 +97,7 @@ void CompareProfils(Programme &programme, CommandView &view) {
         !ConfirmePerte(programme, {"OutilCompare", "1"}, {"OutilCompare", "2"})) {
         return;
     }
-    const VueAvant before{rib.ModeCompare, rib.ModeCouple, RetourDuRib(rib)};
+    const VueAvant before{rib, rib.ModeCompare, rib.ModeCouple, RetourDuRib(rib)};
     if (!before.ModeCompare) {
         programme.compare.OublieProfil2();
     }

@@ -55,7 +55,7 @@ PointList Hauteurs(const ProfilJeu &fine, const ProfilJeu &other, long bound) {
                 InterpIntra(other.IdxBA, other.NbPoint, other.ProfilX, other.ProfilY, x));
         }
     } catch (Failure &failure) {
-        failure.description += ": x = " + NumberText(x);
+        failure.Precise("x = " + NumberText(x));
         throw;
     }
     return heights;
@@ -178,7 +178,7 @@ CourbesJeu CalculProfils(const ProfilJeu &major, const ProfilJeu &minor) {
     try {
         return SurStationsCommunes(major, minor);
     } catch (Failure &failure) {
-        failure.description += ", " + major.NomProfil + ", " + minor.NomProfil;
+        failure.detail += ", " + major.NomProfil + ", " + minor.NomProfil;
         throw;
     }
 }

@@ -50,7 +50,7 @@ struct CourbesJeu {
 };
 
 /// Equal counts take the stations of the root's airfoil. A failure of the lookups passes on with
-/// both names and the station in its description.
+/// both names and the station in its detail.
 CourbesJeu CalculProfils(const ProfilJeu &major, const ProfilJeu &minor);
 
 /// One rib of a set.

@@ -52,14 +52,15 @@ void RapporteEcriture(const Messages &messages, const Failure &failure, const st
         return;
     }
     messages.Inform(messages.Text({"FrmDefaut", "15"}) + " " + messages.Text({"Message", "2"}) +
-                        "\n" + messages.Text({"Message", "3"}) + "\n" + failure.description,
+                        "\n" + messages.Text({"Message", "3"}) + "\n" +
+                        messages.Description(failure),
                     title);
 }
 
 void RapporteAngle(const Messages &messages, const Failure &failure) {
     const std::string error = messages.Text({"Erreur", "1"});
     messages.Inform(error + " # " + std::to_string(failure.number) + " From  " + kTitre +
-                        failure.description,
+                        messages.Description(failure),
                     error + " Angle/OK");
 }
 

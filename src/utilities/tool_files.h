@@ -22,7 +22,7 @@ std::string TexteDeLignes(const std::vector<std::string> &lignes);
 inline constexpr const char *kDegre = "\u00B0";
 
 /// Writes a file whole. Failure 76 when its folder isn't there, 75 when it is refused otherwise;
-/// the description names the file.
+/// the detail names the file.
 void EcritFichier(const std::string &path, const std::string &text);
 
 /// The box of a tool that couldn't write its files; `label` as Messages::Report has it. A missing

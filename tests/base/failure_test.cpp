@@ -11,16 +11,19 @@ namespace {
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 const double kNoNumber = std::nan("");
 
-TEST(MakeFailure, GivesTheUsualWords) {
+TEST(MakeFailure, GivesNumberAndDetail) {
     EXPECT_EQ(MakeFailure(kOverflow).number, 6);
-    EXPECT_EQ(MakeFailure(kOverflow).description, "Overflow");
-    EXPECT_EQ(MakeFailure(kDivisionByZero).number, 11);
-    EXPECT_EQ(MakeFailure(kDivisionByZero).description, "Division by zero");
+    EXPECT_EQ(MakeFailure(kOverflow).detail, "");
     EXPECT_EQ(MakeFailure(kCancel).number, 32755);
+    EXPECT_EQ(MakeFailure(kFileNotFound, "/home/x.dat").detail, "/home/x.dat");
 }
 
-TEST(MakeFailure, AddsTheDetailBehindAColon) {
-    EXPECT_EQ(MakeFailure(kFileNotFound, "/home/x.dat").description, "File not found: /home/x.dat");
+TEST(Failure, TakesWhatEachCallerKnowsBehindAColon) {
+    Failure failure = MakeFailure(kDivisionByZero);
+    failure.Precise("Spars 3");
+    EXPECT_EQ(failure.detail, "Spars 3");
+    failure.Precise("root.lfw");
+    EXPECT_EQ(failure.detail, "Spars 3: root.lfw");
 }
 
 TEST(RoundHalfEven, TakesHalvesToTheEvenNeighbour) {

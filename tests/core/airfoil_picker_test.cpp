@@ -88,7 +88,7 @@ int FailureOf(const std::string &folder) {
     try {
         LitDossier(folder, "*.dat");
     } catch (const Failure &failure) {
-        EXPECT_NE(failure.description.find(folder), std::string::npos);
+        EXPECT_NE(failure.detail.find(folder), std::string::npos);
         return failure.number;
     }
     return 0;

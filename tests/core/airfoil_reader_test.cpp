@@ -10,12 +10,14 @@ namespace loftwing {
 namespace {
 
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::IsEmpty;
 
 constexpr const char *kTable = "[TextButton]\n3=Help\n"
                                "[frmopen]\n1=Open an airfoil\n11=No title line\n12=First x\n"
                                "13=Wrong point\n14=The first x must be 1\n16=Double point x \n"
                                "17= and x \n18=Last x\n19=The last x must be 1\n23=Too short\n"
+                               "190=Point\n191=Points\n192=and\n"
                                "[Erreur]\n1=Error\n2=in\n";
 constexpr const char *kClosing = "Help/Open an airfoil";
 constexpr const char *kCaption = "Caption";
@@ -58,15 +60,19 @@ class Reader : public testing::Test {
     void RefusedWithoutTitle(std::string_view bytes) {
         Refused(bytes, "No title line", "No title line");
     }
-    void RefusedFirstX(std::string_view bytes) {
-        Refused(bytes, "First x", "Wrong point\nThe first x must be 1");
+    void RefusedFirstX(std::string_view bytes, const std::string &x) {
+        const std::string point = "\nPoint 1, x = " + x;
+        Refused(bytes, "First x" + point, "Wrong point\nThe first x must be 1" + point);
     }
-    void RefusedDouble(std::string_view bytes, const std::string &x) {
-        const std::string text = "Double point x= " + x + "and x= " + x;
+    /// The second and the third point are the same.
+    void RefusedDouble(std::string_view bytes, const std::string &x, const std::string &y) {
+        const std::string text =
+            "Double point x= " + x + "and x= " + x + "\nPoints 2 and 3, x = " + x + ", y = " + y;
         Refused(bytes, text, text, BoxIcon::none);
     }
-    void RefusedLastX(std::string_view bytes) {
-        Refused(bytes, "Last x", "The last x must be 1\nLast x");
+    /// `point` is the line that names the last point, with its line feed before it.
+    void RefusedLastX(std::string_view bytes, const std::string &point) {
+        Refused(bytes, "Last x" + point, "The last x must be 1\nLast x" + point);
     }
     /// Reads what ends in a run-time failure of that number.
     void Failed(const ResultatLecture &result, const std::string &report) {
@@ -87,6 +93,19 @@ class Reader : public testing::Test {
 };
 
 constexpr const char *kInvalidCall = "Error # 5 in Loftwing\nInvalid procedure call";
+
+TEST_F(Reader, ShowsNothingOfATrial) {
+    rib.CheminProfil = words.folder.File("airfoil.dat", "Title\n1 0\n0 0\n0.99 0\n");
+    const ResultatLecture refused = EssaieLecture(rib, words.messages);
+    EXPECT_EQ(refused.issue, Lecture::refuse);
+    EXPECT_EQ(refused.boite,
+              std::string("The last x must be 1\nLast x\nPoint 3, x = 0.99\n") + kClosing);
+    rib.CheminProfil += "x";
+    const ResultatLecture failed = EssaieLecture(rib, words.messages);
+    EXPECT_EQ(failed.issue, Lecture::echec);
+    EXPECT_EQ(failed.boite, "Error # 53 in Loftwing\nFile not found: " + rib.CheminProfil);
+    EXPECT_TRUE(words.platform.boxes.empty());
+}
 
 TEST_F(Reader, ReadsTitleAndPoints) {
     Good(" Wedge \n1.0 0.0\n0.5 0.1\n0 0\n0.5 -0.1\n1.0 0.0\n");
@@ -113,7 +132,7 @@ TEST_F(Reader, TakesAFirstLineWithAnyLetterForTheTitle) {
         EXPECT_EQ(rib.NbPoints, 3) << letter;
     }
     // An exponent is a letter too: this first point is lost as title, the next one is not at 1.
-    RefusedFirstX("1.0E+00 0.0\n0.5 0.1\n1 0\n");
+    RefusedFirstX("1.0E+00 0.0\n0.5 0.1\n1 0\n", "0.5");
 }
 
 TEST_F(Reader, TakesNoOtherCharacterForALetter) {
@@ -134,24 +153,24 @@ TEST_F(Reader, RefusesAnEmptyFile) {
 }
 
 TEST_F(Reader, RefusesAFirstPointThatIsNotExactlyAtOne) {
-    RefusedFirstX("Title\n1.0001 0\n0 0\n1 0\n");
-    RefusedFirstX("Title\n0.9999999 0\n0 0\n1 0\n");
-    RefusedFirstX("Title\n0.0 0.0\n0.5 0.1\n1 0\n");
-    RefusedFirstX("1.0001 0\n0 0\n1 0\n");
+    RefusedFirstX("Title\n1.0001 0\n0 0\n1 0\n", "1.0001");
+    RefusedFirstX("Title\n0.9999999 0\n0 0\n1 0\n", "0.9999999");
+    RefusedFirstX("Title\n0.0 0.0\n0.5 0.1\n1 0\n", "0");
+    RefusedFirstX("1.0001 0\n0 0\n1 0\n", "1.0001");
 }
 
 TEST_F(Reader, RefusesRisingPointsBehindTwoCounts) {
-    RefusedFirstX("Title\n17. 17.\n\n0.0 0.0\n0.5 0.1\n1.0 0.0\n");
+    RefusedFirstX("Title\n17. 17.\n\n0.0 0.0\n0.5 0.1\n1.0 0.0\n", "17");
 }
 
 TEST_F(Reader, RefusesASecondTitleLineAsFirstPoint) {
-    RefusedFirstX("Title\nAnother line\n1 0\n0 0\n1 0\n");
-    RefusedFirstX("Title\nword\n1 0\n"); // without any blank too
+    RefusedFirstX("Title\nAnother line\n1 0\n0 0\n1 0\n", "0");
+    RefusedFirstX("Title\nword\n1 0\n", "0"); // without any blank too
 }
 
 TEST_F(Reader, RefusesAnEmptyLineBetweenTitleAndPoints) {
-    RefusedFirstX("Title\n\n1 0\n0 0\n1 0\n");
-    RefusedFirstX("Title\r\n\r\n1 0\r\n0 0\r\n1 0\r\n");
+    RefusedFirstX("Title\n\n1 0\n0 0\n1 0\n", "0");
+    RefusedFirstX("Title\r\n\r\n1 0\r\n0 0\r\n1 0\r\n", "0");
 }
 
 TEST_F(Reader, AcceptsAFirstPointWithBarePoints) {
@@ -160,11 +179,11 @@ TEST_F(Reader, AcceptsAFirstPointWithBarePoints) {
 }
 
 TEST_F(Reader, RefusesTwoEqualPointsInARow) {
-    RefusedDouble("Title\n1 0\n0.5 0.1\n0.5 0.1\n0 0\n1 0\n", "0.5");
-    RefusedDouble("Title\n1 0\n0.25 .1\n.250 0.10\n1 0\n", "0.25");
-    RefusedDouble("Title\n1 0\n0 0\n0.000 -0\n1 0\n", "0");
+    RefusedDouble("Title\n1 0\n0.5 0.1\n0.5 0.1\n0 0\n1 0\n", "0.5", "0.1");
+    RefusedDouble("Title\n1 0\n0.25 .1\n.250 0.10\n1 0\n", "0.25", "0.1");
+    RefusedDouble("Title\n1 0\n0 0\n0.000 0\n1 0\n", "0", "0");
     RefusedDouble("Title\n1 0\n0.0123456789012345 0\n0.0123456789012345 0\n1 0\n",
-                  "1.23456789012345E-02");
+                  "1.23456789012345E-02", "0");
 }
 
 TEST_F(Reader, LetsARepeatedXPass) {
@@ -189,17 +208,18 @@ TEST_F(Reader, ClosesTheListAtOneWhateverTheY) {
 }
 
 TEST_F(Reader, RefusesAListThatEndsShortOfOne) {
-    RefusedLastX("Title\n1 0\n0 0\n0.99 0\n");
-    RefusedLastX("Title\n1 0\n0 0\n0.99 0");
-    RefusedLastX("Title\n1 0\n0 0\n0.99 0\n\n");
-    RefusedLastX("Title\n1 0\n");
-    RefusedLastX("Title\n");
-    RefusedLastX("Title");
+    RefusedLastX("Title\n1 0\n0 0\n0.99 0\n", "\nPoint 3, x = 0.99");
+    RefusedLastX("Title\n1 0\n0 0\n0.99 0", "\nPoint 3, x = 0.99");
+    RefusedLastX("Title\n1 0\n0 0\n0.99 0\n\n", "\nPoint 3, x = 0.99");
+    // Without a second point there is none to name.
+    RefusedLastX("Title\n1 0\n", "");
+    RefusedLastX("Title\n", "");
+    RefusedLastX("Title", "");
 }
 
 TEST_F(Reader, RefusesAListThatEndsAboveOne) {
-    RefusedLastX("Title\n1 0\n0 0\n1.00001 0\n1 0\n");
-    RefusedLastX("Title\n1 0\n1.5 0\n0 0\n1 0\n");
+    RefusedLastX("Title\n1 0\n0 0\n1.00001 0\n1 0\n", "\nPoint 3, x = 1.00001");
+    RefusedLastX("Title\n1 0\n1.5 0\n0 0\n1 0\n", "\nPoint 2, x = 1.5");
 }
 
 TEST_F(Reader, NeedsNoLineEndBehindTheLastPoint) {
@@ -220,12 +240,14 @@ TEST_F(Reader, LetsATrailingEmptyLinePass) {
 
 TEST_F(Reader, FailsOnAnEmptyLineAmongTheData) {
     FailedBytes("Title\n1 0\n0.5 0.1\n\n0 0\n1 0\n", kInvalidCall);
+    EXPECT_THAT(words.LastBox().text, EndsWith(": airfoil.dat, Point 3"));
     FailedBytes("Title\n1 0\n0.5 0.1\n   \n0 0\n1 0\n", kInvalidCall);
     FailedBytes("Title\n1 0\n0.5 0.1\n\n\n", kInvalidCall);
 }
 
 TEST_F(Reader, FailsOnALineWithoutABlank) {
     FailedBytes("Title\n1 0\n0.5,0.1\n1 0\n", kInvalidCall);
+    EXPECT_THAT(words.LastBox().text, EndsWith(": airfoil.dat, Point 2, 0.5,0.1"));
     FailedBytes("Title\n1 0\n0.5\n1 0\n", kInvalidCall);
     FailedBytes("Title\n1 0\n1\n", kInvalidCall);
 }
@@ -236,7 +258,13 @@ TEST_F(Reader, TakesAMissingYForZero) {
 }
 
 TEST_F(Reader, FailsOnNumbersBeyondAllNumbers) {
-    FailedBytes("Title\n1 0\n0.5 1e999\n1 0\n", "Error # 6 in Loftwing\nOverflow");
+    FailedBytes("Title\n1 0\n0.5 1e999\n1 0\n",
+                "Error # 6 in Loftwing\nOverflow: airfoil.dat, Point 2, 0.5 1e999");
+}
+
+TEST_F(Reader, ShowsTheBeginningOfALongLineThatFails) {
+    FailedBytes("Title\n1 0\n" + std::string(5000, '5') + "\n1 0\n", kInvalidCall);
+    EXPECT_THAT(words.LastBox().text, EndsWith("Point 2, " + std::string(40, '5')));
 }
 
 TEST_F(Reader, IgnoresWhatStandsBehindTheNumbersOfALine) {
@@ -263,7 +291,7 @@ TEST_F(Reader, ReadsManyBlanksAndTabs) {
 }
 
 TEST_F(Reader, LeavesAllTabsWhenTheFileBeginsWithOne) {
-    RefusedFirstX("\tTitle\n1\t0\n0\t0\n1\t0\n");
+    RefusedFirstX("\tTitle\n1\t0\n0\t0\n1\t0\n", "0");
     EXPECT_EQ(rib.EnteteProfil, "\tTitle");
     Good("\tTitle\n1 0\n0.5 0.1\t9\n1 0\n");
     EXPECT_THAT(Y(), ElementsAre(0.0, 0.1, 0.0));

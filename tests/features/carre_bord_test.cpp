@@ -76,7 +76,7 @@ TEST_F(CarreBordTest, InInchesTwoIsTheLimit) {
 TEST_F(CarreBordTest, AnAxisBehindTheChordBecomesZero) {
     Apply({"5", "200", "0"});
     EXPECT_EQ(rib.carre.CarreBAX, 200.0F);
-    Expect("The axe lies behind the trailing edge. Its position from L.E is set to 0.");
+    Expect("The axis lies behind the trailing edge. Its position from L.E is set to 0.");
     EXPECT_EQ(Apply({"5", "200.1", "0"})[kCarreX], "200.1");
     EXPECT_EQ(rib.carre.CarreBAX, 0.0F);
     EXPECT_EQ(rib.carre.CarreBAXAfich, "200.1");
@@ -89,7 +89,7 @@ TEST_F(CarreBordTest, TheHeightOfTheAxisHasNoLimit) {
 
 TEST_F(CarreBordTest, BothLimitsAreToldInTurn) {
     Expect("The largest size of the square is 50 mm");
-    Expect("The axe lies behind the trailing edge. Its position from L.E is set to 0.");
+    Expect("The axis lies behind the trailing edge. Its position from L.E is set to 0.");
     Apply({"51", "201", "0"});
 }
 

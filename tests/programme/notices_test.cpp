@@ -35,6 +35,24 @@ TEST_F(NoticesTest, APlainRibHasNone) {
     EXPECT_THAT(Subjects(), IsEmpty());
 }
 
+TEST_F(NoticesTest, AContourThatEndsTooEarlySaysWhereAndWhy) {
+    Rib().CheminProfil = "/airfoils/e205.dat";
+    Rib().NbPoints = 61;
+    for (int point = 1; point <= 61; ++point) {
+        Rib().ProfilX.Append(0.5);
+        Rib().ProfilY.Append(0.02);
+    }
+    Rib().faute = {CauseContour::meme_hauteur, 30, 31, 28};
+    ASSERT_THAT(Subjects(), ElementsAre(NoticeSubject::contour));
+    EXPECT_EQ(
+        Standing().front().text,
+        "Only a part of this airfoil can be drawn, up to its point 28 of 61. e205.dat, points "
+        "30 and 31 at the same height, y = 0.02.");
+    EXPECT_THAT(Standing().front().buttons, IsEmpty());
+    Rib().faute = {};
+    EXPECT_THAT(Subjects(), IsEmpty());
+}
+
 TEST_F(NoticesTest, MarginsThatAreNotInForceAreOfferedToBeConfirmed) {
     HaveHeel();
     ASSERT_THAT(Subjects(), ElementsAre(NoticeSubject::heel_margins));

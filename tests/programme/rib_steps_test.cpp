@@ -97,6 +97,28 @@ TEST_F(RibSteps, AnImpossibleContourClearsTheRib) {
     EXPECT_THAT(view.asked, ElementsAre("affclear"));
 }
 
+TEST_F(RibSteps, AnAirfoilOfWhichNothingCanBeDrawnLeavesTheRib) {
+    TakeOver(Sample("naca2412.dat"));
+    Rib().Modifie = false;
+    Rib().talon.TalonIntra = 3;
+    Rib().vrillage = 2;
+    const std::vector<double> contour = Rib().ContourX.Values();
+    view.asked.clear();
+    ExpectReport(" Calcul/Alocate");
+    ExpectReport(" Calcul/MiniX");
+    TakeOver(Short());
+    EXPECT_THAT(view.asked, IsEmpty());
+    EXPECT_EQ(Rib().NomProfil, "naca2412");
+    EXPECT_EQ(Rib().CheminProfil, Sample("naca2412.dat"));
+    EXPECT_EQ(Rib().ContourX.Values(), contour);
+    EXPECT_EQ(Rib().talon.TalonIntra, 3.0F);
+    EXPECT_EQ(Rib().vrillage, 2.0F);
+    EXPECT_FALSE(Rib().Modifie);
+    EXPECT_EQ(Rib().faute.cause, CauseContour::aucune);
+    EXPECT_EQ(LitFichiersRecents(programme.paths.fichier)[0], Sample("naca2412.dat"));
+    EXPECT_EQ(platform.pointer, Pointer::normal);
+}
+
 TEST_F(RibSteps, ClearingGoesFromTheDialogsToThePicture) {
     ASSERT_TRUE(Read(Sample("naca2412.dat")));
     Rib().AffHaut = true;

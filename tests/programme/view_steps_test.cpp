@@ -148,8 +148,24 @@ TEST_F(ViewSteps, AnAirfoil1WithoutAContourEndsTheComparison) {
     ExpectReport(" Calcul/Alocate");
     ExpectReport(" Calcul/MiniX");
     CompareProfils(programme, view);
-    EXPECT_EQ(view.asked.back(), "affclear");
     EXPECT_EQ(view.choices.size(), 1U);
+}
+
+TEST_F(ViewSteps, AnAirfoil1WithoutAContourLeavesTheRibThatWasThere) {
+    HaveRib();
+    Rib().cordeAfich = "200";
+    WillPick({Short()});
+    ExpectReport(" Calcul/Alocate");
+    ExpectReport(" Calcul/MiniX");
+    CompareProfils(programme, view);
+    EXPECT_THAT(view.asked, ElementsAre("FermeDialogues", "Saisit corde",
+                                        "ChoisitFichier Airfoil to compare  #1"));
+    EXPECT_EQ(Rib().NomProfil, "naca4412");
+    EXPECT_EQ(Rib().CheminProfil, Sample("naca4412.dat"));
+    EXPECT_GT(Rib().NbPoints, 5);
+    EXPECT_EQ(Rib().corde, 200.0F);
+    EXPECT_EQ(Rib().cordeAfich, "200");
+    EXPECT_FALSE(Rib().ModeCompare);
 }
 
 TEST_F(ViewSteps, AnAirfoil2WithoutAContourClearsEverything) {
@@ -214,9 +230,8 @@ TEST_F(ViewSteps, AnAirfoilWithoutAContourHasNoSectionToChange) {
     WillPick({Short()});
     ExpectReport(" Calcul/Alocate");
     ExpectReport(" Calcul/MiniX");
-    view.on_clear = [this] { Rib().ProfilCharge = false; };
     ModifieEpCourb(programme, view);
-    EXPECT_EQ(view.asked.back(), "affclear");
+    EXPECT_THAT(view.asked, ElementsAre("ChoisitFichier Open airfoil file"));
 }
 
 TEST_F(ViewSteps, ASectionIsNotChangedWhereTheUserKeepsTheRib) {

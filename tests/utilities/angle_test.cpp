@@ -212,9 +212,8 @@ TEST_F(SaveAirfoil, ACancelIsSilent) {
 
 TEST_F(SaveAirfoil, AFailureIsToldAndNothingIsWritten) {
     words.platform.Expect(BoxAnswer::ok);
-    EXPECT_FALSE(Save(folder.Path("a.dat"), []() -> std::string {
-        throw Failure{kDivisionByZero, "Division by zero"};
-    }));
+    EXPECT_FALSE(
+        Save(folder.Path("a.dat"), []() -> std::string { throw MakeFailure(kDivisionByZero); }));
     EXPECT_EQ(words.LastBox().title, "Error Angle/OK");
     EXPECT_EQ(words.LastBox().text, "Error # 11 From  LoftwingDivision by zero");
     EXPECT_FALSE(std::filesystem::exists(folder.Path("a.dat")));

@@ -138,8 +138,8 @@ TEST(RibSetCurves, FailureNamesBothAirfoilsAndTheStation) {
         FAIL() << "x = 0.75 lies outside the tip's points";
     } catch (const Failure &failure) {
         EXPECT_EQ(failure.number, kSubscriptOutOfRange);
-        EXPECT_THAT(failure.description, HasSubstr("x = 0.75"));
-        EXPECT_THAT(failure.description, HasSubstr("root, tip"));
+        EXPECT_THAT(failure.detail, HasSubstr("x = 0.75"));
+        EXPECT_THAT(failure.detail, HasSubstr("root, tip"));
     }
 }
 
@@ -275,7 +275,7 @@ TEST_F(RibSetFiles, MissingFolderIsTheFailureThatNamesTheFile) {
         FAIL() << "there is no such folder";
     } catch (const Failure &failure) {
         EXPECT_EQ(failure.number, kPathNotFound);
-        EXPECT_THAT(failure.description, HasSubstr("root&tipR01.dat"));
+        EXPECT_THAT(failure.detail, HasSubstr("root&tipR01.dat"));
     }
 }
 
@@ -327,15 +327,17 @@ TEST(ToolFiles, MissingFolderIsToldInWordsOfItsOwn) {
     EXPECT_THAT(words.LastBox().text, HasSubstr("/x/r01.dat"));
     EXPECT_EQ(words.LastBox().title, "Error RibEvol/SaveProfil");
     words.platform.Expect(BoxAnswer::ok);
-    RapporteEcriture(words.messages, {57, "broken: /x/r01.dat"}, " RibEvol/SaveProfil");
-    EXPECT_EQ(words.LastBox().text, "Error # 57 in Loftwing\nbroken: /x/r01.dat");
+    RapporteEcriture(words.messages, MakeFailure(kDeviceError, "/x/r01.dat"),
+                     " RibEvol/SaveProfil");
+    EXPECT_EQ(words.LastBox().text,
+              "Error # 57 in Loftwing\nDevice input/output error: /x/r01.dat");
 }
 
 TEST(ToolFiles, FailureOfARibAtAnAngleIsToldWithItsProgram) {
     Words words("[Erreur]\n1=Error\n");
     words.platform.Expect(BoxAnswer::ok);
-    RapporteAngle(words.messages, {75, "Path/File access error"});
-    EXPECT_EQ(words.LastBox().text, "Error # 75 From  LoftwingPath/File access error");
+    RapporteAngle(words.messages, MakeFailure(kPathFileAccess));
+    EXPECT_EQ(words.LastBox().text, "Error # 75 From  LoftwingPath/file access error");
     EXPECT_EQ(words.LastBox().title, "Error Angle/OK");
 }
 

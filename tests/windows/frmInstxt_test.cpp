@@ -49,9 +49,9 @@ TEST_F(FrmInstxtTest, ShowsItsWordsAndTheRibsLabel) {
     Use([](Seen &dialog) {
         EXPECT_EQ(dialog.Title(), "Insert text mm");
         EXPECT_EQ(dialog.Label("Label1(0)"), "Enter the Text :");
-        EXPECT_EQ(dialog.Label("Label1(1)"), "Enter the position of the axe from L.E");
+        EXPECT_EQ(dialog.Label("Label1(1)"), "Enter the position of the axis from L.E");
         EXPECT_EQ(dialog.Label("Label1(2)"),
-                  "Enter the position of the axe from reference line  + ou -");
+                  "Enter the position of the axis from reference line  + or -");
         EXPECT_EQ(dialog.Label("Label2"), "Size");
         EXPECT_EQ(dialog.Tip("ComboTaille"), "Size of the text in points, font Arial");
         EXPECT_EQ(dialog.Word("CmdApply"), "Apply");

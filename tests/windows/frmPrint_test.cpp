@@ -10,8 +10,8 @@ TEST_F(FrmPrintTest, ShowsItsWordsInEnglish) {
         EXPECT_EQ(dialog.Frame("Frame4"), "Pages");
         EXPECT_EQ(dialog.Frame("Frame5"), "Print Position");
         EXPECT_EQ(dialog.Frame("Frame6"), "Paper size");
-        EXPECT_EQ(dialog.Label("Label1"), "Top :");
-        EXPECT_EQ(dialog.Label("Label2"), "Bottom :");
+        EXPECT_EQ(dialog.Label("Label1"), "Before the leading edge :");
+        EXPECT_EQ(dialog.Label("Label2"), "After the trailing edge :");
         EXPECT_EQ(dialog.Label("Label4"), "Overlap Airfoil :");
         EXPECT_EQ(dialog.Word("Option1"), "Print on 1 page only");
         EXPECT_EQ(dialog.Word("Option2"), "Print on 1 or several pages");

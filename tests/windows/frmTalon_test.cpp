@@ -15,12 +15,12 @@ TEST_F(FrmTalonTest, ShowsItsWordsAndTheDepthOfTheContour) {
     Use([](Seen &window) {
         EXPECT_EQ(window.Title(), "Rib levelling heel 256  mm");
         EXPECT_EQ(window.Label("Label1"), "Washout angle : -/+");
-        EXPECT_EQ(window.Word("OptTalon(0)"), "Intra");
-        EXPECT_EQ(window.Word("OptTalon(1)"), "Extra");
+        EXPECT_EQ(window.Word("OptTalon(0)"), "Lower surface");
+        EXPECT_EQ(window.Word("OptTalon(1)"), "Upper surface");
         EXPECT_EQ(window.Tip("OptTalon(0)"), "The heel stands under the lower surface");
         EXPECT_EQ(window.Tip("OptTalon(1)"), "The heel stands on the upper surface");
         EXPECT_EQ(window.Tip("txt(3)"),
-                  "Enter washout angle  20°. Trailing edge up négative angle");
+                  "Enter washout angle, 20° at most. Trailing edge up : negative angle");
         EXPECT_EQ(window.Text("txt(0)"), " 6.50"); // 256 / 32 - 1.5
         EXPECT_EQ(window.Text("txt(1)"), "0");
         EXPECT_EQ(window.Text("txt(2)"), "0");

@@ -8,7 +8,7 @@ namespace {
 
 const char *const kTooLarge = "The largest size of the square is 50 mm";
 const char *const kTooFar =
-    "The axe lies behind the trailing edge. Its position from L.E is set to 0.";
+    "The axis lies behind the trailing edge. Its position from L.E is set to 0.";
 
 using FrmbacarreTest = AddonTest<frmbacarre>;
 
@@ -19,9 +19,9 @@ TEST_F(FrmbacarreTest, ShowsItsWordsAndTheStoredTexts) {
     Use([](Seen &window) {
         EXPECT_EQ(window.Title(), "Leading Edge V-notch square mm");
         EXPECT_EQ(window.Label("Label1(0)"), "Enter the size of the square");
-        EXPECT_EQ(window.Label("Label1(1)"), "Enter the position of the axe from L.E");
+        EXPECT_EQ(window.Label("Label1(1)"), "Enter the position of the axis from L.E");
         EXPECT_EQ(window.Label("Label1(2)"),
-                  "Enter the position of the axe from reference line  + or -");
+                  "Enter the position of the axis from reference line  + or -");
         EXPECT_EQ(window.Text("infotxt(0)"), "5");
         EXPECT_EQ(window.Text("infotxt(1)"), "4.5");
         EXPECT_EQ(window.Text("infotxt(2)"), "-1");

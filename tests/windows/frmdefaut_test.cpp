@@ -14,7 +14,7 @@ TEST_F(FrmdefautTest, ShowsItsWords) {
     Use([](Seen &dialog) {
         EXPECT_EQ(dialog.Title(), "Template defaults");
         const char *captions[] = {"Chord",           "Sheeting thickness", "Leading Edge",
-                                  "Template height", "Ramp Leading Edge",  "Ramp Traiding Edge"};
+                                  "Template height", "Ramp Leading Edge",  "Ramp Trailing Edge"};
         for (int i = 0; i < kChampsDefaut; ++i) {
             EXPECT_EQ(dialog.Label({"Label2", i}), captions[i]);
         }

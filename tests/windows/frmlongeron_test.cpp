@@ -35,9 +35,9 @@ TEST_F(FrmLongeronTest, SpeaksEnglishAndMm) {
         EXPECT_EQ(window.Frame("Frame6"), "Spar");
         EXPECT_EQ(window.Word("OptDistance(0)"), "From L.E");
         EXPECT_EQ(window.Word("OptDistance(1)"), "From T.E");
-        EXPECT_EQ(window.Label("LabelListe"), "Longeron N° :");
+        EXPECT_EQ(window.Label("LabelListe"), "Spar # :");
         EXPECT_EQ(window.Tip({"Text1", 0}), "In percent   Ex 33%");
-        EXPECT_EQ(S(window.Number(0).toolTip()), "click here to modiify");
+        EXPECT_EQ(S(window.Number(0).toolTip()), "click here to modify");
         EXPECT_EQ(S(window.Number(1).toolTip()), "");
         const std::pair<const char *, const char *> buttons[] = {
             {"cmdajout", "Add"},   {"Cmdmodif", "Modify"},  {"Cmdeffac", "Remove"},

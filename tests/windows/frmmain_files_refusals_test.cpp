@@ -213,7 +213,8 @@ TEST_F(RibFiles, AFailureOfTheAirfoilsReadingIsToldUnderItsOwnLabel) {
     ComponentsText file;
     file.airfoil = "bad.dat";
     world.platform.Expect(BoxAnswer::ok,
-                          {.text = "Error # 5 in Loftwing\nInvalid procedure call or argument",
+                          {.text = "Error # 5 in Loftwing\nInvalid procedure call or argument: "
+                                   "bad.dat, Point 2, 0.5",
                            .title = " Open/FichierLecture"});
     OpenBytes("rib.lfw", file.Current());
     EXPECT_EQ(world.platform.boxes.size(), 1U);

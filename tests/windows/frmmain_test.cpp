@@ -146,7 +146,25 @@ TEST(MainWindow, AFileThatCannotBeReadClearsTheRibAndSaysSo) {
     EXPECT_FALSE(world.programme.rib.ProfilCharge);
 }
 
-TEST(MainWindow, AnAirfoilTooShortForAContourIsReportedAndCleared) {
+TEST(MainWindow, AnAirfoilTooShortForAContourLeavesTheRibAndItsPicture) {
+    WindowWorld world;
+    world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    const QString title = world.window->windowTitle();
+    world.platform.Expect(BoxAnswer::ok, {.title = " Calcul/Alocate"});
+    world.platform.Expect(BoxAnswer::ok, {.title = " Calcul/MiniX"});
+    world.window->OuvreFichier(
+        world.folder.File("five.dat", "Five\n1 0\n0.5 0.1\n0 0\n0.5 -0.1\n1 0\n"));
+    EXPECT_THAT(world.platform.boxes[0].text, HasSubstr("five.dat, too few points"));
+    EXPECT_EQ(world.window->windowTitle(), title);
+    EXPECT_EQ(world.programme.rib.NomProfil, "naca2412");
+    EXPECT_TRUE(world.programme.rib.ProfilCharge);
+    EXPECT_TRUE(Enabled(world, "mnu_fileprint"));
+    const Recording *picture = world.Find<PicView>("Pic")->Dessin();
+    ASSERT_NE(picture, nullptr);
+    EXPECT_FALSE(picture->Operations().empty());
+}
+
+TEST(MainWindow, AnAirfoilTooShortForAContourIsReportedAndMakesNoRib) {
     WindowWorld world;
     world.Open();
     world.platform.Expect(BoxAnswer::ok);

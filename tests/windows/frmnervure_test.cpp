@@ -54,7 +54,7 @@ TEST_F(FrmNervureTest, OpensEmptyWithItsWords) {
         {"Label5", "Rib spacing"},
         {"Label6", "Panel length"},
         {"Label7", "Rib thickness"},
-        {"Label10", "N°"},
+        {"Label10", "No."},
         {"Label11", "Chord"},
         {"Label12", "Location spar"},
         {"Lblecart", ""}};

@@ -1,108 +1,9 @@
-#include "mainwindow/frmopen.h"
-
-#include "windows/dialog_fixture.h"
-
-#include <QElapsedTimer>
-#include <QTest>
-
-#include <gtest/gtest.h>
+#include "windows/frmopen_fixture.h"
 
 #include <unistd.h>
 
 namespace loftwing {
 namespace {
-
-namespace fs = std::filesystem;
-
-using Names = std::vector<std::string>;
-
-const char *const kFivePoints = "SMALL 5\n1 0\n0.5 0.125\n0 0\n0.5 -0.0625\n1 0\n";
-
-/// A test that sees the picker that it has opened.
-class FrmOpenTest : public DialogTest, protected Seen {
-  protected:
-    FrmOpenTest() {
-        fs::create_directory(folder.Path("lib"));
-        programme.settings.repertoires.LastOpenProfil = folder.Path("lib");
-        programme.rib.CheminProfil = "/before/old.cor";
-        programme.rib.NomProfil = "old";
-        programme.rib.ExtProfil = "cor";
-        programme.rib.EnteteProfil = "OLD ONE";
-        programme.rib.ProfilCharge = true;
-        programme.rib.NbPoints = 61;
-    }
-
-    void File(const std::string &name, const std::string &bytes = kFivePoints) const {
-        folder.File("lib/" + name, bytes);
-    }
-
-    frmopen &Open() {
-        window = std::make_unique<frmopen>(programme, view, nullptr);
-        Look(*window);
-        window->show();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
-        return *window;
-    }
-
-    const Recording *Preview() const { return Find<Apercu>("Surface").Dessin(); }
-    QListWidget &List(const char *name) const { return Find<QListWidget>(name); }
-    Names Listed(const char *list) const {
-        Names names;
-        for (int row = 0; row < List(list).count(); ++row) {
-            names.push_back(S(List(list).item(row)->text()));
-        }
-        return names;
-    }
-
-    QPoint Place(const char *list, const std::string &name) const {
-        const QList<QListWidgetItem *> items = List(list).findItems(Q(name), Qt::MatchExactly);
-        if (items.isEmpty()) {
-            ADD_FAILURE() << name << " is not in " << list;
-            return {};
-        }
-        List(list).scrollToItem(items.front());
-        return List(list).visualItemRect(items.front()).center();
-    }
-
-    void ClickFile(const std::string &name) const {
-        QTest::mouseClick(List("File1").viewport(), Qt::LeftButton, {}, Place("File1", name));
-        QApplication::processEvents();
-    }
-
-    /// As a hand does it: a click first, the double click in the same place.
-    void DoubleClick(const char *list, const std::string &name) const {
-        const QPoint at = Place(list, name);
-        QWidget *viewport = List(list).viewport();
-        QTest::mouseClick(viewport, Qt::LeftButton, {}, at);
-        QApplication::processEvents();
-        QTest::mouseDClick(viewport, Qt::LeftButton, {}, at);
-        QApplication::processEvents();
-    }
-
-    void TypePath(const std::string &path) const { Type("txtchemin", path); }
-
-    void ExpectBefore() const {
-        const RibModel &rib = programme.rib;
-        EXPECT_EQ(rib.CheminProfil, "/before/old.cor");
-        EXPECT_EQ(rib.NomProfil, "old");
-        EXPECT_EQ(rib.ExtProfil, "cor");
-        EXPECT_EQ(rib.EnteteProfil, "OLD ONE");
-        EXPECT_TRUE(rib.ProfilCharge);
-        EXPECT_TRUE(rib.Annule);
-        EXPECT_FALSE(rib.MemProfil);
-        EXPECT_FALSE(IsOpen());
-    }
-
-    void ExpectOpened(const std::string &path) const {
-        EXPECT_FALSE(IsOpen());
-        EXPECT_EQ(window->result(), QDialog::Accepted);
-        EXPECT_EQ(programme.rib.CheminProfil, path);
-        EXPECT_TRUE(programme.rib.ProfilCharge);
-        EXPECT_FALSE(programme.rib.Annule);
-    }
-
-    std::unique_ptr<frmopen> window;
-};
 
 TEST_F(FrmOpenTest, OpensOnTheLastFolderWithNothingChosen) {
     File("b.dat");
@@ -196,10 +97,10 @@ TEST_F(FrmOpenTest, ArrowKeysReadTheFilesOneByOne) {
     Open();
     EXPECT_TRUE(List("File1").hasFocus());
     Key("File1", Qt::Key_Down);
-    QApplication::processEvents();
+    Rest("a.dat");
     EXPECT_EQ(Label("Label1"), "FIRST");
     Key("File1", Qt::Key_Down);
-    QApplication::processEvents();
+    Rest("b.dat");
     EXPECT_EQ(Label("Label1"), "SECOND");
 }
 
@@ -218,7 +119,7 @@ TEST_F(FrmOpenTest, TypedLettersFindTheFile) {
     File("e205.dat", "EPPLER\n1 0\n0 0\n1 0\n");
     Open();
     Keys("File1", "e2");
-    QApplication::processEvents();
+    Rest("e205.dat");
     EXPECT_EQ(Label("Label1"), "EPPLER");
 }
 
@@ -253,54 +154,61 @@ struct Refusal {
     BoxIcon icon;
 };
 
-const std::string kClosing = "\nHelp/Open airfoil file";
-const std::string kCloture = "\nAide/Ouvrir un fichier de profil";
-
 const Refusal kRefusals[] = {
     {"EmptyFirstLine", "\n1 0\n0 0\n1 0\n", "The first line of the file is empty." + kClosing,
      "The first line of the file is empty." + kClosing,
      "La première ligne du fichier est vide." + kCloture,
      "La première ligne du fichier est vide." + kCloture, BoxIcon::information},
-    {"FirstPointBehindOne", "1.0001 0\n0 0\n1 0\n", "The first point is not at x = 1." + kClosing,
+    {"FirstPointBehindOne", "1.0001 0\n0 0\n1 0\n",
+     "The first point is not at x = 1.\nPoint 1, x = 1.0001" + kClosing,
      "This file cannot be read as an airfoil.\nThe first point must be at x = 1, at the trailing "
-     "edge." +
+     "edge.\nPoint 1, x = 1.0001" +
          kClosing,
-     "Le premier point n’est pas en x = 1." + kCloture,
+     "Le premier point n’est pas en x = 1.\nPoint 1, x = 1.0001" + kCloture,
      "Ce fichier ne peut pas être lu comme un profil.\nLe premier point doit être en x = 1, au "
-     "bord de fuite." +
+     "bord de fuite.\nPoint 1, x = 1.0001" +
          kCloture,
      BoxIcon::information},
     {"FirstPointAtTheNose", "0.0 0.0\n0.5 0.1\n1 0\n",
-     "The first point is not at x = 1." + kClosing,
+     "The first point is not at x = 1.\nPoint 1, x = 0" + kClosing,
      "This file cannot be read as an airfoil.\nThe first point must be at x = 1, at the trailing "
-     "edge." +
+     "edge.\nPoint 1, x = 0" +
          kClosing,
-     "Le premier point n’est pas en x = 1." + kCloture,
+     "Le premier point n’est pas en x = 1.\nPoint 1, x = 0" + kCloture,
      "Ce fichier ne peut pas être lu comme un profil.\nLe premier point doit être en x = 1, au "
-     "bord de fuite." +
+     "bord de fuite.\nPoint 1, x = 0" +
          kCloture,
      BoxIcon::information},
     {"TwoEqualPoints", "TITLE\n1 0\n0.25 0.1\n0.25 0.1\n0 0\n1 0\n",
-     "Two equal points in a row : x = 0.25 and x = 0.25" + kClosing,
-     "Two equal points in a row : x = 0.25 and x = 0.25" + kClosing,
-     "Deux points identiques de suite\u00a0: x = 0.25 et x = 0.25" + kCloture,
-     "Deux points identiques de suite\u00a0: x = 0.25 et x = 0.25" + kCloture, BoxIcon::none},
-    {"LastPointShortOfOne", "TITLE\n1 0\n0 0\n0.99 0\n",
-     "The last point is not at x = 1." + kClosing,
-     "The list of points does not end at the trailing edge.\nThe last point is not at x = 1." +
+     "Two equal points in a row : x = 0.25 and x = 0.25\nPoints 2 and 3, x = 0.25, y = 0.1" +
          kClosing,
-     "Le dernier point n’est pas en x = 1." + kCloture,
+     "Two equal points in a row : x = 0.25 and x = 0.25\nPoints 2 and 3, x = 0.25, y = 0.1" +
+         kClosing,
+     "Deux points identiques de suite\u00a0: x = 0.25 et x = 0.25\nPoints 2 et 3, x = 0.25, y = "
+     "0.1" +
+         kCloture,
+     "Deux points identiques de suite\u00a0: x = 0.25 et x = 0.25\nPoints 2 et 3, x = 0.25, y = "
+     "0.1" +
+         kCloture,
+     BoxIcon::none},
+    {"LastPointShortOfOne", "TITLE\n1 0\n0 0\n0.99 0\n",
+     "The last point is not at x = 1.\nPoint 3, x = 0.99" + kClosing,
+     "The list of points does not end at the trailing edge.\nThe last point is not at x = "
+     "1.\nPoint 3, x = 0.99" +
+         kClosing,
+     "Le dernier point n’est pas en x = 1.\nPoint 3, x = 0.99" + kCloture,
      "La liste des points ne se termine pas au bord de fuite.\nLe dernier point n’est pas en x = "
-     "1." +
+     "1.\nPoint 3, x = 0.99" +
          kCloture,
      BoxIcon::information},
     {"PointBeyondOneInTheMiddle", "TITLE\n1 0\n0 0\n1.01 0\n1 0\n",
-     "The last point is not at x = 1." + kClosing,
-     "The list of points does not end at the trailing edge.\nThe last point is not at x = 1." +
+     "The last point is not at x = 1.\nPoint 3, x = 1.01" + kClosing,
+     "The list of points does not end at the trailing edge.\nThe last point is not at x = "
+     "1.\nPoint 3, x = 1.01" +
          kClosing,
-     "Le dernier point n’est pas en x = 1." + kCloture,
+     "Le dernier point n’est pas en x = 1.\nPoint 3, x = 1.01" + kCloture,
      "La liste des points ne se termine pas au bord de fuite.\nLe dernier point n’est pas en x = "
-     "1." +
+     "1.\nPoint 3, x = 1.01" +
          kCloture,
      BoxIcon::information},
 };
@@ -347,9 +255,11 @@ INSTANTIATE_TEST_SUITE_P(Refusals, FrmOpenRefusalTest, testing::ValuesIn(kRefusa
 
 TEST_F(FrmOpenTest, BoxesCarryTheCaptionThatTheCommandGave) {
     File("bad.dat", "\n");
+    File("four.dat", "FOUR\n1 0\n0.5 0.1\n0 0\n1 0\n");
     Open().setWindowTitle("Airfoil #2");
     platform.Expect(BoxAnswer::ok);
     ClickFile("bad.dat");
+    ClickFile("four.dat");
     EXPECT_EQ(platform.boxes.at(0).title, "Airfoil #2");
     platform.Expect(BoxAnswer::ok);
     Click("cmdouvrir");
@@ -444,15 +354,14 @@ TEST_F(FrmOpenTest, OpenWithFourPointsIsRefusedAndCancels) {
     EXPECT_EQ(GetINIFile("Repertoires", "LastOpenProfil", programme.paths.fichier), "");
 }
 
-TEST_F(FrmOpenTest, OpenOfARefusedFileIsRefusedInFrenchToo) {
+TEST_F(FrmOpenTest, OpenWithFourPointsIsRefusedInFrenchToo) {
     Language("French");
-    File("bad.dat", "\n");
+    File("four.dat", "FOUR\n1 0\n0.5 0.1\n0 0\n1 0\n");
     Open();
-    platform.Expect(BoxAnswer::ok);
-    ClickFile("bad.dat");
+    ClickFile("four.dat");
     platform.Expect(BoxAnswer::ok);
     Click("cmdouvrir");
-    EXPECT_EQ(platform.boxes.at(1).text, "Un profil doit avoir au moins 5 points." + kCloture);
+    EXPECT_EQ(platform.boxes.at(0).text, "Un profil doit avoir au moins 5 points." + kCloture);
     ExpectBefore();
 }
 
@@ -696,7 +605,7 @@ TEST_F(FrmOpenTest, ThreeThousandFilesAreListedAndFound) {
     EXPECT_EQ(Listed("File1").front(), "naca10000.dat");
     EXPECT_EQ(Listed("File1").back(), "naca12999.dat");
     Keys("File1", "naca12999");
-    QApplication::processEvents();
+    Rest("naca12999.dat");
     EXPECT_EQ(Label("nomfile1"), "naca12999");
 }
 

@@ -24,7 +24,7 @@ TEST_F(FrmTrouTest, SpeaksEnglishAndMm) {
     Use([](SeenSlots &window) {
         EXPECT_EQ(window.Label("Label1"), "Location value            mm or %");
         EXPECT_EQ(window.Label("Label2"), "Diameter");
-        EXPECT_EQ(window.Label("Label4"), "In the centrer of airfoil thickness");
+        EXPECT_EQ(window.Label("Label4"), "In the center of the airfoil thickness");
         EXPECT_EQ(window.Label("Label5"), "Vertical distance from the reference line + or -");
         EXPECT_EQ(window.Label("Label6(2)"), " mm");
         EXPECT_EQ(window.Frame("Frame2"), "Dimensions");

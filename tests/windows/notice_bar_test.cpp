@@ -1,5 +1,6 @@
 // The strips above the main window's picture.
 
+#include "base/text_encoding.h"
 #include "support/qt_nothing_cut.h"
 #include "windows/frmmain_files_fixture.h"
 
@@ -162,6 +163,27 @@ TEST_F(NoticeBarTest, ASaveApartFromTheAirfoilSaysWhereThatWillBeSearched) {
     EXPECT_FALSE(Shows("notice_airfoil_elsewhere"));
     Choose("mnu_filesaveas", world.folder.Path("ribs/other.lfw"));
     EXPECT_FALSE(Shows("notice_airfoil_elsewhere"));
+}
+
+TEST_F(NoticeBarTest, AnAirfoilThatIsDrawnInPartSaysUpToWhereAndWhy) {
+    std::vector<std::string> lines = SplitLines(ReadWholeFile(WindowWorld::Sample("naca2412.dat")));
+    lines.at(47) = "0.0015 -0.0125"; // behind the title each line is the point of its number
+    lines.at(48) = "0.0075 -0.0125";
+    std::string bytes;
+    for (const std::string &line : lines) {
+        bytes += line + "\n";
+    }
+    world.platform.Expect(BoxAnswer::ok, {.title = " Calcul/Alocate"});
+    world.window->OuvreFichier(world.folder.File("part.dat", bytes));
+    ASSERT_TRUE(Shows("notice_contour"));
+    // The six points around segment 45 are the first that hold both.
+    EXPECT_EQ(
+        world.Main().Label("notice_contour_text"),
+        "Only a part of this airfoil can be drawn, up to its point 45 of 91. part.dat, points "
+        "47 and 48 at the same height, y = -0.0125.");
+    EXPECT_NE(Drawing(), nullptr);
+    world.window->OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    EXPECT_FALSE(Shows("notice_contour"));
 }
 
 TEST_F(NoticeBarTest, SeveralNoticesStandBelowOneAnother) {
