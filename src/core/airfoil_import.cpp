@@ -314,21 +314,6 @@ std::string Decimals(double value) {
     return decimals;
 }
 
-/// A title that opens as one: it has a letter, and no ":" unless a chord stands behind it.
-std::string TitleFor(std::string title, const std::string &name) {
-    const auto letter = [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); };
-    const std::size_t colon = title.find(':');
-    const std::string behind = colon == std::string::npos ? "" : title.substr(colon + 1);
-    if (behind.find_first_not_of("0123456789. ") != std::string::npos ||
-        behind.find_first_of("123456789") == std::string::npos) {
-        std::replace(title.begin(), title.end(), ':', ' ');
-    }
-    if (std::none_of(title.begin(), title.end(), letter)) {
-        title = title.empty() ? name : name + " " + title;
-    }
-    return std::none_of(title.begin(), title.end(), letter) ? "airfoil " + title : title;
-}
-
 } // namespace
 
 std::optional<double> ContourDeviation(const Profil &profil) {
@@ -376,8 +361,23 @@ ImportedAirfoil ImportAirfoil(std::string_view bytes, const ImportWishes &wishes
     return airfoil;
 }
 
+std::string AirfoilTitle(const ImportedAirfoil &airfoil, const std::string &name) {
+    std::string title = airfoil.title;
+    const auto letter = [](char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); };
+    const std::size_t colon = title.find(':');
+    const std::string behind = colon == std::string::npos ? "" : title.substr(colon + 1);
+    if (behind.find_first_not_of("0123456789. ") != std::string::npos ||
+        behind.find_first_of("123456789") == std::string::npos) {
+        std::replace(title.begin(), title.end(), ':', ' ');
+    }
+    if (std::none_of(title.begin(), title.end(), letter)) {
+        title = title.empty() ? name : name + " " + title;
+    }
+    return std::none_of(title.begin(), title.end(), letter) ? "airfoil " + title : title;
+}
+
 std::string AirfoilFile(const ImportedAirfoil &airfoil, const std::string &name) {
-    std::string file = TitleFor(airfoil.title, name) + "\r\n";
+    std::string file = AirfoilTitle(airfoil, name) + "\r\n";
     for (const ImportPoint &point : airfoil.points) {
         file += " " + (point.x.empty() ? Decimals(point.at.x) : point.x) + "  " +
                 (point.y.empty() ? Decimals(point.at.y) : point.y) + "\r\n";

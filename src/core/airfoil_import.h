@@ -46,6 +46,10 @@ struct ImportedAirfoil {
 /// Imports the bytes of a file. Failure: ImportRefusal.
 ImportedAirfoil ImportAirfoil(std::string_view bytes, const ImportWishes &wishes = {});
 
+/// The title of its file: that of the file read, `name` in front where it has no letter, without
+/// the ":" that a chord would stand behind unless one does.
+std::string AirfoilTitle(const ImportedAirfoil &airfoil, const std::string &name);
+
 /// The airfoil file of an import, lines ending in CR LF. `name` is its title where the file has
 /// none.
 std::string AirfoilFile(const ImportedAirfoil &airfoil, const std::string &name);

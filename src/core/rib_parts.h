@@ -77,6 +77,7 @@ struct FauteContour {
 /// What contour preparation makes of the points, in fractions of the chord.
 struct ContourPrepare {
     FauteContour faute;
+    double EcartContour = 0; ///< how far the contour leaves a smooth curve through the points
     PointList ContourX;
     PointList ContourY;
     std::int16_t NbContour = 0;
