@@ -20,6 +20,7 @@ std::optional<std::string> DrawRib(const Arguments &arguments, const DrawingTarg
         !ApplyRibOptions(arguments, programme)) {
         return std::nullopt;
     }
+    program.WarnOfDeviation();
     const Preparation prepared = PrepareContour(programme.rib, programme.messages);
     if (prepared == Preparation::impossible) {
         return std::nullopt;
@@ -32,7 +33,7 @@ std::optional<std::string> DrawRib(const Arguments &arguments, const DrawingTarg
 
 std::vector<OptionRule> DrawOptions() {
     std::vector<OptionRule> rules = DrawingOptions(kDraw);
-    for (const auto &more : {RibOptions(), PageOptions(), CommonOptions()}) {
+    for (const auto &more : {RibOptions(), PageOptions(), ReadingOptions()}) {
         rules.insert(rules.end(), more.begin(), more.end());
     }
     return rules;

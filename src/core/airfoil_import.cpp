@@ -316,10 +316,10 @@ std::string Decimals(double value) {
 
 } // namespace
 
-std::optional<double> ContourDeviation(const Profil &profil) {
+std::optional<double> ContourDeviation(const PointsLus &read) {
     Curve points;
-    for (long i = 1; i <= profil.NbPoints; ++i) {
-        points.push_back({profil.ProfilX(i), profil.ProfilY(i)});
+    for (long i = 1; i <= read.NbPoints; ++i) {
+        points.push_back({read.ProfilX(i), read.ProfilY(i)});
     }
     try {
         const Yardstick yardstick{NearPolyline(NaturalSpline(points).Sampled(kYardstickSteps)),

@@ -56,6 +56,6 @@ std::string AirfoilFile(const ImportedAirfoil &airfoil, const std::string &name)
 
 /// How far the contour of an airfoil as read leaves the natural spline through its points, or the
 /// points themselves, in chords. Nothing where there is no contour.
-std::optional<double> ContourDeviation(const Profil &profil);
+std::optional<double> ContourDeviation(const PointsLus &read);
 
 } // namespace loftwing

@@ -119,5 +119,59 @@ TEST_F(ConvertVerb, WantsAFileAndAPlace) {
     EXPECT_EQ(RunLoftwing({"convert", "--help"}).status, 0);
 }
 
+/// The sample at one of five of its points: coarse enough for a contour that swings.
+std::string Coarse() {
+    const std::vector<std::string> lines = SamplePoints();
+    std::string text = "Coarse\n";
+    for (std::size_t i = 0; i < lines.size(); i += 5) {
+        text += lines[i] + "\n";
+    }
+    return lines.size() % 5 == 1 ? text : text + lines.back() + "\n";
+}
+
+TEST_F(ConvertVerb, EveryVerbThatReadsAirfoilsTakesTheImport) {
+    const std::string lists = folder.File("lists.dat", Lednicer());
+    const std::string rib = folder.Path("rib.lfw");
+    fs::copy_file(Sample("naca2412.dat"), folder.Path("naca2412.dat"));
+    ASSERT_EQ(RunLoftwing({"draw", folder.Path("naca2412.dat"), "-o", rib}).status, 0);
+    folder.File("naca2412.dat", Lednicer());
+    const std::string out = folder.Path("out");
+    for (const std::vector<std::string> &words : std::vector<std::vector<std::string>>{
+             {"draw", lists, "--to", "svg", "-o", out},
+             {"draw", rib, "--to", "svg", "-o", out},
+             {"info", lists},
+             {"plot", lists, "--to", "svg", "-o", out},
+             {"compare", lists, lists, "--to", "svg", "-o", out},
+             {"modify", lists, "--thickness", "10", "-o", out},
+             {"ribs", lists, lists, "--chords", "200", "100", "--count", "3", "-o",
+              folder.Path("set")},
+         }) {
+        SCOPED_TRACE(words[0] + " " + words[1]);
+        EXPECT_EQ(RunLoftwing(words).status, 1);
+        std::vector<std::string> with = words;
+        with.push_back("--import");
+        const Ran ran = RunLoftwing(with);
+        EXPECT_EQ(ran.status, 0) << ran.err;
+    }
+}
+
+TEST_F(ConvertVerb, AContourThatLeavesItsPointsIsWarnedOf) {
+    const std::string coarse = folder.File("coarse.dat", Coarse());
+    const std::string warning =
+        coarse + ": The contour leaves the smooth curve through the airfoil's points by ";
+    for (const std::vector<std::string> &words : std::vector<std::vector<std::string>>{
+             {"draw", coarse, "-o", folder.Path("a.svg")},
+             {"info", coarse},
+             {"ribs", coarse, Sample("naca2412.dat"), "--chords", "200", "100", "--count", "3",
+              "-o", folder.Path("set")}}) {
+        const Ran ran = RunLoftwing(words);
+        EXPECT_EQ(ran.status, 0) << words[0] << ran.err;
+        EXPECT_THAT(ran.err, HasSubstr(warning)) << words[0];
+        std::vector<std::string> with = words;
+        with.push_back("--import");
+        EXPECT_EQ(RunLoftwing(with).err, "") << words[0];
+    }
+}
+
 } // namespace
 } // namespace loftwing
