@@ -141,8 +141,8 @@ TEST_F(ConvertVerb, EveryVerbThatReadsAirfoilsTakesTheImport) {
              {"draw", rib, "--to", "svg", "-o", out},
              {"info", lists},
              {"plot", lists, "--to", "svg", "-o", out},
-             {"compare", lists, lists, "--to", "svg", "-o", out},
-             {"modify", lists, "--thickness", "10", "-o", out},
+             {"compare", lists, lists, "--to", "svg", "-o", folder.Path("compare.svg")},
+             {"modify", lists, "--thickness", "10", "-o", folder.Path("modify.dat")},
              {"ribs", lists, lists, "--chords", "200", "100", "--count", "3", "-o",
               folder.Path("set")},
          }) {
