@@ -17,7 +17,7 @@ constexpr const char *kGabarit = "--template-chord";
 constexpr const char *kInterne = "--internal-chord";
 
 std::vector<OptionRule> WithCommon(std::vector<OptionRule> rules) {
-    const std::vector<OptionRule> common = CommonOptions();
+    const std::vector<OptionRule> common = ReadingOptions();
     rules.insert(rules.end(), common.begin(), common.end());
     return rules;
 }

@@ -2,6 +2,7 @@
 
 #include "app/angle_command.h"
 #include "app/console_program.h"
+#include "app/convert_command.h"
 #include "app/dihedral_command.h"
 #include "app/draw_command.h"
 #include "app/info_command.h"
@@ -54,6 +55,8 @@ constexpr std::array kVerbs = {
          ObliqueOptions, RunOblique},
     Verb{"incline", "incline FILE ... -o OUT.dat", "a rib inclined by the dihedral", InclineOptions,
          RunIncline},
+    Verb{"convert", "convert FILE... -o OUT.dat", "any table of coordinates as an airfoil file",
+         ConvertOptions, RunConvert},
 };
 
 std::string Padded(std::string text, std::size_t width) {

@@ -1,9 +1,9 @@
 #include "app/console_program.h"
 
 #include "app/resource_paths.h"
-#include "core/airfoil_reader.h"
 #include "output/page_setup.h"
 #include "output/screen_plot.h"
+#include "programme/import_words.h"
 #include "programme/rib_file.h"
 #include "utilities/tool_files.h"
 
@@ -36,6 +36,14 @@ std::vector<OptionRule> CommonOptions() {
             {"--help", nullptr, "show this help"}};
 }
 
+std::vector<OptionRule> ReadingOptions() {
+    std::vector<OptionRule> rules = {
+        {"--import", nullptr, "read airfoil files in any order and scale, as convert does"}};
+    const std::vector<OptionRule> common = CommonOptions();
+    rules.insert(rules.end(), common.begin(), common.end());
+    return rules;
+}
+
 void Deliver(const std::string &path, const std::string &text) {
     if (path == "-") {
         std::cout << text << std::flush;
@@ -50,7 +58,8 @@ void NameRefused(const std::string &file) {
 
 ConsoleProgram::ConsoleProgram(const Arguments &arguments)
     : platform_(std::cerr, arguments.Has("--yes")),
-      programme_(ConsolePaths(arguments.Value("--settings")), platform_) {
+      programme_(ConsolePaths(arguments.Value("--settings")), platform_),
+      lecture_(arguments.Has("--import") ? ReadingWay::by_import : ReadingWay::as_it_stands) {
     ChargeLangue(arguments);
     ChargeValeurs(arguments);
 }
@@ -106,6 +115,7 @@ bool ConsoleProgram::Ouvre(const std::string &path, const std::vector<std::strin
         return OuvreProfil(path);
     }
     DemandeComposants demande{path, dossiers, false};
+    demande.lecture = lecture_;
     if (dossiers.empty()) {
         const std::string folder = std::filesystem::path(path).parent_path().string();
         demande.dossiers = {folder.empty() ? "." : folder};
@@ -118,7 +128,7 @@ bool ConsoleProgram::LitProfil(const std::string &path) {
     const Messages &messages = programme_.messages;
     NommeProfil(rib, path);
     const std::string title = messages.Text({"frmopen", "1"});
-    if (FichierLecture(rib, messages, title).issue != Lecture::lu) {
+    if (ReadAirfoil(rib, messages, title, lecture_).issue != Lecture::lu) {
         return false;
     }
     if (rib.NbPoints < kPointsMini) {
@@ -126,6 +136,15 @@ bool ConsoleProgram::LitProfil(const std::string &path) {
         return false;
     }
     return true;
+}
+
+void ConsoleProgram::WarnOfDeviation() const {
+    const RibModel &rib = programme_.rib;
+    const std::string warning =
+        DeviationWarning(programme_.messages, ContourDeviation(rib).value_or(0));
+    if (!warning.empty()) {
+        programme_.messages.Inform(warning, rib.CheminProfil);
+    }
 }
 
 std::optional<ProfilChoisi> ConsoleProgram::ChoisitProfil(const std::string &path) {

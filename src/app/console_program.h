@@ -4,6 +4,7 @@
 #include "app/arguments.h"
 #include "core/airfoil_picker.h"
 #include "programme/console_platform.h"
+#include "programme/import_reading.h"
 #include "programme/programme.h"
 
 #include <memory>
@@ -15,6 +16,9 @@ namespace loftwing {
 
 /// The options that every verb knows.
 std::vector<OptionRule> CommonOptions();
+
+/// The same with --import, for verbs that read airfoils.
+std::vector<OptionRule> ReadingOptions();
 
 /// Writes the text of an airfoil file to `path`, whole, or to standard output for "-". Failure as
 /// EcritFichier.
@@ -48,9 +52,14 @@ class ConsoleProgram {
     /// was refused; a line on standard error told why.
     std::optional<ProfilChoisi> ChoisitProfil(const std::string &path);
 
+    /// Warns on standard error where the airfoil that was read has a contour that leaves its
+    /// points.
+    void WarnOfDeviation() const;
+
   private:
     ConsolePlatform platform_;
     Programme programme_;
+    ReadingWay lecture_; ///< of airfoil files
 
     void ChargeLangue(const Arguments &arguments);
     void ChargeValeurs(const Arguments &arguments);

@@ -15,13 +15,14 @@ namespace {
 const DrawingVerb kDraw = {"draw", kVueRib, 1, "a FILE"};
 constexpr const char *kOn = "--on";
 
-std::optional<std::string> DrawPrepared(Programme &programme, const DrawingTarget &target,
+std::optional<std::string> DrawPrepared(ConsoleProgram &program, const DrawingTarget &target,
                                         Preparation prepared, bool &complete) {
     if (prepared == Preparation::impossible) {
         return std::nullopt;
     }
+    program.WarnOfDeviation();
     complete = prepared == Preparation::complete;
-    return Dessine(programme, target);
+    return Dessine(program.Owner(), target);
 }
 
 std::optional<std::string> DrawRib(const Arguments &arguments, const DrawingTarget &target,
@@ -33,7 +34,7 @@ std::optional<std::string> DrawRib(const Arguments &arguments, const DrawingTarg
         !ApplyRibOptions(arguments, programme)) {
         return std::nullopt;
     }
-    return DrawPrepared(programme, target, PrepareContour(programme.rib, programme.messages),
+    return DrawPrepared(program, target, PrepareContour(programme.rib, programme.messages),
                         complete);
 }
 
@@ -51,7 +52,7 @@ std::optional<std::string> DrawOn(const Arguments &arguments, const DrawingTarge
     if (!ApplyRibOptions(arguments, programme)) {
         return std::nullopt;
     }
-    return DrawPrepared(programme, target, FinitSurProfil(programme, modele), complete);
+    return DrawPrepared(program, target, FinitSurProfil(programme, modele), complete);
 }
 
 int RunDrawOn(const Arguments &arguments) {
@@ -81,7 +82,7 @@ std::vector<OptionRule> DrawOptions() {
                      "put the features of a rib components file on these airfoils, a drawing each; "
                      "a chord in an airfoil's title counts unless --chord is given",
                      false, kAllWords});
-    for (const auto &more : {RibOptions(), PageOptions(), CommonOptions()}) {
+    for (const auto &more : {RibOptions(), PageOptions(), ReadingOptions()}) {
         rules.insert(rules.end(), more.begin(), more.end());
     }
     return rules;

@@ -73,6 +73,7 @@ bool InformOf(const Arguments &arguments, const std::string &file) {
     RibModel &rib = program.Owner().rib;
     Preparation prepared = Preparation::impossible;
     if (program.Ouvre(file)) {
+        program.WarnOfDeviation();
         prepared = PrepareContour(rib, program.Owner().messages);
     }
     const bool json = arguments.Has("--json");
@@ -102,7 +103,7 @@ std::vector<OptionRule> InfoOptions() {
         {"--json", nullptr, "one JSON object a line for each FILE"},
         {"--stations", nullptr, "with the 401 heights of both surfaces"},
         {"--contour", nullptr, "with the points of the dense contour"}};
-    const std::vector<OptionRule> common = CommonOptions();
+    const std::vector<OptionRule> common = ReadingOptions();
     rules.insert(rules.end(), common.begin(), common.end());
     return rules;
 }

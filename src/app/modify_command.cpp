@@ -29,7 +29,7 @@ std::vector<OptionRule> ModifyOptions() {
         {"--output", "OUT.dat", "file to write, also -o; - is standard output"},
         {"--thickness", "PERCENT", "greatest thickness in percent of the chord"},
         {"--camber", "PERCENT", "greatest camber in percent of the chord (default: as it is)"}};
-    const std::vector<OptionRule> common = CommonOptions();
+    const std::vector<OptionRule> common = ReadingOptions();
     rules.insert(rules.end(), common.begin(), common.end());
     return rules;
 }

@@ -30,6 +30,7 @@ ProfilChoisi LitProfil(ConsoleProgram &program, const std::string &file) {
         NameRefused(file);
         throw Refused{};
     }
+    program.WarnOfDeviation();
     return *std::move(profil);
 }
 
@@ -125,7 +126,7 @@ std::vector<OptionRule> RibsOptions() {
          kAllWords},
         {"--thickness", "T0 ...", "thickness of each of its ribs, from root to tip", false,
          kAllWords}};
-    const std::vector<OptionRule> common = CommonOptions();
+    const std::vector<OptionRule> common = ReadingOptions();
     rules.insert(rules.end(), common.begin(), common.end());
     return rules;
 }

@@ -27,7 +27,7 @@ std::vector<OptionRule> ViewOptions(const DrawingVerb &verb,
             rules.push_back(rule);
         }
     }
-    for (const auto &more : {PageOptions(), CommonOptions()}) {
+    for (const auto &more : {PageOptions(), ReadingOptions()}) {
         rules.insert(rules.end(), more.begin(), more.end());
     }
     return rules;

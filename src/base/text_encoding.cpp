@@ -47,7 +47,12 @@ void AppendCodePoint(std::string &text, unsigned code) {
         text += static_cast<char>(0xC0U | (code >> 6U));
         text += static_cast<char>(0x80U | (code & 0x3FU));
     } else {
-        text += static_cast<char>(0xE0U | (code >> 12U));
+        if (code < 0x10000U) {
+            text += static_cast<char>(0xE0U | (code >> 12U));
+        } else {
+            text += static_cast<char>(0xF0U | (code >> 18U));
+            text += static_cast<char>(0x80U | ((code >> 12U) & 0x3FU));
+        }
         text += static_cast<char>(0x80U | ((code >> 6U) & 0x3FU));
         text += static_cast<char>(0x80U | (code & 0x3FU));
     }
@@ -98,6 +103,32 @@ std::string ToUtf8(std::string_view bytes) {
         bytes.remove_prefix(kMark.size());
     }
     return IsUtf8(bytes) ? std::string(bytes) : FromWindows1252(bytes);
+}
+
+std::string AnyToUtf8(std::string_view bytes) {
+    const bool big = bytes.starts_with("\xFE\xFF");
+    if (!big && !bytes.starts_with("\xFF\xFE")) {
+        return ToUtf8(bytes);
+    }
+    const auto unit = [&bytes, big](std::size_t at) {
+        const auto first = static_cast<unsigned char>(bytes[at]);
+        const auto second = static_cast<unsigned char>(bytes[at + 1]);
+        return big ? first * 0x100U + second : second * 0x100U + first;
+    };
+    std::string text;
+    for (std::size_t at = 2; at + 1 < bytes.size(); at += 2) {
+        const unsigned high = unit(at);
+        if (high < 0xD800U || high > 0xDFFFU) {
+            AppendCodePoint(text, high);
+            continue;
+        }
+        const unsigned low = at + 3 < bytes.size() ? unit(at + 2) : 0U;
+        const bool pair = high < 0xDC00U && low >= 0xDC00U && low <= 0xDFFFU;
+        AppendCodePoint(text,
+                        pair ? 0x10000U + (high - 0xD800U) * 0x400U + (low - 0xDC00U) : 0xFFFDU);
+        at += pair ? 2U : 0U;
+    }
+    return text;
 }
 
 std::u32string CodePoints(std::string_view text) {

@@ -14,6 +14,10 @@ bool IsUtf8(std::string_view bytes);
 /// mark is skipped.
 std::string ToUtf8(std::string_view bytes);
 
+/// The same, and UTF-16 where its byte order mark stands in front. A half of a pair that lacks the
+/// other becomes U+FFFD.
+std::string AnyToUtf8(std::string_view bytes);
+
 /// The code points of a valid UTF-8 text.
 std::u32string CodePoints(std::string_view text);
 

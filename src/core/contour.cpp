@@ -13,7 +13,7 @@ constexpr long kWindow = 6;
 constexpr double kSamplesPerSegment = 10.0;
 constexpr long kNoseReach = 4; // segments on either side of the file's middle
 
-void AppendSample(RibModel &rib, double x, double y) {
+void AppendSample(Profil &rib, double x, double y) {
     Increment(rib.NbContour);
     rib.ContourX.Append(x);
     rib.ContourY.Append(y);
@@ -40,7 +40,7 @@ void EachStep(double from, double to, Sample sample) {
 
 /// Samples a segment. The points that a failure comes from are kept with the contour.
 template <class Sampling>
-void Segment(RibModel &rib, const SegmentEchantillonne &segment, Sampling sampling) {
+void Segment(Profil &rib, const SegmentEchantillonne &segment, Sampling sampling) {
     try {
         sampling();
     } catch (const Failure &failure) {
@@ -50,7 +50,7 @@ void Segment(RibModel &rib, const SegmentEchantillonne &segment, Sampling sampli
 }
 
 /// Samples segment i along x. A sample on the segment's own first point is dropped.
-void SampleAlongX(RibModel &rib, long i, long centre) {
+void SampleAlongX(Profil &rib, long i, long centre) {
     EachStep(rib.ProfilX(i), rib.ProfilX(i + 1), [&](double v) {
         if (rib.ProfilX(i) == v) {
             return false;
@@ -61,18 +61,18 @@ void SampleAlongX(RibModel &rib, long i, long centre) {
 }
 
 /// Samples segment i along y, for the nose, where the curve turns vertical.
-void SampleAlongY(RibModel &rib, long i) {
+void SampleAlongY(Profil &rib, long i) {
     EachStep(rib.ProfilY(i), rib.ProfilY(i + 1), [&](double v) {
         AppendSample(rib, InterpoleAitken(rib.ProfilY, rib.ProfilX, i, v), v);
         return true;
     });
 }
 
-void SegmentAlongX(RibModel &rib, long i, long centre) {
+void SegmentAlongX(Profil &rib, long i, long centre) {
     Segment(rib, {i, centre, false}, [&] { SampleAlongX(rib, i, centre); });
 }
 
-void SegmentAlongY(RibModel &rib, long i) {
+void SegmentAlongY(Profil &rib, long i) {
     Segment(rib, {i, i, true}, [&] { SampleAlongY(rib, i); });
 }
 
@@ -163,7 +163,7 @@ double InterpoleAitken(const PointList &xs, const PointList &ys, long centre, do
     return q[kWindow - 1];
 }
 
-void Alocate(RibModel &rib) {
+void Alocate(Profil &rib) {
     const long n = rib.NbPoints;
     const long middle = n / 2;
     rib.ContourX.Clear();
@@ -188,7 +188,7 @@ void Alocate(RibModel &rib) {
     AppendSample(rib, rib.ProfilX(n), rib.ProfilY(n));
 }
 
-void MiniX(RibModel &rib) {
+void MiniX(Profil &rib) {
     rib.MiniX = 1.0;
     rib.NbExtrados = 1;
     const int bound = ToInt((rib.NbContour + 60) / 2.0);
@@ -201,7 +201,7 @@ void MiniX(RibModel &rib) {
     }
 }
 
-void CalculExtradosMaxi(RibModel &rib) {
+void CalculExtradosMaxi(Profil &rib) {
     rib.ExtradosMaxi = 0;
     const int last = ToInt(rib.NbPoints / 2.0);
     for (int i = 1; i <= last; ++i) {
@@ -209,14 +209,14 @@ void CalculExtradosMaxi(RibModel &rib) {
     }
 }
 
-void CalculIntradosMini(RibModel &rib) {
+void CalculIntradosMini(Profil &rib) {
     rib.IntradosMini = 0;
     for (int i = ToInt(rib.NbPoints / 2.0); i <= rib.NbPoints; ++i) {
         rib.IntradosMini = std::min(rib.IntradosMini, rib.ProfilY(i));
     }
 }
 
-void SepareIntrados(RibModel &rib) {
+void SepareIntrados(Profil &rib) {
     rib.IntradosX.Clear();
     rib.IntradosY.Clear();
     for (long i = rib.NbContour; i >= rib.NbExtrados; --i) {
@@ -226,7 +226,7 @@ void SepareIntrados(RibModel &rib) {
     rib.NbIntrados = ToInt16(static_cast<double>(rib.IntradosX.Count()));
 }
 
-void TableStations(RibModel &rib) {
+void TableStations(Profil &rib) {
     HauteurStation upper(rib.NbExtrados, rib.ContourX, rib.ContourY);
     HauteurStation lower(rib.NbIntrados, rib.IntradosX, rib.IntradosY);
     rib.TabExtrados[0] = 0;
@@ -238,7 +238,7 @@ void TableStations(RibModel &rib) {
     }
 }
 
-void CalculEpMaxi(RibModel &rib) {
+void CalculEpMaxi(Profil &rib) {
     rib.EpMaxi = 0;
     rib.PosEpMaxi = -1;
     for (std::size_t i = 0; i <= kLastStation; ++i) {
@@ -250,7 +250,7 @@ void CalculEpMaxi(RibModel &rib) {
     }
 }
 
-void CalculCambrure(RibModel &rib) {
+void CalculCambrure(Profil &rib) {
     rib.CambrureMaxi = 0;
     rib.PosCambrure = -1;
     for (std::size_t i = 0; i <= kLastStation; ++i) {

@@ -14,25 +14,25 @@ double InterpoleAitken(const PointList &xs, const PointList &ys, long centre, do
 /// Densifies ProfilX, ProfilY to ten samples a segment: ContourX, ContourY, NbContour. Around the
 /// middle of the file, where the nose must lie, it samples along y. A failure leaves the contour
 /// with the samples made so far and says in `faute` which points it comes from.
-void Alocate(RibModel &rib);
+void Alocate(Profil &rib);
 
 /// The smallest x of the contour's first part, and NbExtrados, which counts the new minima on the
 /// way. Failure 9 for a contour shorter than the stretch it looks through.
-void MiniX(RibModel &rib);
+void MiniX(Profil &rib);
 
 /// Top of the upper and bottom of the lower surface, from the points of the file.
-void CalculExtradosMaxi(RibModel &rib);
-void CalculIntradosMini(RibModel &rib);
+void CalculExtradosMaxi(Profil &rib);
+void CalculIntradosMini(Profil &rib);
 
 /// Copies the lower surface from the contour's end backwards.
-void SepareIntrados(RibModel &rib);
+void SepareIntrados(Profil &rib);
 
 /// Fills TabExtrados and TabIntrados by linear interpolation; never fails.
-void TableStations(RibModel &rib);
+void TableStations(Profil &rib);
 
 /// Greatest thickness and camber with their running counts.
-void CalculEpMaxi(RibModel &rib);
-void CalculCambrure(RibModel &rib);
+void CalculEpMaxi(Profil &rib);
+void CalculCambrure(Profil &rib);
 
 /// How the preparation of a contour ended.
 enum class Preparation {

@@ -34,11 +34,11 @@ FauteContour LesPlusProches(const PointList &axis, long from, long to, CauseCont
     return closest;
 }
 
-double Grandeur(const RibModel &rib, long point) {
+double Grandeur(const Profil &rib, long point) {
     return std::max(std::abs(rib.ProfilX(point)), std::abs(rib.ProfilY(point)));
 }
 
-long LePlusGrand(const RibModel &rib, long from, long to) {
+long LePlusGrand(const Profil &rib, long from, long to) {
     long largest = from;
     for (long point = from; point <= to; ++point) {
         if (Grandeur(rib, point) > Grandeur(rib, largest)) {
@@ -55,7 +55,7 @@ bool SansPas(const PointList &axis, long i) {
     return static_cast<float>(Wide(from) + Wide(step)) == from;
 }
 
-FauteContour FauteDuSegment(const RibModel &rib, const SegmentEchantillonne &segment,
+FauteContour FauteDuSegment(const Profil &rib, const SegmentEchantillonne &segment,
                             const Failure &failure) {
     const CauseContour same =
         segment.selon_y ? CauseContour::meme_hauteur : CauseContour::meme_place;
@@ -129,7 +129,7 @@ std::string Fichier(const RibModel &rib) {
 
 } // namespace
 
-FauteContour ChercheFaute(const RibModel &rib, const SegmentEchantillonne &segment,
+FauteContour ChercheFaute(const Profil &rib, const SegmentEchantillonne &segment,
                           const Failure &failure) {
     FauteContour faute = FauteDuSegment(rib, segment, failure);
     faute.jusque = segment.i;

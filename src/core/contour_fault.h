@@ -14,7 +14,7 @@ struct SegmentEchantillonne {
 };
 
 /// What failed in sampling a segment. The rib is as the failure left it.
-FauteContour ChercheFaute(const RibModel &rib, const SegmentEchantillonne &segment,
+FauteContour ChercheFaute(const Profil &rib, const SegmentEchantillonne &segment,
                           const Failure &failure);
 
 /// The file of the rib's airfoil and what is wrong with its points, in the user's words.

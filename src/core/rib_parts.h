@@ -77,6 +77,7 @@ struct FauteContour {
 /// What contour preparation makes of the points, in fractions of the chord.
 struct ContourPrepare {
     FauteContour faute;
+    double EcartContour = 0; ///< how far the contour leaves a smooth curve through the points
     PointList ContourX;
     PointList ContourY;
     std::int16_t NbContour = 0;
@@ -94,6 +95,9 @@ struct ContourPrepare {
     double ExtradosMaxi = 0; ///< top of the upper surface, never below 0
     double IntradosMini = 0; ///< bottom of the lower surface, never above 0
 };
+
+/// An airfoil with its contour: all that contour preparation reads and makes.
+struct Profil : PointsLus, ContourPrepare {};
 
 /// The same section with another thickness and camber, in fractions of the chord.
 struct NouvelleSection {

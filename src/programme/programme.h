@@ -42,7 +42,7 @@ struct Programme {
     Paths paths;
     Platform &platform;
     Messages messages{platform, language};
-    std::string DernierProfil;     ///< the airfoil file that was opened last in this run
+    std::string DernierProfil; ///< the airfoil file that was opened last in this run
     VoisinEssaye voisin;
     bool PremierDemarrage = false; ///< no settings file was there
     bool SeparateurDit = false;    ///< this run has told of a decimal separator that is no point

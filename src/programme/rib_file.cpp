@@ -2,7 +2,6 @@
 
 #include "base/version.h"
 #include "base/whole_file.h"
-#include "core/airfoil_reader.h"
 #include "features/inserted_text.h"
 #include "persist/LireEcrire.h"
 #include "programme/dossiers.h"
@@ -115,7 +114,7 @@ OuvertureComposants LitProfil(Programme &programme, const DemandeComposants &dem
     RibModel &rib = programme.rib;
     rib.SansApercu = true;
     const ResultatLecture read =
-        FichierLecture(rib, programme.messages, programme.Text({"frmopen", "1"}));
+        ReadAirfoil(rib, programme.messages, programme.Text({"frmopen", "1"}), demande.lecture);
     rib.SansApercu = false;
     if (read.issue == Lecture::echec) {
         return OuvertureComposants::echec_lecture;

@@ -1,6 +1,7 @@
 /// Opening a rib components file: the file, then the airfoil that it names.
 #pragma once
 
+#include "programme/import_reading.h"
 #include "programme/programme.h"
 
 #include <string>
@@ -18,6 +19,7 @@ struct DemandeComposants {
     bool reecrit = true;               ///< writes a file of the older format anew in place
     /// Then beside the file itself, and in the end the user is asked to locate it.
     bool puis_demande = false;
+    ReadingWay lecture = ReadingWay::as_it_stands; ///< of the airfoil
 };
 
 /// How the opening ended.

@@ -1,6 +1,7 @@
 #include "programme/rib_steps.h"
 
 #include "base/version.h"
+#include "core/airfoil_import.h"
 #include "core/contour.h"
 #include "features/inserted_text.h"
 #include "features/rib_entry.h"
@@ -46,6 +47,14 @@ void Vide(Programme &programme, CommandView &view) {
     RelitDefauts(programme, view);
 }
 
+/// The contour, and how far it leaves the airfoil's points: nothing draws that, a notice tells it.
+Preparation Prepare(Programme &programme) {
+    RibModel &rib = programme.rib;
+    const Preparation made = PrepareContour(rib, programme.messages);
+    rib.EcartContour = made == Preparation::complete ? ContourDeviation(rib).value_or(0) : 0;
+    return made;
+}
+
 /// Shows the rib of a new airfoil.
 void MontreRib(CommandView &view) {
     view.ViewReset();
@@ -60,7 +69,7 @@ bool EssaieProfil(Programme &programme) {
         const Sablier sablier(programme.platform);
         ReprendProfil(programme.rib);
         CordeDuTitre(programme.rib, programme.SaisieEnCours());
-        if (PrepareContour(programme.rib, programme.messages) == Preparation::impossible) {
+        if (Prepare(programme) == Preparation::impossible) {
             return false;
         }
     }
@@ -105,7 +114,7 @@ bool RepriseProfil(Programme &programme, CommandView &view, const RibAvant &befo
 }
 
 void RecalculProfil(Programme &programme, CommandView &view) {
-    if (PrepareContour(programme.rib, programme.messages) == Preparation::impossible) {
+    if (Prepare(programme) == Preparation::impossible) {
         view.affclear();
         return;
     }

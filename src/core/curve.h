@@ -1,0 +1,63 @@
+/// Plane curves: points, polylines and how near one comes to them, splines.
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+namespace loftwing {
+
+struct CurvePoint {
+    double x = 0;
+    double y = 0;
+
+    bool operator==(const CurvePoint &) const = default;
+};
+
+using Curve = std::vector<CurvePoint>;
+
+double Distance(const CurvePoint &a, const CurvePoint &b);
+
+/// Distances from points to one polyline. Its segments are sorted into strips of x, so that a
+/// question looks at a few of them only.
+class NearPolyline {
+  public:
+    /// `line` has one point at least; points that are not finite are left out.
+    explicit NearPolyline(const Curve &line);
+
+    /// The distance from `point` to the nearest place on the polyline.
+    double operator()(const CurvePoint &point) const;
+
+  private:
+    Curve line_;
+    std::vector<std::vector<std::size_t>> strips_; ///< the segments by their first points
+    double left_ = 0;
+    double width_ = 1;
+
+    std::size_t StripOf(double x) const;
+    double ToSegment(const CurvePoint &point, std::size_t first) const;
+};
+
+/// The natural cubic spline (second derivatives 0 at both ends) through points, x and y each over
+/// the length of the polygon through them.
+class NaturalSpline {
+  public:
+    /// At least two points; neighbours differ. Failure 5 otherwise.
+    explicit NaturalSpline(Curve points);
+
+    /// The length of the polygon, at which the last point lies.
+    double Length() const { return at_.back(); }
+    std::size_t Count() const { return points_.size(); }
+    /// The length at which point `index`, 0 to Count() - 1, lies.
+    double KnotAt(std::size_t index) const { return at_[index]; }
+    /// The place at length `s`, 0 to Length().
+    CurvePoint operator()(double s) const;
+    /// The spline as a polyline with `steps` segments from each point to the next, points included.
+    Curve Sampled(int steps) const;
+
+  private:
+    Curve points_;
+    std::vector<double> at_;
+    Curve bends_; ///< second derivatives at the points
+};
+
+} // namespace loftwing

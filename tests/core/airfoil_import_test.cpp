@@ -1,0 +1,242 @@
+#include "core/airfoil_import.h"
+
+#include "base/whole_file.h"
+#include "core/airfoil_reader.h"
+#include "core/contour.h"
+#include "support/synthetic_airfoil.h"
+#include "support/words.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <filesystem>
+
+namespace loftwing {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+namespace fs = std::filesystem;
+
+constexpr const char *kTable = "[frmopen]\n1=Open\n11=A\n12=C\n16=D\n18=E\n";
+
+/// How far `point` lies from the polygon through `line`, looked for everywhere.
+double NaiveDistance(const PointList &x, const PointList &y, const CurvePoint &point) {
+    double nearest = 1e9;
+    for (long i = 1; i < x.Count(); ++i) {
+        const double dx = x(i + 1) - x(i);
+        const double dy = y(i + 1) - y(i);
+        const double square = dx * dx + dy * dy;
+        const double along =
+            square == 0
+                ? 0
+                : std::clamp(((point.x - x(i)) * dx + (point.y - y(i)) * dy) / square, 0.0, 1.0);
+        nearest =
+            std::min(nearest, std::hypot(point.x - x(i) - along * dx, point.y - y(i) - along * dy));
+    }
+    return nearest;
+}
+
+std::string TextOf(const Curve &points) {
+    std::string text = "Section\n";
+    for (const CurvePoint &point : points) {
+        std::array<char, 80> line{};
+        std::snprintf(line.data(), line.size(), "%.6f %.6f\n", point.x, point.y);
+        text += line.data();
+    }
+    std::replace(text.begin(), text.end(), ',', '.');
+    return text;
+}
+
+Curve Section(const SyntheticAirfoil &wanted) {
+    const NaiveAirfoil made = MakeAirfoil(wanted);
+    Curve points;
+    for (std::size_t i = 1; i < made.x.size(); ++i) {
+        points.push_back({made.x[i], made.y[i]});
+    }
+    return points;
+}
+
+class AirfoilImport : public testing::Test {
+  protected:
+    /// Opens an import as the user would open its file.
+    void Open(const ImportedAirfoil &airfoil) {
+        rib.CheminProfil = words.folder.File("import.dat", AirfoilFile(airfoil, "import"));
+        ASSERT_EQ(FichierLecture(rib, words.messages, "Open").issue, Lecture::lu);
+        ASSERT_EQ(PrepareContour(rib, words.messages), Preparation::complete);
+    }
+    /// The contour that is opened comes within the tolerance of all these points.
+    void Passes(const Curve &points) const {
+        for (const CurvePoint &point : points) {
+            ASSERT_LE(NaiveDistance(rib.ContourX, rib.ContourY, point), kImportTolerance)
+                << point.x << " " << point.y;
+        }
+    }
+
+    Words words{kTable};
+    RibModel rib;
+};
+
+TEST_F(AirfoilImport, PointsThatDrawASmoothContourAreKeptToTheLastDigit) {
+    const std::string text = TextOf(Section({0.12, 0.02, 0.4, 40, 40}));
+    const ImportedAirfoil airfoil = ImportAirfoil(text);
+    EXPECT_EQ(airfoil.laid, 0);
+    EXPECT_FALSE(airfoil.scaled);
+    ASSERT_TRUE(airfoil.before);
+    EXPECT_EQ(*airfoil.before, airfoil.after);
+    rib.CheminProfil = words.folder.File("own.dat", text);
+    FichierLecture(rib, words.messages, "Open");
+    PrepareContour(rib, words.messages);
+    const PartiesRib own = rib.Partie<PartiesRib>();
+    Open(airfoil);
+    EXPECT_EQ(rib.ContourX.Values(), own.ContourX.Values());
+    EXPECT_EQ(rib.ContourY.Values(), own.ContourY.Values());
+    EXPECT_EQ(rib.EnteteProfil, "Section");
+}
+
+TEST_F(AirfoilImport, CoarsePointsAreLaidAnewOnACurveThroughThem) {
+    const Curve points = Section({0.12, 0.02, 0.4, 7, 6});
+    const ImportedAirfoil airfoil = ImportAirfoil(TextOf(points));
+    EXPECT_EQ(airfoil.laid, 160);
+    EXPECT_EQ(airfoil.points.size(), 160U);
+    EXPECT_LE(airfoil.after, kImportTolerance);
+    EXPECT_TRUE(!airfoil.before || *airfoil.before > kImportTolerance);
+    Open(airfoil);
+    Passes(points);
+    // What lies between the points is near the section that they were taken from.
+    for (const CurvePoint &fine : Section({0.12, 0.02, 0.4, 60, 60})) {
+        if (fine.x > 0.05) {
+            EXPECT_LE(NaiveDistance(rib.ContourX, rib.ContourY, fine), 0.005) << fine.x;
+        }
+    }
+}
+
+TEST_F(AirfoilImport, AnyScaleBecomesTheChord) {
+    Curve points = Section({0.12, 0.02, 0.4, 40, 40});
+    Curve large = points;
+    for (CurvePoint &point : large) {
+        point = {25 + 180 * point.x, 180 * point.y};
+    }
+    const ImportedAirfoil airfoil = ImportAirfoil(TextOf(large));
+    EXPECT_TRUE(airfoil.scaled);
+    Open(airfoil);
+    Passes(points);
+}
+
+TEST_F(AirfoilImport, EndsThatAreNearlyAtOneAreSetThereAndNothingIsScaled) {
+    Curve points = Section({0.12, 0.02, 0.4, 40, 40});
+    points.front().x = 1.0004;
+    points.back().x = 0.9996;
+    const ImportedAirfoil airfoil = ImportAirfoil(TextOf(points));
+    EXPECT_FALSE(airfoil.scaled);
+    EXPECT_EQ(airfoil.points.front().at.x, 1);
+    EXPECT_EQ(airfoil.points.back().at.x, 1);
+    EXPECT_EQ(airfoil.points[5].x, ImportAirfoil(TextOf(points)).points[5].x);
+    EXPECT_FALSE(airfoil.points[5].x.empty());
+    points.front().x = 1.0006;
+    EXPECT_TRUE(ImportAirfoil(TextOf(points)).scaled);
+}
+
+TEST_F(AirfoilImport, WhatReachesTheEndBetweenTheEndsIsDropped) {
+    Curve points = Section({0.12, 0.02, 0.4, 40, 40});
+    points.insert(points.begin() + 1, {1.0002, 0.0001});
+    const ImportedAirfoil airfoil = ImportAirfoil(TextOf(points));
+    EXPECT_EQ(airfoil.dropped, 1);
+    Open(airfoil);
+    EXPECT_EQ(rib.NbPoints, 81);
+}
+
+TEST_F(AirfoilImport, LevelTurnsTheTrailingEdgeOntoTheReferenceLine) {
+    Curve points = Section({0.12, 0.02, 0.4, 40, 40});
+    const double angle = 0.05;
+    for (CurvePoint &point : points) {
+        point = {point.x * std::cos(angle) - point.y * std::sin(angle),
+                 point.x * std::sin(angle) + point.y * std::cos(angle)};
+    }
+    EXPECT_EQ(ImportAirfoil(TextOf(points)).turned, 0);
+    ImportWishes wishes;
+    wishes.level = true;
+    const ImportedAirfoil airfoil = ImportAirfoil(TextOf(points), wishes);
+    EXPECT_NEAR(airfoil.turned, -angle * 180 / std::acos(-1.0), 0.05);
+    EXPECT_NEAR((airfoil.points.front().at.y + airfoil.points.back().at.y) / 2, 0, 1e-9);
+    EXPECT_EQ(airfoil.points.front().at.x, 1);
+}
+
+TEST_F(AirfoilImport, AsManyPointsAsAskedForAreLaid) {
+    const Curve points = Section({0.12, 0.02, 0.4, 40, 40});
+    for (const int count : {60, 61, 200}) {
+        ImportWishes wishes;
+        wishes.points = count;
+        const ImportedAirfoil airfoil = ImportAirfoil(TextOf(points), wishes);
+        EXPECT_EQ(airfoil.laid, count);
+        Open(airfoil);
+        EXPECT_EQ(rib.NbPoints, count);
+    }
+    Passes(points); // with enough of them
+}
+
+TEST_F(AirfoilImport, LaidPointsAreDenseAtBothEndsOfEachSurface) {
+    const ImportedAirfoil airfoil = ImportAirfoil(TextOf(Section({0.12, 0.02, 0.4, 7, 6})));
+    const std::vector<ImportPoint> &points = airfoil.points;
+    const std::size_t nose = NoseOf(points);
+    EXPECT_NEAR(static_cast<double>(nose), 79, 1);
+    EXPECT_NEAR(points[nose].at.x, 0, 0.0005);
+    // By the cosine the first step is (1 - cos(pi / 79)) / 2 of the surface, the middle one
+    // sin(pi / 2) pi / 158.
+    const double surface = 1.03;
+    EXPECT_NEAR(points[0].at.x - points[1].at.x, 0.000395 * surface, 0.0001);
+    EXPECT_NEAR(points[39].at.x - points[40].at.x, 0.0199 * surface, 0.002);
+}
+
+TEST_F(AirfoilImport, TheFileHasATitleThatOpensAsOne) {
+    const Curve points = Section({0.12, 0.02, 0.4, 40, 40});
+    const auto title = [&](const std::string &line) {
+        std::string text = TextOf(points);
+        const ImportedAirfoil airfoil = ImportAirfoil(text.replace(0, text.find('\n'), line));
+        const std::string file = AirfoilFile(airfoil, "name");
+        return file.substr(0, file.find("\r\n"));
+    };
+    EXPECT_EQ(title("My section"), "My section");
+    EXPECT_EQ(title(""), "name");
+    EXPECT_EQ(title("2412"), "name 2412");
+    EXPECT_EQ(title("AG 35: by somebody"), "AG 35  by somebody");
+    EXPECT_EQ(title("naca2412 : 150.5"), "naca2412 : 150.5");
+    EXPECT_EQ(title("naca2412 : 0"), "naca2412   0");
+}
+
+TEST_F(AirfoilImport, TheDeviationOfAnAirfoilAsReadIsThatOfItsImport) {
+    for (const int segments : {7, 14, 40}) {
+        const std::string text = TextOf(Section({0.12, 0.02, 0.4, segments, segments}));
+        rib.CheminProfil = words.folder.File("read.dat", text);
+        FichierLecture(rib, words.messages, "Open");
+        const auto deviation = ContourDeviation(rib);
+        const ImportedAirfoil airfoil = ImportAirfoil(text);
+        ASSERT_EQ(deviation.has_value(), airfoil.before.has_value());
+        if (deviation) {
+            EXPECT_DOUBLE_EQ(*deviation, *airfoil.before);
+        }
+    }
+}
+
+TEST_F(AirfoilImport, EveryFileOfTheLargeCollectionCanBeImported) {
+    const fs::path folder = fs::path(LOFTWING_SOURCE_DIR) / ".." / "shared" / "airfoils";
+    if (!fs::is_directory(folder)) {
+        GTEST_SKIP() << "the collection is not on this machine";
+    }
+    for (const auto &entry : fs::directory_iterator(folder)) {
+        if (entry.path().extension() != ".dat") {
+            continue;
+        }
+        SCOPED_TRACE(entry.path().string());
+        const ImportedAirfoil airfoil = ImportAirfoil(ReadWholeFile(entry.path().string()));
+        EXPECT_LE(airfoil.after, kImportTolerance);
+        Open(airfoil);
+        Passes(airfoil.file);
+    }
+}
+
+} // namespace
+} // namespace loftwing

@@ -1,0 +1,113 @@
+#include "core/curve.h"
+
+#include "support/failures.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <random>
+
+namespace loftwing {
+namespace {
+
+double NaiveDistance(const Curve &line, const CurvePoint &p) {
+    double nearest = std::numeric_limits<double>::infinity();
+    for (std::size_t i = 0; i + 1 < line.size(); ++i) {
+        const double dx = line[i + 1].x - line[i].x;
+        const double dy = line[i + 1].y - line[i].y;
+        const double square = dx * dx + dy * dy;
+        double t = square == 0 ? 0 : ((p.x - line[i].x) * dx + (p.y - line[i].y) * dy) / square;
+        t = std::min(1.0, std::max(0.0, t));
+        nearest = std::min(nearest, std::hypot(p.x - line[i].x - t * dx, p.y - line[i].y - t * dy));
+    }
+    return nearest;
+}
+
+TEST(NearPolyline, GivesTheDistanceToItsNearestPlace) {
+    const NearPolyline line({{0, 0}, {4, 0}, {4, 3}});
+    EXPECT_DOUBLE_EQ(line({2, 1}), 1);
+    EXPECT_DOUBLE_EQ(line({-3, 4}), 5);
+    EXPECT_DOUBLE_EQ(line({6, 2}), 2);
+    EXPECT_DOUBLE_EQ(line({4, 1}), 0);
+}
+
+TEST(NearPolyline, AgreesWithLookingAtEverySegment) {
+    std::mt19937 random(7);
+    std::uniform_real_distribution<double> place(-2, 3);
+    for (const int count : {2, 3, 9, 80, 700}) {
+        Curve line;
+        for (int i = 0; i < count; ++i) {
+            line.push_back({place(random), place(random)});
+        }
+        line.push_back({line.front().x, 9}); // a long segment in one strip of x
+        const NearPolyline near(line);
+        for (int i = 0; i < 60; ++i) {
+            const CurvePoint p{2 * place(random), 2 * place(random)};
+            EXPECT_NEAR(near(p), NaiveDistance(line, p), 1e-12) << count;
+        }
+    }
+}
+
+TEST(NearPolyline, IsInfinitelyFarFromWhatIsNoPlace) {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    EXPECT_TRUE(std::isinf(NearPolyline({{0, 0}, {1, 0}})({nan, 0})));
+    EXPECT_DOUBLE_EQ(NearPolyline({{0, 0}, {nan, nan}, {1, 0}})({0.5, 2}), 2);
+    EXPECT_DOUBLE_EQ(NearPolyline({{1, 1}})({1, 4}), 3);
+    EXPECT_EQ(FailureOf([nan] { NearPolyline(Curve{{nan, 0}}); }), kInvalidProcedureCall);
+}
+
+TEST(NaturalSpline, OfThreePointsIsTheOneComputedByHand) {
+    // Both polygon sides are sqrt(2) long. With h = sqrt(2) the middle second derivative of y is
+    // 6 (-2 / h) / (4 h) = -1.5, and y half way up is 0.5 + 1.5 h^2 / 16 = 0.6875.
+    const NaturalSpline spline({{0, 0}, {1, 1}, {2, 0}});
+    const double h = std::sqrt(2.0);
+    EXPECT_DOUBLE_EQ(spline.Length(), 2 * h);
+    EXPECT_DOUBLE_EQ(spline.KnotAt(1), h);
+    EXPECT_NEAR(spline(h / 2).x, 0.5, 1e-15);
+    EXPECT_NEAR(spline(h / 2).y, 0.6875, 1e-15);
+    EXPECT_NEAR(spline(1.5 * h).y, 0.6875, 1e-15);
+}
+
+TEST(NaturalSpline, GoesThroughItsPointsWithoutAKinkAndEndsStraight) {
+    const Curve points = {{0, 0}, {1, 2}, {1.5, 2.2}, {4, -1}, {4.1, 0}};
+    const NaturalSpline spline(points);
+    const double d = 1e-4;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const double s = spline.KnotAt(i);
+        EXPECT_NEAR(Distance(spline(s), points[i]), 0, 1e-12);
+        if (i == 0 || i + 1 == points.size()) {
+            continue;
+        }
+        const CurvePoint before = spline(s - d);
+        const CurvePoint behind = spline(s + d);
+        const CurvePoint farther = spline(s + 2 * d);
+        const CurvePoint nearer = spline(s - 2 * d);
+        EXPECT_NEAR((behind.y - points[i].y) / d, (points[i].y - before.y) / d, 0.02) << i;
+        EXPECT_NEAR((farther.y - 2 * behind.y + points[i].y) / d / d,
+                    (points[i].y - 2 * before.y + nearer.y) / d / d, 0.1)
+            << i;
+    }
+    const CurvePoint a = spline(d);
+    const CurvePoint b = spline(2 * d);
+    EXPECT_NEAR((b.y - 2 * a.y + points[0].y) / d / d, 0, 0.01);
+}
+
+TEST(NaturalSpline, TakesTwoPointsAndRefusesWhatIsNoCurve) {
+    EXPECT_DOUBLE_EQ(NaturalSpline({{0, 0}, {2, 2}})(std::sqrt(2.0)).x, 1);
+    EXPECT_EQ(FailureOf([] { NaturalSpline({{0, 0}}); }), kInvalidProcedureCall);
+    EXPECT_EQ(FailureOf([] { NaturalSpline({{0, 0}, {0, 0}, {1, 1}}); }), kInvalidProcedureCall);
+}
+
+TEST(NaturalSpline, IsSampledFromPointToPoint) {
+    const NaturalSpline spline({{0, 0}, {1, 1}, {2, 0}});
+    const Curve line = spline.Sampled(2);
+    ASSERT_EQ(line.size(), 5U);
+    EXPECT_EQ(line[2], (CurvePoint{1, 1}));
+    EXPECT_NEAR(line[1].y, 0.6875, 1e-15);
+    EXPECT_EQ(line[4], (CurvePoint{2, 0}));
+}
+
+} // namespace
+} // namespace loftwing
