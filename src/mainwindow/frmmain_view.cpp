@@ -79,7 +79,7 @@ void frmmain::ZoomSur(int steps, const PicturePlace &place) {
     const int present = commands_.ListeZoom().currentIndex();
     const int wanted = ZoomRow(present, steps);
     if (wanted != present) {
-        MetZoom(wanted, ZoomAt(programme_.rib, place, FacteurZoom(kZoomRows.at(wanted))));
+        MetZoom(wanted, ZoomAt(programme_.rib, place, FacteurZoom(At(kZoomRows, wanted))));
     }
 }
 
