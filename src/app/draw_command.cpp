@@ -74,15 +74,18 @@ int RunDrawOn(const Arguments &arguments) {
         });
 }
 
+std::vector<OptionRule> AirfoilsOption() {
+    return {{kOn, "FILE...",
+             "put the features of a rib components file on these airfoils, a drawing each; "
+             "a chord in an airfoil's title counts unless --chord is given",
+             false, kAllWords}};
+}
+
 } // namespace
 
 std::vector<OptionRule> DrawOptions() {
     std::vector<OptionRule> rules = DrawingOptions(kDraw);
-    rules.push_back({kOn, "FILE...",
-                     "put the features of a rib components file on these airfoils, a drawing each; "
-                     "a chord in an airfoil's title counts unless --chord is given",
-                     false, kAllWords});
-    for (const auto &more : {RibOptions(), PageOptions(), ReadingOptions()}) {
+    for (const auto &more : {AirfoilsOption(), RibOptions(), PageOptions(), ReadingOptions()}) {
         rules.insert(rules.end(), more.begin(), more.end());
     }
     return rules;
