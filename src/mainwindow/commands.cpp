@@ -65,6 +65,7 @@ std::vector<Command> FileMenu() {
               "Ctrl+Shift+O"),
         Entry("mnu_fileprofilopen", menu, {"MenuFile", "3"}, kAlways,
               &frmmain::mnu_fileprofilopen_Click, "Ctrl+O"),
+        Entry("mnu_fileimport", menu, {"Import", "42"}, kAlways, &frmmain::mnu_fileimport_Click),
         Entry("mnu_filesaveas", menu, {"MenuFile", "4"}, kFile, &frmmain::mnu_filesaveas_Click,
               "Ctrl+Shift+S"),
     };

@@ -38,6 +38,7 @@ class frmmain : public MainFrame {
 
     // Commands, named after their controls.
     void mnu_fileprofilopen_Click();
+    void mnu_fileimport_Click();
     void mnu_fileopen_Click();
     void mnu_filesaveas_Click();
     void mnu_filepage_Click();

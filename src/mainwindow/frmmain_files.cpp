@@ -3,6 +3,7 @@
 #include "mainwindow/frmmain.h"
 #include "programme/file_steps.h"
 #include "programme/heel_steps.h"
+#include "programme/import_steps.h"
 #include "programme/qt_export_command.h"
 
 #include <filesystem>
@@ -22,6 +23,10 @@ void frmmain::mnuFileMRU_Click(const std::string &path) {
 
 void frmmain::mnu_fileprofilopen_Click() {
     OuvreProfil(programme_, *this);
+}
+
+void frmmain::mnu_fileimport_Click() {
+    ImporteProfil(programme_, *this);
 }
 
 void frmmain::mnu_fileopen_Click() {

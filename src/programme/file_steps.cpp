@@ -7,6 +7,7 @@
 #include "persist/default_entry.h"
 #include "platform/busy_pointer.h"
 #include "programme/dossiers.h"
+#include "programme/import_steps.h"
 #include "programme/rib_file.h"
 #include "programme/rib_steps.h"
 
@@ -55,22 +56,40 @@ void newLfw(Programme &programme, CommandView &view, const std::string &path,
     }
 }
 
+/// What import makes of a file that was refused, where the user wants that. Without any the box of
+/// the refusal has told why.
+std::optional<ImportedAirfoil> ProposeImport(const Programme &programme, const std::string &path,
+                                             const ResultatLecture &refusal) {
+    const Messages &messages = programme.messages;
+    const std::string title = messages.Text({"frmopen", "1"});
+    std::optional<ImportedAirfoil> airfoil = EssaieImport(path);
+    if (!airfoil) {
+        AnnonceLecture(refusal, messages, title);
+        return std::nullopt;
+    }
+    const std::string question = refusal.boite + "\n\n" + messages.Text({"Import", "49"});
+    return messages.Confirm(question, title) ? airfoil : std::nullopt;
+}
+
 void LitEtReprend(Programme &programme, CommandView &view, const std::string &path) {
     RibModel &rib = programme.rib;
     const RibAvant before = RibAvantLecture(rib, programme.messages);
     rib.ModeCouple = false;
     rib.SansApercu = true;
     rib.CheminProfil = path;
-    const ResultatLecture read =
-        FichierLecture(rib, programme.messages, programme.Text({"frmopen", "1"}));
+    const ResultatLecture read = EssaieLecture(rib, programme.messages);
     rib.SansApercu = false;
-    if (read.issue == Lecture::echec) {
-        view.affclear();
-        return;
-    }
-    if (read.issue == Lecture::refuse) {
+    if (read.issue != Lecture::lu) {
+        const auto import = ProposeImport(programme, path, read);
+        if (read.issue == Lecture::echec && !import) {
+            view.affclear();
+            return;
+        }
         // The rib on the screen is still the one that was there.
         rib.Partie<PartiesRib>() = before.parties;
+        if (import) {
+            MontreEtOuvreImport(programme, view, path, *import);
+        }
         return;
     }
     NommeProfil(rib, path);
