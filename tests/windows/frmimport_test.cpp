@@ -77,7 +77,7 @@ TEST_F(FrmImportTest, TheDrawingFillsItsPlaceWithXAndYAlike) {
     QPalette palette = picture.palette();
     palette.setColor(QPalette::Base, Qt::white);
     palette.setColor(QPalette::Mid, Qt::white);
-    palette.setColor(QPalette::Text, Qt::white);
+    palette.setColor(QPalette::Text, Qt::red);
     palette.setColor(QPalette::Highlight, Qt::red);
     picture.setPalette(palette);
     const QImage shown = picture.grab().toImage();
@@ -95,9 +95,10 @@ TEST_F(FrmImportTest, TheDrawingFillsItsPlaceWithXAndYAlike) {
             }
         }
     }
-    EXPECT_NEAR(left, 12, 2);
-    EXPECT_NEAR(right, 612, 2);
-    EXPECT_NEAR(bottom - top, 0.12 * 600, 4); // twelve percent thick
+    // The crosses of the outermost points reach 2.5 pixels further.
+    EXPECT_NEAR(left, 12 - 2.5, 1.5);
+    EXPECT_NEAR(right, 612 + 2.5, 1.5);
+    EXPECT_NEAR(bottom - top, 0.12 * 600 + 5, 4); // twelve percent thick
 }
 
 TEST_F(FrmImportTest, OpenGivesTheImportUnderItsFilesName) {
