@@ -4,6 +4,7 @@
 //
 // Pictures go to FOLDER, named WINDOW-LANGUAGE-UNIT.png. SCALE is that of the font, 1 if left out.
 
+#include "base/whole_file.h"
 #include "features/frmInstxt.h"
 #include "features/frmTalon.h"
 #include "features/frmbacarre.h"
@@ -14,6 +15,7 @@
 #include "mainwindow/frmAbout.h"
 #include "mainwindow/frmInput.h"
 #include "mainwindow/frmSplash.h"
+#include "mainwindow/frmimport.h"
 #include "mainwindow/frmmain.h"
 #include "mainwindow/frmopen.h"
 #include "output/frmPrint.h"
@@ -153,11 +155,13 @@ class Pictures {
         rib.CheminRib = "/home/anna/models/swift/wing/ribs/root.lfw";
         rib.ProfilAilleurs = rib.UniteDouteuse = true;
         rib.faute = {CauseContour::meme_hauteur, 30, 31, 28};
+        rib.EcartContour = 0.0318;
         window_->MontreAvis();
         Save(*window_, "frmmain-notices");
         rib.TypeGabarit = kSansGabarit;
         rib.Partie<FichierConnu>() = {};
         rib.faute = {};
+        rib.EcartContour = 0;
         window_->MontreAvis();
     }
 
@@ -185,11 +189,28 @@ class Pictures {
         Save(about, "frmAbout");
         frmSplash splash(programme_, window_.get());
         Save(splash, "frmSplash");
+        TakeImports();
         TakePicker();
         TakeViews();
         // Last, since it clears the rib.
         lang language(programme_, *window_, window_.get());
         Save(language, "lang");
+    }
+
+    /// Imports of a coarse file and of one that opening refuses.
+    void TakeImports() {
+        const std::pair<const char *, const char *> files[] = {
+            {"percent", "Wing 12\n100 0\n95 1.2\n80 3.9\n60 6.9\n40 8.8\n25 9\n15 7.9\n7.5 5.9\n"
+                        "2.5 3.4\n0 0\n2.5 -1.6\n10 -2.5\n30 -2.6\n60 -1.4\n85 -.5\n100 0\n"},
+            {"closed", "Wing\n1 0\n0.5 0.1\n0 0\n0.5 -0.1\n0.99 0\n"}};
+        for (const auto &[name, bytes] : files) {
+            const std::string path = home_.filePath(Q(name)).toStdString();
+            WriteWholeFile(path, bytes);
+            if (const auto airfoil = EssaieImport(path)) {
+                frmimport import(programme_, window_.get(), path, *airfoil);
+                Save(import, std::string("frmimport-") + name);
+            }
+        }
     }
 
     /// The picker with a good file and with one that is refused.

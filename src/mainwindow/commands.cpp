@@ -76,6 +76,7 @@ std::vector<Command> FileMenu() {
               &frmmain::mnu_filesuivant_Click, "Alt+Right"),
         Entry("mnu_fileprecedent", menu, {"MenuFile", "212"}, kAlways,
               &frmmain::mnu_fileprecedent_Click, "Alt+Left"),
+        Entry("mnu_fileimport", menu, {"Import", "42"}, kAlways, &frmmain::mnu_fileimport_Click),
         Entry("mnu_filesaveas", menu, {"MenuFile", "4"}, kFile, &frmmain::mnu_filesaveas_Click,
               "Ctrl+Shift+S; Ctrl+S"),
         SubMenu("mnu_fileribs", menu, {"MenuFile", "210"}, kAlways),

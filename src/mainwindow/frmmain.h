@@ -41,6 +41,7 @@ class frmmain : public MainFrame {
     void mnu_fileprofilopen_Click();
     void mnu_filesuivant_Click();
     void mnu_fileprecedent_Click();
+    void mnu_fileimport_Click();
     void mnu_fileopen_Click();
     void mnu_filesaveas_Click();
     void mnu_filepage_Click();

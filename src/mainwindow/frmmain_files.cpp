@@ -4,6 +4,7 @@
 #include "programme/export.h"
 #include "programme/file_steps.h"
 #include "programme/heel_steps.h"
+#include "programme/import_steps.h"
 #include "programme/qt_export_command.h"
 
 #include <filesystem>
@@ -35,6 +36,10 @@ void frmmain::mnu_filesuivant_Click() {
 
 void frmmain::mnu_fileprecedent_Click() {
     OuvreVoisin(programme_, *this, -1);
+}
+
+void frmmain::mnu_fileimport_Click() {
+    ImporteProfil(programme_, *this);
 }
 
 void frmmain::mnu_fileopen_Click() {

@@ -19,9 +19,10 @@ constexpr int kRepos = 150; // milliseconds after which a selection rests
 frmopen::frmopen(Programme &programme, MainView &view, QWidget *parent)
     : Dialogue(programme, "frmopen", kAide, parent), view_(view), rib_(programme.rib),
       precedent_(programme.rib), txtchemin(this), lbldossiers(this), Dir1(this), lblfichiers(this),
-      File1(this), lbltype(this), Combo1(this), lblfichier(this), nomfile1(1, this),
-      lbldossier(this), Lbchemin(1, this), Surface(this), Label1(kTitleLines, this),
-      Label2(1, this), Label3(1, this), memP1(this), LbMem(this), cmdouvrir(this) {
+      txtcherche(this), File1(this), lbltype(this), Combo1(this), lblfichier(this),
+      nomfile1(1, this), lbldossier(this), Lbchemin(1, this), Surface(this),
+      Label1(kTitleLines, this), Label2(1, this), Label3(1, this), cmdimporter(this), memP1(this),
+      LbMem(this), cmdouvrir(this) {
     NameAll();
     PoseTextes();
     PoseBulles();
@@ -46,6 +47,8 @@ void frmopen::PoseTextes() {
     lblfichier.setText(Mot({"frmopen", "6"}));
     lbldossier.setText(Mot({"frmopen", "8"}));
     cmdouvrir.setText(Mot({"frmopen", "7"}));
+    cmdimporter.setText(Mot({"Import", "43"}));
+    txtcherche.setPlaceholderText(Mot({"Import", "51"}));
     Combo1.addItem("Selig Files (*.dat)");
     Combo1.addItem("Coordinates Files (*.cor)");
 }
@@ -57,6 +60,8 @@ void frmopen::PoseBulles() {
     SetTip(File1, programme_.Text({"frmopen", "4t"}));
     SetTip(Combo1, programme_.Text({"frmopen", "5t"}));
     SetTip(cmdouvrir, programme_.Text({"frmopen", "7t"}));
+    SetTip(cmdimporter, programme_.Text({"Import", "50"}));
+    SetTip(txtcherche, programme_.Text({"Import", "52"}));
     SetTip(Lbchemin, programme_.Text({"frmopen", "8T"}));
     SetTip(txtchemin, programme_.Text({"frmopen", "8T"}));
     SetTip(Label2, programme_.Text({"frmopen", "24t"}));
@@ -65,10 +70,11 @@ void frmopen::PoseBulles() {
     Combo1.setAccessibleName(lbltype.text());
     memP1.setAccessibleName(LbMem.text());
     txtchemin.setAccessibleName(lbldossier.text());
+    txtcherche.setAccessibleName(txtcherche.placeholderText());
 }
 
-std::array<QObject *, 5> frmopen::Surveilles() {
-    return {&txtchemin, &Dir1, &File1, &LbMem, File1.viewport()};
+std::array<QObject *, 6> frmopen::Surveilles() {
+    return {&txtchemin, &txtcherche, &Dir1, &File1, &LbMem, File1.viewport()};
 }
 
 void frmopen::ConnectAll() {
@@ -78,6 +84,7 @@ void frmopen::ConnectAll() {
     selection_.setSingleShot(true);
     connect(&selection_, &QTimer::timeout, this, &frmopen::File1_Click);
     connect(&txtchemin, &QLineEdit::textChanged, this, &frmopen::MontreOuvrir);
+    connect(&txtcherche, &QLineEdit::textChanged, this, &frmopen::txtcherche_Change);
     connect(&Combo1, &QComboBox::activated, this, &frmopen::Combo1_Change);
     connect(&Dir1, &QListWidget::itemDoubleClicked, this, &frmopen::Dir1_DblClick);
     connect(&File1, &QListWidget::itemSelectionChanged, this, [this] {
@@ -90,6 +97,8 @@ void frmopen::ConnectAll() {
             [this] { QTimer::singleShot(0, this, &frmopen::File1_DblClick); });
     connect(&memP1, &QCheckBox::toggled, this, &frmopen::memP1_Click);
     connect(&cmdouvrir, &QPushButton::clicked, this, &frmopen::cmdouvrir_Click);
+    connect(&cmdimporter, &QPushButton::clicked, this,
+            [this] { Garde(" Open/cmdimporter", [this] { cmdimporter_Click(); }); });
     connect(new QShortcut(QKeySequence(Qt::ALT | Qt::Key_Up), this), &QShortcut::activated, this,
             &frmopen::Monte);
     connect(new QShortcut(QKeySequence::Refresh, this), &QShortcut::activated, this,
@@ -119,6 +128,7 @@ void frmopen::Attend(bool discret) {
 
 void frmopen::Refuse(bool refuse) {
     refuse_ = refuse;
+    cmdimporter.hide();
     MontreOuvrir();
 }
 
@@ -179,6 +189,7 @@ void frmopen::MontreLecture(const ResultatLecture &lecture) {
     } else {
         MontreEchec(lecture);
     }
+    ProposeImport(lecture);
 }
 
 void frmopen::MontreEchec(const ResultatLecture &lecture) {
@@ -232,6 +243,10 @@ void frmopen::cmdouvrir_Click() {
         cmdannuler_Click();
         return;
     }
+    Accepte();
+}
+
+void frmopen::Accepte() {
     rib_.ProfilCharge = true;
     programme_.settings.repertoires.LastOpenProfil = dossier_;
     programme_.DernierProfil = rib_.CheminProfil;
@@ -268,6 +283,9 @@ bool frmopen::eventFilter(QObject *watched, QEvent *event) {
     }
     const Qt::KeyboardModifiers modifiers = pressed->modifiers() & ~Qt::KeypadModifier;
     const bool plain = modifiers == Qt::NoModifier;
+    if (watched == &txtcherche) {
+        return plain && txtcherche_Key(key);
+    }
     if (plain && watched == &Dir1) {
         return ListKey(Dir1, key);
     }

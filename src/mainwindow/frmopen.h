@@ -47,17 +47,19 @@ class frmopen : public Dialogue {
     MainView &view_;
     RibModel &rib_;
     ProfilPrecedent precedent_;
-    std::string dossier_;  ///< whose content the lists show
-    QTimer selection_;     ///< a selected file waits to be read
-    bool discret_ = false; ///< by its side: no box, and the rib stays
-    bool refuse_ = false;  ///< the selected file was read and can't be opened
-    bool efface_ = true;   ///< a reading that fails clears the rib
-    bool pressed_ = false; ///< the mouse is down on File1
+    std::string dossier_;               ///< whose content the lists show
+    std::vector<std::string> fichiers_; ///< its files of the type in force
+    QTimer selection_;                  ///< a selected file waits to be read
+    bool discret_ = false;              ///< by its side: no box, and the rib stays
+    bool refuse_ = false;               ///< the selected file was read and can't be opened
+    bool efface_ = true;                ///< a reading that fails clears the rib
+    bool pressed_ = false;              ///< the mouse is down on File1
 
     QLineEdit txtchemin;
     QLabel lbldossiers;
     QListWidget Dir1;
     QLabel lblfichiers;
+    QLineEdit txtcherche; ///< a part of the names that File1 shows
     QListWidget File1;
     QLabel lbltype;
     QComboBox Combo1;
@@ -69,6 +71,7 @@ class frmopen : public Dialogue {
     FittedLabel Label1;
     FittedLabel Label2;
     FittedLabel Label3;
+    QPushButton cmdimporter; ///< there for a refused file that import can read
     QCheckBox memP1;
     QLabel LbMem;
     QPushButton cmdouvrir;
@@ -83,7 +86,7 @@ class frmopen : public Dialogue {
     void PoseTextes();
     void PoseBulles();
     /// The controls whose events pass through eventFilter.
-    std::array<QObject *, 5> Surveilles();
+    std::array<QObject *, 6> Surveilles();
     void ConnectAll();
     void Form_Load();
     void File1_Click();
@@ -97,12 +100,19 @@ class frmopen : public Dialogue {
     void File1_DblClick();
     void memP1_Click();
     void cmdouvrir_Click();
+    /// Leaves the airfoil that the rib holds and closes the window.
+    void Accepte();
     void cmdannuler_Click() override;
     /// Reads a file that is selected but still waits.
     void LitSelection();
     void MontreLecture(const ResultatLecture &lecture);
     void MontreEchec(const ResultatLecture &lecture);
     void MontreProfil();
+
+    // frmopen_import.cpp
+    /// The import button stands where a refused file can be imported.
+    void ProposeImport(const ResultatLecture &lecture);
+    void cmdimporter_Click();
 
     // frmopen_lists.cpp
     void Combo1_Change();
@@ -118,7 +128,12 @@ class frmopen : public Dialogue {
     /// Opens the folder of the airfoil that was opened last and selects it there again.
     void OuvreDernier();
     void Monte();
-    void RemplitFile1(const std::vector<std::string> &names);
+    /// The folder's files, of which those with the searched part in their names are shown.
+    void RemplitFile1(std::vector<std::string> names);
+    void MontreFichiers();
+    /// What is searched changes. A file that is still shown stays selected and isn't read again.
+    void txtcherche_Change();
+    bool txtcherche_Key(int key);
     std::string Motif() const;
     /// Path of the selected file, empty when none is.
     std::string Choisi() const;

@@ -20,6 +20,7 @@ void frmopen::NameAll() {
                   {&lbldossiers, "lbldossiers"},
                   {&Dir1, "Dir1"},
                   {&lblfichiers, "lblfichiers"},
+                  {&txtcherche, "txtcherche"},
                   {&File1, "File1"},
                   {&lbltype, "lbltype"},
                   {&Combo1, "Combo1"},
@@ -31,6 +32,7 @@ void frmopen::NameAll() {
                   {&Label1, "Label1"},
                   {&Label2, "Label2"},
                   {&Label3, "Label3"},
+                  {&cmdimporter, "cmdimporter"},
                   {&memP1, "memP1"},
                   {&LbMem, "LbMem"},
                   {&cmdouvrir, "cmdouvrir"}});
@@ -48,6 +50,7 @@ QLayout *frmopen::LayOutLists() {
     column->addWidget(&lbldossiers);
     column->addWidget(&Dir1, 2);
     column->addWidget(&lblfichiers);
+    column->addWidget(&txtcherche);
     column->addWidget(&File1, 3);
     column->addLayout(type);
     column->addLayout(chosen);
@@ -73,7 +76,9 @@ void frmopen::LayOut() {
     upper->addLayout(LayOutPreview(), 1);
     auto *rows = new QVBoxLayout(this);
     rows->addLayout(upper, 1);
-    PoseBoutons(*rows, {&cmdouvrir, SharedWord::cancel, SharedWord::help});
+    PoseBoutons(*rows, {&cmdouvrir, SharedWord::cancel, SharedWord::help}, &cmdimporter);
+    cmdimporter.setAutoDefault(false);
+    txtcherche.setClearButtonEnabled(true);
     cmdouvrir.setDefault(true);
     File1.setFocus();
     // The preview shrinks with the height, so it may have nearly all of a small screen.

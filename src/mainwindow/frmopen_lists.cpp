@@ -71,6 +71,10 @@ std::string frmopen::Motif() const {
 bool frmopen::Ouvre(const std::string &folder, const std::string &came_from) {
     try {
         const ContenuDossier contenu = LitDossier(folder, Motif());
+        if (folder != dossier_) {
+            const QSignalBlocker no_search(txtcherche); // the list comes anew anyway
+            txtcherche.clear();
+        }
         dossier_ = folder;
         Dir1.clear();
         if (!DossierParent(folder).empty()) {
@@ -109,13 +113,46 @@ void frmopen::OuvreDernier() {
     Selectionne(File1, name);
 }
 
-void frmopen::RemplitFile1(const std::vector<std::string> &names) {
+void frmopen::RemplitFile1(std::vector<std::string> names) {
     const QSignalBlocker no_selection(File1);
     OublieFichier();
+    fichiers_ = std::move(names);
+    MontreFichiers();
+}
+
+void frmopen::MontreFichiers() {
     File1.clear();
-    for (const std::string &name : names) {
-        Ajoute(File1, name);
+    for (const std::string &name : fichiers_) {
+        if (Q(ToUtf8(name)).contains(txtcherche.text(), Qt::CaseInsensitive)) {
+            Ajoute(File1, name);
+        }
     }
+}
+
+void frmopen::txtcherche_Change() {
+    const QSignalBlocker no_selection(File1);
+    const QList<QListWidgetItem *> chosen = File1.selectedItems();
+    const std::string name = chosen.isEmpty() ? std::string() : NomDe(*chosen.front());
+    MontreFichiers();
+    if (!name.empty() && !Selectionne(File1, name)) {
+        OublieFichier();
+    }
+}
+
+bool frmopen::txtcherche_Key(int key) {
+    if (key == Qt::Key_Escape && !txtcherche.text().isEmpty()) {
+        txtcherche.clear();
+        return true;
+    }
+    // Return opens a file that is chosen; before that it leads to the files, as Down does.
+    if (key != Qt::Key_Down && !(IsReturn(key) && Choisi().empty())) {
+        return false;
+    }
+    File1.setFocus();
+    if (Choisi().empty() && File1.count() > 0) {
+        File1.setCurrentRow(0);
+    }
+    return true;
 }
 
 void frmopen::Dir1_Change(const std::string &came_from) {

@@ -3,6 +3,7 @@
 #include "base/version.h"
 #include "mainwindow/beside.h"
 #include "mainwindow/frmInput.h"
+#include "mainwindow/frmimport.h"
 #include "mainwindow/frmopen.h"
 #include "platform/qt_form.h"
 #include "platform/qt_plot_device.h"
@@ -145,6 +146,11 @@ std::optional<std::string> MainFrame::SaisitEpCourb() {
     frmEpCourb dialog(programme_, *this, this);
     const bool accepted = ShowModal(dialog) == QDialog::Accepted;
     return accepted ? std::optional(dialog.Fichier()) : std::nullopt;
+}
+
+std::optional<ImportVoulu> MainFrame::MontreImport(const std::string &path,
+                                                   const ImportedAirfoil &airfoil) {
+    return loftwing::MontreImport(programme_, this, path, airfoil);
 }
 
 } // namespace loftwing

@@ -40,6 +40,8 @@ class MainFrame : public QMainWindow, public CommandView {
     bool Saisit(const std::string &ModeSaisie) override;
     bool ChoisitFichier(const ChoixProfil &choix) override;
     std::optional<std::string> SaisitEpCourb() override;
+    std::optional<ImportVoulu> MontreImport(const std::string &path,
+                                            const ImportedAirfoil &airfoil) override;
 
   protected:
     Programme &programme_;

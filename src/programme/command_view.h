@@ -8,6 +8,9 @@
 
 namespace loftwing {
 
+struct ImportedAirfoil;
+struct ImportVoulu;
+
 /// What the user is asked for in the airfoil picker.
 struct ChoixProfil {
     std::string titre;       ///< of the picker and its boxes
@@ -58,6 +61,10 @@ class CommandView : public MainView {
     /// Lets the user change thickness and camber; the new airfoil's file, or nothing when it was
     /// cancelled.
     virtual std::optional<std::string> SaisitEpCourb() = 0;
+    /// Shows what the import of a file made; what the user wants to be opened, or nothing when it
+    /// was cancelled.
+    virtual std::optional<ImportVoulu> MontreImport(const std::string &path,
+                                                    const ImportedAirfoil &airfoil) = 0;
     /// Opens a file, failures told. One that isn't there is passed over.
     virtual void mnuFileMRU_Click(const std::string &path) = 0;
 };

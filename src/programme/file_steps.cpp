@@ -8,6 +8,7 @@
 #include "persist/default_entry.h"
 #include "platform/busy_pointer.h"
 #include "programme/dossiers.h"
+#include "programme/import_steps.h"
 #include "programme/load.h"
 #include "programme/nom_propose.h"
 #include "programme/rib_file.h"
@@ -64,6 +65,21 @@ void newLfw(Programme &programme, CommandView &view, const std::string &path,
 /// What becomes of the rib when the reading of a file fails. When a file is refused it stays.
 enum class SurEchec { vide, reste };
 
+/// What import makes of a file that was refused, where the user wants that. Without any the box of
+/// the refusal has told why.
+std::optional<ImportedAirfoil> ProposeImport(const Programme &programme, const std::string &path,
+                                             const ResultatLecture &refusal) {
+    const Messages &messages = programme.messages;
+    const std::string title = messages.Text({"frmopen", "1"});
+    std::optional<ImportedAirfoil> airfoil = EssaieImport(path);
+    if (!airfoil) {
+        AnnonceLecture(refusal, messages, title);
+        return std::nullopt;
+    }
+    const std::string question = refusal.boite + "\n\n" + messages.Text({"Import", "49"});
+    return messages.Confirm(question, title) ? airfoil : std::nullopt;
+}
+
 void LitEtReprend(Programme &programme, CommandView &view, const std::string &path,
                   SurEchec on_failure) {
     RibModel &rib = programme.rib;
@@ -71,16 +87,19 @@ void LitEtReprend(Programme &programme, CommandView &view, const std::string &pa
     rib.ModeCouple = false;
     rib.SansApercu = true;
     rib.CheminProfil = path;
-    const ResultatLecture read =
-        FichierLecture(rib, programme.messages, programme.Text({"frmopen", "1"}));
+    const ResultatLecture read = EssaieLecture(rib, programme.messages);
     rib.SansApercu = false;
-    if (read.issue == Lecture::echec && on_failure == SurEchec::vide) {
-        view.affclear();
-        return;
-    }
     if (read.issue != Lecture::lu) {
+        const auto import = ProposeImport(programme, path, read);
+        if (read.issue == Lecture::echec && !import && on_failure == SurEchec::vide) {
+            view.affclear();
+            return;
+        }
         // The rib on the screen is still the one that was there.
         rib.Partie<PartiesRib>() = before.parties;
+        if (import) {
+            MontreEtOuvreImport(programme, view, path, *import);
+        }
         return;
     }
     NommeProfil(rib, path);

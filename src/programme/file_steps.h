@@ -18,6 +18,7 @@ void OuvreRib(Programme &programme, CommandView &view);
 /// Opens a file that is known: an airfoil, or a rib components file, before which changes are asked
 /// for. An airfoil that is refused or of which nothing can be drawn, or on whose chord not all of
 /// the rib fits and the user says so, leaves the rib; one whose reading fails clears it.
+/// Where import can read what was refused, the box asks whether it should: a Yes shows the import.
 void OuvreFichier(Programme &programme, CommandView &view, const std::string &path);
 /// The same for a rib components file of the recent ones. One that is gone is told, and the rib
 /// stays.

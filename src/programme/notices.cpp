@@ -1,13 +1,18 @@
 #include "programme/notices.h"
 
+#include "base/number_text.h"
+#include "core/airfoil_import.h"
 #include "core/contour_fault.h"
 #include "features/talon.h"
 #include "output/screen_plot.h"
 #include "programme/dossiers.h"
 #include "programme/file_steps.h"
 #include "programme/heel_steps.h"
+#include "programme/import_steps.h"
+#include "programme/import_words.h"
 
 #include <array>
+#include <cmath>
 
 namespace loftwing {
 
@@ -33,6 +38,26 @@ std::string ContourText(const Programme &programme) {
 
 bool InMm(const Programme &programme) {
     return programme.settings.Unite == kUniteMm;
+}
+
+/// A computed length to two decimals of a millimetre, or in inches.
+std::string Length(double mm, const std::string &Unite) {
+    constexpr double kParts = 100;
+    return (Unite == kUniteMm ? NumberText(std::round(mm * kParts) / kParts)
+                              : DepuisMm(ToSingle(mm), Unite)) +
+           Unite;
+}
+
+/// How far the contour strays, in parts of the chord and as a length on this rib.
+std::string ImportText(const Programme &programme) {
+    const RibModel &rib = programme.rib;
+    return DeviationWarning(programme.messages, rib.EcartContour) + " " +
+           programme.Text({"Import", "40"}) + " " +
+           Length(rib.EcartContour * rib.corde, programme.settings.Unite) + ".";
+}
+
+std::vector<NoticeButton> ImportButtons(const Programme &programme) {
+    return {{NoticeAct::import_airfoil, programme.Text({"Import", "43"})}};
 }
 
 std::string UnitText(const Programme &programme) {
@@ -63,10 +88,13 @@ std::vector<NoticeButton> NoButtons(const Programme & /*programme*/) {
     return {};
 }
 
-const std::array<Row, 4> kRows = {{
+const std::array<Row, 5> kRows = {{
     {NoticeSubject::contour, "contour",
      [](const Programme &programme) { return programme.rib.faute.cause != CauseContour::aucune; },
      ContourText, NoButtons},
+    {NoticeSubject::import_offered, "import",
+     [](const Programme &programme) { return programme.rib.EcartContour > kImportTolerance; },
+     ImportText, ImportButtons},
     {NoticeSubject::unit, "unit",
      [](const Programme &programme) { return programme.rib.UniteDouteuse; }, UnitText, UnitButtons},
     {NoticeSubject::heel_margins, "heel_margins",
@@ -112,6 +140,12 @@ void DoNotice(Programme &programme, CommandView &view, NoticeAct act) {
         break;
     case NoticeAct::open_in_other_unit:
         programme.messages.Garde(" LireEcrire/newLfw", [&] { OuvreAutreUnite(programme, view); });
+        break;
+    case NoticeAct::import_airfoil:
+        programme.messages.Garde(" Import/notice", [&] {
+            const std::string path = programme.rib.CheminProfil; // goes with the rib
+            ImporteFichier(programme, view, path);
+        });
         break;
     }
 }

@@ -53,6 +53,28 @@ TEST_F(NoticesTest, AContourThatEndsTooEarlySaysWhereAndWhy) {
     EXPECT_THAT(Subjects(), IsEmpty());
 }
 
+TEST_F(NoticesTest, AContourThatStraysIsToldInPercentAndAsALengthOfThisRib) {
+    Rib().corde = 200;
+    Rib().EcartContour = 0.0005; // the most that import allows
+    EXPECT_THAT(Subjects(), IsEmpty());
+    Rib().EcartContour = 0.03125;
+    ASSERT_THAT(Subjects(), ElementsAre(NoticeSubject::import_offered));
+    EXPECT_EQ(Standing().front().text,
+              "The contour leaves the smooth curve through the airfoil's points by 3.1 % of the "
+              "chord. An import lays the points anew. On this rib that is up to 6.25 mm.");
+    EXPECT_THAT(Standing().front().buttons,
+                ElementsAre(NoticeButton{NoticeAct::import_airfoil, "Import..."}));
+    programme.settings.Unite = kUniteIn;
+    Rib().corde = 203.2F; // 8 in, of which a 32nd is a quarter
+    EXPECT_THAT(Standing().front().text, testing::EndsWith("On this rib that is up to 1/4 in."));
+}
+
+TEST_F(NoticesTest, TheButtonOfAContourThatStraysImportsItsFile) {
+    ASSERT_TRUE(Read(Sample("naca2412.dat")));
+    DoNotice(programme, view, NoticeAct::import_airfoil);
+    EXPECT_THAT(view.asked, ElementsAre("MontreImport " + Sample("naca2412.dat")));
+}
+
 TEST_F(NoticesTest, MarginsThatAreNotInForceAreOfferedToBeConfirmed) {
     HaveHeel();
     ASSERT_THAT(Subjects(), ElementsAre(NoticeSubject::heel_margins));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "programme/command_view.h"
+#include "programme/import_steps.h"
 #include "support/noted_view.h"
 
 #include <string>
@@ -54,6 +55,14 @@ class NotedWindow : public Noted<CommandView> {
         Note("SaisitEpCourb");
         Run(on_section);
         return section;
+    }
+    /// What the user does in the import window; without it, it is cancelled.
+    std::function<std::optional<ImportVoulu>(const std::string &, const ImportedAirfoil &)>
+        on_import;
+    std::optional<ImportVoulu> MontreImport(const std::string &path,
+                                            const ImportedAirfoil &airfoil) override {
+        Note("MontreImport", path);
+        return on_import ? on_import(path, airfoil) : std::nullopt;
     }
     void mnuFileMRU_Click(const std::string &path) override {
         Note("mnuFileMRU_Click", path);

@@ -34,10 +34,11 @@ const std::set<std::string> kDeadAfterClear = {
 };
 
 const std::set<std::string> kAlwaysAlive = {
-    "mnu_fileopen", "mnu_fileprofilopen", "mnu_fileexit",     "mnu_affcouleur",
-    "mnu_affclear", "mnu_affLang",        "mnu_profilcorde",  "cmdcorde",
-    "cmdprofil",    "mnu_outil",          "mnu_OutilCompare", "mnu_calc",
-    "mnu_help",     "mnu_helpAbout",      "Toolbar1(2)",      "mnu_fileprintpreview"};
+    "mnu_fileopen",        "mnu_fileprofilopen", "mnu_fileexit",     "mnu_affcouleur",
+    "mnu_affclear",        "mnu_affLang",        "mnu_profilcorde",  "cmdcorde",
+    "cmdprofil",           "mnu_outil",          "mnu_OutilCompare", "mnu_calc",
+    "mnu_fileimport",      "mnu_help",           "mnu_helpAbout",    "Toolbar1(2)",
+    "mnu_fileprintpreview"};
 
 bool Enabled(const WindowWorld &world, const std::string &name) {
     if (name.starts_with("cmd")) {
