@@ -1,5 +1,6 @@
 #include "e2e/program.h"
 
+#include "base/number_text.h"
 #include "base/text_encoding.h"
 #include "base/whole_file.h"
 #include "support/temp_folder.h"
@@ -91,9 +92,8 @@ TEST_F(ConvertVerb, LaysAsManyPointsAsAskedFor) {
 TEST_F(ConvertVerb, LevelTurnsTheTrailingEdgeOntoTheReferenceLine) {
     std::string tilted = "tilted\n";
     for (const std::string &line : SamplePoints()) {
-        double x = 0;
-        double y = 0;
-        std::sscanf(line.c_str(), "%lf %lf", &x, &y);
+        const double x = LeadingNumber(Trim(line).substr(0, Trim(line).find(' ')));
+        const double y = LeadingNumber(Trim(line).substr(Trim(line).find(' ')));
         tilted += std::to_string(x) + ";" + std::to_string(y + 0.1 * x) + "\n";
     }
     std::replace(tilted.begin(), tilted.end(), ',', '.');
