@@ -4,7 +4,6 @@
 #include "app/console_program.h"
 #include "app/typed_value.h"
 #include "base/number_text.h"
-#include "base/whole_file.h"
 #include "programme/import_words.h"
 
 #include <filesystem>
@@ -16,13 +15,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kTouchesNombre = "0123456789";
-
 ImportWishes WishesOf(const Arguments &arguments) {
     ImportWishes wishes;
     wishes.level = arguments.Has("--level");
     if (arguments.Has("--points")) {
-        const double points = LeadingNumber(Typed(arguments, "--points", kTouchesNombre));
+        const double points = LeadingNumber(Typed(arguments, "--points", kTouchesEntier));
         if (points < kFewestLaid || points > kMostLaid) {
             throw UsageError("--points takes " + std::to_string(kFewestLaid) + " to " +
                              std::to_string(kMostLaid));
@@ -32,19 +29,20 @@ ImportWishes WishesOf(const Arguments &arguments) {
     return wishes;
 }
 
-/// Where the import of a file goes: a place that ends like a folder, or is one, takes its name.
-std::string PlaceOf(const std::string &out, const std::string &file) {
-    const bool folder = out.ends_with('/') || (out != "-" && fs::is_directory(out));
-    return folder ? (fs::path(out) / (fs::path(file).stem().string() + ".dat")).string() : out;
+/// Whether OUT is a folder: it ends like one, or is one.
+bool IsFolder(const std::string &out) {
+    return out.ends_with('/') || (out != "-" && fs::is_directory(out));
 }
 
 bool Convert(const Arguments &arguments, const ImportWishes &wishes, const std::string &file) {
     ConsoleProgram program(arguments);
+    const std::string out = arguments.Value("--output");
+    const std::string name = fs::path(file).stem().string();
     const Messages &messages = program.Owner().messages;
     try {
-        const ImportedAirfoil airfoil = ImportAirfoil(ReadWholeFile(file), wishes);
-        Deliver(PlaceOf(arguments.Value("--output"), file),
-                AirfoilFile(airfoil, fs::path(file).stem().string()));
+        const ImportedAirfoil airfoil = ImportFile(file, wishes);
+        Deliver(IsFolder(out) ? (fs::path(out) / (name + ".dat")).string() : out,
+                AirfoilFile(airfoil, name));
         messages.Inform(ImportStory(messages, airfoil), file);
     } catch (const ImportRefusal &refusal) {
         messages.Inform(ImportRefusalText(messages, refusal), file);
@@ -74,7 +72,7 @@ int RunConvert(const Arguments &arguments) {
     if (files.empty() || out.empty()) {
         throw UsageError("convert wants a FILE and -o OUT.dat");
     }
-    const bool folder = out.ends_with('/') || (out != "-" && fs::is_directory(out));
+    const bool folder = IsFolder(out);
     if (files.size() > 1 && !folder) {
         throw UsageError("several FILEs want -o DIR/");
     }
