@@ -9,7 +9,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-using Words = std::vector<std::string>;
+using Typed = std::vector<std::string>;
 
 const std::vector<OptionRule> kRules = {{"--unit", "mm|in", "unit"},
                                         {"--yes", nullptr, "answer Yes"},
@@ -17,7 +17,7 @@ const std::vector<OptionRule> kRules = {{"--unit", "mm|in", "unit"},
                                         {"--chords", "MAJOR MINOR", "both chords", false, 2},
                                         {"--gaps", "G1 ...", "all gaps", false, kAllWords}};
 
-std::string Refusal(const Words &words) {
+std::string Refusal(const Typed &words) {
     try {
         const Arguments arguments(words, kRules);
     } catch (const UsageError &error) {

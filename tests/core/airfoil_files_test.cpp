@@ -18,11 +18,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char *kTable = "[TextButton]\n3=Help\n"
-                               "[frmopen]\n1=Open\n11=A\n12=C\n13=C1\n14=C2\n16=D \n17= D \n"
-                               "18=E\n19=E1\n[Erreur]\n1=F\n2=in\n";
+constexpr const char *kFileWords = "[TextButton]\n3=Help\n"
+                                   "[frmopen]\n1=Open\n11=A\n12=C\n13=C1\n14=C2\n16=D \n17= D \n"
+                                   "18=E\n19=E1\n[Erreur]\n1=F\n2=in\n";
 
-std::vector<fs::path> AirfoilFiles(const fs::path &folder) {
+std::vector<fs::path> FilesOf(const fs::path &folder) {
     std::vector<fs::path> files;
     if (fs::is_directory(folder)) {
         for (const auto &entry : fs::directory_iterator(folder)) {
@@ -75,7 +75,7 @@ void ComparePoints(const RibModel &rib, const NaiveFile &naive) {
 /// Reads and prepares one file; what became of it, in one word.
 std::string Sweep(const fs::path &path) {
     const NaiveFile naive = ReadNaively(ReadWholeFile(path.string()));
-    Words words(kTable);
+    Words words(kFileWords);
     RibModel rib;
     NommeProfil(rib, path.string());
     if (naive.reading != NaiveReading::read) {
@@ -107,7 +107,7 @@ std::map<std::string, int> SweepAll(const std::vector<fs::path> &files) {
 
 TEST(AirfoilFiles, OfTheBundledLibraryAreAllGood) {
     const std::vector<fs::path> files =
-        AirfoilFiles(fs::path(LOFTWING_SOURCE_DIR) / "resources" / "airfoils");
+        FilesOf(fs::path(LOFTWING_SOURCE_DIR) / "resources" / "airfoils");
     if (files.empty()) {
         GTEST_SKIP() << "no library in the sources";
     }
@@ -116,7 +116,7 @@ TEST(AirfoilFiles, OfTheBundledLibraryAreAllGood) {
 
 TEST(AirfoilFiles, OfTheLargeCollectionAgreeWithSecondComputations) {
     const std::vector<fs::path> files =
-        AirfoilFiles(fs::path(LOFTWING_SOURCE_DIR) / ".." / "shared" / "airfoils");
+        FilesOf(fs::path(LOFTWING_SOURCE_DIR) / ".." / "shared" / "airfoils");
     if (files.empty()) {
         GTEST_SKIP() << "the collection is not on this machine";
     }

@@ -21,7 +21,7 @@ using testing::StartsWith;
 
 namespace fs = std::filesystem;
 
-constexpr const char *kTable = "[frmopen]\n1=Open\n11=A\n12=C\n16=D\n18=E\n";
+constexpr const char *kRefusalWords = "[frmopen]\n1=Open\n11=A\n12=C\n16=D\n18=E\n";
 
 /// How far `point` lies from the polygon through `line`, looked for everywhere.
 double NaiveDistance(const PointList &x, const PointList &y, const CurvePoint &point) {
@@ -40,7 +40,7 @@ double NaiveDistance(const PointList &x, const PointList &y, const CurvePoint &p
     return nearest;
 }
 
-std::string TextOf(const Curve &points) {
+std::string TextOfCurve(const Curve &points) {
     std::string text = "Section\n";
     for (const CurvePoint &point : points) {
         std::array<char, 80> line{};
@@ -76,12 +76,12 @@ class AirfoilImport : public testing::Test {
         }
     }
 
-    Words words{kTable};
+    Words words{kRefusalWords};
     RibModel rib;
 };
 
 TEST_F(AirfoilImport, PointsThatDrawASmoothContourAreKeptToTheLastDigit) {
-    const std::string text = TextOf(Section({0.12, 0.02, 0.4, 40, 40}));
+    const std::string text = TextOfCurve(Section({0.12, 0.02, 0.4, 40, 40}));
     const ImportedAirfoil airfoil = ImportAirfoil(text);
     EXPECT_EQ(airfoil.laid, 0);
     EXPECT_FALSE(airfoil.scaled);
@@ -99,7 +99,7 @@ TEST_F(AirfoilImport, PointsThatDrawASmoothContourAreKeptToTheLastDigit) {
 
 TEST_F(AirfoilImport, CoarsePointsAreLaidAnewOnACurveThroughThem) {
     const Curve points = Section({0.12, 0.02, 0.4, 7, 6});
-    const ImportedAirfoil airfoil = ImportAirfoil(TextOf(points));
+    const ImportedAirfoil airfoil = ImportAirfoil(TextOfCurve(points));
     EXPECT_EQ(airfoil.laid, 160);
     EXPECT_EQ(airfoil.points.size(), 160U);
     EXPECT_LE(airfoil.after, kImportTolerance);
@@ -120,7 +120,7 @@ TEST_F(AirfoilImport, AnyScaleBecomesTheChord) {
     for (CurvePoint &point : large) {
         point = {25 + 180 * point.x, 180 * point.y};
     }
-    const ImportedAirfoil airfoil = ImportAirfoil(TextOf(large));
+    const ImportedAirfoil airfoil = ImportAirfoil(TextOfCurve(large));
     EXPECT_TRUE(airfoil.scaled);
     Open(airfoil);
     Passes(points);
@@ -130,20 +130,20 @@ TEST_F(AirfoilImport, EndsThatAreNearlyAtOneAreSetThereAndNothingIsScaled) {
     Curve points = Section({0.12, 0.02, 0.4, 40, 40});
     points.front().x = 1.0004;
     points.back().x = 0.9996;
-    const ImportedAirfoil airfoil = ImportAirfoil(TextOf(points));
+    const ImportedAirfoil airfoil = ImportAirfoil(TextOfCurve(points));
     EXPECT_FALSE(airfoil.scaled);
     EXPECT_EQ(airfoil.points.front().at.x, 1);
     EXPECT_EQ(airfoil.points.back().at.x, 1);
-    EXPECT_EQ(airfoil.points[5].x, ImportAirfoil(TextOf(points)).points[5].x);
+    EXPECT_EQ(airfoil.points[5].x, ImportAirfoil(TextOfCurve(points)).points[5].x);
     EXPECT_FALSE(airfoil.points[5].x.empty());
     points.front().x = 1.0006;
-    EXPECT_TRUE(ImportAirfoil(TextOf(points)).scaled);
+    EXPECT_TRUE(ImportAirfoil(TextOfCurve(points)).scaled);
 }
 
 TEST_F(AirfoilImport, WhatReachesTheEndBetweenTheEndsIsDropped) {
     Curve points = Section({0.12, 0.02, 0.4, 40, 40});
     points.insert(points.begin() + 1, {1.0002, 0.0001});
-    const ImportedAirfoil airfoil = ImportAirfoil(TextOf(points));
+    const ImportedAirfoil airfoil = ImportAirfoil(TextOfCurve(points));
     EXPECT_EQ(airfoil.dropped, 1);
     Open(airfoil);
     EXPECT_EQ(rib.NbPoints, 81);
@@ -156,10 +156,10 @@ TEST_F(AirfoilImport, LevelTurnsTheTrailingEdgeOntoTheReferenceLine) {
         point = {point.x * std::cos(angle) - point.y * std::sin(angle),
                  point.x * std::sin(angle) + point.y * std::cos(angle)};
     }
-    EXPECT_EQ(ImportAirfoil(TextOf(points)).turned, 0);
+    EXPECT_EQ(ImportAirfoil(TextOfCurve(points)).turned, 0);
     ImportWishes wishes;
     wishes.level = true;
-    const ImportedAirfoil airfoil = ImportAirfoil(TextOf(points), wishes);
+    const ImportedAirfoil airfoil = ImportAirfoil(TextOfCurve(points), wishes);
     EXPECT_NEAR(airfoil.turned, -angle * 180 / std::acos(-1.0), 0.05);
     EXPECT_NEAR((airfoil.points.front().at.y + airfoil.points.back().at.y) / 2, 0, 1e-9);
     EXPECT_EQ(airfoil.points.front().at.x, 1);
@@ -170,7 +170,7 @@ TEST_F(AirfoilImport, AsManyPointsAsAskedForAreLaid) {
     for (const int count : {60, 61, 200}) {
         ImportWishes wishes;
         wishes.points = count;
-        const ImportedAirfoil airfoil = ImportAirfoil(TextOf(points), wishes);
+        const ImportedAirfoil airfoil = ImportAirfoil(TextOfCurve(points), wishes);
         EXPECT_EQ(airfoil.laid, count);
         Open(airfoil);
         EXPECT_EQ(rib.NbPoints, count);
@@ -179,7 +179,7 @@ TEST_F(AirfoilImport, AsManyPointsAsAskedForAreLaid) {
 }
 
 TEST_F(AirfoilImport, LaidPointsAreDenseAtBothEndsOfEachSurface) {
-    const ImportedAirfoil airfoil = ImportAirfoil(TextOf(Section({0.12, 0.02, 0.4, 7, 6})));
+    const ImportedAirfoil airfoil = ImportAirfoil(TextOfCurve(Section({0.12, 0.02, 0.4, 7, 6})));
     const std::vector<ImportPoint> &points = airfoil.points;
     const std::size_t nose = NoseOf(points);
     EXPECT_NEAR(static_cast<double>(nose), 79, 1);
@@ -194,7 +194,7 @@ TEST_F(AirfoilImport, LaidPointsAreDenseAtBothEndsOfEachSurface) {
 TEST_F(AirfoilImport, TheFileHasATitleThatOpensAsOne) {
     const Curve points = Section({0.12, 0.02, 0.4, 40, 40});
     const auto title = [&](const std::string &line) {
-        std::string text = TextOf(points);
+        std::string text = TextOfCurve(points);
         const ImportedAirfoil airfoil = ImportAirfoil(text.replace(0, text.find('\n'), line));
         const std::string file = AirfoilFile(airfoil, "name");
         return file.substr(0, file.find("\r\n"));
@@ -209,7 +209,7 @@ TEST_F(AirfoilImport, TheFileHasATitleThatOpensAsOne) {
 
 TEST_F(AirfoilImport, TheDeviationOfAnAirfoilAsReadIsThatOfItsImport) {
     for (const int segments : {7, 14, 40}) {
-        const std::string text = TextOf(Section({0.12, 0.02, 0.4, segments, segments}));
+        const std::string text = TextOfCurve(Section({0.12, 0.02, 0.4, segments, segments}));
         rib.CheminProfil = words.folder.File("read.dat", text);
         FichierLecture(rib, words.messages, "Open");
         const auto deviation = ContourDeviation(rib);

@@ -42,7 +42,7 @@ CoordinateTable TableOf(const Curve &points) {
     return table;
 }
 
-Curve PointsOf(const AirfoilLoop &loop) {
+Curve PointsOfLoop(const AirfoilLoop &loop) {
     Curve points;
     for (const ImportPoint &point : loop.points) {
         points.push_back(point.at);
@@ -77,7 +77,7 @@ class AirfoilLayout : public testing::Test {
     void Gives(const CoordinateTable &table, FileOrder order) {
         const AirfoilLoop loop = LayOutAirfoil(table);
         EXPECT_EQ(loop.order, order);
-        EXPECT_EQ(PointsOf(loop), section);
+        EXPECT_EQ(PointsOfLoop(loop), section);
     }
     void Gives(const Curve &points, FileOrder order) { Gives(TableOf(points), order); }
 
@@ -110,7 +110,7 @@ TEST_F(AirfoilLayout, ListsMayComeInAnyOrderAndRunEitherWay) {
 TEST_F(AirfoilLayout, ACurveMayBeginAtTheNose) {
     const AirfoilLoop loop = LayOutAirfoil(TableOf(Together(upper, Reversed(lower))));
     EXPECT_EQ(loop.order, FileOrder::rotated);
-    EXPECT_EQ(PointsOf(loop), section);
+    EXPECT_EQ(PointsOfLoop(loop), section);
 }
 
 TEST_F(AirfoilLayout, AClosedCurveMayBeginAnywhere) {
@@ -118,7 +118,7 @@ TEST_F(AirfoilLayout, AClosedCurveMayBeginAnywhere) {
          ++first) {
         Curve turned = section;
         std::rotate(turned.begin(), turned.begin() + first, turned.end());
-        EXPECT_EQ(PointsOf(LayOutAirfoil(TableOf(turned))), section) << first;
+        EXPECT_EQ(PointsOfLoop(LayOutAirfoil(TableOf(turned))), section) << first;
     }
 }
 
@@ -146,9 +146,9 @@ TEST_F(AirfoilLayout, ColumnsGiveBothSurfaces) {
                           {0.1, -0.025}, {0.4, -0.045}, {0.8, -0.02}, {1, -0.005}};
     const AirfoilLoop loop = LayOutAirfoil(table);
     EXPECT_EQ(loop.order, FileOrder::columns);
-    EXPECT_EQ(PointsOf(loop), wanted);
+    EXPECT_EQ(PointsOfLoop(loop), wanted);
     std::reverse(table.rows.begin(), table.rows.end());
-    EXPECT_EQ(PointsOf(LayOutAirfoil(table)), wanted);
+    EXPECT_EQ(PointsOfLoop(LayOutAirfoil(table)), wanted);
 }
 
 TEST_F(AirfoilLayout, NumbersOfPointsAndADepthOfZeroAreLeftOut) {
@@ -174,7 +174,7 @@ TEST_F(AirfoilLayout, RepeatedPointsAreDropped) {
         doubled.push_back(point);
     }
     const AirfoilLoop loop = LayOutAirfoil(TableOf(doubled));
-    EXPECT_EQ(PointsOf(loop), section);
+    EXPECT_EQ(PointsOfLoop(loop), section);
     EXPECT_EQ(loop.dropped, static_cast<int>(section.size()));
 }
 

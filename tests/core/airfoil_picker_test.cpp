@@ -84,7 +84,7 @@ TEST(AirfoilPicker, LinksCountAsWhatTheyLeadTo) {
     EXPECT_EQ(contenu.fichiers, (Names{"a.dat", "link.dat"}));
 }
 
-int FailureOf(const std::string &folder) {
+int ListingFailure(const std::string &folder) {
     try {
         LitDossier(folder, "*.dat");
     } catch (const Failure &failure) {
@@ -96,8 +96,8 @@ int FailureOf(const std::string &folder) {
 
 TEST(AirfoilPicker, WhatIsNoFolderCannotBeListed) {
     const TempFolder folder;
-    EXPECT_EQ(FailureOf(folder.Path("gone")), 76);
-    EXPECT_EQ(FailureOf(folder.File("a.dat", "")), 76);
+    EXPECT_EQ(ListingFailure(folder.Path("gone")), 76);
+    EXPECT_EQ(ListingFailure(folder.File("a.dat", "")), 76);
 }
 
 TEST(AirfoilPicker, FolderWithoutPermissionCannotBeListed) {
@@ -107,7 +107,7 @@ TEST(AirfoilPicker, FolderWithoutPermissionCannotBeListed) {
     const TempFolder folder;
     fs::create_directory(folder.Path("closed"));
     fs::permissions(folder.Path("closed"), fs::perms::none);
-    EXPECT_EQ(FailureOf(folder.Path("closed")), 70);
+    EXPECT_EQ(ListingFailure(folder.Path("closed")), 70);
     EXPECT_EQ(DossierDepart(folder.Path("closed")), fs::current_path().string());
     fs::permissions(folder.Path("closed"), fs::perms::owner_all);
 }

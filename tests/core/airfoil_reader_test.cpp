@@ -13,18 +13,19 @@ using testing::ElementsAre;
 using testing::EndsWith;
 using testing::IsEmpty;
 
-constexpr const char *kTable = "[TextButton]\n3=Help\n"
-                               "[frmopen]\n1=Open an airfoil\n11=No title line\n12=First x\n"
-                               "13=Wrong point\n14=The first x must be 1\n16=Double point x \n"
-                               "17= and x \n18=Last x\n19=The last x must be 1\n23=Too short\n"
-                               "190=Point\n191=Points\n192=and\n"
-                               "[Erreur]\n1=Error\n2=in\n";
+constexpr const char *kReaderWords =
+    "[TextButton]\n3=Help\n"
+    "[frmopen]\n1=Open an airfoil\n11=No title line\n12=First x\n"
+    "13=Wrong point\n14=The first x must be 1\n16=Double point x \n"
+    "17= and x \n18=Last x\n19=The last x must be 1\n23=Too short\n"
+    "190=Point\n191=Points\n192=and\n"
+    "[Erreur]\n1=Error\n2=in\n";
 constexpr const char *kClosing = "Help/Open an airfoil";
 constexpr const char *kCaption = "Caption";
 
 class Reader : public testing::Test {
   protected:
-    Words words{kTable};
+    Words words{kReaderWords};
     RibModel rib;
 
     ResultatLecture Read(std::string_view bytes) {

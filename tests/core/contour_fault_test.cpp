@@ -13,10 +13,10 @@ namespace {
 
 using testing::EndsWith;
 
-constexpr const char *kTable = "[Erreur]\n1=Error\n2=in\n"
-                               "[frmopen]\n24=points\n192=and\n193=side by side\n"
-                               "194=level\n195=too few :\n196=too many behind\n"
-                               "197=too large at\n198=no outline\n";
+constexpr const char *kFaultWords = "[Erreur]\n1=Error\n2=in\n"
+                                    "[frmopen]\n24=points\n192=and\n193=side by side\n"
+                                    "194=level\n195=too few :\n196=too many behind\n"
+                                    "197=too large at\n198=no outline\n";
 
 /// An airfoil of 41 points, which are changed and then prepared.
 class ContourFault : public testing::Test {
@@ -40,7 +40,7 @@ class ContourFault : public testing::Test {
         return words.LastBox().text;
     }
 
-    Words words{kTable};
+    Words words{kFaultWords};
     RibModel rib;
     NaiveAirfoil airfoil = MakeAirfoil({}); // point 21 is the nose
 };

@@ -16,7 +16,7 @@ namespace {
 using testing::DoubleNear;
 using testing::ElementsAre;
 
-constexpr const char *kTable = "[Erreur]\n1=Error\n2=in\n";
+constexpr const char *kContourWords = "[Erreur]\n1=Error\n2=in\n";
 
 PointList List(std::initializer_list<double> values) {
     PointList list;
@@ -114,7 +114,7 @@ TEST(Alocate, DropsASampleOnlyOnAPointThatFits32Bits) {
 }
 
 TEST(Alocate, FailsForFivePointsAndKeepsTheFirst) {
-    Words words(kTable);
+    Words words(kContourWords);
     words.platform.Expect(BoxAnswer::ok);
     words.platform.Expect(BoxAnswer::ok);
     RibModel rib;
@@ -457,7 +457,7 @@ TEST(Cambrure, IsTheGreatestMeanAndCountsItsNewMaxima) {
 TEST(PrepareContour, GivesTheThicknessOfASymmetricalSection) {
     RibModel rib;
     SetPoints(rib, MakeAirfoil({0.12, 0.0, 0.4, 40, 40}));
-    Words words(kTable);
+    Words words(kContourWords);
     EXPECT_EQ(PrepareContour(rib, words.messages), Preparation::complete);
     EXPECT_NEAR(rib.EpMaxi, 0.12, 1e-4);
     for (std::size_t i = 0; i < kLastStation; ++i) {
@@ -475,7 +475,7 @@ TEST(PrepareContour, GivesTheThicknessOfASymmetricalSection) {
 TEST(PrepareContour, GivesTheCamberOfACamberedSection) {
     RibModel rib;
     SetPoints(rib, MakeAirfoil({0.10, 0.04, 0.4, 40, 40}));
-    Words words(kTable);
+    Words words(kContourWords);
     EXPECT_EQ(PrepareContour(rib, words.messages), Preparation::complete);
     EXPECT_NEAR(rib.EpMaxi, 0.10, 1e-4);
     EXPECT_NEAR(rib.CambrureMaxi, 0.04, 2e-4);
@@ -487,7 +487,7 @@ TEST(PrepareContour, GoesOnWithTheContourThereIs) {
     airfoil.y[44] = airfoil.y[43];
     RibModel rib;
     SetPoints(rib, airfoil);
-    Words words(kTable);
+    Words words(kContourWords);
     words.platform.Expect(BoxAnswer::ok);
     EXPECT_EQ(PrepareContour(rib, words.messages), Preparation::incomplete);
     EXPECT_EQ(words.LastBox().title, " Calcul/Alocate");

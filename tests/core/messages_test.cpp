@@ -7,10 +7,10 @@
 namespace loftwing {
 namespace {
 
-constexpr const char *kTable = "[Erreur]\n1=Error\n2=in\n3=Plot error\n";
+constexpr const char *kMessageWords = "[Erreur]\n1=Error\n2=in\n3=Plot error\n";
 
 TEST(Messages, ReportAFailureUnderTheLabelOfItsRoutine) {
-    Words words(kTable);
+    Words words(kMessageWords);
     words.platform.Expect(BoxAnswer::ok);
     words.messages.Report(MakeFailure(kOverflow), " Calcul/Alocate");
     EXPECT_EQ(words.LastBox().text, "Error # 6 in Loftwing\nOverflow");
@@ -20,7 +20,7 @@ TEST(Messages, ReportAFailureUnderTheLabelOfItsRoutine) {
 }
 
 TEST(Messages, ReportAFailureOfThePlotInItsOwnWords) {
-    Words words(kTable);
+    Words words(kMessageWords);
     words.platform.Expect(BoxAnswer::ok);
     words.messages.ReportPlot(MakeFailure(kDivisionByZero), " Main/PrintSubroutine");
     EXPECT_EQ(words.LastBox().text, "Plot error # 11 in Loftwing\nDivision by zero");
@@ -28,7 +28,7 @@ TEST(Messages, ReportAFailureOfThePlotInItsOwnWords) {
 }
 
 TEST(Messages, TakeYesOnlyForYes) {
-    Words words(kTable);
+    Words words(kMessageWords);
     words.platform.Expect(BoxAnswer::yes);
     words.platform.Expect(BoxAnswer::no);
     words.platform.Expect(BoxAnswer::cancel);

@@ -9,7 +9,7 @@
 namespace loftwing {
 namespace {
 
-const std::string kTitreBoite = "the window's title";
+const std::string kTitreBloc = "the window's title";
 
 class BlocTest : public testing::Test {
   protected:
@@ -32,12 +32,12 @@ class BlocTest : public testing::Test {
     std::optional<std::string> Type(int champ, const std::string &text) {
         TextesBloc typed = TextesDuBloc(rib);
         At(typed, champ) = text;
-        return SuitBloc(rib, champ, typed, saisie, kTitreBoite);
+        return SuitBloc(rib, champ, typed, saisie, kTitreBloc);
     }
-    void Apply(const TextesBloc &typed) { ValideBloc(rib, typed, saisie, kTitreBoite); }
+    void Apply(const TextesBloc &typed) { ValideBloc(rib, typed, saisie, kTitreBloc); }
     void Expect(const std::string &text) {
         platform.Expect(BoxAnswer::ok,
-                        {.text = text, .title = kTitreBoite, .icon = BoxIcon::information});
+                        {.text = text, .title = kTitreBloc, .icon = BoxIcon::information});
     }
 
     ScriptedPlatform platform;
@@ -256,23 +256,23 @@ TEST_F(BlocTest, AFailureOfApplyStoresNothing) {
 TEST_F(BlocTest, OkRefusesARampLongerThanTheChord) {
     rib.bloc.BAblocAfich = "200";
     rib.bloc.BFblocAfich = "200.0";
-    EXPECT_EQ(RefuseRampe(rib, saisie, kTitreBoite), std::nullopt);
+    EXPECT_EQ(RefuseRampe(rib, saisie, kTitreBloc), std::nullopt);
     rib.bloc.BFblocAfich = "200.50";
     Expect("Wrong entry : Trailing edge ramp = 200.50 > Chord = 200");
-    EXPECT_EQ(RefuseRampe(rib, saisie, kTitreBoite), kBlocRampeBF);
+    EXPECT_EQ(RefuseRampe(rib, saisie, kTitreBloc), kBlocRampeBF);
     rib.bloc.BAblocAfich = "300";
     Expect("Wrong entry : Leading edge ramp = 300 > Chord = 200");
-    EXPECT_EQ(RefuseRampe(rib, saisie, kTitreBoite), kBlocRampeBA);
+    EXPECT_EQ(RefuseRampe(rib, saisie, kTitreBloc), kBlocRampeBA);
 }
 
 TEST_F(BlocTest, OkReadsARampInInches) {
     Unite = kUniteIn;
     Chord("8.1/2", 215.9F); // a little less than 215.9 in 32 bits
     rib.bloc.BAblocAfich = "8.1/2";
-    EXPECT_EQ(RefuseRampe(rib, saisie, kTitreBoite), std::nullopt);
+    EXPECT_EQ(RefuseRampe(rib, saisie, kTitreBloc), std::nullopt);
     rib.bloc.BAblocAfich = "8.3/4";
     Expect("Wrong entry : Leading edge ramp = 8.3/4 > Chord = 8.1/2");
-    EXPECT_EQ(RefuseRampe(rib, saisie, kTitreBoite), kBlocRampeBA);
+    EXPECT_EQ(RefuseRampe(rib, saisie, kTitreBloc), kBlocRampeBA);
 }
 
 } // namespace

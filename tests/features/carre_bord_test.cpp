@@ -9,7 +9,7 @@
 namespace loftwing {
 namespace {
 
-const std::string kTitreBoite = "the window's title";
+const std::string kTitreCarre = "the window's title";
 
 class CarreBordTest : public testing::Test {
   protected:
@@ -23,12 +23,12 @@ class CarreBordTest : public testing::Test {
     }
     /// Applies the texts and gives what the boxes show then.
     TextesCarre Apply(TextesCarre typed) {
-        ValideCarre(rib, typed, saisie, kTitreBoite);
+        ValideCarre(rib, typed, saisie, kTitreCarre);
         return typed;
     }
     void Expect(const std::string &text) {
         platform.Expect(BoxAnswer::ok,
-                        {.text = text, .title = kTitreBoite, .icon = BoxIcon::information});
+                        {.text = text, .title = kTitreCarre, .icon = BoxIcon::information});
     }
 
     ScriptedPlatform platform;

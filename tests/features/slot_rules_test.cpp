@@ -11,12 +11,12 @@
 namespace loftwing {
 namespace {
 
-const std::string kMm{kUniteMm};
+const std::string kUnitMm{kUniteMm};
 
 class Place : public testing::Test {
   protected:
     float Mm(const std::string &text, std::uint8_t ref, float corde) {
-        return PlaceDepuis(text, ref, corde, {kMm, words.messages});
+        return PlaceDepuis(text, ref, corde, {kUnitMm, words.messages});
     }
     std::optional<Regle> Broken(const std::string &text, std::uint8_t ref, float corde) {
         return PlaceRefusee(text, ref, Mm(text, ref, corde), corde);
@@ -85,7 +85,7 @@ TEST(WorkSlot, ACountBeyondTheCeilingComesBackToIt) {
 }
 
 /// A list of four texts, emptied as "-".
-struct List {
+struct SlotList {
     std::array<std::string, 4> slots{"a", "b", "c", "d"};
     std::uint8_t count = 2;
 
@@ -97,21 +97,21 @@ struct List {
 };
 
 TEST(TakingASlotOut, MovesTheFollowingOnesAheadUpToTheWorkSlot) {
-    List list;
+    SlotList list;
     list.Take(0);
     EXPECT_EQ(list.slots, (std::array<std::string, 4>{"b", "c", "-", "d"}));
     EXPECT_EQ(list.count, 1);
 }
 
 TEST(TakingASlotOut, OfTheWorkSlotMakesTheLastEntryTheWorkSlot) {
-    List list;
+    SlotList list;
     list.Take(2);
     EXPECT_EQ(list.slots, (std::array<std::string, 4>{"a", "b", "-", "d"}));
     EXPECT_EQ(list.count, 1);
 }
 
 TEST(TakingASlotOut, OfAnEmptyListOnlyEmptiesTheWorkSlot) {
-    List list;
+    SlotList list;
     list.count = 0;
     list.Take(0);
     EXPECT_EQ(list.slots, (std::array<std::string, 4>{"-", "b", "c", "d"}));
@@ -119,7 +119,7 @@ TEST(TakingASlotOut, OfAnEmptyListOnlyEmptiesTheWorkSlot) {
 }
 
 TEST(TakingASlotOut, BeyondTheWorkSlotIsAFailureAndChangesNothing) {
-    List list;
+    SlotList list;
     EXPECT_EQ(FailureOf([&] { list.Take(3); }), 9);
     EXPECT_EQ(FailureOf([&] { list.Take(-1); }), 9);
     EXPECT_EQ(list.slots, (std::array<std::string, 4>{"a", "b", "c", "d"}));

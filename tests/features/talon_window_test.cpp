@@ -11,7 +11,7 @@
 namespace loftwing {
 namespace {
 
-const std::string kTitreBoite = "the window's title";
+const std::string kTitreTalon = "the window's title";
 
 class TalonWindowTest : public testing::Test {
   protected:
@@ -35,12 +35,12 @@ class TalonWindowTest : public testing::Test {
     bool Type(int champ, const std::string &text) {
         TextesTalon typed = TextesDuTalon(rib);
         At(typed, champ) = text;
-        return SuitTalon(rib, champ, typed, saisie, kTitreBoite);
+        return SuitTalon(rib, champ, typed, saisie, kTitreTalon);
     }
-    bool Apply(const TextesTalon &typed) { return ValideTalon(rib, typed, saisie, kTitreBoite); }
+    bool Apply(const TextesTalon &typed) { return ValideTalon(rib, typed, saisie, kTitreTalon); }
     void Expect(const std::string &text) {
         platform.Expect(BoxAnswer::ok,
-                        {.text = text, .title = kTitreBoite, .icon = BoxIcon::information});
+                        {.text = text, .title = kTitreTalon, .icon = BoxIcon::information});
     }
 
     ScriptedPlatform platform;

@@ -11,8 +11,8 @@
 namespace loftwing {
 namespace {
 
-constexpr std::uint8_t kLeading = 0;
-constexpr std::uint8_t kTrailing = 1;
+constexpr std::uint8_t kFromNose = 0;
+constexpr std::uint8_t kFromTail = 1;
 
 class TrouTest : public testing::Test {
   protected:
@@ -47,7 +47,7 @@ class TrouTest : public testing::Test {
 TEST_F(TrouTest, StoresTextsNumbersAndOptions) {
     Trou slot;
     slot.ResTrou = "spare";
-    EXPECT_TRUE(Store(slot, {{"25%", "12", "8"}, "-3.5", false, kTrailing, kTrouRectangle}));
+    EXPECT_TRUE(Store(slot, {{"25%", "12", "8"}, "-3.5", false, kFromTail, kTrouRectangle}));
     EXPECT_EQ(slot.PosTrouAfich, "25%");
     EXPECT_EQ(slot.PosTrou, 150.0F);
     EXPECT_EQ(slot.DiaTrouAfich, "12");
@@ -64,23 +64,23 @@ TEST_F(TrouTest, StoresTextsNumbersAndOptions) {
 
 TEST_F(TrouTest, TheMiddleOfTheThicknessIsKeptAsARealFlag) {
     Trou slot;
-    EXPECT_TRUE(Store(slot, {{"50", "12", "0"}, "0", true, kLeading, kTrouRond}));
+    EXPECT_TRUE(Store(slot, {{"50", "12", "0"}, "0", true, kFromNose, kTrouRond}));
     EXPECT_EQ(slot.ChkCentre, 1.0F);
-    EXPECT_TRUE(Store(slot, {{"50", "12", "0"}, "0", false, kLeading, kTrouRond}));
+    EXPECT_TRUE(Store(slot, {{"50", "12", "0"}, "0", false, kFromNose, kTrouRond}));
     EXPECT_EQ(slot.ChkCentre, 0.0F);
 }
 
 TEST_F(TrouTest, ANegativeDistanceInInchesGoesBelowTheReferenceLine) {
     unit = kUniteIn;
     Trou slot;
-    EXPECT_TRUE(Store(slot, {{"2", "1/2", "0"}, "-1/4", false, kLeading, kTrouRond}));
+    EXPECT_TRUE(Store(slot, {{"2", "1/2", "0"}, "-1/4", false, kFromNose, kTrouRond}));
     EXPECT_EQ(slot.DecalTrouAfich, "-1/4");
     EXPECT_EQ(slot.DecalTrou, -6.35F);
 }
 
 TEST_F(TrouTest, ALocationBeyondTheChordIsRefusedButStoredWithAllTheRest) {
     Trou slot;
-    EXPECT_FALSE(Store(slot, {{"101%", "12", "8"}, "1", true, kLeading, kTrouRectangle}));
+    EXPECT_FALSE(Store(slot, {{"101%", "12", "8"}, "1", true, kFromNose, kTrouRectangle}));
     EXPECT_EQ(refused, std::vector<float>{202});
     EXPECT_EQ(slot.PosTrouAfich, "101%");
     EXPECT_EQ(slot.DiaTrou, 12.0F);
@@ -91,17 +91,17 @@ TEST_F(TrouTest, ALocationBeyondTheChordIsRefusedButStoredWithAllTheRest) {
 TEST_F(TrouTest, ALocationOfExactlyTheChordIsTaken) {
     Trou slot;
     for (const char *text : {"200", "100%"}) {
-        EXPECT_TRUE(StorePlace(slot, text, kLeading));
-        EXPECT_TRUE(StorePlace(slot, text, kTrailing));
+        EXPECT_TRUE(StorePlace(slot, text, kFromNose));
+        EXPECT_TRUE(StorePlace(slot, text, kFromTail));
     }
     EXPECT_TRUE(refused.empty());
 }
 
 TEST_F(TrouTest, AHoleThatPokesOutOfTheRibIsAccepted) {
     Trou slot;
-    EXPECT_TRUE(StorePlace(slot, "1", kLeading)); // 10 across, so 4 mm before the leading edge
+    EXPECT_TRUE(StorePlace(slot, "1", kFromNose)); // 10 across, so 4 mm before the leading edge
     EXPECT_TRUE(ControleTrou(slot, {false, false}, Refusals()));
-    EXPECT_TRUE(StorePlace(slot, "199", kLeading));
+    EXPECT_TRUE(StorePlace(slot, "199", kFromNose));
     EXPECT_TRUE(ControleTrou(slot, {false, false}, Refusals()));
     EXPECT_TRUE(refused.empty());
 }
@@ -110,7 +110,7 @@ TEST_F(TrouTest, KindAndEdgeAreStoredEvenWhenASizeFails) {
     unit = kUniteIn;
     Trou slot;
     const auto store = [&] {
-        Store(slot, {{"2", "1/0", "1"}, "0", true, kTrailing, kTrouRectangle});
+        Store(slot, {{"2", "1/0", "1"}, "0", true, kFromTail, kTrouRectangle});
     };
     EXPECT_EQ(FailureOf(store), 11);
     EXPECT_EQ(slot.RefTrou, 1);
@@ -240,7 +240,7 @@ TEST(FinishedHole, IsOneThatTheWindowWouldTake) {
     EXPECT_TRUE(TrouFini(hole, 200));
 }
 
-Trou Full(int number) {
+Trou FullHole(int number) {
     const auto n = static_cast<float>(number);
     const std::string text = std::to_string(number);
     Trou hole;
@@ -260,7 +260,7 @@ Trou Full(int number) {
 }
 
 TEST_F(TrouTest, ErasingClearsTextsNumbersAndTheMiddle) {
-    Trou slot = Full(7);
+    Trou slot = FullHole(7);
     EffaceTrou(slot);
     for (const std::string &text :
          {slot.PosTrouAfich, slot.DiaTrouAfich, slot.HautTrouAfich, slot.DecalTrouAfich}) {
@@ -281,12 +281,12 @@ TEST_F(TrouTest, ErasingClearsTextsNumbersAndTheMiddle) {
 
 TEST_F(TrouTest, RemovingMovesAllFieldsButPlaceAndSpare) {
     RibModel rib;
-    rib.trou[0] = Full(10);
+    rib.trou[0] = FullHole(10);
     rib.trou[0].ChkCentre = 0;
     rib.trou[0].RefTrou = 0;
     rib.trou[0].TypeTrou = 0;
-    rib.trou[1] = Full(20);
-    rib.trou[2] = Full(30);
+    rib.trou[1] = FullHole(20);
+    rib.trou[2] = FullHole(30);
     rib.NbTrou = 1;
     RetireTrou(rib, 0);
     EXPECT_EQ(rib.NbTrou, 0);

@@ -18,21 +18,21 @@ LngIni Language(const std::string &name) {
     return language;
 }
 
-const std::map<int, std::string> kEnglish = {{5, "Invalid procedure call or argument"},
-                                             {6, "Overflow"},
-                                             {7, "Out of memory"},
-                                             {9, "Subscript out of range"},
-                                             {11, "Division by zero"},
-                                             {13, "Type mismatch"},
-                                             {53, "File not found"},
-                                             {57, "Device input/output error"},
-                                             {61, "Disk full"},
-                                             {62, "Input past end of file"},
-                                             {70, "Permission denied"},
-                                             {75, "Path/file access error"},
-                                             {76, "Path not found"},
-                                             {32755, "Cancel was selected"},
-                                             {4711, "Unknown failure"}};
+const std::map<int, std::string> kEnglishWords = {{5, "Invalid procedure call or argument"},
+                                                  {6, "Overflow"},
+                                                  {7, "Out of memory"},
+                                                  {9, "Subscript out of range"},
+                                                  {11, "Division by zero"},
+                                                  {13, "Type mismatch"},
+                                                  {53, "File not found"},
+                                                  {57, "Device input/output error"},
+                                                  {61, "Disk full"},
+                                                  {62, "Input past end of file"},
+                                                  {70, "Permission denied"},
+                                                  {75, "Path/file access error"},
+                                                  {76, "Path not found"},
+                                                  {32755, "Cancel was selected"},
+                                                  {4711, "Unknown failure"}};
 
 TEST(FailureWords, AreThoseOfTheLanguageFile) {
     const LngIni french = Language("French");
@@ -45,7 +45,7 @@ TEST(FailureWords, AreInEveryLanguageForEveryNumber) {
     const LngIni english = Language("English");
     const LngIni french = Language("French");
     std::set<std::string> seen;
-    for (const auto &[number, words] : kEnglish) {
+    for (const auto &[number, words] : kEnglishWords) {
         EXPECT_EQ(Description({number, {}}, english), words);
         EXPECT_NE(Description({number, {}}, french), words);
         EXPECT_TRUE(seen.insert(Description({number, {}}, french)).second) << number;
@@ -53,7 +53,7 @@ TEST(FailureWords, AreInEveryLanguageForEveryNumber) {
 }
 
 TEST(FailureWords, AreEnglishWhereThereIsNoLanguage) {
-    for (const auto &[number, words] : kEnglish) {
+    for (const auto &[number, words] : kEnglishWords) {
         EXPECT_EQ(Description({number, {}}, LngIni()), words);
         EXPECT_EQ(Description({number, "Spars 1"}, LngIni()), words + ": Spars 1");
     }

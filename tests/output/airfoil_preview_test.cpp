@@ -7,7 +7,7 @@
 namespace loftwing {
 namespace {
 
-constexpr Pen kBlack{0x000000, 1, LineStyle::solid};
+constexpr Pen kBlackPen{0x000000, 1, LineStyle::solid};
 constexpr Pen kRed{0xFF0000, 1, LineStyle::solid};
 
 void Append(RibModel &rib, double x, double y) {
@@ -26,8 +26,8 @@ TEST(AirfoilPreview, DrawsTheChordLineAndThePointsInTwips) {
     Recording drawing;
     DessineApercu(rib, drawing);
     const std::vector<Operation> expected = {
-        DrawnSegment{400, 5000, 5800, 5000, kBlack},  DrawnSegment{5600, 5000, 3100, 4375, kRed},
-        DrawnSegment{3100, 4375, 600, 5000, kRed},    DrawnSegment{600, 5000, 3100, 5312.5, kRed},
+        DrawnSegment{400, 5000, 5800, 5000, kBlackPen}, DrawnSegment{5600, 5000, 3100, 4375, kRed},
+        DrawnSegment{3100, 4375, 600, 5000, kRed},      DrawnSegment{600, 5000, 3100, 5312.5, kRed},
         DrawnSegment{3100, 5312.5, 5600, 5000, kRed},
     };
     EXPECT_EQ(drawing.Operations(), expected);

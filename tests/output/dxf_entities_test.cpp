@@ -19,7 +19,7 @@ std::string Number(double value) {
 }
 
 /// "503 COFFR (0,5) (0,-5)", a circle "504 TROU (30,2) r 4"; a closed run ends in "*".
-struct Words {
+struct DxfWords {
     std::string operator()(const DxfPolyligne &line) const {
         std::string text = std::to_string(line.handle) + " " + std::string(line.calque);
         for (const DxfPoint &point : line.points) {
@@ -47,8 +47,9 @@ class DxfEntities : public RibPlot {
     }
     Lines Export(bool echelle_juste = false) {
         Lines lines;
-        EntitesDxf({world.rib, world.plot, world.settings.Unite, echelle_juste},
-                   [&](const DxfEntite &entity) { lines.push_back(std::visit(Words{}, entity)); });
+        EntitesDxf(
+            {world.rib, world.plot, world.settings.Unite, echelle_juste},
+            [&](const DxfEntite &entity) { lines.push_back(std::visit(DxfWords{}, entity)); });
         return lines;
     }
     /// What follows the two edge lines.
@@ -225,7 +226,7 @@ TEST_F(DxfEntities, DiamondIsClosed) {
     EXPECT_EQ(Entities()[0], "503 COFFR (6,12) (-4,2) (6,-8) (16,2) *");
 }
 
-std::size_t PointsOf(const std::string &line) {
+std::size_t PointCount(const std::string &line) {
     return static_cast<std::size_t>(std::count(line.begin(), line.end(), '('));
 }
 
@@ -234,10 +235,10 @@ TEST_F(DxfEntities, SheetingToTheTrailingEdgeLeavesOutWhereItsFacesHaveCrossed) 
     const Lines lines = Entities();
     ASSERT_EQ(lines.size(), 5U);
     // Station 0 has no height: its faces have crossed, so the point of station 1 is left out.
-    EXPECT_EQ(PointsOf(lines[2]), 398U);
+    EXPECT_EQ(PointCount(lines[2]), 398U);
     EXPECT_TRUE(lines[2].starts_with("503 COFFR (99.5,3) (99.25,3) ")) << lines[2].substr(0, 60);
     EXPECT_TRUE(lines[2].ends_with(" (0.25,3)"));
-    EXPECT_EQ(PointsOf(lines[3]), 398U);
+    EXPECT_EQ(PointCount(lines[3]), 398U);
     EXPECT_TRUE(lines[3].starts_with("503 COFFR (99.5,-3) "));
     EXPECT_EQ(lines[4], "503 COFFR (99.75,3) (100,-1)");
 }
@@ -248,7 +249,7 @@ TEST_F(DxfEntities, SheetingBetweenStocksStartsFromAnEarlierPlot) {
     world.rib.EpBF = 20;
     const Lines lines = Entities();
     ASSERT_EQ(lines.size(), 4U);
-    EXPECT_EQ(PointsOf(lines[2]), 281U); // stations 80 to 360
+    EXPECT_EQ(PointCount(lines[2]), 281U); // stations 80 to 360
     EXPECT_TRUE(lines[2].starts_with("503 COFFR (80,5) (79.75,3) "));
     EXPECT_TRUE(lines[3].starts_with("503 COFFR (80,-5) (79.75,-3) "));
     EXPECT_TRUE(lines[3].ends_with(" (10,-3)"));
@@ -290,7 +291,7 @@ TEST_F(DxfEntities, LeadingEdgeStockEndsTheSheetingOfAnInchFileTooEarly) {
     EXPECT_EQ(lines[2], "503 COFFR");
     EXPECT_EQ(lines[3], "503 COFFR");
     lines = Entities(true);
-    EXPECT_EQ(PointsOf(lines[2]), 358U); // stations 2 to 359
+    EXPECT_EQ(PointCount(lines[2]), 358U); // stations 2 to 359
 }
 
 TEST_F(DxfEntities, SimplePlotViewHasTheRawPoints) {
@@ -315,7 +316,7 @@ TEST_F(DxfEntities, FailureLeavesWhatCameBefore) {
     Lines lines;
     EXPECT_EQ(FailureOf([&] {
                   EntitesDxf({world.rib, world.plot, " mm"}, [&](const DxfEntite &entity) {
-                      lines.push_back(std::visit(Words{}, entity));
+                      lines.push_back(std::visit(DxfWords{}, entity));
                   });
               }),
               kSubscriptOutOfRange);

@@ -8,17 +8,17 @@
 namespace loftwing {
 namespace {
 
-constexpr const char *kTable = "[FrmPrint]\n1=Page\n2=Landscape\n4=Own paper\n5=Long side\n"
-                               "8=Template,\n9=Chord,\n10=Sheets\n22=No room\n"
-                               "24=\" sheets, mind the overlap\"\n25=Template length\n"
-                               "26=Chord length\n27=One sheet\n"
-                               "tailleFeuille(8) =\" in the list\"\n"
-                               "tailleFeuille(8)=\" compared\"\n"
-                               "[Erreur]\n1=Error\n[Message]\n20=No length\n";
+constexpr const char *kPageWords = "[FrmPrint]\n1=Page\n2=Landscape\n4=Own paper\n5=Long side\n"
+                                   "8=Template,\n9=Chord,\n10=Sheets\n22=No room\n"
+                                   "24=\" sheets, mind the overlap\"\n25=Template length\n"
+                                   "26=Chord length\n27=One sheet\n"
+                                   "tailleFeuille(8) =\" in the list\"\n"
+                                   "tailleFeuille(8)=\" compared\"\n"
+                                   "[Erreur]\n1=Error\n[Message]\n20=No length\n";
 
 class PageEntry : public testing::Test {
   protected:
-    Words words{kTable};
+    Words words{kPageWords};
     std::string Unite{kUniteMm};
     RibModel rib;
     MiseEnPage page;

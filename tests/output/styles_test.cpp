@@ -10,7 +10,7 @@
 namespace loftwing {
 namespace {
 
-struct Row {
+struct StyleRow {
     const char *colour_key;
     int colour;
     const char *style_key;
@@ -19,7 +19,7 @@ struct Row {
     const char *label;
 };
 
-constexpr Row kRows[] = {
+constexpr StyleRow kStyleRows[] = {
     {"coulprofil", 0, "lineprofil", 0, "profil", "5"},
     {"coulcoffrage", 9, "linecoffrage", 0, "eplinecoffrage", "6"},
     {"coulaxe", 12, "lineaxe", 3, "", "7"},
@@ -34,16 +34,16 @@ constexpr Row kRows[] = {
 };
 
 TEST(Styles, TableHoldsKeysDefaultsAndLabelsInTheOrderOfTheNumbers) {
-    ASSERT_EQ(DrawingElements().size(), std::size(kRows));
-    for (std::size_t i = 0; i < std::size(kRows); ++i) {
+    ASSERT_EQ(DrawingElements().size(), std::size(kStyleRows));
+    for (std::size_t i = 0; i < std::size(kStyleRows); ++i) {
         const DrawingElement &element = DrawingElements().at(i);
         EXPECT_EQ(static_cast<std::size_t>(element.element), i);
-        EXPECT_STREQ(element.colour_key, kRows[i].colour_key);
-        EXPECT_STREQ(element.style_key, kRows[i].style_key);
+        EXPECT_STREQ(element.colour_key, kStyleRows[i].colour_key);
+        EXPECT_STREQ(element.style_key, kStyleRows[i].style_key);
         EXPECT_EQ(element.width_key == nullptr ? "" : std::string(element.width_key),
-                  kRows[i].width_key);
+                  kStyleRows[i].width_key);
         EXPECT_STREQ(element.label.section, "FrmLines");
-        EXPECT_STREQ(element.label.key, kRows[i].label);
+        EXPECT_STREQ(element.label.key, kStyleRows[i].label);
     }
 }
 
@@ -51,9 +51,9 @@ TEST(Styles, NewProgramHasThinLinesAndOnlyAxesBroken) {
     AppSettings settings;
     settings.traits.fill({15, 4, 3});
     ValeursDefautTraits(settings);
-    for (std::size_t i = 0; i < std::size(kRows); ++i) {
-        EXPECT_EQ(settings.traits.at(i).couleur, kRows[i].colour) << i;
-        EXPECT_EQ(settings.traits.at(i).style, kRows[i].style) << i;
+    for (std::size_t i = 0; i < std::size(kStyleRows); ++i) {
+        EXPECT_EQ(settings.traits.at(i).couleur, kStyleRows[i].colour) << i;
+        EXPECT_EQ(settings.traits.at(i).style, kStyleRows[i].style) << i;
         EXPECT_EQ(settings.traits.at(i).epaisseur, 1) << i;
     }
 }

@@ -12,7 +12,7 @@
 namespace loftwing {
 namespace {
 
-constexpr const char *kTable =
+constexpr const char *kLineWords =
     "[FrmLines]\n17=all colours\n18=all styles\n19=Sheet\n23=sent\n[Erreur]\n1=Error\n2=of\n"
     "3=Trouble\n[FrmPrint]\n241=which pdf\n242=pdf file\n";
 
@@ -43,7 +43,7 @@ constexpr LineStyle kStyles[] = {LineStyle::solid, LineStyle::dash, LineStyle::d
 
 class TestPage : public testing::Test {
   protected:
-    Words words{kTable};
+    Words words{kLineWords};
     Recording page;
     std::size_t next = 0;
 
@@ -145,7 +145,7 @@ class TestPagePrinted : public testing::Test {
         TestPrinter &kept_;
     };
 
-    Words words{kTable};
+    Words words{kLineWords};
     TestPrinter printer;
 };
 

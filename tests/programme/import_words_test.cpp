@@ -7,7 +7,7 @@
 namespace loftwing {
 namespace {
 
-constexpr const char *kTable =
+constexpr const char *kImportWords =
     "[Import]\n1=R\n2=L\n3=C\n4=B\n5=T\n6=S\n7=D\n8=A\n10=K\n11=k.\n12=N.\n13=O\n14=X.\n15=o.\n16="
     "W\n"
     "17=w.\n18=E.\n20=No\n21=few\n22=one\n23=more\n24=noise\n25=cross\n26=chord\n27=line\n30=Off\n"
@@ -17,7 +17,7 @@ class ImportWords : public testing::Test {
   protected:
     std::string Story() const { return ImportStory(words.messages, airfoil); }
 
-    Words words{kTable};
+    Words words{kImportWords};
     ImportedAirfoil airfoil;
 };
 

@@ -27,7 +27,7 @@ std::string TextOf(const std::filesystem::path &path) {
 }
 
 /// The points of a file, read the simplest way: its title skipped, two numbers a line.
-std::vector<naca::Point> PointsOf(const std::string &text) {
+std::vector<naca::Point> PointsIn(const std::string &text) {
     std::istringstream lines(text);
     lines.imbue(std::locale::classic());
     std::string title;
@@ -61,11 +61,11 @@ TEST_P(BundledAirfoil, HasNothingButTitleAndPoints) {
     EXPECT_EQ(Text().find("\n\n"), std::string::npos);
     EXPECT_EQ(Text().find_first_of("\r\t"), std::string::npos);
     const auto lines = std::ranges::count(Text(), '\n');
-    EXPECT_EQ(static_cast<std::size_t>(lines), PointsOf(Text()).size() + 1);
+    EXPECT_EQ(static_cast<std::size_t>(lines), PointsIn(Text()).size() + 1);
 }
 
 TEST_P(BundledAirfoil, Has60To120PointsClosedAtTheTrailingEdge) {
-    const auto points = PointsOf(Text());
+    const auto points = PointsIn(Text());
     ASSERT_GE(points.size(), 60U);
     ASSERT_LE(points.size(), 120U);
     EXPECT_EQ(points.front().x, 1.0);
@@ -78,7 +78,7 @@ TEST_P(BundledAirfoil, Has60To120PointsClosedAtTheTrailingEdge) {
 }
 
 TEST_P(BundledAirfoil, HasItsLeadingEdgeInTheMiddleAndTheUpperSurfaceFirst) {
-    const auto points = PointsOf(Text());
+    const auto points = PointsIn(Text());
     const std::size_t middle = points.size() / 2;
     EXPECT_EQ(points.at(middle).x, 0.0);
     EXPECT_EQ(points.at(middle).y, 0.0);
@@ -87,7 +87,7 @@ TEST_P(BundledAirfoil, HasItsLeadingEdgeInTheMiddleAndTheUpperSurfaceFirst) {
 
 // The contour is followed along x; a step of 0 would be a failure there.
 TEST_P(BundledAirfoil, MovesOnAlongXFromEachPointToTheNext) {
-    const auto points = PointsOf(Text());
+    const auto points = PointsIn(Text());
     ASSERT_FALSE(points.empty());
     for (std::size_t i = 1; i < points.size(); ++i) {
         EXPECT_NE(points[i].x, points[i - 1].x) << "point " << i;
@@ -96,7 +96,7 @@ TEST_P(BundledAirfoil, MovesOnAlongXFromEachPointToTheNext) {
 
 // Around the nose it is followed along y, with six points at a time.
 TEST_P(BundledAirfoil, HasSixDifferentHeightsInARowAroundTheNose) {
-    const auto points = PointsOf(Text());
+    const auto points = PointsIn(Text());
     const std::size_t middle = points.size() / 2;
     ASSERT_GE(middle, 8U);
     for (std::size_t first = middle - 8; first + 5 <= middle + 8; ++first) {
@@ -151,7 +151,7 @@ const naca::Section &SectionNamed(std::string_view digits) {
 std::array<naca::Point, 2> AtAQuarter(std::string_view digits) {
     const naca::Section &section = SectionNamed(digits);
     EXPECT_EQ(section.intervals % 3, 0);
-    const auto points = PointsOf(TextOf(kFolder / naca::FileName(section)));
+    const auto points = PointsIn(TextOf(kFolder / naca::FileName(section)));
     const auto middle = static_cast<std::size_t>(section.intervals);
     return {points.at(middle - middle / 3), points.at(middle + middle / 3)};
 }

@@ -10,7 +10,7 @@
 namespace loftwing {
 namespace {
 
-const char *const kTitle = "Oblique";
+const char *const kObliqueTitle = "Oblique";
 
 class Oblique : public testing::Test {
   protected:
@@ -32,11 +32,11 @@ class Oblique : public testing::Test {
         TextesOblique typed;
         typed[option == kInterneDonnee ? kChampInterne : kChampExterne] = chord;
         typed[kChampAngle] = angle;
-        return CalculeOblique(oblique, typed, Typing(), kTitle);
+        return CalculeOblique(oblique, typed, Typing(), kObliqueTitle);
     }
     void Expect(const std::string &text) {
         words.platform.Expect(BoxAnswer::ok,
-                              {.text = text, .title = kTitle, .icon = BoxIcon::information});
+                              {.text = text, .title = kObliqueTitle, .icon = BoxIcon::information});
     }
     std::string Name() const { return NomOblique(oblique, profil.NomProfil, Typing()); }
     std::string File() const { return TexteOblique(oblique, profil, Typing()); }

@@ -9,7 +9,7 @@
 namespace loftwing {
 namespace {
 
-const char *const kTitle = "Inclined";
+const char *const kInclinedTitle = "Inclined";
 
 class Inclined : public testing::Test {
   protected:
@@ -24,11 +24,11 @@ class Inclined : public testing::Test {
     }
 
     std::optional<float> Angle(const std::string &typed) const {
-        return PrendAngleDiedre(typed, words.messages, kTitle);
+        return PrendAngleDiedre(typed, words.messages, kInclinedTitle);
     }
     void Expect(const std::string &text) {
-        words.platform.Expect(BoxAnswer::ok,
-                              {.text = text, .title = kTitle, .icon = BoxIcon::information});
+        words.platform.Expect(
+            BoxAnswer::ok, {.text = text, .title = kInclinedTitle, .icon = BoxIcon::information});
     }
 
     Words words{"[FrmInclinaisonNervure]\n6=No angle\n7=At most\n"};

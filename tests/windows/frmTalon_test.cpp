@@ -7,7 +7,7 @@ namespace loftwing {
 namespace {
 
 const char *const kTooLong = "The margins together are longer than the chord : 257 mm > 256 mm";
-const char *const kTooLarge = "Beyond the limit : Washout angle 20°";
+const char *const kWashoutTooLarge = "Beyond the limit : Washout angle 20°";
 
 using FrmTalonTest = AddonTest<frmTalon>;
 
@@ -151,7 +151,7 @@ TEST_F(FrmTalonTest, OnlyAnAngleAboveTwentyIsTakenBack) {
     Use([this](Seen &window) {
         window.Type("txt(3)", "2");
         EXPECT_EQ(programme.rib.vrillage, 2.0F);
-        platform.Expect(BoxAnswer::ok, {.text = kTooLarge});
+        platform.Expect(BoxAnswer::ok, {.text = kWashoutTooLarge});
         window.Keys("txt(3)", "5");
         EXPECT_EQ(window.Text("txt(3)"), "20");
         EXPECT_EQ(programme.rib.vrillage, -20.0F);
@@ -160,7 +160,7 @@ TEST_F(FrmTalonTest, OnlyAnAngleAboveTwentyIsTakenBack) {
         EXPECT_EQ(window.Text("txt(3)"), "-");
         EXPECT_EQ(programme.rib.vrillage, 0.0F);
         window.Keys("txt(3)", "2");
-        platform.Expect(BoxAnswer::ok, {.text = kTooLarge});
+        platform.Expect(BoxAnswer::ok, {.text = kWashoutTooLarge});
         window.Keys("txt(3)", "1");
         EXPECT_EQ(window.Text("txt(3)"), "20");
         EXPECT_EQ(programme.rib.vrillage, -20.0F);

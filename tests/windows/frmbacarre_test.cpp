@@ -6,7 +6,7 @@
 namespace loftwing {
 namespace {
 
-const char *const kTooLarge = "The largest size of the square is 50 mm";
+const char *const kSquareTooLarge = "The largest size of the square is 50 mm";
 const char *const kTooFar =
     "The axis lies behind the trailing edge. Its position from L.E is set to 0.";
 
@@ -99,7 +99,7 @@ TEST_F(FrmbacarreTest, ReturnIsOk) {
 TEST_F(FrmbacarreTest, ASquareOfSixtyIsCutToFiftyAndItsTextKept) {
     Use([this](Seen &window) {
         window.Type("infotxt(0)", "60");
-        platform.Expect(BoxAnswer::ok, {.text = kTooLarge});
+        platform.Expect(BoxAnswer::ok, {.text = kSquareTooLarge});
         window.Click("CmdApply");
         EXPECT_EQ(platform.boxes.front().title, window.Title());
         EXPECT_EQ(window.Text("infotxt(0)"), "50");

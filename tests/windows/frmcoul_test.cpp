@@ -141,17 +141,17 @@ TEST_F(FrmcoulTest, OkStoresAndWritesTheThreeSections) {
     EXPECT_EQ(Stored("InsText", "TailleFont"), "8");
 }
 
-struct Refused {
+struct RefusedEntry {
     const char *list;
     int index;
     const char *text;
     const char *box;
 };
 
-class FrmcoulRefuses : public FrmcoulTest, public testing::WithParamInterface<Refused> {};
+class FrmcoulRefuses : public FrmcoulTest, public testing::WithParamInterface<RefusedEntry> {};
 
 TEST_P(FrmcoulRefuses, AtOkAndAtCancelWithTheFocusOnTheFault) {
-    const Refused &refused = GetParam();
+    const RefusedEntry &refused = GetParam();
     for (const char *button : {"cmdok", "cmdannuler"}) {
         const Left left = Use([&](Seen &dialog) {
             dialog.Type({refused.list, refused.index}, refused.text);
@@ -174,11 +174,13 @@ constexpr const char *kColours = "A color is a number from 0 to 14.";
 constexpr const char *kStyles = "A line style is a number from 0 to 4.";
 constexpr const char *kWidths = "A line width is a number from 1 to 3.";
 
-INSTANTIATE_TEST_SUITE_P(
-    Ranges, FrmcoulRefuses,
-    testing::Values(Refused{"txtcoul", 0, "15", kColours}, Refused{"txtcoul", 10, "16", kColours},
-                    Refused{"txtline", 0, "5", kStyles}, Refused{"txtline", 10, "9", kStyles},
-                    Refused{"txtEpR", 0, "0", kWidths}, Refused{"txtEpR", 7, "4", kWidths}));
+INSTANTIATE_TEST_SUITE_P(Ranges, FrmcoulRefuses,
+                         testing::Values(RefusedEntry{"txtcoul", 0, "15", kColours},
+                                         RefusedEntry{"txtcoul", 10, "16", kColours},
+                                         RefusedEntry{"txtline", 0, "5", kStyles},
+                                         RefusedEntry{"txtline", 10, "9", kStyles},
+                                         RefusedEntry{"txtEpR", 0, "0", kWidths},
+                                         RefusedEntry{"txtEpR", 7, "4", kWidths}));
 
 TEST_F(FrmcoulTest, OnlyTheFirstFaultIsTold) {
     Use([this](Seen &dialog) {

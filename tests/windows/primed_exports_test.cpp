@@ -5,8 +5,8 @@
 namespace loftwing {
 namespace {
 
-constexpr int kInterchange = 0;
-constexpr int kPlain = 1;
+constexpr int kInterchangeForm = 0;
+constexpr int kPlainForm = 1;
 
 class PrimedExports : public RibFiles {
   protected:
@@ -33,24 +33,24 @@ class PrimedExports : public RibFiles {
 
 TEST_F(PrimedExports, SvgAndTheFormForCuttersDontDependOnEarlierPlots) {
     const std::string svg = Export("mnu_filesvg", "fresh.svg");
-    const std::string plain = Export("mnu_filedxf", "fresh.dxf", kPlain);
+    const std::string plain = Export("mnu_filedxf", "fresh.dxf", kPlainForm);
     ShowWithoutStock();
     EXPECT_EQ(Export("mnu_filesvg", "shown.svg"), svg);
-    EXPECT_EQ(Export("mnu_filedxf", "shown.dxf", kPlain), plain);
+    EXPECT_EQ(Export("mnu_filedxf", "shown.dxf", kPlainForm), plain);
 }
 
 TEST_F(PrimedExports, TheInterchangeFormShowsWhatTheScreenLeft) {
-    const std::string fresh = Export("mnu_filedxf", "fresh.dxf", kInterchange);
-    Export("mnu_filedxf", "plain.dxf", kPlain);
+    const std::string fresh = Export("mnu_filedxf", "fresh.dxf", kInterchangeForm);
+    Export("mnu_filedxf", "plain.dxf", kPlainForm);
     Export("mnu_filesvg", "rib.svg");
-    EXPECT_EQ(Export("mnu_filedxf", "again.dxf", kInterchange), fresh); // they leave it alone
+    EXPECT_EQ(Export("mnu_filedxf", "again.dxf", kInterchangeForm), fresh); // they leave it alone
     ShowWithoutStock();
-    EXPECT_NE(Export("mnu_filedxf", "shown.dxf", kInterchange), fresh);
+    EXPECT_NE(Export("mnu_filedxf", "shown.dxf", kInterchangeForm), fresh);
 }
 
 TEST_F(PrimedExports, AStockThatDoesntFitIsRefusedInEveryForm) {
     Rib().EpBF = 400;
-    for (const int form : {kInterchange, kPlain}) {
+    for (const int form : {kInterchangeForm, kPlainForm}) {
         world.platform.Expect(BoxAnswer::ok);
         world.platform.form_chosen = form;
         Choose("mnu_filedxf", world.folder.Path("rib.dxf"));

@@ -30,8 +30,8 @@ class Variable {
 };
 
 /// A user with a home of his own and a program that brings two airfoils along.
-struct User {
-    User() {
+struct StoreUser {
+    StoreUser() {
         fs::create_directories(folder.Path("program/airfoils/more"));
         folder.File("program/airfoils/clark é.dat", "Clark Y\n1 0\n");
         folder.File("program/airfoils/more/e374.dat", "E374\n1 0\n");
@@ -55,7 +55,7 @@ std::ptrdiff_t EntriesOf(const std::string &folder) {
 } // namespace
 
 TEST(UserStore, AnswersWithACopyOfTheLibraryInTheDocuments) {
-    const User user;
+    const StoreUser user;
     const std::string airfoils = user.store.Value("Install", "RepAirfoil");
     EXPECT_EQ(airfoils, user.folder.Path("home/Documents/Loftwing/airfoils"));
     EXPECT_EQ(user.folder.Bytes("home/Documents/Loftwing/airfoils/clark é.dat"), "Clark Y\n1 0\n");
@@ -64,7 +64,7 @@ TEST(UserStore, AnswersWithACopyOfTheLibraryInTheDocuments) {
 }
 
 TEST(UserStore, TheCopyIsTheUsersToChange) {
-    const User user;
+    const StoreUser user;
     const std::string airfoils = user.store.Value("Install", "RepAirfoil");
     const fs::perms file = fs::status(airfoils + "/clark é.dat").permissions();
     EXPECT_NE(file & fs::perms::owner_write, fs::perms::none);
@@ -73,14 +73,14 @@ TEST(UserStore, TheCopyIsTheUsersToChange) {
 }
 
 TEST(UserStore, RibSetsLieBesideTheLibrary) {
-    const User user;
+    const StoreUser user;
     const std::string sets = user.store.Value("Install", "RepEvol");
     EXPECT_EQ(sets, user.folder.Path("home/Documents/Loftwing/rib sets"));
     EXPECT_TRUE(fs::is_directory(sets));
 }
 
 TEST(UserStore, WhatIsThereStaysAsItIs) {
-    const User user;
+    const StoreUser user;
     fs::create_directories(user.folder.Path("home/Documents/Loftwing/airfoils"));
     user.folder.File("home/Documents/Loftwing/airfoils/clark é.dat", "mine");
     const std::string airfoils = user.store.Value("Install", "RepAirfoil");
@@ -90,7 +90,7 @@ TEST(UserStore, WhatIsThereStaysAsItIs) {
 }
 
 TEST(UserStore, IsEmptyWhereTheDocumentsCannotBeMade) {
-    const User user;
+    const StoreUser user;
     fs::create_directories(user.folder.Path("home"));
     user.folder.File("home/Documents", "a file, no folder");
     EXPECT_EQ(user.store.Value("Install", "RepAirfoil"), "");
@@ -99,7 +99,7 @@ TEST(UserStore, IsEmptyWhereTheDocumentsCannotBeMade) {
 }
 
 TEST(UserStore, IsEmptyWhereAFileHasTheLibrarysName) {
-    const User user;
+    const StoreUser user;
     fs::create_directories(user.folder.Path("home/Documents/Loftwing"));
     user.folder.File("home/Documents/Loftwing/airfoils", "mine");
     EXPECT_EQ(user.store.Value("Install", "RepAirfoil"), "");
@@ -107,14 +107,14 @@ TEST(UserStore, IsEmptyWhereAFileHasTheLibrarysName) {
 }
 
 TEST(UserStore, IsEmptyWithoutABundledLibrary) {
-    const User user;
+    const StoreUser user;
     const UserStore bare(user.folder.Path("nowhere"));
     EXPECT_EQ(bare.Value("Install", "RepAirfoil"), "");
     EXPECT_FALSE(fs::exists(user.Documents() + "/Loftwing"));
 }
 
 TEST(UserStore, AChosenFolderWins) {
-    User user;
+    StoreUser user;
     user.store.SetValue("Install", "RepAirfoil", "/srv/profils é");
     const UserStore later(user.folder.Path("program/airfoils"));
     EXPECT_EQ(later.Value("Install", "RepAirfoil"), "/srv/profils é");
@@ -123,7 +123,7 @@ TEST(UserStore, AChosenFolderWins) {
 }
 
 TEST(UserStore, KeepsLongValues) {
-    User user;
+    StoreUser user;
     const std::string path = "/" + std::string(1000, 'x') + "; \"quoted\" = \\ ";
     user.store.SetValue("Section", "Key", path);
     EXPECT_EQ(user.store.Value("Section", "Key"), path);
@@ -132,7 +132,7 @@ TEST(UserStore, KeepsLongValues) {
 }
 
 TEST(UserStore, AStoreThatCannotBeWrittenIsAFailure) {
-    User user;
+    StoreUser user;
     fs::create_directories(user.folder.Path("home"));
     user.folder.File("home/.config", "a file, no folder");
     EXPECT_EQ(FailureOf([&] { user.store.SetValue("Install", "RepAirfoil", "x"); }),
