@@ -6,6 +6,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace loftwing {
 
@@ -22,6 +23,31 @@ struct Trait {
     bool operator==(const Trait &) const = default;
 };
 
+/// A paper of the user's own beside those of the table: a roll, a plotter's sheet. In mm.
+struct PapierPropre {
+    std::string nom;
+    double longueur = 0; ///< along the rib
+    double largeur = 0;
+
+    bool operator==(const PapierPropre &) const = default;
+};
+
+/// Sheets under each other, for a drawing that is taller than one. Lengths in mm.
+struct Rangees {
+    int nombre = 1;
+    double pas = 0;          ///< height of drawing from one sheet to the one below
+    double recouvrement = 0; ///< of two sheets above each other
+    double Yd = 0;           ///< reference line from the top of the uppermost sheet
+};
+
+/// A page of the drawing's own size. Lengths in mm.
+struct PageEntiere {
+    double longueur = 0;
+    double largeur = 0;
+    double avant = 0; ///< from the left edge to the leading edge
+    double Yd = 0;    ///< reference line from the top
+};
+
 /// The page on which a rib is printed, always in landscape. Lengths in mm and as typed.
 struct MiseEnPage {
     float MargeHaut = 10; ///< before the leading edge, along the long side
@@ -32,11 +58,27 @@ struct MiseEnPage {
     std::string recouvrementAfich = "20";
     float Ydprint = 50; ///< reference line from the top of the sheet
     std::string YdprintAfich = "50";
-    std::uint8_t NumIndex = 0; ///< entry of the paper table
+    std::uint8_t NumIndex = 0; ///< entry of the paper table, or behind it
+
+    bool temoin = false;               ///< a check line and a note on every sheet
+    bool en_rangees = false;           ///< sheets downwards too, where the drawing wants them
+    std::vector<PapierPropre> papiers; ///< of the user's own
 
     // Derived, not stored: 0 until a page has been set up.
     float PasPage = 0;        ///< length of rib from one sheet to the next
     std::uint8_t NbPages = 0; ///< number of sheets
+    /// The last overlap above 0: that of rows, since a rib that fits lengthwise sets it to 0.
+    float recouvrementRangees = 20;
+    Rangees rangees;
+    PageEntiere entiere;
+};
+
+/// What a printer's sheets are stretched by to come out at true scale, along the rib and across it.
+struct CorrectionImprimante {
+    double x = 1;
+    double y = 1;
+
+    bool operator==(const CorrectionImprimante &) const = default;
 };
 
 /// The folders that the program remembers.
@@ -56,6 +98,7 @@ struct AppSettings {
     std::string Unite{kUniteMm}; ///< " mm" or " in"
     std::array<Trait, kElements> traits;
     MiseEnPage page;
+    CorrectionImprimante correction;
     Repertoires repertoires;
     FichierReglages fichier;
 

@@ -1,11 +1,10 @@
 #include "output/hors_feuille.h"
 
 #include "base/number_text.h"
-#include "output/recording.h"
+#include "output/etendue.h"
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace loftwing {
 
@@ -17,59 +16,6 @@ constexpr double kTolerance = 0.1; // mm
 /// So that 63.0000001 isn't rounded up to 64.
 constexpr double kBruit = 1E-6;
 
-/// The extent of what is drawn, in mm on the first sheet.
-struct Etendue {
-    double gauche = std::numeric_limits<double>::infinity();
-    double haut = std::numeric_limits<double>::infinity();
-    double droite = -std::numeric_limits<double>::infinity();
-    double bas = -std::numeric_limits<double>::infinity();
-
-    bool Vide() const { return gauche > droite; }
-    void Prend(double x, double y) {
-        gauche = std::min(gauche, x / kUnitsPerMm);
-        droite = std::max(droite, x / kUnitsPerMm);
-        haut = std::min(haut, y / kUnitsPerMm);
-        bas = std::max(bas, y / kUnitsPerMm);
-    }
-    void Prend(const Etendue &other) {
-        gauche = std::min(gauche, other.gauche);
-        droite = std::max(droite, other.droite);
-        haut = std::min(haut, other.haut);
-        bas = std::max(bas, other.bas);
-    }
-};
-
-/// A surface that only measures, the inserted text apart.
-class Metre : public PlotDevice {
-  public:
-    explicit Metre(const std::string &insere) : insere_(insere) {}
-
-    Etendue dessin;
-    Etendue texte;
-
-  protected:
-    void Segment(double x1, double y1, double x2, double y2, const Pen & /*pen*/) override {
-        dessin.Prend(x1, y1);
-        dessin.Prend(x2, y2);
-    }
-    void CircleOutline(double x, double y, double radius, const Pen & /*pen*/) override {
-        dessin.Prend(x - radius, y - radius);
-        dessin.Prend(x + radius, y + radius);
-    }
-    double Text(double x, double y, const std::string &text, const TextFont &font,
-                Colour /*colour*/) override {
-        constexpr double kLigne = 1.2; // height of a line, in sizes of its font
-        const double advance = MeasuredAdvance(text, font);
-        Etendue &extent = text == insere_ ? texte : dessin;
-        extent.Prend(x, y);
-        extent.Prend(x + advance, y + kLigne * font.size * kUnitsPerPoint);
-        return advance;
-    }
-
-  private:
-    const std::string &insere_;
-};
-
 /// The surface of all sheets together, in mm on the first one; 0 where it isn't known.
 struct Surface {
     double longueur = 0;
@@ -80,8 +26,9 @@ Surface SurfaceDe(const MiseEnPage &page, const Papier &propre) {
     if (page.NumIndex == kPapierImprimante) {
         return {propre.tailleFeuille, propre.largeur};
     }
-    const Papier &paper = PapierDe(page);
-    return {paper.tailleFeuille + (page.NbPages - 1) * Wide(page.PasPage), paper.largeur};
+    const Papier paper = PapierDe(page);
+    return {paper.tailleFeuille + (page.NbPages - 1) * Wide(page.PasPage),
+            paper.largeur + (page.rangees.nombre - 1) * page.rangees.pas};
 }
 
 double AuDela(double mm) {
@@ -99,18 +46,17 @@ Debords DebordsDe(const Etendue &extent, const Surface &surface) {
 
 HorsFeuille Compare(const Metre &metre, const Impression &run, const Surface &surface) {
     const MiseEnPage &page = run.settings.page;
-    Etendue all = metre.dessin;
-    all.Prend(metre.texte);
+    const Etendue all = metre.Tout();
     HorsFeuille found;
     found.tout = DebordsDe(all, surface);
     found.sans_texte = DebordsDe(metre.dessin, surface);
     found.hauteur = all.bas - all.haut;
-    found.Yd_mini = Wide(page.Ydprint) - all.haut;
+    found.Yd_mini = LigneReference(page) - all.haut;
     found.avant = Wide(page.MargeHaut) - all.gauche;
     // The sheets are counted by the rib's length: what the drawing has behind it must be a margin.
     found.apres = all.droite - Wide(page.MargeHaut) - Wide(LongueurDe(run.rib).EnJeu());
     if (surface.hauteur > 0) {
-        found.Yd_maxi = Wide(page.Ydprint) + surface.hauteur - all.bas;
+        found.Yd_maxi = LigneReference(page) + surface.hauteur - all.bas;
         found.trop_haut = *found.Yd_maxi < found.Yd_mini;
     }
     return found;
@@ -187,7 +133,7 @@ bool ParLeTexteSeul(const HorsFeuille &hors) {
 
 std::optional<HorsFeuille> MesureHorsFeuille(const Impression &run, const Papier &propre) {
     Metre metre(run.rib.texte.InsTexte);
-    PlaceFeuille(run, 0);
+    PlaceFeuille(run, {});
     if (!run.plot_routine(metre)) {
         return std::nullopt;
     }

@@ -1,5 +1,8 @@
 #include "output/page_setup.h"
 
+#include "base/number_text.h"
+
+#include <algorithm>
 #include <cmath>
 
 namespace loftwing {
@@ -22,11 +25,19 @@ Feuilles Recoupe(MiseEnPage &page, float step, float length) {
 }
 
 Feuilles UneFeuille(MiseEnPage &page, Feuilles result) {
-    page.recouvrement = 0;
+    SansRecouvrement(page);
     page.recouvrementAfich = "0";
     page.NbPages = 1;
     return result;
 }
+
+/// The trade's number for a paper whose measures are given.
+constexpr int kCodePropre = 256;
+
+/// So that a length which is meant to be whole isn't rounded up to the next one.
+constexpr double kBruit = 1E-6;
+/// A line on the very edge is not lost.
+constexpr double kAuBord = 0.1; // mm
 
 } // namespace
 
@@ -45,13 +56,38 @@ const std::array<Papier, kPapiers> &Papiers() {
     return papers;
 }
 
-std::string NomFeuille(int index, const LngIni &language) {
-    return index == kPapierImprimante ? language.LngText({"FrmPrint", "tailleFeuille(8) "})
-                                      : At(Papiers(), index).nom;
+int NombrePapiers(const MiseEnPage &page) {
+    return kPapierPropre + static_cast<int>(page.papiers.size());
 }
 
-const Papier &PapierDe(const MiseEnPage &page) {
-    return At(Papiers(), page.NumIndex);
+std::string NomFeuille(const MiseEnPage &page, int index, const LngIni &language) {
+    if (index == kPapierImprimante) {
+        return language.LngText({"FrmPrint", "tailleFeuille(8) "});
+    }
+    if (index == kPapierEntier) {
+        return " " + language.LngText({"FrmPrint", "250"});
+    }
+    if (index < kPapiers) {
+        return At(Papiers(), index).nom;
+    }
+    const PapierPropre &own = At(page.papiers, index - kPapierPropre);
+    return " " + own.nom + " " + NumberText(own.longueur) + " x " + NumberText(own.largeur) + " mm";
+}
+
+Papier PapierDe(const MiseEnPage &page) {
+    const int index = page.NumIndex;
+    if (index < kPapiers) {
+        return At(Papiers(), index);
+    }
+    if (index == kPapierEntier) {
+        return {"", "", kCodePropre, page.entiere.longueur, page.entiere.largeur};
+    }
+    const PapierPropre &own = At(page.papiers, index - kPapierPropre);
+    return {own.nom, own.nom, kCodePropre, own.longueur, own.largeur};
+}
+
+bool PrendRangees(const MiseEnPage &page) {
+    return page.NumIndex != kPapierImprimante && page.NumIndex != kPapierEntier;
 }
 
 void ValeursDefautPage(MiseEnPage &page) {
@@ -84,7 +120,8 @@ LongueurRib ReprendLongueur(RibModel &rib) {
 }
 
 bool TientSurUneFeuille(const MiseEnPage &page, const LongueurRib &longueur) {
-    return Wide(longueur.EnJeu()) + Wide(page.MargeHaut) + Wide(page.MargeBas) <=
+    return page.NumIndex == kPapierEntier ||
+           Wide(longueur.EnJeu()) + Wide(page.MargeHaut) + Wide(page.MargeBas) <=
            PapierDe(page).tailleFeuille;
 }
 
@@ -105,6 +142,61 @@ Feuilles CalculPasPage(MiseEnPage &page, const LongueurRib &longueur) {
         step = ToSingle(Wide(step) + 0.5);
     }
     return Recoupe(page, step, longueur.EnJeu());
+}
+
+void SansRecouvrement(MiseEnPage &page) {
+    if (page.recouvrement > 0.0F) {
+        page.recouvrementRangees = page.recouvrement;
+    }
+    page.recouvrement = 0;
+}
+
+bool CalculRangees(MiseEnPage &page, const Portee &portee) {
+    page.rangees = {};
+    if (!page.en_rangees || !PrendRangees(page)) {
+        return true;
+    }
+    const double height = PapierDe(page).largeur;
+    const double line = Wide(page.Ydprint);
+    if (portee.dessus <= line + kAuBord && line + portee.dessous <= height + kAuBord) {
+        return true;
+    }
+    Rangees rows;
+    rows.recouvrement =
+        Wide(page.recouvrement > 0.0F ? page.recouvrement : page.recouvrementRangees);
+    rows.pas = height - Wide(page.MargeHaut) - Wide(page.MargeBas) - rows.recouvrement;
+    rows.Yd = std::max(line, std::ceil(portee.dessus + Wide(page.MargeHaut) - kBruit));
+    const double beyond = rows.Yd + portee.dessous - (height - Wide(page.MargeBas));
+    if (beyond > 0) {
+        if (rows.pas <= 0) {
+            return false;
+        }
+        rows.nombre = ToByte(1 + std::ceil(beyond / rows.pas - kBruit));
+    }
+    page.rangees = rows;
+    ToByte(NombreFeuilles(page));
+    return true;
+}
+
+bool CalculPageEntiere(MiseEnPage &page, const Portee &portee, double dessous) {
+    PageEntiere &whole = page.entiere;
+    const double rim = Wide(page.MargeHaut);
+    whole.avant = std::max(rim, portee.avant + rim);
+    whole.Yd = portee.dessus + rim;
+    whole.longueur = std::ceil(whole.avant + portee.apres + Wide(page.MargeBas) - kBruit);
+    whole.largeur = std::ceil(whole.Yd + portee.dessous + dessous + rim - kBruit);
+    return std::max(whole.longueur, whole.largeur) <= kPapierMaxi;
+}
+
+double LigneReference(const MiseEnPage &page) {
+    if (page.NumIndex == kPapierEntier) {
+        return page.entiere.Yd;
+    }
+    return page.rangees.Yd > 0 ? page.rangees.Yd : Wide(page.Ydprint);
+}
+
+int NombreFeuilles(const MiseEnPage &page) {
+    return page.NbPages * page.rangees.nombre;
 }
 
 } // namespace loftwing

@@ -12,8 +12,8 @@ namespace loftwing {
 
 /// A paper of the table. Ribs run along the long side, since all printing is landscape.
 struct Papier {
-    const char *nom;       ///< as the list shows it
-    const char *nom_court; ///< as scripts name it
+    std::string nom;       ///< as the list shows it
+    std::string nom_court; ///< as scripts name it
     int code;              ///< the trade's paper-size number
     double tailleFeuille;  ///< long side, mm
     double largeur;        ///< short side, mm
@@ -22,14 +22,26 @@ struct Papier {
 inline constexpr int kPapiers = 9;
 /// The entry for whatever paper is set in the printer: its size isn't known, so nothing is tiled.
 inline constexpr int kPapierImprimante = 8;
+/// Behind the table: a page as large as the drawing, then the user's own papers.
+inline constexpr int kPapierEntier = 9;
+inline constexpr int kPapierPropre = 10;
+inline constexpr int kPapiersPropres = 20; ///< most of them
+/// Short and long side of a paper of one's own, mm. The most is what programs show of a PDF.
+inline constexpr double kPapierMini = 50;
+inline constexpr double kPapierMaxi = 5080;
 
 /// The paper table. The last entry has no name of its own: NomFeuille gives it.
 const std::array<Papier, kPapiers> &Papiers();
+/// How many papers there are to choose from, the user's own among them.
+int NombrePapiers(const MiseEnPage &page);
 
-/// Name of paper `index` in the list. Failure 9 outside 0 to 8.
-std::string NomFeuille(int index, const LngIni &language);
-/// The paper of the settings. Failure 9 for an index outside the table.
-const Papier &PapierDe(const MiseEnPage &page);
+/// Name of paper `index` in the list. Failure 9 outside 0 to NombrePapiers - 1.
+std::string NomFeuille(const MiseEnPage &page, int index, const LngIni &language);
+/// The paper of the settings. That of the drawing's own size is as PageEntiere says. Failure 9 for
+/// an index that no paper has.
+Papier PapierDe(const MiseEnPage &page);
+/// Whether sheets may stand under each other on the paper of the settings.
+bool PrendRangees(const MiseEnPage &page);
 
 /// Page values of a new program, in mm.
 void ValeursDefautPage(MiseEnPage &page);
@@ -65,6 +77,34 @@ Feuilles CalculPages(MiseEnPage &page, const LongueurRib &longueur);
 /// The sheets of a rib that doesn't fit on one: PasPage is half a millimetre longer when it equals
 /// the rib's length, which would take a second sheet for nothing. Otherwise as CalculPages.
 Feuilles CalculPasPage(MiseEnPage &page, const LongueurRib &longueur);
+
+/// How far a drawing reaches from the leading edge end of the reference line, mm; all but what lies
+/// on the other side of it is positive.
+struct Portee {
+    double avant = 0;
+    double apres = 0;
+    double dessus = 0;
+    double dessous = 0;
+};
+
+/// Decides how many sheets stand under each other. Where the drawing is on the sheet as the page
+/// has it, that is one row, and nothing moves; otherwise the reference line is lowered as far as
+/// the drawing and the margin above it want. False when margins and overlap leave no room. Failure
+/// 6 for more than 255 sheets in all.
+bool CalculRangees(MiseEnPage &page, const Portee &portee);
+
+/// Makes a page of the drawing's own size, whole millimetres with the page's margins around it and
+/// `dessous` mm more room below. False when that is larger than kPapierMaxi either way.
+bool CalculPageEntiere(MiseEnPage &page, const Portee &portee, double dessous);
+
+/// The reference line from the top of the uppermost sheets, mm.
+double LigneReference(const MiseEnPage &page);
+
+/// How many sheets there are in all.
+int NombreFeuilles(const MiseEnPage &page);
+
+/// Sets the overlap to 0, which one sheet has; that of rows is kept.
+void SansRecouvrement(MiseEnPage &page);
 
 /// Whether the rib and both margins fit on one sheet.
 bool TientSurUneFeuille(const MiseEnPage &page, const LongueurRib &longueur);

@@ -1,11 +1,14 @@
 #include "output/print_run.h"
 
 #include "base/number_text.h"
+#include "output/etendue.h"
 #include "output/page_entry.h"
 #include "output/print_file.h"
 #include "output/styles.h"
 #include "output/view_plots.h"
 #include "platform/busy_pointer.h"
+
+#include <algorithm>
 
 namespace loftwing {
 
@@ -19,8 +22,14 @@ void MetEchelle(const Impression &run) {
     run.rib.Zoom = 1;
 }
 
+/// Papers of the table, and that of the printer, are all turned; one's own may be a short piece of
+/// a wide roll.
+Orientation SensDe(const Papier &paper) {
+    return paper.tailleFeuille < paper.largeur ? Orientation::portrait : Orientation::landscape;
+}
+
 void PrepareImprimante(const Impression &run, Printer &printer, const Papier &paper) {
-    printer.SetOrientation(Orientation::landscape);
+    printer.SetOrientation(SensDe(paper));
     printer.SetPaperSize(paper.largeur, paper.tailleFeuille);
     printer.Font.size = kTailleTexte;
     printer.CurrentX = 0;
@@ -30,16 +39,22 @@ void PrepareImprimante(const Impression &run, Printer &printer, const Papier &pa
 
 void PlaceOrigine(const Impression &run) {
     run.plot.OrigineX = ToSingle(Wide(run.settings.page.MargeHaut) * kUnitsPerMm);
-    run.plot.OrigineY = ToSingle(Wide(run.settings.page.Ydprint) * kUnitsPerMm);
+    run.plot.OrigineY = ToSingle(LigneReference(run.settings.page) * kUnitsPerMm);
 }
 
-/// Shifts the drawing for sheet `i`. The margin is taken off in device units although it is in mm:
+/// Shifts the drawing for a sheet. The margin is taken off in device units although it is in mm:
 /// all sheets ever printed lie that much to the left, and so match each other.
-void DecaleOrigine(const Impression &run, int i) {
+void DecaleOrigine(const Impression &run, const Feuille &feuille) {
     const MiseEnPage &page = run.settings.page;
+    if (page.NumIndex == kPapierEntier) {
+        run.plot.OrigineX = ToSingle(page.entiere.avant * kUnitsPerMm);
+        return;
+    }
     const double margin = Wide(page.MargeHaut);
-    run.plot.OrigineX =
-        ToSingle(margin * kUnitsPerMm - (i * Wide(page.PasPage) * kUnitsPerMm + margin));
+    run.plot.OrigineX = ToSingle(margin * kUnitsPerMm -
+                                 (feuille.colonne * Wide(page.PasPage) * kUnitsPerMm + margin));
+    run.plot.OrigineY =
+        ToSingle((LigneReference(page) - feuille.rangee * page.rangees.pas) * kUnitsPerMm);
 }
 
 /// Runs `job`; whatever goes wrong drops what was to be printed.
@@ -59,6 +74,12 @@ FinImpression Conduit(const Impression &run, Printer &printer, Job job) {
         run.messages.ReportPlot(failure, "");
         return FinImpression::echec;
     }
+}
+
+/// Sheet `i` of the run, from 0, row by row.
+Feuille FeuilleNumero(const Impression &run, int i) {
+    const int columns = run.settings.page.NbPages;
+    return {i % columns, i / columns};
 }
 
 /// One cross around (x, y), all in device units.
@@ -89,7 +110,7 @@ bool DecideFeuilles(const Impression &run, const std::function<bool()> &set_up_p
         return true;
     }
     if (TientSurUneFeuille(page, LongueurDe(run.rib))) {
-        page.recouvrement = 0;
+        SansRecouvrement(page);
         page.NbPages = 1;
         return true;
     }
@@ -121,20 +142,85 @@ bool PrepareFeuilles(const Impression &run, const std::function<bool()> &set_up_
     }
 }
 
-void PlaceFeuille(const Impression &run, int i) {
+void PlaceFeuille(const Impression &run, const Feuille &feuille) {
     MetEchelle(run);
     PlaceOrigine(run);
     if (run.settings.page.NumIndex != kPapierImprimante) {
-        DecaleOrigine(run, i);
+        DecaleOrigine(run, feuille);
+    }
+}
+
+namespace {
+
+/// How far the drawing reaches. Nothing when its plot failed, which that has reported. The plot
+/// state is afterwards what it was: a drawing may depend on what was drawn before.
+std::optional<Portee> MesurePortee(const Impression &run) {
+    const PlotState kept = run.plot;
+    Metre metre;
+    PlaceFeuille(run, {});
+    const double x = Wide(run.plot.OrigineX) / kUnitsPerMm;
+    const double y = Wide(run.plot.OrigineY) / kUnitsPerMm;
+    const bool drawn = run.plot_routine(metre);
+    run.plot = kept;
+    if (!drawn) {
+        return std::nullopt;
+    }
+    const Etendue all = metre.Tout();
+    if (all.Vide()) {
+        return Portee{};
+    }
+    return Portee{x - all.gauche, all.droite - x, y - all.haut, all.bas - y};
+}
+
+bool DecideRangees(const Impression &run, const Portee &portee) {
+    if (!CalculRangees(run.settings.page, portee)) {
+        RefuseSansPas(run.messages);
+        return false;
+    }
+    return true;
+}
+
+bool DecidePageEntiere(const Impression &run, const Portee &portee) {
+    MiseEnPage &page = run.settings.page;
+    Portee wanted = portee;
+    // The margin behind the rib counts from its end, also where nothing is drawn so far.
+    wanted.apres = std::max(wanted.apres, Wide(LongueurDe(run.rib).EnJeu()));
+    if (!CalculPageEntiere(page, wanted, 0)) {
+        RefusePageTropGrande(page.entiere, run.messages);
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+std::optional<FinImpression> PrepareDessin(const Impression &run) {
+    MiseEnPage &page = run.settings.page;
+    page.rangees = {};
+    const bool whole = page.NumIndex == kPapierEntier;
+    if (!whole && !(page.en_rangees && PrendRangees(page))) {
+        return std::nullopt;
+    }
+    try {
+        const std::optional<Portee> portee = MesurePortee(run);
+        if (!portee) {
+            return FinImpression::trace_echec;
+        }
+        const bool decided = whole ? DecidePageEntiere(run, *portee) : DecideRangees(run, *portee);
+        return decided ? std::nullopt : std::optional(FinImpression::annule);
+    } catch (const Failure &failure) {
+        run.messages.ReportPlot(failure, "");
+        return FinImpression::annule;
     }
 }
 
 PrintQuestion DemandeImprimante(const Impression &run) {
-    const Papier &paper = PapierDe(run.settings.page);
+    const Papier paper = PapierDe(run.settings.page);
     PrintQuestion question;
+    question.landscape = SensDe(paper) == Orientation::landscape;
     question.document = run.nom;
-    question.long_side_mm = paper.tailleFeuille;
-    question.short_side_mm = paper.largeur;
+    question.long_side_mm = std::max(paper.tailleFeuille, paper.largeur);
+    question.short_side_mm = std::min(paper.tailleFeuille, paper.largeur);
     question.proposed_pdf = run.nom + ".pdf";
     question.pdf_title = TitreFichierImprime(run.messages);
     return question;
@@ -147,7 +233,7 @@ std::string ResumeFeuilles(const Impression &run) {
         counted.NbPages = 1;
     }
     return TextePages(counted, run.messages.language) + "\n" +
-           std::string(Trim(NomFeuille(page.NumIndex, run.messages.language)));
+           std::string(Trim(NomFeuille(page, page.NumIndex, run.messages.language)));
 }
 
 FinImpression imprime1page(const Impression &run, Printer &printer) {
@@ -162,9 +248,9 @@ FinImpression imprimeXpage(const Impression &run, Printer &printer) {
     return Conduit(run, printer, [&] {
         PlaceOrigine(run);
         PrepareImprimante(run, printer, PapierDe(run.settings.page));
-        const int sheets = run.settings.page.NbPages;
+        const int sheets = NombreFeuilles(run.settings.page);
         for (int i = 0; i < sheets; ++i) {
-            DecaleOrigine(run, i);
+            DecaleOrigine(run, FeuilleNumero(run, i));
             if (!run.plot_routine(printer)) {
                 return false;
             }
@@ -182,22 +268,52 @@ FinImpression Imprime(const Impression &run, Printer &printer) {
                                                            : imprimeXpage(run, printer);
 }
 
-void tracerepere(const Impression &run, PlotDevice &device) {
+namespace {
+
+/// Where the crosses of a sheet stand: at both x on both y, in device units.
+struct Croisees {
+    double gauche, droite, haut, bas;
+};
+
+/// Beside the rib, which is between the upper and the lower ones.
+Croisees CroiseesDeBande(const Impression &run) {
     const MiseEnPage &page = run.settings.page;
-    if (page.NbPages == 1) {
-        return;
-    }
     const double left = Wide(page.recouvrement) / 2.0 * kUnitsPerMm;
-    const double right = left + Wide(page.PasPage) * kUnitsPerMm;
     const double t = Wide(run.rib.corde) * run.rib.ExtradosMaxi * kUnitsPerMm;
     const double origin = Wide(run.plot.OrigineY);
-    const double below = origin + t + kBras * kUnitsPerMm;
+    return {left, left + Wide(page.PasPage) * kUnitsPerMm, origin - t,
+            origin + t + kBras * kUnitsPerMm};
+}
+
+/// In the middle of the overlaps, at a place that the sheets beside and below have too.
+Croisees CroiseesDeRangee(const MiseEnPage &page) {
+    const Rangees &rows = page.rangees;
+    double left = Wide(page.MargeHaut) + kBras;
+    double right = PapierDe(page).tailleFeuille - Wide(page.MargeBas) - kBras;
+    if (page.NbPages > 1) {
+        left = Wide(page.recouvrement) / 2.0;
+        right = left + Wide(page.PasPage);
+    }
+    const double top = rows.recouvrement / 2.0;
+    return {left * kUnitsPerMm, right * kUnitsPerMm, top * kUnitsPerMm,
+            (top + rows.pas) * kUnitsPerMm};
+}
+
+} // namespace
+
+void tracerepere(const Impression &run, PlotDevice &device) {
+    const MiseEnPage &page = run.settings.page;
+    if (NombreFeuilles(page) == 1) {
+        return;
+    }
+    const Croisees at =
+        page.rangees.nombre > 1 ? CroiseesDeRangee(page) : CroiseesDeBande(run);
     const Colour colour = CouleurDe(run.settings, Element::axe);
     PrendStyleSeul(device, run.settings, Element::axe);
-    Croix(device, right, origin - t, colour);
-    Croix(device, right, below, colour);
-    Croix(device, left, origin - t, colour);
-    Croix(device, left, below, colour);
+    Croix(device, at.droite, at.haut, colour);
+    Croix(device, at.droite, at.bas, colour);
+    Croix(device, at.gauche, at.haut, colour);
+    Croix(device, at.gauche, at.bas, colour);
     RendStyle(device);
 }
 

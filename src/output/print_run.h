@@ -7,6 +7,7 @@
 #include "output/trace.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace loftwing {
@@ -42,8 +43,19 @@ std::string QuestionImpression(const RibModel &rib, const Comparaison &compare,
 /// table hasn't, are reported before.
 bool PrepareFeuilles(const Impression &run, const std::function<bool()> &set_up_page);
 
-/// Sets scale and origin as sheet `i` of the run, from 0, has them.
-void PlaceFeuille(const Impression &run, int i);
+/// One sheet of a run, both counted from 0: along the rib, and downwards.
+struct Feuille {
+    int colonne = 0;
+    int rangee = 0;
+};
+
+/// What the size of the drawing decides, after PrepareFeuilles: how many rows of sheets there are,
+/// or how large the page for the whole of it is. How the run ends here; nothing where it goes on.
+/// A page that is too large and rows without room are reported before.
+std::optional<FinImpression> PrepareDessin(const Impression &run);
+
+/// Sets scale and origin as a sheet of the run has them.
+void PlaceFeuille(const Impression &run, const Feuille &feuille);
 
 /// What the platform is asked for the run's paper.
 PrintQuestion DemandeImprimante(const Impression &run);
@@ -53,12 +65,13 @@ std::string ResumeFeuilles(const Impression &run);
 
 /// One sheet on the printer's own paper; what lies beyond it is lost.
 FinImpression imprime1page(const Impression &run, Printer &printer);
-/// NbPages sheets of the chosen paper, with alignment crosses where there are several.
+/// The sheets of the chosen paper, row by row, with alignment crosses where there are several.
 FinImpression imprimeXpage(const Impression &run, Printer &printer);
 /// The one or the other, by the paper chosen.
 FinImpression Imprime(const Impression &run, Printer &printer);
 
-/// The crosses that let the user lay one sheet on the next. Nothing for a single sheet.
+/// The crosses that let the user lay one sheet on the next, and where there are rows the one below
+/// on the one above. Nothing for a single sheet.
 void tracerepere(const Impression &run, PlotDevice &device);
 
 } // namespace loftwing
