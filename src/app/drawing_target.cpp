@@ -163,9 +163,10 @@ bool Deliver(const DrawingTarget &target, const std::string &file, const std::st
 std::optional<std::string> Dessine(Programme &programme, const DrawingTarget &target) {
     // Nothing was shown before: the form that goes on from the last plot starts primed as well.
     programme.plot = EtatAmorce(programme.rib);
-    const ReglagePage page{[&programme] { return HasOverlap(programme); },
-                           {"--reference-line-at", "--margin-before", "--margin-after", "--paper"},
-                           false};
+    const ReglagePage page{
+        [&programme] { return HasOverlap(programme); },
+        {"--reference-line-at", "--margin-before", "--margin-after", "--paper", "--rows"},
+        false};
     Exported exported = target.form->Export(programme, page);
     if (exported.rupture) {
         throw *exported.rupture;

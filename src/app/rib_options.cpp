@@ -1,11 +1,13 @@
 #include "app/rib_options.h"
 
 #include "app/typed_value.h"
+#include "base/number_text.h"
 #include "features/rib_entry.h"
 #include "features/talon.h"
 #include "output/page_setup.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace loftwing {
 
@@ -30,15 +32,56 @@ void SetPageLength(const Arguments &arguments, Programme &programme, const char 
     }
 }
 
-std::uint8_t PaperNamed(const std::string &name) {
+constexpr const char *kPaperOfDrawing = "drawing";
+
+/// "610x2000": length along the rib and width, in the unit in force. Nothing for other words.
+std::optional<PapierPropre> PaperOfSize(const std::string &words, const Programme &programme) {
+    const std::size_t times = words.find('x');
+    if (times == std::string::npos) {
+        return std::nullopt;
+    }
+    const std::string sides[] = {words.substr(0, times), words.substr(times + 1)};
+    for (const std::string &side : sides) {
+        if (side.empty() || side.find_first_not_of(LengthKeys(programme)) != std::string::npos ||
+            EstRefusee(side, programme.settings.Unite)) {
+            return std::nullopt;
+        }
+    }
+    const Saisie saisie = programme.SaisieEnCours();
+    return PapierPropre{{}, NombreMm(sides[0], saisie), NombreMm(sides[1], saisie)};
+}
+
+/// Takes a paper by the name that it has in the table or in the settings file, or by its measures.
+void TakePaper(const std::string &name, Programme &programme) {
+    MiseEnPage &page = programme.settings.page;
     std::string names;
     for (std::size_t i = 0; i < kPapierImprimante; ++i) {
         if (name == Papiers()[i].nom_court) {
-            return static_cast<std::uint8_t>(i);
+            page.NumIndex = ToByte(static_cast<double>(i));
+            return;
         }
-        names += std::string(i == 0 ? "" : ", ") + Papiers()[i].nom_court;
+        names += Papiers()[i].nom_court + ", ";
     }
-    throw UsageError("no paper " + name + "; there are " + names);
+    if (name == kPaperOfDrawing) {
+        page.NumIndex = kPapierEntier;
+        return;
+    }
+    if (const auto measured = PaperOfSize(name, programme)) {
+        if (!PapierAdmis(*measured)) {
+            throw UsageError("--paper takes sides of " + NumberText(kPapierMini) + " to " +
+                             NumberText(kPapierMaxi) + " mm");
+        }
+        page.papiers.push_back(*measured);
+        page.NumIndex = ToByte(NombrePapiers(page) - 1);
+        return;
+    }
+    const auto own = std::find_if(page.papiers.begin(), page.papiers.end(),
+                                  [&](const PapierPropre &paper) { return paper.nom == name; });
+    if (own == page.papiers.end()) {
+        throw UsageError("no paper " + name + "; there are " + names + kPaperOfDrawing +
+                         ", LENGTHxWIDTH");
+    }
+    page.NumIndex = ToByte(static_cast<double>(kPapierPropre + (own - page.papiers.begin())));
 }
 
 /// Puts the margins of an opened rib's heel in force where the words ask for it, and tells of them
@@ -77,11 +120,13 @@ std::vector<OptionRule> RibOptions() {
 std::vector<OptionRule> PageOptions() {
     return {{"--paper", "NAME",
              "paper of a PDF: A4, Letter, Fanfold, Legal, Executive, B4, "
-             "\"US B\", A3"},
+             "\"US B\", A3, LENGTHxWIDTH of your own, or drawing for one page as large as that"},
             {"--margin-before", "LENGTH", "margin before the leading edge"},
             {"--margin-after", "LENGTH", "margin behind the trailing edge"},
             {"--overlap", "LENGTH", "overlap of two sheets"},
-            {"--reference-line-at", "LENGTH", "reference line from the top of the sheet"}};
+            {"--reference-line-at", "LENGTH", "reference line from the top of the sheet"},
+            {"--rows", nullptr, "sheets downwards too, for a drawing that is taller than one"},
+            {"--check-line", nullptr, "a line to measure and a note on every sheet"}};
 }
 
 bool ApplyRibOptions(const Arguments &arguments, Programme &programme) {
@@ -120,8 +165,11 @@ void ApplyPageOptions(const Arguments &arguments, Programme &programme) {
     SetPageLength(arguments, programme, "--overlap", page.recouvrementAfich, page.recouvrement);
     SetPageLength(arguments, programme, "--reference-line-at", page.YdprintAfich, page.Ydprint);
     if (arguments.Has("--paper")) {
-        page.NumIndex = PaperNamed(arguments.Value("--paper"));
+        TakePaper(arguments.Value("--paper"), programme);
     }
+    // What the window's user has chosen for his sheets is asked for here.
+    page.temoin = arguments.Has("--check-line");
+    page.en_rangees = arguments.Has("--rows");
 }
 
 } // namespace loftwing

@@ -33,7 +33,7 @@ struct PapierPropre {
 };
 
 /// Sheets under each other, for a drawing that is taller than one. Lengths in mm.
-struct Rangees {
+struct RangeesFeuilles {
     int nombre = 1;
     double pas = 0;          ///< height of drawing from one sheet to the one below
     double recouvrement = 0; ///< of two sheets above each other
@@ -69,7 +69,7 @@ struct MiseEnPage {
     std::uint8_t NbPages = 0; ///< number of sheets
     /// The last overlap above 0: that of rows, since a rib that fits lengthwise sets it to 0.
     float recouvrementRangees = 20;
-    Rangees rangees;
+    RangeesFeuilles rangees;
     PageEntiere entiere;
 };
 

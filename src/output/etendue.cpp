@@ -53,8 +53,7 @@ void Metre::Segment(double x1, double y1, double x2, double y2, const Pen & /*pe
     const double dx = (x2 - x1) / pieces;
     const double dy = (y2 - y1) / pieces;
     for (double i = 0; i < pieces; ++i) {
-        encres.push_back(
-            Boite(x1 + i * dx, y1 + i * dy, x1 + (i + 1) * dx, y1 + (i + 1) * dy));
+        encres.push_back(Boite(x1 + i * dx, y1 + i * dy, x1 + (i + 1) * dx, y1 + (i + 1) * dy));
     }
 }
 

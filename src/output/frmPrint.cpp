@@ -27,7 +27,7 @@ frmPrint::frmPrint(Programme &programme, QWidget *parent)
 
 void frmPrint::Form_Load() {
     programme_.rib.Annule = false;
-    if (page_.NumIndex >= kPapiers) {
+    if (page_.NumIndex >= NombrePapiers(page_)) {
         page_.NumIndex = 0; // a paper that there isn't; here it can be put right
     }
     PoseTextes();
@@ -57,8 +57,8 @@ void frmPrint::PoseTextes() {
 }
 
 void frmPrint::RemplitCombo() {
-    for (int i = 0; i < kPapiers; ++i) {
-        Combo1.addItem(Q(NomFeuille(i, programme_.language)));
+    for (int i = 0; i < NombrePapiers(page_); ++i) {
+        Combo1.addItem(Q(NomFeuille(page_, i, programme_.language)));
     }
     Combo1.setCurrentIndex(page_.NumIndex);
 }

@@ -46,6 +46,7 @@ struct NomsReglages {
     std::string MargeHaut;
     std::string MargeBas;
     std::string papier;
+    std::string rangees; ///< sheets downwards
 };
 
 /// Says at which edges and by how much, and what helps.

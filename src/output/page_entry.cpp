@@ -79,6 +79,9 @@ std::string TexteFeuille(const MiseEnPage &page, const LngIni &language) {
     if (page.NumIndex == kPapierImprimante) {
         return language.LngText({"FrmPrint", "4"});
     }
+    if (page.NumIndex == kPapierEntier) {
+        return language.LngText({"FrmPrint", "251"});
+    }
     return language.LngText({"FrmPrint", "5"}) + kDeuxPoints +
            NumberText(PapierDe(page).tailleFeuille) + " mm";
 }
@@ -95,7 +98,11 @@ std::string TexteLongueur(const RibModel &rib, const Saisie &saisie) {
 }
 
 std::string TextePages(const MiseEnPage &page, const LngIni &language) {
-    return language.LngText({"FrmPrint", "10"}) + kDeuxPoints + std::to_string(page.NbPages);
+    const std::string count =
+        language.LngText({"FrmPrint", "10"}) + kDeuxPoints + std::to_string(NombreFeuilles(page));
+    return page.rangees.nombre == 1 ? count
+                                    : count + " (" + std::to_string(page.rangees.nombre) + " x " +
+                                          std::to_string(page.NbPages) + ")";
 }
 
 std::string TexteSansPages(const LngIni &language) {
@@ -117,6 +124,13 @@ void AnnoncePapierImprimante(const RibModel &rib, const Saisie &saisie) {
 
 void RefuseSansPas(const Messages &messages) {
     messages.Tell(messages.Text({"FrmPrint", "22"}), messages.Text({"Erreur", "1"}), BoxIcon::stop);
+}
+
+void RefusePageTropGrande(const PageEntiere &page, const Messages &messages) {
+    const std::string wanted = NumberText(page.longueur) + " x " + NumberText(page.largeur) + " mm";
+    messages.Tell(messages.Text({"FrmPrint", "252"}) + kDeuxPoints + wanted + "\n" +
+                      messages.Text({"FrmPrint", "253"}) + " " + NumberText(kPapierMaxi) + " mm.",
+                  messages.Text({"Erreur", "1"}), BoxIcon::stop);
 }
 
 void AlerteRecouvrement(const MiseEnPage &page, const Messages &messages) {

@@ -47,14 +47,14 @@ FinPage ValidePage(MiseEnPage &page, const LongueurRib &longueur);
 
 /// Caption of the dialog; `imprimante` is the printer's device name, empty where there is none.
 std::string TitrePage(const LngIni &language, const std::string &imprimante);
-/// The long side of the chosen paper in words.
+/// The measure of the chosen paper along the rib, in words.
 std::string TexteFeuille(const MiseEnPage &page, const LngIni &language);
 /// The length that decides about the sheets, in the unit in force: the template's, otherwise the
 /// chord as typed.
 std::string LongueurAffichee(const RibModel &rib, const std::string &Unite);
 /// The same with its words: "Chord length, mm : 200".
 std::string TexteLongueur(const RibModel &rib, const Saisie &saisie);
-/// The count of sheets in words.
+/// The count of sheets in words, all rows together.
 std::string TextePages(const MiseEnPage &page, const LngIni &language);
 /// The same where no count could be made.
 std::string TexteSansPages(const LngIni &language);
@@ -66,6 +66,8 @@ bool NommePapierImprimante(const std::string &nom, const LngIni &language);
 void AnnoncePapierImprimante(const RibModel &rib, const Saisie &saisie);
 /// Tells that margins and overlap leave no room on the sheet.
 void RefuseSansPas(const Messages &messages);
+/// Tells that a page for the whole drawing would be larger than a page may be.
+void RefusePageTropGrande(const PageEntiere &page, const Messages &messages);
 /// Tells how many sheets there are, and that they don't overlap.
 void AlerteRecouvrement(const MiseEnPage &page, const Messages &messages);
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <sstream>
 
 namespace loftwing {
 
@@ -39,6 +40,12 @@ constexpr double kBruit = 1E-6;
 /// A line on the very edge is not lost.
 constexpr double kAuBord = 0.1; // mm
 
+constexpr const char *kEntrePapiers = " | ";
+
+std::string MesuresDe(const PapierPropre &papier) {
+    return NumberText(papier.longueur) + " x " + NumberText(papier.largeur);
+}
+
 } // namespace
 
 const std::array<Papier, kPapiers> &Papiers() {
@@ -71,7 +78,7 @@ std::string NomFeuille(const MiseEnPage &page, int index, const LngIni &language
         return At(Papiers(), index).nom;
     }
     const PapierPropre &own = At(page.papiers, index - kPapierPropre);
-    return " " + own.nom + " " + NumberText(own.longueur) + " x " + NumberText(own.largeur) + " mm";
+    return " " + own.nom + (own.nom.empty() ? "" : " ") + MesuresDe(own) + " mm";
 }
 
 Papier PapierDe(const MiseEnPage &page) {
@@ -86,12 +93,49 @@ Papier PapierDe(const MiseEnPage &page) {
     return {own.nom, own.nom, kCodePropre, own.longueur, own.largeur};
 }
 
+bool PapierAdmis(const PapierPropre &papier) {
+    const auto side = [](double mm) { return mm >= kPapierMini && mm <= kPapierMaxi; };
+    return side(papier.longueur) && side(papier.largeur);
+}
+
+std::string TextePapiersPropres(const std::vector<PapierPropre> &papiers) {
+    std::string text;
+    for (const PapierPropre &paper : papiers) {
+        text += (text.empty() ? "" : kEntrePapiers) + MesuresDe(paper) + " " + paper.nom;
+    }
+    return text;
+}
+
+std::vector<PapierPropre> LitPapiersPropres(const std::string &text) {
+    std::vector<PapierPropre> papers;
+    std::istringstream words(text);
+    for (std::string each;
+         std::ssize(papers) < kPapiersPropres && std::getline(words, each, '|');) {
+        std::istringstream word(each);
+        word.imbue(std::locale::classic());
+        PapierPropre paper;
+        char times = 0;
+        word >> paper.longueur >> times >> paper.largeur >> std::ws;
+        std::getline(word, paper.nom);
+        paper.nom = Trim(paper.nom);
+        if (times == 'x' && PapierAdmis(paper)) {
+            papers.push_back(paper);
+        }
+    }
+    return papers;
+}
+
+bool CorrectionAdmise(double facteur) {
+    return std::abs(facteur - 1) <= kCorrectionMaxi;
+}
+
 bool PrendRangees(const MiseEnPage &page) {
     return page.NumIndex != kPapierImprimante && page.NumIndex != kPapierEntier;
 }
 
 void ValeursDefautPage(MiseEnPage &page) {
     page = MiseEnPage{};
+    page.temoin = true;
 }
 
 void ValeursPouces(MiseEnPage &page) {
@@ -122,7 +166,7 @@ LongueurRib ReprendLongueur(RibModel &rib) {
 bool TientSurUneFeuille(const MiseEnPage &page, const LongueurRib &longueur) {
     return page.NumIndex == kPapierEntier ||
            Wide(longueur.EnJeu()) + Wide(page.MargeHaut) + Wide(page.MargeBas) <=
-           PapierDe(page).tailleFeuille;
+               PapierDe(page).tailleFeuille;
 }
 
 Feuilles CalculPages(MiseEnPage &page, const LongueurRib &longueur) {
@@ -161,7 +205,7 @@ bool CalculRangees(MiseEnPage &page, const Portee &portee) {
     if (portee.dessus <= line + kAuBord && line + portee.dessous <= height + kAuBord) {
         return true;
     }
-    Rangees rows;
+    RangeesFeuilles rows;
     rows.recouvrement =
         Wide(page.recouvrement > 0.0F ? page.recouvrement : page.recouvrementRangees);
     rows.pas = height - Wide(page.MargeHaut) - Wide(page.MargeBas) - rows.recouvrement;

@@ -40,6 +40,18 @@ std::string NomFeuille(const MiseEnPage &page, int index, const LngIni &language
 /// The paper of the settings. That of the drawing's own size is as PageEntiere says. Failure 9 for
 /// an index that no paper has.
 Papier PapierDe(const MiseEnPage &page);
+/// A paper of one's own may have: both sides between kPapierMini and kPapierMaxi.
+bool PapierAdmis(const PapierPropre &papier);
+/// The user's own papers as the settings file has them, "2000 x 610 Roll | 1189 x 841 Plotter";
+/// what is no paper in it is left out, and so is what goes beyond kPapiersPropres.
+std::string TextePapiersPropres(const std::vector<PapierPropre> &papiers);
+std::vector<PapierPropre> LitPapiersPropres(const std::string &text);
+
+/// Printers are off by less than this much; more is a wrong measure.
+inline constexpr double kCorrectionMaxi = 0.05;
+/// Whether a printer's sheets may be stretched by this factor.
+bool CorrectionAdmise(double facteur);
+
 /// Whether sheets may stand under each other on the paper of the settings.
 bool PrendRangees(const MiseEnPage &page);
 

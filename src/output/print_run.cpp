@@ -287,7 +287,7 @@ Croisees CroiseesDeBande(const Impression &run) {
 
 /// In the middle of the overlaps, at a place that the sheets beside and below have too.
 Croisees CroiseesDeRangee(const MiseEnPage &page) {
-    const Rangees &rows = page.rangees;
+    const RangeesFeuilles &rows = page.rangees;
     double left = Wide(page.MargeHaut) + kBras;
     double right = PapierDe(page).tailleFeuille - Wide(page.MargeBas) - kBras;
     if (page.NbPages > 1) {
@@ -306,8 +306,7 @@ void tracerepere(const Impression &run, PlotDevice &device) {
     if (NombreFeuilles(page) == 1) {
         return;
     }
-    const Croisees at =
-        page.rangees.nombre > 1 ? CroiseesDeRangee(page) : CroiseesDeBande(run);
+    const Croisees at = page.rangees.nombre > 1 ? CroiseesDeRangee(page) : CroiseesDeBande(run);
     const Colour colour = CouleurDe(run.settings, Element::axe);
     PrendStyleSeul(device, run.settings, Element::axe);
     Croix(device, at.droite, at.haut, colour);

@@ -112,6 +112,37 @@ Table TableMarges(const Reglages &reglages) {
             Longueur(reglages, section, "Ydprint", page.YdprintAfich, page.Ydprint)};
 }
 
+Ligne Coche(const char *section, const char *key, bool &field, bool usual) {
+    return {section, key, [&field] { return std::string(field ? "1" : "0"); },
+            [&field, usual](const std::string &value) {
+                field = value.empty() ? usual : LeadingNumber(value) != 0;
+            }};
+}
+
+/// A factor; one that isn't there, or that no check line would have been let through for, is 1.
+Ligne Facteur(const char *section, const char *key, double &field) {
+    return {section, key, [&field] { return NumberText(field); },
+            [&field](const std::string &value) {
+                field = value.empty() ? 1 : LeadingNumber(value);
+                if (!CorrectionAdmise(field)) {
+                    field = 1;
+                }
+            }};
+}
+
+/// What the sheets have beside their margins. All lengths are in mm, whatever the unit.
+Table TableFeuilles(const Reglages &reglages) {
+    MiseEnPage &page = reglages.settings.page;
+    CorrectionImprimante &correction = reglages.settings.correction;
+    const char *section = "Feuilles";
+    return {Coche(section, "Temoin", page.temoin, true),
+            Coche(section, "Rangees", page.en_rangees, false),
+            {section, "Papiers", [&page] { return TextePapiersPropres(page.papiers); },
+             [&page](const std::string &value) { page.papiers = LitPapiersPropres(value); }},
+            Facteur(section, "CorrectionX", correction.x),
+            Facteur(section, "CorrectionY", correction.y)};
+}
+
 bool Ecrit(const Reglages &reglages, const std::vector<Table> &tables) {
     try {
         IniFile file = IniFile::Read(reglages.fichier);
@@ -129,7 +160,8 @@ bool Ecrit(const Reglages &reglages, const std::vector<Table> &tables) {
 
 std::vector<Table> ToutesLesTables(const Reglages &reglages) {
     return {TableCouleurs(reglages), TableStyles(reglages),      TableEpaisseurs(reglages),
-            TableDefauts(reglages),  TableRepertoires(reglages), TableMarges(reglages)};
+            TableDefauts(reglages),  TableRepertoires(reglages), TableMarges(reglages),
+            TableFeuilles(reglages)};
 }
 
 /// One bad value costs that value alone: a settings file is edited by hand, and the program must
@@ -305,6 +337,10 @@ void EcritMarges(const Reglages &reglages) {
         return; // its texts would be read in the other unit
     }
     Ecrit(reglages, {TableMarges(reglages)});
+}
+
+void EcritFeuilles(const Reglages &reglages) {
+    Ecrit(reglages, {TableFeuilles(reglages)});
 }
 
 bool EcritTout(const Reglages &reglages) {

@@ -30,7 +30,8 @@ void EcritStyles(const Reglages &reglages);
 void EcritEpaisseurs(const Reglages &reglages); ///< widths and the text size
 void EcritDefauts(const Reglages &reglages);
 void EcritRepertoires(const Reglages &reglages);
-void EcritMarges(const Reglages &reglages); ///< nothing in another unit than the one on file
+void EcritMarges(const Reglages &reglages);   ///< nothing in another unit than the one on file
+void EcritFeuilles(const Reglages &reglages); ///< check line, rows, own papers, correction
 /// False when the file could not be written.
 bool EcritTout(const Reglages &reglages);
 

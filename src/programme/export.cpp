@@ -41,7 +41,8 @@ Impression ImpressionDeVue(Programme &programme, PlotState &plot) {
 ReglagePage ReglageDeFenetre(const Messages &messages, std::function<bool()> regle) {
     return {std::move(regle),
             {messages.Text({"FrmPrint", "7"}), messages.Text({"FrmPrint", "19"}),
-             messages.Text({"FrmPrint", "20"}), messages.Text({"FrmPrint", "3"})}};
+             messages.Text({"FrmPrint", "20"}), messages.Text({"FrmPrint", "3"}),
+             messages.Text({"FrmPrint", "254"})}};
 }
 
 namespace {
@@ -60,24 +61,66 @@ std::optional<HorsFeuille> MesureVue(Programme &programme, const Papier &propre)
 
 } // namespace
 
-std::optional<FinImpression> AvertitHorsFeuille(Programme &programme, const ReglagePage &page,
-                                                const Papier &propre) {
+namespace {
+
+/// Whether sheets under each other would hold what is now lost at the upper or the lower edge.
+bool RangeesAident(const MiseEnPage &page, const HorsFeuille &found) {
+    return !page.en_rangees && PrendRangees(page) &&
+           (found.sans_texte.haut > 0 || found.sans_texte.bas > 0);
+}
+
+/// Offers rows of sheets to somebody who is there. True when they were taken.
+bool ProposeRangees(const Programme &programme, MiseEnPage &page) {
     const Messages &messages = programme.messages;
-    const std::optional<HorsFeuille> found = MesureVue(programme, propre);
-    if (!found) {
-        return FinImpression::trace_echec;
-    }
-    if (found->tout.Aucun()) {
-        return std::nullopt;
-    }
+    page.en_rangees =
+        messages.Confirm(messages.Text({"FrmPrint", "255"}), messages.Text({"FrmPrint", "1"}));
+    return page.en_rangees;
+}
+
+/// Tells of a drawing that leaves its sheets. How the run ends here; nothing where it goes on.
+std::optional<FinImpression> AvertitHorsFeuille(const Programme &programme, const ReglagePage &page,
+                                                const HorsFeuille &found) {
+    const Messages &messages = programme.messages;
     const std::string titre = messages.Text({"FrmPrint", "1"});
-    const std::string text = TexteHorsFeuille(*found, page.noms, programme.SaisieEnCours());
+    std::string text = TexteHorsFeuille(found, page.noms, programme.SaisieEnCours());
+    if (RangeesAident(programme.settings.page, found)) {
+        text += page.noms.rangees + "\n";
+    }
     if (!page.demande) {
         messages.Tell(text, titre, BoxIcon::warning);
         return std::nullopt;
     }
     const bool goes_on = messages.Confirm(text + "\n" + messages.Text({"FrmPrint", "240"}), titre);
     return goes_on ? std::nullopt : std::optional(FinImpression::annule);
+}
+
+std::optional<FinImpression> ControleBords(Programme &programme, const Impression &run,
+                                           const ReglagePage &page, const Papier &propre) {
+    std::optional<HorsFeuille> found = MesureVue(programme, propre);
+    if (found && page.demande && RangeesAident(programme.settings.page, *found) &&
+        ProposeRangees(programme, programme.settings.page)) {
+        if (const auto end = PrepareDessin(run)) {
+            return end;
+        }
+        found = MesureVue(programme, propre);
+    }
+    if (!found) {
+        return FinImpression::trace_echec;
+    }
+    return found->tout.Aucun() ? std::nullopt : AvertitHorsFeuille(programme, page, *found);
+}
+
+} // namespace
+
+std::optional<FinImpression> PrepareImpression(Programme &programme, const Impression &run,
+                                               const ReglagePage &page, const Papier &propre) {
+    if (!PrepareFeuilles(run, page.regle)) {
+        return FinImpression::annule;
+    }
+    if (const auto end = PrepareDessin(run)) {
+        return end;
+    }
+    return ControleBords(programme, run, page, propre);
 }
 
 FinImpression ImprimeVue(const Impression &run, Printer &printer) {
@@ -88,10 +131,7 @@ FinImpression ImprimeVue(const Impression &run, Printer &printer) {
 FinImpression ImprimeSurDemande(Programme &programme, const ReglagePage &page) {
     PlotState plot = EtatAmorce(programme.rib);
     const Impression run = ImpressionDeVue(programme, plot);
-    if (!PrepareFeuilles(run, page.regle)) {
-        return FinImpression::annule;
-    }
-    if (const auto end = AvertitHorsFeuille(programme, page, PapierDe(programme.settings.page))) {
+    if (const auto end = PrepareImpression(programme, run, page, Papiers()[kPapierImprimante])) {
         return *end;
     }
     PrintQuestion question = DemandeImprimante(run);

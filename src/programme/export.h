@@ -33,10 +33,12 @@ struct ReglagePage {
 /// That of the window, whose page dialog `regle` shows.
 ReglagePage ReglageDeFenetre(const Messages &messages, std::function<bool()> regle);
 
-/// Tells of a drawing that leaves its sheets, before it is printed: asks whether to go on, or, with
-/// nobody to ask, says so and goes on. How the run ends here; nothing where it goes on.
-std::optional<FinImpression> AvertitHorsFeuille(Programme &programme, const ReglagePage &page,
-                                                const Papier &propre);
+/// Everything that is decided before a printer is opened: sheets, rows, and what to do about a
+/// drawing that leaves them: that asks whether to lay it on rows, then whether to go on, or, with
+/// nobody to ask, says so and goes on. `propre` is the paper that the entry for the printer's own
+/// one stands for. How the run ends here; nothing where it goes on.
+std::optional<FinImpression> PrepareImpression(Programme &programme, const Impression &run,
+                                               const ReglagePage &page, const Papier &propre);
 
 /// The whole of a print command: sheets, warning, the choice of a printer, the run, and where it
 /// went if that is a file. Failures of a printer that doesn't open.

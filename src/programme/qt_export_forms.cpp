@@ -48,11 +48,8 @@ Exported AsPdf(Programme &programme, const ReglagePage &page) {
     }
     PlotState plot = EtatAmorce(programme.rib);
     const Impression run = ImpressionDeVue(programme, plot);
-    if (!PrepareFeuilles(run, page.regle)) {
-        return {};
-    }
     // A PDF has no printer whose paper could be meant.
-    if (const auto end = AvertitHorsFeuille(programme, page, Papiers().front())) {
+    if (const auto end = PrepareImpression(programme, run, page, Papiers().front())) {
         return {std::nullopt, *end == FinImpression::trace_echec, std::nullopt};
     }
     std::string bytes;

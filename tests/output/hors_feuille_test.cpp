@@ -46,7 +46,7 @@ class HorsFeuilleTest : public testing::Test {
         return found.value_or(HorsFeuille{});
     }
     std::string Told(const HorsFeuille &hors, const std::string &Unite = " mm") {
-        return TexteHorsFeuille(hors, {"LINE :", "BEFORE :", "AFTER :", "PAPER"},
+        return TexteHorsFeuille(hors, {"LINE :", "BEFORE :", "AFTER :", "PAPER", "ROWS"},
                                 {Unite, world.messages});
     }
     static constexpr const char *kHead = "<FrmPrint 230>\n";

@@ -32,7 +32,7 @@ TEST(PageSetup, PaperTableHoldsTheTradesSizes) {
     for (int i = 0; i < 8; ++i) {
         const Paper &wanted = papers.at(static_cast<std::size_t>(i));
         const Papier &paper = Papiers().at(static_cast<std::size_t>(i));
-        EXPECT_EQ(NomFeuille(i, world.language), wanted.name);
+        EXPECT_EQ(NomFeuille({}, i, world.language), wanted.name);
         EXPECT_EQ(paper.code, wanted.code);
         EXPECT_EQ(paper.tailleFeuille, wanted.length);
         EXPECT_LT(paper.largeur, paper.tailleFeuille);
@@ -43,9 +43,9 @@ TEST(PageSetup, PaperTableHoldsTheTradesSizes) {
 
 TEST(PageSetup, LastPaperHasTheNameWithTheBlankInItsKey) {
     const RibWorld world;
-    EXPECT_EQ(NomFeuille(8, world.language), "<FrmPrint tailleFeuille(8) >");
-    EXPECT_EQ(FailureOf([&] { NomFeuille(9, world.language); }), 9);
-    EXPECT_EQ(FailureOf([&] { NomFeuille(-1, world.language); }), 9);
+    EXPECT_EQ(NomFeuille({}, 8, world.language), "<FrmPrint tailleFeuille(8) >");
+    EXPECT_EQ(FailureOf([&] { NomFeuille({}, 10, world.language); }), 9);
+    EXPECT_EQ(FailureOf([&] { NomFeuille({}, -1, world.language); }), 9);
 }
 
 TEST(PageSetup, NewProgramHasItsPageInMm) {
