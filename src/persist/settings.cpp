@@ -160,8 +160,7 @@ bool Ecrit(const Reglages &reglages, const std::vector<Table> &tables) {
 
 std::vector<Table> ToutesLesTables(const Reglages &reglages) {
     return {TableCouleurs(reglages), TableStyles(reglages),      TableEpaisseurs(reglages),
-            TableDefauts(reglages),  TableRepertoires(reglages), TableMarges(reglages),
-            TableFeuilles(reglages)};
+            TableDefauts(reglages),  TableRepertoires(reglages), TableMarges(reglages)};
 }
 
 /// One bad value costs that value alone: a settings file is edited by hand, and the program must
@@ -371,7 +370,9 @@ bool LitMarges(const Reglages &reglages) {
 }
 
 bool LitTout(const Reglages &reglages) {
-    return Lit(reglages, ToutesLesTables(reglages));
+    std::vector<Table> tables = ToutesLesTables(reglages);
+    tables.push_back(TableFeuilles(reglages));
+    return Lit(reglages, tables);
 }
 
 void DeriveLongueurs(const Reglages &reglages) {

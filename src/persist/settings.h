@@ -32,7 +32,8 @@ void EcritDefauts(const Reglages &reglages);
 void EcritRepertoires(const Reglages &reglages);
 void EcritMarges(const Reglages &reglages);   ///< nothing in another unit than the one on file
 void EcritFeuilles(const Reglages &reglages); ///< check line, rows, own papers, correction
-/// False when the file could not be written.
+/// All but the sheets, which stand on file once the page has been set up. False when the file could
+/// not be written.
 bool EcritTout(const Reglages &reglages);
 
 /// Readers. A key that isn't there reads as the empty text, and so as 0. A file that can't be read

@@ -172,7 +172,7 @@ TEST_F(PrintRun, MoreThan255SheetsAreAnOverflow) {
 }
 
 TEST_F(PrintRun, PaperNumberFromNowhereIsReported) {
-    Page().NumIndex = 9;
+    Page().NumIndex = 10;
     world.platform.Expect(BoxAnswer::ok,
                           {.text = "<Erreur 3> # 9 <Erreur 2> Loftwing\nSubscript out of range",
                            .title = "<Erreur 1>",
