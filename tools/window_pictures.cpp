@@ -19,6 +19,7 @@
 #include "mainwindow/frmmain.h"
 #include "mainwindow/frmopen.h"
 #include "output/frmPrint.h"
+#include "output/frmpapier.h"
 #include "output/frmcoul.h"
 #include "persist/frmdefaut.h"
 #include "platform/qt_form.h"
@@ -170,6 +171,8 @@ class Pictures {
         TakeCalculators();
         frmPrint page(programme_, window_.get());
         Save(page, "frmPrint");
+        frmpapier paper(programme_, window_.get());
+        Save(paper, "frmpapier");
         frmcoul colours(programme_, window_.get());
         Save(colours, "frmcoul");
         frmInstxt text(programme_, *window_, window_.get());

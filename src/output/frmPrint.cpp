@@ -1,5 +1,9 @@
 #include "output/frmPrint.h"
 
+#include "output/frmpapier.h"
+
+#include <QSignalBlocker>
+
 namespace loftwing {
 
 namespace {
@@ -23,6 +27,10 @@ frmPrint::frmPrint(Programme &programme, QWidget *parent)
     connect(&Combo1, &QComboBox::currentIndexChanged, this, &frmPrint::Combo1_click);
     ConnectEach(Text1, &QLineEdit::textChanged, this, &frmPrint::Text1_Change);
     connect(&cmdconfigImprim, &QPushButton::clicked, this, &frmPrint::cmdconfigImprim_Click);
+    connect(&cmdpapier, &QPushButton::clicked, this, &frmPrint::cmdpapier_Click);
+    connect(&cmdretire, &QPushButton::clicked, this, &frmPrint::cmdretire_Click);
+    connect(&chkrangees, &QCheckBox::toggled, [this](bool on) { page_.en_rangees = on; });
+    connect(&chktemoin, &QCheckBox::toggled, [this](bool on) { page_.temoin = on; });
 }
 
 void frmPrint::Form_Load() {
@@ -30,8 +38,11 @@ void frmPrint::Form_Load() {
     if (page_.NumIndex >= NombrePapiers(page_)) {
         page_.NumIndex = 0; // a paper that there isn't; here it can be put right
     }
+    page_.rangees = {}; // those of the last print
     PoseTextes();
     RemplitCombo();
+    chkrangees.setChecked(page_.en_rangees);
+    chktemoin.setChecked(page_.temoin);
     ShowTexts(Text1, TextesDe(page_));
     CalculAuChargement();
 }
@@ -48,6 +59,13 @@ void frmPrint::PoseTextes() {
     Label1.setText(Mot({"FrmPrint", "19"}));
     Label2.setText(Mot({"FrmPrint", "20"}));
     cmdconfigImprim.setText(Mot({"TextButton", "15"}));
+    cmdpapier.setText(Mot({"FrmPrint", "258"}));
+    cmdretire.setText(Mot({"FrmPrint", "259"}));
+    chkrangees.setText(Mot({"FrmPrint", "256"}));
+    chktemoin.setText(Mot({"FrmPrint", "257"}));
+    SetTip(chkrangees, programme_.Text({"FrmPrint", "256T"}));
+    SetTip(chktemoin, programme_.Text({"FrmPrint", "257T"}));
+    SetTip(cmdpapier, programme_.Text({"FrmPrint", "258T"}));
     Combo1.setAccessibleName(Frame6.title());
     Text1[kChampYdprint].setAccessibleName(Frame5.title());
     for (QLabel *unit : {&Label5, &Label6, &Label7, &Label8}) {
@@ -154,6 +172,9 @@ void frmPrint::Montre(Feuilles feuilles) {
     Label5.setEnabled(!printers_paper);
     SetBold(Label4, feuilles == Feuilles::plusieurs && !longueur_.gabarit);
     cmdconfigImprim.setEnabled(printers_paper);
+    chkrangees.setEnabled(PrendRangees(page_));
+    cmdpapier.setEnabled(std::ssize(page_.papiers) < kPapiersPropres);
+    cmdretire.setEnabled(page_.NumIndex >= kPapierPropre);
     MontreOptions(printers_paper);
     const LngIni &language = programme_.language;
     Label10.setText(
@@ -188,6 +209,7 @@ void frmPrint::cmdok_Click() {
         MiseEnPage &kept = programme_.settings.page;
         kept = page_;
         EcritMarges(programme_.ReglagesEnCours());
+        EcritFeuilles(programme_.ReglagesEnCours());
         switch (ValidePage(kept, longueur_)) {
         case FinPage::prise:
             accept();
@@ -207,6 +229,30 @@ void frmPrint::cmdok_Click() {
 void frmPrint::cmdannuler_Click() {
     programme_.rib.Annule = true;
     Renonce();
+}
+
+/// Fills the list of papers anew and chooses one, as a click on it does.
+void frmPrint::ChangePapiers(int chosen) {
+    {
+        const QSignalBlocker quiet(Combo1);
+        Combo1.clear();
+        RemplitCombo();
+        Combo1.setCurrentIndex(chosen);
+    }
+    Combo1_click();
+}
+
+void frmPrint::cmdpapier_Click() {
+    frmpapier paper(programme_, this);
+    if (ShowModal(paper) == QDialog::Accepted) {
+        page_.papiers.push_back(paper.Papier());
+        ChangePapiers(NombrePapiers(page_) - 1);
+    }
+}
+
+void frmPrint::cmdretire_Click() {
+    page_.papiers.erase(page_.papiers.begin() + (page_.NumIndex - kPapierPropre));
+    ChangePapiers(0);
 }
 
 void frmPrint::cmdconfigImprim_Click() {

@@ -4,6 +4,7 @@
 #include "output/page_entry.h"
 #include "programme/qt_dialogue.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -36,6 +37,8 @@ class frmPrint : public Dialogue {
     QComboBox Combo1;
     QLabel Label3;
     QPushButton cmdconfigImprim;
+    QPushButton cmdpapier;
+    QPushButton cmdretire;
     QLabel Label1;
     QLabel Label2;
     std::array<NumericField, kChampsPage> Text1;
@@ -46,6 +49,8 @@ class frmPrint : public Dialogue {
     QRadioButton Option1;
     QRadioButton Option2;
     QLabel Label4;
+    QCheckBox chkrangees;
+    QCheckBox chktemoin;
     QLabel Label9;
     QLabel Label10;
 
@@ -58,12 +63,15 @@ class frmPrint : public Dialogue {
 
     void PoseTextes();
     void RemplitCombo();
+    void ChangePapiers(int chosen);
     void Form_Load();
     void Combo1_click();
     void Text1_Change(int index);
     void cmdok_Click() override;
     void cmdannuler_Click() override;
     void cmdconfigImprim_Click();
+    void cmdpapier_Click();
+    void cmdretire_Click();
 
     template <class Action>
     void Compte(const char *label, Action action);

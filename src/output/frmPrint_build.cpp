@@ -13,6 +13,10 @@ void frmPrint::NameAll() {
                   {&Combo1, "Combo1"},
                   {&Label3, "Label3"},
                   {&cmdconfigImprim, "cmdconfigImprim"},
+                  {&cmdpapier, "cmdpapier"},
+                  {&cmdretire, "cmdretire"},
+                  {&chkrangees, "chkrangees"},
+                  {&chktemoin, "chktemoin"},
                   {&Frame2, "Frame2"},
                   {&Label1, "Label1"},
                   {&Label2, "Label2"},
@@ -51,6 +55,11 @@ void frmPrint::LayOutPaper() {
     grid->addWidget(&Combo1, 0, 0);
     grid->addWidget(&cmdconfigImprim, 0, 1);
     grid->addWidget(&Label3, 1, 0, 1, 2);
+    auto *own = new QHBoxLayout;
+    own->addWidget(&cmdpapier);
+    own->addWidget(&cmdretire);
+    own->addStretch();
+    grid->addLayout(own, 2, 0, 1, 2);
     grid->setColumnStretch(0, 1);
 }
 
@@ -81,6 +90,8 @@ void frmPrint::LayOutPages() {
     rows->addWidget(&Option1);
     rows->addWidget(&Option2);
     rows->addLayout(overlap);
+    rows->addWidget(&chkrangees);
+    rows->addWidget(&chktemoin);
     rows->addWidget(&Label9);
     rows->addWidget(&Label10);
     PlainText({&Label1, &Label2, &Label3, &Label4, &Label5, &Label6, &Label7, &Label8, &Label9,

@@ -3,6 +3,8 @@
 #include "base/number_text.h"
 #include "base/version.h"
 
+#include <algorithm>
+
 namespace loftwing {
 
 namespace {
@@ -107,6 +109,24 @@ std::string TextePages(const MiseEnPage &page, const LngIni &language) {
 
 std::string TexteSansPages(const LngIni &language) {
     return language.LngText({"FrmPrint", "10"}) + kDeuxPoints + "-";
+}
+
+std::optional<PapierPropre> PapierSaisi(const std::string &nom,
+                                        const std::array<std::string, 2> &mesures,
+                                        const Saisie &saisie, const std::string &titre) {
+    PapierPropre paper{std::string(Trim(nom)), NombreMm(mesures[0], saisie),
+                       NombreMm(mesures[1], saisie)};
+    // It parts one paper from the next in the settings file.
+    std::replace(paper.nom.begin(), paper.nom.end(), '|', '/');
+    if (PapierAdmis(paper)) {
+        return paper;
+    }
+    const Messages &messages = saisie.messages;
+    messages.Tell(messages.Text({"FrmPrint", "264"}) + " " + DepuisMm(kPapierMini, saisie.Unite) +
+                      " " + messages.Text({"FrmPrint", "237"}) + " " +
+                      DepuisMm(kPapierMaxi, saisie.Unite) + saisie.Unite,
+                  titre, BoxIcon::stop);
+    return std::nullopt;
 }
 
 bool NommePapierImprimante(const std::string &nom, const LngIni &language) {

@@ -5,6 +5,7 @@
 #include "output/page_setup.h"
 
 #include <array>
+#include <optional>
 #include <string>
 
 namespace loftwing {
@@ -58,6 +59,12 @@ std::string TexteLongueur(const RibModel &rib, const Saisie &saisie);
 std::string TextePages(const MiseEnPage &page, const LngIni &language);
 /// The same where no count could be made.
 std::string TexteSansPages(const LngIni &language);
+
+/// A paper of one's own from its typed name and measures, along the rib and across. Nothing for one
+/// that no page can have; a box titled `titre` says so. Failures as VersMm.
+std::optional<PapierPropre> PapierSaisi(const std::string &nom,
+                                        const std::array<std::string, 2> &mesures,
+                                        const Saisie &saisie, const std::string &titre);
 
 /// Whether `nom`, an entry of the paper list, is the paper that is set in the printer.
 bool NommePapierImprimante(const std::string &nom, const LngIni &language);
