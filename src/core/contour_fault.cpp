@@ -136,6 +136,10 @@ FauteContour ChercheFaute(const Profil &rib, const SegmentEchantillonne &segment
     return faute;
 }
 
+void AccuseLePlusGrand(RibModel &rib) {
+    rib.faute = {CauseContour::trop_grand, LePlusGrand(rib, 1, rib.NbPoints)};
+}
+
 std::string TexteFaute(const RibModel &rib, const Messages &messages) {
     return Enumere({Fichier(rib), TexteCause(rib, messages)});
 }

@@ -17,6 +17,9 @@ struct SegmentEchantillonne {
 FauteContour ChercheFaute(const Profil &rib, const SegmentEchantillonne &segment,
                           const Failure &failure);
 
+/// Names the airfoil's largest coordinate as what nothing can be drawn of. The rib has points.
+void AccuseLePlusGrand(RibModel &rib);
+
 /// The file of the rib's airfoil and what is wrong with its points, in the user's words.
 std::string TexteFaute(const RibModel &rib, const Messages &messages);
 

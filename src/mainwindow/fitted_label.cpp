@@ -29,29 +29,46 @@ QSize FittedLabel::minimumSizeHint() const {
 }
 
 QString FittedLabel::Fitted() const {
-    return lines_ == 1 ? fontMetrics().elidedText(text(), Qt::ElideMiddle, width()) : text();
+    if (lines_ == 1) {
+        return fontMetrics().elidedText(text(), Qt::ElideMiddle, width());
+    }
+    if (Holds(text())) {
+        return text();
+    }
+    // A line cut through its letters can't be read: as much as there is room for, and a sign that
+    // there is more.
+    const QString more = QStringLiteral("...");
+    qsizetype fits = 0;
+    for (qsizetype step = text().size(); step > 0; step /= 2) {
+        while (fits + step <= text().size() && Holds(text().left(fits + step) + more)) {
+            fits += step;
+        }
+    }
+    return text().left(fits).trimmed() + more;
 }
 
-int FittedLabel::Flags() const {
+int FittedLabel::Flags(const QString &words) const {
     const int flags = static_cast<int>(alignment().toInt());
     if (lines_ == 1) {
         return flags | Qt::TextSingleLine;
     }
     // A title line without a blank in it has no other place to break.
-    const QRect words = fontMetrics().boundingRect(rect(), flags | Qt::TextWordWrap, text());
-    return flags | (words.width() > width() ? Qt::TextWrapAnywhere : Qt::TextWordWrap);
+    const QRect box = fontMetrics().boundingRect(rect(), flags | Qt::TextWordWrap, words);
+    return flags | (box.width() > width() ? Qt::TextWrapAnywhere : Qt::TextWordWrap);
+}
+
+bool FittedLabel::Holds(const QString &words) const {
+    return fontMetrics().boundingRect(rect(), Flags(words), words).height() <= height();
 }
 
 bool FittedLabel::Fits() const {
-    if (lines_ == 1) {
-        return Fitted() == text();
-    }
-    return fontMetrics().boundingRect(rect(), Flags(), text()).height() <= height();
+    return Fitted() == text();
 }
 
 void FittedLabel::paintEvent(QPaintEvent *) {
     QPainter painter(this);
-    style()->drawItemText(&painter, rect(), Flags(), palette(), isEnabled(), Fitted(),
+    const QString words = Fitted();
+    style()->drawItemText(&painter, rect(), Flags(words), palette(), isEnabled(), words,
                           foregroundRole());
 }
 

@@ -6,8 +6,8 @@
 namespace loftwing {
 
 /// Plain text of any length in a place of fixed width: what doesn't fit ends in "..." (one line) or
-/// breaks anywhere (several lines), and is whole in the tool tip unless the label has its own. The
-/// layout of its window never follows the text.
+/// breaks anywhere and ends in "..." (several lines), and is whole in the tool tip unless the label
+/// has its own. The layout of its window never follows the text.
 class FittedLabel : public QLabel {
     Q_OBJECT
 
@@ -26,7 +26,8 @@ class FittedLabel : public QLabel {
     int lines_;
 
     QString Fitted() const;
-    int Flags() const;
+    int Flags(const QString &words) const;
+    bool Holds(const QString &words) const; ///< in the label's lines
     bool Fits() const;
 };
 

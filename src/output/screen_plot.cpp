@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace loftwing {
 
@@ -52,6 +53,18 @@ bool StocksTiennent(const RibModel &rib, const Messages &messages) {
 
 bool RibVisible(const RibModel &rib) {
     return rib.ProfilCharge && !rib.ModeCompare && !rib.ModeEpCourb && !rib.ModeCouple;
+}
+
+bool ContourTracable(const RibModel &rib) {
+    // Twice as much as the places themselves take: some are a height away from another.
+    const double room = Wide(std::numeric_limits<float>::max()) / 2;
+    const double scale = Wide(rib.corde) * kUnitsPerMm * Wide(FacteurZoom(kZoomRows.front()));
+    for (long i = 1; i <= rib.NbContour; ++i) {
+        if (std::max(std::abs(rib.ContourX(i)), std::abs(rib.ContourY(i))) * scale > room) {
+            return false;
+        }
+    }
+    return true;
 }
 
 Affichage afficheRib(const Trace &trace) {

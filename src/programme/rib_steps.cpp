@@ -3,6 +3,7 @@
 #include "base/version.h"
 #include "core/airfoil_import.h"
 #include "core/contour.h"
+#include "core/contour_fault.h"
 #include "features/inserted_text.h"
 #include "features/rib_entry.h"
 #include "output/page_setup.h"
@@ -62,6 +63,15 @@ void MontreRib(CommandView &view) {
     view.affiche();
 }
 
+/// Tells of a contour that is made but reaches farther than a drawing can. Found out by drawing it,
+/// it would cost the rib that was there.
+void RefuseTropGrand(Programme &programme) {
+    AccuseLePlusGrand(programme.rib);
+    Failure failure = MakeFailure(kOverflow);
+    failure.Precise(TexteSansContour(programme.rib, programme.messages));
+    programme.messages.Report(failure, " Main/PrintSubroutine");
+}
+
 /// The rib with the airfoil that was read, its chord and its contour; false where there is nothing
 /// to draw or the user rather keeps the rib that was there.
 bool EssaieProfil(Programme &programme) {
@@ -70,6 +80,10 @@ bool EssaieProfil(Programme &programme) {
         ReprendProfil(programme.rib);
         CordeDuTitre(programme.rib, programme.SaisieEnCours());
         if (Prepare(programme) == Preparation::impossible) {
+            return false;
+        }
+        if (!ContourTracable(programme.rib)) {
+            RefuseTropGrand(programme);
             return false;
         }
     }

@@ -9,6 +9,7 @@
 
 #include <cmath>
 #include <filesystem>
+#include <sstream>
 
 namespace loftwing {
 namespace {
@@ -271,6 +272,86 @@ TEST(Draw, APdfThatLeavesTheSheetIsToldAndDrawn) {
                            "--reference-line-at", "5"})
                   .err,
               "");
+}
+
+/// What another program reads of a PDF's pages: their count and the size of the first one in
+/// points.
+struct PdfFacts {
+    int pages = 0;
+    double width = 0;
+    double height = 0;
+};
+
+PdfFacts FactsOf(const std::string &pdf) {
+    const Ran ran = RunShell("pdfinfo " + ShellWord(pdf));
+    EXPECT_EQ(ran.status, 0) << ran.err;
+    PdfFacts facts;
+    std::istringstream lines(ran.out);
+    for (std::string line; std::getline(lines, line);) {
+        std::istringstream words(line);
+        std::string word;
+        std::string times;
+        words >> word;
+        if (word == "Pages:") {
+            words >> facts.pages;
+        } else if (word == "Page" && line.find("size:") != std::string::npos) {
+            words >> word >> facts.width >> times >> facts.height;
+        }
+    }
+    return facts;
+}
+
+constexpr double kPoints = 72 / 25.4; // of a millimetre
+
+TEST(Draw, ATallRibGoesOverRowsOfSheetsWhereTheyAreAskedFor) {
+    const TempFolder folder;
+    const std::string out = folder.Path("rib.pdf");
+    // 2500 mm of NACA 2412 are 198 mm above the line and 105 below it; with the margin of 10 the
+    // line is lowered to 208 mm. 313 are more than the 195 of the first row and less than 360.
+    // Along the rib there are 2500 / 252 = 9 whole steps and a rest.
+    const Ran ran =
+        RunLoftwing({"draw", Sample("naca2412.dat"), "--chord", "2500", "--rows", "-o", out});
+    EXPECT_EQ(ran.status, 0);
+    EXPECT_EQ(ran.err, "");
+    EXPECT_EQ(FactsOf(out).pages, 20);
+}
+
+TEST(Draw, PaperOfOnesOwnHasTheMeasuresThatWereTyped) {
+    const TempFolder folder;
+    const std::string out = folder.Path("rib.pdf");
+    const auto draw = [&out](std::vector<std::string> more) {
+        std::vector<std::string> words = {"draw", Sample("naca2412.dat"), "-o", out};
+        words.insert(words.end(), more.begin(), more.end());
+        EXPECT_EQ(RunLoftwing(words).status, 0);
+        return FactsOf(out);
+    };
+    const PdfFacts own = draw({"--paper", "610x300"});
+    EXPECT_NEAR(own.width, 610 * kPoints, 1);
+    EXPECT_NEAR(own.height, 300 * kPoints, 1);
+    const PdfFacts upright = draw({"--paper", "300x610"});
+    EXPECT_NEAR(upright.width, 300 * kPoints, 1);
+    EXPECT_NEAR(upright.height, 610 * kPoints, 1);
+    const PdfFacts inches = draw({"--unit", "in", "--chord", "10", "--paper", "12x9.1/2"});
+    EXPECT_NEAR(inches.width, 12 * 72, 1);
+    EXPECT_NEAR(inches.height, 9.5 * 72, 1);
+    const PdfFacts whole = draw({"--chord", "1200", "--paper", "drawing"});
+    EXPECT_EQ(whole.pages, 1);
+    EXPECT_NEAR(whole.width, 1226 * kPoints, 2); // 10 + 1200 + 15 and what the lines have around
+}
+
+TEST(Draw, PaperThatNoPageCanHaveIsWrongUsage) {
+    const TempFolder folder;
+    const std::string out = folder.Path("rib.pdf");
+    for (const char *paper : {"49x300", "300x5081", "300x", "x300", "axb", "300x300x300"}) {
+        const Ran ran = RunLoftwing({"draw", Sample("naca2412.dat"), "-o", out, "--paper", paper});
+        EXPECT_EQ(ran.status, 2) << paper;
+        EXPECT_FALSE(std::filesystem::exists(out));
+    }
+    const Ran large = RunLoftwing(
+        {"draw", Sample("naca2412.dat"), "-o", out, "--chord", "5200", "--paper", "drawing"});
+    EXPECT_EQ(large.status, 1);
+    EXPECT_THAT(large.err, HasSubstr("The drawing wants a page of : 5226 x "));
+    EXPECT_FALSE(std::filesystem::exists(out));
 }
 
 TEST(Draw, HeelMarginsThatAreNotInForceAreToldOnStandardError) {

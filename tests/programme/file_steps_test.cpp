@@ -140,6 +140,22 @@ TEST_F(FileSteps, AnAirfoilThatIsRefusedLeavesRibAndView) {
     EXPECT_THAT(view.asked, IsEmpty());
 }
 
+TEST_F(FileSteps, AnAirfoilTooLargeToBeDrawnLeavesTheRibAndIsNamed) {
+    HaveRib();
+    // Its contour can be made: 1e40 is a number of 64 bits. A drawing has 32.
+    platform.Expect(BoxAnswer::ok, {.text = testing::HasSubstr(
+                                        "tall.dat, nothing of its outline can be drawn, too "
+                                        "large a value at point 3, x = 0.5, y = 1E+40"),
+                                    .title = "Error Main/PrintSubroutine"});
+    OuvreFichier(programme, view,
+                 folder.File("tall.dat", "Tall\n1 0\n0.75 0.05\n0.5 1e40\n0.25 0.05\n0 0\n"
+                                         "0.25 -0.05\n0.5 -0.05\n0.75 -0.05\n1 0\n"));
+    EXPECT_EQ(Rib().NomProfil, "naca0012");
+    EXPECT_EQ(Rib().CheminProfil, Sample("naca0012.dat"));
+    EXPECT_TRUE(Rib().Modifie);
+    EXPECT_THAT(view.asked, IsEmpty());
+}
+
 TEST_F(FileSteps, AnAirfoilThatCannotBeReadClearsTheRib) {
     HaveRib();
     ExpectReport(" Open/FichierLecture");

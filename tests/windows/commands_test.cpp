@@ -2,6 +2,8 @@
 
 #include "mainwindow/commands.h"
 
+#include <QString>
+
 #include <gtest/gtest.h>
 
 #include <set>
@@ -116,6 +118,30 @@ TEST(CommandTables, EveryCheckedEntryShowsSomethingOfTheRib) {
         shown.insert(coche.name);
     }
     EXPECT_EQ(checkable, shown);
+}
+
+/// The letter behind the "&" of a caption, in lower case; none without one.
+std::string LetterOf(const std::string &caption) {
+    const std::size_t mark = caption.find('&');
+    return mark == std::string::npos
+               ? std::string()
+               : QString::fromStdString(caption.substr(mark + 1)).left(1).toLower().toStdString();
+}
+
+TEST(CommandTables, NoAccessLetterStandsTwiceInAMenu) {
+    const std::string folder = LOFTWING_SOURCE_DIR "/resources/lng";
+    for (const std::string &name : LngIni::Languages(folder)) {
+        LngIni language;
+        language.Charge(folder, name);
+        std::set<std::pair<std::string, std::string>> letters;
+        for (const Command &command : MenuCommands()) {
+            const std::string letter = LetterOf(language.LngText(command.text));
+            const std::string menu = command.menu == nullptr ? "" : command.menu;
+            EXPECT_TRUE(letter.empty() || letters.emplace(menu, letter).second)
+                << name << ": " << language.LngText(command.text);
+        }
+        EXPECT_GT(letters.size(), 20U);
+    }
 }
 
 } // namespace

@@ -41,7 +41,7 @@ TEST_F(FrmPrintTest, ShowsTheStoredPage) {
     Chord("8", 203.2F);
     Use([](Seen &dialog) {
         const auto &papers = dialog.Find<QComboBox>("Combo1");
-        EXPECT_EQ(papers.count(), 9);
+        EXPECT_EQ(papers.count(), 10); // behind them the page as large as the drawing
         EXPECT_EQ(papers.itemText(7).toStdString(), " A3 297 x 420 mm");
         EXPECT_EQ(papers.itemText(8).toStdString(), " Paper set in the printer");
         EXPECT_EQ(papers.currentIndex(), 1);

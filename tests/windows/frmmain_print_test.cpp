@@ -24,7 +24,9 @@ class TooHigh : public testing::Test {
         world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
         world.programme.settings.page.Ydprint = 5;
     }
+    /// What is asked of a drawing that sheets downwards would hold: first whether to make them.
     void Asked(BoxAnswer answer) {
+        Offered(BoxAnswer::no);
         world.platform.Expect(answer,
                               {.text = StartsWith("The drawing leaves the sheet. What lies beyond "
                                                   "its edge is lost :\nUpper edge : 10.9 mm\n\n"
@@ -34,8 +36,31 @@ class TooHigh : public testing::Test {
                                .buttons = BoxButtons::yes_no});
     }
 
+    void Offered(BoxAnswer answer) {
+        world.platform.Expect(
+            answer,
+            {.text = "The drawing is taller than the sheet, or too high or too low on it. Lay "
+                     "it on sheets downwards too?",
+             .title = "Page setup",
+             .icon = BoxIcon::question,
+             .buttons = BoxButtons::yes_no});
+    }
+
     WindowWorld world;
 };
+
+TEST_F(TooHigh, CanBeLaidOnSheetsDownwards) {
+    world.platform.Expect(BoxAnswer::yes, {.text = "Print naca2412"});
+    Offered(BoxAnswer::yes);
+    world.Action("mnu_fileprint")->trigger();
+    EXPECT_EQ(world.platform.print_questions.size(), 1U);
+    // 15.84 mm above the line and the margin of 10, to a whole millimetre.
+    EXPECT_EQ(LigneReference(world.programme.settings.page), 26);
+    // Once taken they are not offered again.
+    world.platform.Expect(BoxAnswer::yes, {.text = "Print naca2412"});
+    world.Action("mnu_fileprint")->trigger();
+    EXPECT_EQ(world.platform.print_questions.size(), 2U);
+}
 
 TEST_F(TooHigh, IsToldBeforeItIsPrinted) {
     world.platform.Expect(BoxAnswer::yes, {.text = "Print naca2412"});
@@ -99,6 +124,9 @@ TEST(SheetsOfTheWindow, SpeakFrenchAndInches) {
     world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
     ValeursPouces(world.programme.settings.page);
     world.programme.settings.page.Ydprint = 0;
+    world.platform.Expect(
+        BoxAnswer::no,
+        {.text = StartsWith("Le dessin est plus haut que la feuille"), .title = "Mise en page"});
     // 8 in of chord: the file's highest point is 0.6334 in above the line, between 10 and 11
     // sixteenths.
     world.platform.Expect(
