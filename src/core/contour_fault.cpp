@@ -15,9 +15,6 @@ namespace {
 constexpr long kAvantCentre = 2;
 constexpr long kApresCentre = 3;
 
-/// Coordinates are parts of a chord; from here on it is their size that computing fails on.
-constexpr double kTropGrand = 1e6;
-
 /// The two points of a run that lie closest to each other in one coordinate.
 FauteContour LesPlusProches(const PointList &axis, long from, long to, CauseContour cause) {
     FauteContour closest;

@@ -17,6 +17,9 @@ struct SegmentEchantillonne {
 FauteContour ChercheFaute(const Profil &rib, const SegmentEchantillonne &segment,
                           const Failure &failure);
 
+/// Coordinates are parts of a chord; from here on it is their size that computing fails on.
+inline constexpr double kTropGrand = 1e6;
+
 /// Names the airfoil's largest coordinate as what nothing can be drawn of. The rib has points.
 void AccuseLePlusGrand(RibModel &rib);
 

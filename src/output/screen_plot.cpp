@@ -3,6 +3,7 @@
 #include "base/number_text.h"
 #include "base/text_encoding.h"
 #include "base/version.h"
+#include "core/contour_fault.h"
 #include "output/rib_plot.h"
 
 #include <algorithm>
@@ -60,7 +61,8 @@ bool ContourTracable(const RibModel &rib) {
     const double room = Wide(std::numeric_limits<float>::max()) / 2;
     const double scale = Wide(rib.corde) * kUnitsPerMm * Wide(FacteurZoom(kZoomRows.front()));
     for (long i = 1; i <= rib.NbContour; ++i) {
-        if (std::max(std::abs(rib.ContourX(i)), std::abs(rib.ContourY(i))) * scale > room) {
+        const double farthest = std::max(std::abs(rib.ContourX(i)), std::abs(rib.ContourY(i)));
+        if (farthest > kTropGrand && farthest * scale > room) {
             return false;
         }
     }

@@ -40,7 +40,8 @@ bool RibVisible(const RibModel &rib);
 /// Whether both stocks fit into the chord; a box says so if they don't.
 bool StocksTiennent(const RibModel &rib, const Messages &messages);
 
-/// Whether the contour's places can be told in 32 bits at every zoom of the list.
+/// Whether the contour's places can be told in 32 bits at every zoom of the list. A chord that is
+/// too long for that is another matter.
 bool ContourTracable(const RibModel &rib);
 
 /// Sets scale and origin for the screen and draws the rib on trace.device, which the caller has

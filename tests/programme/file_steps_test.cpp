@@ -1,9 +1,12 @@
 #include "programme/file_steps.h"
 
+#include "base/whole_file.h"
 #include "features/inserted_text.h"
 #include "persist/LireEcrire.h"
 #include "support/components_text.h"
 #include "support/steps_world.h"
+
+#include <sstream>
 
 namespace loftwing {
 namespace {
@@ -143,13 +146,20 @@ TEST_F(FileSteps, AnAirfoilThatIsRefusedLeavesRibAndView) {
 TEST_F(FileSteps, AnAirfoilTooLargeToBeDrawnLeavesTheRibAndIsNamed) {
     HaveRib();
     // Its contour can be made: 1e40 is a number of 64 bits. A drawing has 32.
-    platform.Expect(BoxAnswer::ok, {.text = testing::HasSubstr(
-                                        "tall.dat, nothing of its outline can be drawn, too "
-                                        "large a value at point 3, x = 0.5, y = 1E+40"),
-                                    .title = "Error Main/PrintSubroutine"});
-    OuvreFichier(programme, view,
-                 folder.File("tall.dat", "Tall\n1 0\n0.75 0.05\n0.5 1e40\n0.25 0.05\n0 0\n"
-                                         "0.25 -0.05\n0.5 -0.05\n0.75 -0.05\n1 0\n"));
+    std::istringstream sample(ReadWholeFile(Sample("naca2412.dat")));
+    std::string text;
+    std::string line;
+    for (int number = 0; std::getline(sample, line); ++number) {
+        text += (number == 9 ? line.substr(0, line.find_last_of(' ')) + " 1e40" : line) + "\n";
+    }
+    platform.Expect(
+        BoxAnswer::ok,
+        {.text = testing::AllOf(
+             testing::HasSubstr("Overflow: tall.dat, nothing of its outline can be drawn, "
+                                "too large a value at point 9, x = "),
+             testing::HasSubstr(", y = 1E+40")),
+         .title = " Main/PrintSubroutine"});
+    OuvreFichier(programme, view, folder.File("tall.dat", text));
     EXPECT_EQ(Rib().NomProfil, "naca0012");
     EXPECT_EQ(Rib().CheminProfil, Sample("naca0012.dat"));
     EXPECT_TRUE(Rib().Modifie);
