@@ -7,6 +7,7 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
+#include <limits>
 #include <numbers>
 #include <utility>
 
@@ -217,8 +218,12 @@ Curve Lay(const NaturalSpline &upper, const NaturalSpline &lower, int count) {
         [&](double share) { return lower(lower.Length() * share); });
 }
 
-/// A list of points ends at the first x of 1.
+/// Whether the reader takes points as they are: it counts them in 16 bits, and a list of them ends
+/// at the first x of 1.
 bool CanBeRead(const Curve &laid) {
+    if (std::ssize(laid) > std::numeric_limits<std::int16_t>::max()) {
+        return false;
+    }
     for (std::size_t i = 1; i + 1 < laid.size(); ++i) {
         if (laid[i].x >= 1 || laid[i] == laid[i - 1]) {
             return false;

@@ -12,6 +12,7 @@
 #include <array>
 #include <cmath>
 #include <filesystem>
+#include <numbers>
 
 namespace loftwing {
 namespace {
@@ -163,6 +164,21 @@ TEST_F(AirfoilImport, LevelTurnsTheTrailingEdgeOntoTheReferenceLine) {
     EXPECT_NEAR(airfoil.turned, -angle * 180 / std::acos(-1.0), 0.05);
     EXPECT_NEAR((airfoil.points.front().at.y + airfoil.points.back().at.y) / 2, 0, 1e-9);
     EXPECT_EQ(airfoil.points.front().at.x, 1);
+}
+
+TEST_F(AirfoilImport, MorePointsThanTheProgramCountsAreLaidAnew) {
+    Curve many; // NACA 0012
+    constexpr int kEach = 17000;
+    for (int i = -kEach; i <= kEach; ++i) {
+        const double x = (1 - std::cos(std::numbers::pi * i / kEach)) / 2;
+        const double y = 0.6 * (0.2969 * std::sqrt(x) - 0.126 * x - 0.3516 * x * x +
+                                0.2843 * x * x * x - 0.1036 * x * x * x * x);
+        many.push_back({x, i < 0 ? y : -y});
+    }
+    const ImportedAirfoil airfoil = ImportAirfoil(TextOfCurve(many));
+    EXPECT_EQ(airfoil.laid, 160);
+    EXPECT_LE(airfoil.after, kImportTolerance);
+    EXPECT_FALSE(airfoil.before);
 }
 
 TEST_F(AirfoilImport, AsManyPointsAsAskedForAreLaid) {
