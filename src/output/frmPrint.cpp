@@ -33,6 +33,16 @@ frmPrint::frmPrint(Programme &programme, QWidget *parent)
     connect(&chktemoin, &QCheckBox::toggled, [this](bool on) { page_.temoin = on; });
 }
 
+void frmPrint::SuitPage(std::function<void(const MiseEnPage *page)> suit) {
+    suit_ = std::move(suit);
+    MontreCompte(compte_);
+}
+
+void frmPrint::MontreCompte(bool compte) {
+    compte_ = compte;
+    suit_(compte ? &page_ : nullptr);
+}
+
 void frmPrint::Form_Load() {
     programme_.rib.Annule = false;
     if (page_.NumIndex >= NombrePapiers(page_)) {
@@ -89,6 +99,7 @@ void frmPrint::Compte(const char *label, Action action) {
             action();
         } catch (const Failure &) {
             Label10.setText(Q(TexteSansPages(programme_.language)));
+            MontreCompte(false);
             throw;
         }
     });
@@ -146,6 +157,7 @@ Feuilles frmPrint::CalculeEtMontre() {
     try {
         const Feuilles feuilles = CalculPages(page_, longueur_);
         Montre(feuilles);
+        MontreCompte(true);
         return feuilles;
     } catch (const Failure &) {
         Montre(Feuilles::sans_pas); // the overlap must be there to be put right
