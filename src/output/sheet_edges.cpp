@@ -11,7 +11,7 @@ namespace loftwing {
 namespace {
 
 /// A blue grey that no element of a drawing can have: it isn't in the palette.
-constexpr Colour kCouleur = 0x7C97B8;
+constexpr Colour kCouleur = 0x5B7DA8;
 constexpr double kTailleNumero = 9; // points at every zoom
 constexpr double kEcartNumero = 60; // device units from the corner, 4 pixels
 
