@@ -29,8 +29,14 @@ frmPrint::frmPrint(Programme &programme, QWidget *parent)
     connect(&cmdconfigImprim, &QPushButton::clicked, this, &frmPrint::cmdconfigImprim_Click);
     connect(&cmdpapier, &QPushButton::clicked, this, &frmPrint::cmdpapier_Click);
     connect(&cmdretire, &QPushButton::clicked, this, &frmPrint::cmdretire_Click);
-    connect(&chkrangees, &QCheckBox::toggled, [this](bool on) { page_.en_rangees = on; });
-    connect(&chktemoin, &QCheckBox::toggled, [this](bool on) { page_.temoin = on; });
+    connect(&chkrangees, &QCheckBox::toggled, [this](bool on) {
+        page_.en_rangees = on;
+        MontreCompte(compte_);
+    });
+    connect(&chktemoin, &QCheckBox::toggled, [this](bool on) {
+        page_.temoin = on;
+        MontreCompte(compte_);
+    });
 }
 
 void frmPrint::SuitPage(std::function<void(const MiseEnPage *page)> suit) {

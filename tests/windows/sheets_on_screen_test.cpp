@@ -203,6 +203,21 @@ TEST_F(SheetsOnScreen, FollowThePageThatIsBeingSetUp) {
     EXPECT_NEAR(LeftEdge(), -30 + 30 / 56.7, 1E-3);
 }
 
+TEST_F(SheetsOnScreen, GoDownwardsAsSoonAsTheBoxIsTicked) {
+    Rib().TypeGabarit = kGabaritMousse;
+    Rib().bloc.HTbloc = 230;
+    Rib().bloc.HTbasbloc = 200; // 50 + 200 is beyond 210
+    world.window->affiche();
+    Toggle();
+    SetUp([this](Seen &dialog) {
+        EXPECT_THAT(Shown(), ElementsAre("1/2", "2/2"));
+        dialog.Click("chkrangees");
+        EXPECT_THAT(Shown(), ElementsAre("1/4", "2/4", "3/4", "4/4"));
+        dialog.Click("cmdannuler");
+    });
+    EXPECT_THAT(Shown(), ElementsAre("1/2", "2/2"));
+}
+
 TEST_F(SheetsOnScreen, GoBackWhenTheSetUpIsCancelled) {
     Toggle();
     const auto before = Sheets()->Operations();
