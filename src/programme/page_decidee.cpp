@@ -17,7 +17,7 @@ class RunMuet {
   public:
     RunMuet(Programme &programme, const MiseEnPage &page)
         : rib_(programme.rib), compare_(programme.compare), settings_(programme.settings),
-          silent_(unseen_, true), messages_(silent_, programme.language) {
+          silent_(unseen_, true), messages_{silent_, programme.language} {
         settings_.page = page;
     }
 

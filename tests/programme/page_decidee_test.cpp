@@ -78,7 +78,7 @@ TEST_F(DecidedPage, MeasuresForAPageOfTheDrawingsOwnSize) {
 
 TEST_F(DecidedPage, GivesNoSheetsWithoutAWord) {
     Rib().corde = 300;
-    Page().NbPages = 2; // set up: what the fields would show doesn't matter
+    Page().NbPages = 2;     // set up: what the fields would show doesn't matter
     Page().MargeHaut = 270; // 297 - 270 - 15 - 20 is below 0
     EXPECT_FALSE(Decided());
     Page().MargeHaut = 10;
