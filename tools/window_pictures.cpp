@@ -35,6 +35,7 @@
 #include "utilities/frmribevol.h"
 #include "utilities/frmribevol2.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QEventLoop>
@@ -95,6 +96,7 @@ class Pictures {
         rib.AffEpr = rib.AffHautBA = rib.AffHautBF = true;
         window_->affiche();
         Save(*window_, "frmmain");
+        TakeSheets();
         TakeNotices();
         for (const char *mode : {"corde", "epcof", "ba", "bf", "rep"}) {
             frmInput entry(programme_, mode, window_.get());
@@ -114,6 +116,18 @@ class Pictures {
     static Paths PathsIn(const std::string &home) {
         const std::string resources = std::string(LOFTWING_SOURCE_DIR) + "/resources";
         return {resources, resources + "/lng", home + "/Loftwing.ini", resources + "/help"};
+    }
+
+    /// The sheets around the rib, seen whole.
+    void TakeSheets() {
+        const auto entry = [this](const char *name) {
+            window_->findChild<QAction *>(name)->trigger();
+        };
+        entry("mnu_afffeuilles");
+        entry("mnu_affajuste");
+        Save(*window_, "frmmain-sheets");
+        entry("mnu_afffeuilles");
+        entry("mnu_affzoom100");
     }
 
     /// The window before the first airfoil, and after one.

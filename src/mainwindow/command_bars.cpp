@@ -196,8 +196,8 @@ void CommandBars::PoseTextes(const LngIni &language) {
     const auto caption = [&language](LngKey key) { return Q(language.LngText(key)); };
     for (const Command &command : MenuCommands()) {
         actions_.at(command.name)->setText(caption(command.text));
-        if (command.ailleurs) {
-            actions_.at(command.name)->setToolTip(caption(*command.ailleurs));
+        if (const auto tip = command.ailleurs ? command.ailleurs : command.conseil) {
+            actions_.at(command.name)->setToolTip(caption(*tip));
         }
     }
     actions_.at("mnu_helpVersion")->setText("Check " + caption({"FrmAbout", "3"}));

@@ -36,6 +36,11 @@ Command Ailleurs(const char *name, const char *menu, LngKey text, LngKey ailleur
     return command;
 }
 
+Command Conseille(Command command, LngKey conseil) {
+    command.conseil = conseil;
+    return command;
+}
+
 Command Below(Command command) {
     command.separator = true;
     return command;
@@ -82,17 +87,18 @@ std::vector<Command> FileMenu() {
         SubMenu("mnu_fileribs", menu, {"MenuFile", "210"}, kAlways),
     };
     Ajoute(commands, ExportEntries(menu));
-    Ajoute(commands, {
-                         Below(Entry("mnu_filepage", menu, {"MenuFile", "6"}, kPaper,
-                                     &frmmain::mnu_filepage_Click)),
-                         Entry("mnu_fileprinterconfig", menu, {"MenuFile", "7"}, kPaper,
-                               &frmmain::mnu_fileprinterconfig_Click),
-                         Entry("mnu_fileprintpreview", menu, {"MenuFile", "8"}, kAlways, nullptr),
-                         Entry("mnu_fileprint", menu, {"MenuFile", "9"}, kPaper,
-                               &frmmain::mnu_fileprint_Click, "Ctrl+P"),
-                         Below(Entry("mnu_fileexit", menu, {"MenuFile", "10"}, kAlways,
-                                     &frmmain::mnu_fileexit_Click, "Ctrl+Q")),
-                     });
+    Ajoute(commands,
+           {
+               Below(Entry("mnu_filepage", menu, {"MenuFile", "6"}, kPaper,
+                           &frmmain::mnu_filepage_Click)),
+               Entry("mnu_fileprinterconfig", menu, {"MenuFile", "7"}, kPaper,
+                     &frmmain::mnu_fileprinterconfig_Click),
+               Ailleurs("mnu_fileprintpreview", menu, {"MenuFile", "8"}, {"MenuFile", "230"}),
+               Entry("mnu_fileprint", menu, {"MenuFile", "9"}, kPaper,
+                     &frmmain::mnu_fileprint_Click, "Ctrl+P"),
+               Below(Entry("mnu_fileexit", menu, {"MenuFile", "10"}, kAlways,
+                           &frmmain::mnu_fileexit_Click, "Ctrl+Q")),
+           });
     return commands;
 }
 
@@ -113,6 +119,9 @@ std::vector<Command> ViewMenu() {
               &frmmain::mnu_affInstxt_Click),
         Check("mnu_affTrac", menu, {"MenuAffich", "9"}, kRib, &frmmain::mnu_affTrac_Click),
         Check("mnu_afflignRef", menu, {"MenuAffich", "12"}, kRib, &frmmain::mnu_afflignRef_Click),
+        Conseille(Check("mnu_afffeuilles", menu, {"MenuAffich", "215"}, kPaper,
+                        &frmmain::mnu_afffeuilles_Click),
+                  {"MenuAffich", "230"}),
         Below(SubMenu(zoom, menu, {"MenuAffich", "210"}, kAlways)),
         Entry("mnu_affzoomplus", zoom, {"MenuAffich", "211"}, kAlways,
               &frmmain::mnu_affzoomplus_Click, "Ctrl++; Ctrl+="),

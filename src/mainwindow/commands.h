@@ -31,6 +31,8 @@ struct Command {
     /// Of an entry that does nothing and is never alive: its tool tip, which says where the thing
     /// is found.
     std::optional<LngKey> ailleurs = std::nullopt;
+    /// The tool tip of an entry that has something to add to its words.
+    std::optional<LngKey> conseil = std::nullopt;
 };
 
 /// All menus and menu entries, in the order in which they stand.

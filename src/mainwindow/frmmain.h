@@ -59,6 +59,7 @@ class frmmain : public MainFrame {
     void mnu_affInstxt_Click();
     void mnu_affTrac_Click();
     void mnu_afflignRef_Click();
+    void mnu_afffeuilles_Click();
     void mnu_affzoomplus_Click();
     void mnu_affzoommoins_Click();
     void mnu_affzoom100_Click();

@@ -24,7 +24,10 @@ void frmmain::mnu_filepage_Click() {
 
 bool frmmain::RegleMiseEnPage() {
     frmPrint dialog(programme_, this);
-    return ShowModal(dialog) == QDialog::Accepted;
+    dialog.SuitPage([this](const MiseEnPage *page) { sheets_.Suit(page); });
+    const bool accepted = ShowModal(dialog) == QDialog::Accepted;
+    sheets_.SuitReglages();
+    return accepted;
 }
 
 ReglagePage frmmain::ReglagePageIci() {
@@ -47,6 +50,7 @@ void frmmain::mnu_fileprint_Click() {
     if (ImprimeSurDemande(programme_, ReglagePageIci()) == FinImpression::trace_echec) {
         affclear();
     }
+    sheets_.SuitReglages(); // a run decides about rows, for one
 }
 
 void frmmain::mnu_fileexit_Click() {

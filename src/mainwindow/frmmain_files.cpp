@@ -56,6 +56,7 @@ void frmmain::Exporte(const EntreeExport &entree) {
             affclear();
         }
     });
+    sheets_.SuitReglages(); // sheets that were made decide about rows, for one
 }
 
 } // namespace loftwing

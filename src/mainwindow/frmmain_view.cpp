@@ -113,6 +113,10 @@ void frmmain::mnu_affajuste_Click() {
     }
 }
 
+void frmmain::mnu_afffeuilles_Click() {
+    sheets_.Montre(commands_.Entree("mnu_afffeuilles").isChecked());
+}
+
 void frmmain::Form_Resize() {
     // What is typed in a dialog may not fit yet, and a plot that fails costs the rib.
     if (DialogueNervureOuvert(*this)) {

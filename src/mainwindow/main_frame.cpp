@@ -16,7 +16,8 @@ namespace loftwing {
 
 MainFrame::MainFrame(Programme &programme, CommandBars::Demandes demandes)
     : programme_(programme), commands_(*this, std::move(demandes)),
-      picture_(new PictureArea(programme.rib, this)), panels_(*this) {
+      picture_(new PictureArea(programme.rib, this)), sheets_(programme, *picture_),
+      panels_(*this) {
     setCentralWidget(picture_);
     ConnectNotices();
 }
@@ -99,6 +100,7 @@ void MainFrame::Dessine(const std::function<Affichage(const Trace &)> &draw,
     if (result == Affichage::dessine) {
         dessine_ = true;
         picture_->Montre(std::move(recording));
+        sheets_.Pose();
         Panneau(1, kVersion);
         tell();
     }

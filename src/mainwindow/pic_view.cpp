@@ -18,6 +18,12 @@ PicView::PicView(QWidget *parent) : QWidget(parent) {
 
 void PicView::Montre(std::unique_ptr<Recording> drawing) {
     drawing_ = std::move(drawing);
+    overlay_.reset();
+    update();
+}
+
+void PicView::MontreDessus(std::unique_ptr<Recording> overlay) {
+    overlay_ = std::move(overlay);
     update();
 }
 
@@ -26,6 +32,9 @@ void PicView::paintEvent(QPaintEvent *) {
     painter.fillRect(rect(), Qt::white);
     if (drawing_) {
         Replay(*drawing_, painter, ScreenSurface());
+    }
+    if (overlay_) {
+        Replay(*overlay_, painter, ScreenSurface());
     }
 }
 

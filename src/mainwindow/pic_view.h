@@ -22,6 +22,9 @@ class PicView : public QWidget {
     /// Takes a new drawing, null for an empty picture.
     void Montre(std::unique_ptr<Recording> drawing);
     const Recording *Dessin() const { return drawing_.get(); }
+    /// What lies over the drawing, null for nothing; a new drawing starts without.
+    void MontreDessus(std::unique_ptr<Recording> overlay);
+    const Recording *Dessus() const { return overlay_.get(); }
 
   Q_SIGNALS:
     void MenuDemande(const QPoint &global);
@@ -43,6 +46,7 @@ class PicView : public QWidget {
 
   private:
     std::unique_ptr<Recording> drawing_;
+    std::unique_ptr<Recording> overlay_;
     QPoint dragged_from_;
     bool dragging_ = false;
     ZoomWheel zoom_wheel_;

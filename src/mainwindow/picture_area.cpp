@@ -92,16 +92,26 @@ void PictureArea::Montre(std::unique_ptr<Recording> drawing) {
     MontreAccueil();
 }
 
+void PictureArea::MontreFeuilles(std::unique_ptr<Recording> sheets) {
+    Pic_.MontreDessus(Pic_.Dessin() == nullptr ? nullptr : std::move(sheets));
+}
+
+std::optional<Extent> PictureArea::Etendu() const {
+    if (Pic_.Dessin() == nullptr) {
+        return std::nullopt;
+    }
+    const Extent drawn = Pic_.Dessin()->Bounds();
+    return Pic_.Dessus() == nullptr ? drawn : AvecDessus(rib_, drawn, Pic_.Dessus()->Bounds());
+}
+
 void PictureArea::MontreAccueil() {
     hint_.setVisible(Pic_.Dessin() == nullptr && !rib_.ProfilCharge);
 }
 
 void PictureArea::RegleDefilement() {
     MontreAccueil();
-    const Recording *drawing = Pic_.Dessin();
-    const Defilement bars =
-        DefilementSur(rib_, drawing == nullptr ? std::nullopt : std::optional(drawing->Bounds()),
-                      Pic_.width() * kUnitsPerPixel, Pic_.height() * kUnitsPerPixel);
+    const Defilement bars = DefilementSur(rib_, Etendu(), Pic_.width() * kUnitsPerPixel,
+                                          Pic_.height() * kUnitsPerPixel);
     // A value that falls out of the new range comes back through the bar's own change.
     SetRange(Hsbpic_, bars.across);
     SetRange(Vsbpic_, bars.down);
@@ -127,12 +137,11 @@ QRect PictureArea::PlaceDuDessin() const {
 }
 
 std::optional<WholeView> PictureArea::VueEntiere() const {
-    const Recording *drawing = Pic_.Dessin();
-    if (drawing == nullptr) {
+    const std::optional<Extent> all = Etendu();
+    if (!all) {
         return std::nullopt;
     }
-    return FitTo(rib_, drawing->Bounds(), Pic_.width() * kUnitsPerPixel,
-                 Pic_.height() * kUnitsPerPixel);
+    return FitTo(rib_, *all, Pic_.width() * kUnitsPerPixel, Pic_.height() * kUnitsPerPixel);
 }
 
 PicturePlace PictureArea::Milieu() const {

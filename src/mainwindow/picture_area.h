@@ -25,7 +25,9 @@ class PictureArea : public QWidget {
 
     /// Takes a new drawing, null for an empty picture. The bars stay until RegleDefilement.
     void Montre(std::unique_ptr<Recording> drawing);
-    /// Gives the bars their ranges over the present drawing.
+    /// Lays the edges of the sheets over the drawing, null for none. An empty picture takes none.
+    void MontreFeuilles(std::unique_ptr<Recording> sheets);
+    /// Gives the bars their ranges over the present drawing and the sheets.
     void RegleDefilement();
     /// The strips above the picture.
     NoticeBar &Avis() { return notices_; }
@@ -36,7 +38,7 @@ class PictureArea : public QWidget {
     void MetDefilement(const ScrollMove &bars = {});
     /// What of the drawing is seen, on the screen; empty without one.
     QRect PlaceDuDessin() const;
-    /// How the present drawing is seen whole; nothing without one.
+    /// How the present drawing is seen whole, its sheets too; nothing without one.
     std::optional<WholeView> VueEntiere() const;
     PicturePlace Milieu() const;
 
@@ -64,6 +66,8 @@ class PictureArea : public QWidget {
     QSize size_at_rest_; ///< of all of it
     ScrollDrag drag_;
 
+    /// What the bars lead over; nothing without a drawing.
+    std::optional<Extent> Etendu() const;
     void LayOut();
     void Connect();
     void Repose();

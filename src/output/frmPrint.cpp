@@ -29,8 +29,24 @@ frmPrint::frmPrint(Programme &programme, QWidget *parent)
     connect(&cmdconfigImprim, &QPushButton::clicked, this, &frmPrint::cmdconfigImprim_Click);
     connect(&cmdpapier, &QPushButton::clicked, this, &frmPrint::cmdpapier_Click);
     connect(&cmdretire, &QPushButton::clicked, this, &frmPrint::cmdretire_Click);
-    connect(&chkrangees, &QCheckBox::toggled, [this](bool on) { page_.en_rangees = on; });
-    connect(&chktemoin, &QCheckBox::toggled, [this](bool on) { page_.temoin = on; });
+    connect(&chkrangees, &QCheckBox::toggled, [this](bool on) {
+        page_.en_rangees = on;
+        MontreCompte(compte_);
+    });
+    connect(&chktemoin, &QCheckBox::toggled, [this](bool on) {
+        page_.temoin = on;
+        MontreCompte(compte_);
+    });
+}
+
+void frmPrint::SuitPage(std::function<void(const MiseEnPage *page)> suit) {
+    suit_ = std::move(suit);
+    MontreCompte(compte_);
+}
+
+void frmPrint::MontreCompte(bool compte) {
+    compte_ = compte;
+    suit_(compte ? &page_ : nullptr);
 }
 
 void frmPrint::Form_Load() {
@@ -89,6 +105,7 @@ void frmPrint::Compte(const char *label, Action action) {
             action();
         } catch (const Failure &) {
             Label10.setText(Q(TexteSansPages(programme_.language)));
+            MontreCompte(false);
             throw;
         }
     });
@@ -146,6 +163,7 @@ Feuilles frmPrint::CalculeEtMontre() {
     try {
         const Feuilles feuilles = CalculPages(page_, longueur_);
         Montre(feuilles);
+        MontreCompte(true);
         return feuilles;
     } catch (const Failure &) {
         Montre(Feuilles::sans_pas); // the overlap must be there to be put right

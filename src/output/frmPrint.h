@@ -12,6 +12,7 @@
 #include <QRadioButton>
 
 #include <array>
+#include <functional>
 
 namespace loftwing {
 
@@ -24,7 +25,14 @@ class frmPrint : public Dialogue {
   public:
     frmPrint(Programme &programme, QWidget *parent);
 
+    /// Shows the page to whoever looks on, now and after each count: as the dialog has it, null
+    /// where there is no count.
+    void SuitPage(std::function<void(const MiseEnPage *page)> suit);
+
   private:
+    std::function<void(const MiseEnPage *page)> suit_ = [](const MiseEnPage *) {};
+    bool compte_ = false; ///< the sheets could be counted
+
     MiseEnPage page_; ///< what the dialog shows; the settings are untouched until OK
     LongueurRib longueur_;
 
@@ -78,6 +86,7 @@ class frmPrint : public Dialogue {
     void CalculAuChargement();
     Feuilles CalculeEtMontre();
     void Montre(Feuilles feuilles);
+    void MontreCompte(bool compte);
     void MontreOptions(bool une_page);
     void ChoisitRecouvrement(Feuilles feuilles);
     bool Avertit(Feuilles feuilles);

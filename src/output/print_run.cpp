@@ -42,19 +42,11 @@ void PlaceOrigine(const Impression &run) {
     run.plot.OrigineY = ToSingle(LigneReference(run.settings.page) * kUnitsPerMm);
 }
 
-/// Shifts the drawing for a sheet. The margin is taken off in device units although it is in mm:
-/// all sheets ever printed lie that much to the left, and so match each other.
+/// Shifts the drawing for a sheet.
 void DecaleOrigine(const Impression &run, const Feuille &feuille) {
-    const MiseEnPage &page = run.settings.page;
-    if (page.NumIndex == kPapierEntier) {
-        run.plot.OrigineX = ToSingle(page.entiere.avant * kUnitsPerMm);
-        return;
-    }
-    const double margin = Wide(page.MargeHaut);
-    run.plot.OrigineX = ToSingle(margin * kUnitsPerMm -
-                                 (feuille.colonne * Wide(page.PasPage) * kUnitsPerMm + margin));
-    run.plot.OrigineY =
-        ToSingle((LigneReference(page) - feuille.rangee * page.rangees.pas) * kUnitsPerMm);
+    const OrigineFeuille origin = OrigineSur(run.settings.page, feuille);
+    run.plot.OrigineX = origin.x;
+    run.plot.OrigineY = origin.y;
 }
 
 /// Runs `job`; whatever goes wrong drops what was to be printed.
@@ -140,6 +132,20 @@ bool PrepareFeuilles(const Impression &run, const std::function<bool()> &set_up_
         run.messages.ReportPlot(failure, "");
         return false;
     }
+}
+
+// The margin is taken off in device units although it is in mm: all sheets ever printed lie that
+// much to the left, and so match each other.
+OrigineFeuille OrigineSur(const MiseEnPage &page, const Feuille &feuille) {
+    const float y =
+        ToSingle((LigneReference(page) - feuille.rangee * page.rangees.pas) * kUnitsPerMm);
+    if (page.NumIndex == kPapierEntier) {
+        return {ToSingle(page.entiere.avant * kUnitsPerMm), y};
+    }
+    const double margin = Wide(page.MargeHaut);
+    return {ToSingle(margin * kUnitsPerMm -
+                     (feuille.colonne * Wide(page.PasPage) * kUnitsPerMm + margin)),
+            y};
 }
 
 void PlaceFeuille(const Impression &run, const Feuille &feuille) {

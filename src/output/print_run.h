@@ -49,6 +49,14 @@ struct Feuille {
     int rangee = 0;
 };
 
+/// Where the leading edge end of the reference line lies on a sheet, in device units from its upper
+/// left corner.
+struct OrigineFeuille {
+    float x = 0;
+    float y = 0;
+};
+OrigineFeuille OrigineSur(const MiseEnPage &page, const Feuille &feuille);
+
 /// What the size of the drawing decides, after PrepareFeuilles: how many rows of sheets there are,
 /// or how large the page for the whole of it is. How the run ends here; nothing where it goes on.
 /// A page that is too large and rows without room are reported before.

@@ -38,6 +38,11 @@ void PlaceSurEcran(const RibModel &rib, PlotState &plot) {
                              corde * rib.ExtradosMaxi * kUnitsPerMm * zoom + kMargeHaute);
 }
 
+void PlaceRib(const RibModel &rib, PlotState &plot) {
+    PlaceSurEcran(rib, plot);
+    BaissePourGabarit(rib, plot);
+}
+
 float FacteurZoom(const std::string &row) {
     const std::string number = FirstCharacters(LastCharacters(row, 5), 3);
     return ToSingle(LeadingNumber(number) / 100.0);
@@ -78,8 +83,7 @@ Affichage afficheRib(const Trace &trace) {
         if (!StocksTiennent(trace.rib, trace.messages)) {
             return Affichage::refuse;
         }
-        PlaceSurEcran(trace.rib, trace.plot);
-        BaissePourGabarit(trace.rib, trace.plot);
+        PlaceRib(trace.rib, trace.plot);
     } catch (const Failure &failure) {
         trace.messages.ReportPlot(failure, " Main/PrintSubroutine");
         return Affichage::echec;

@@ -26,6 +26,17 @@ inline constexpr double kMargeHaute = 850.5;
 /// margin before scrolling. Failure 6 beyond 32 bits.
 void PlaceSurEcran(const RibModel &rib, PlotState &plot);
 
+/// The same for the rib: a foam template reaches beyond it.
+void PlaceRib(const RibModel &rib, PlotState &plot);
+
+/// Where a drawing lies on the screen: what its plot found for origin, in device units from the
+/// picture's upper left corner, and the zoom.
+struct PlaceEcran {
+    double x = 0;
+    double y = 0;
+    double zoom = 1;
+};
+
 /// How a redraw ended.
 enum class Affichage {
     rien,   ///< no rib is shown, or a special view is up

@@ -60,6 +60,17 @@ double UniteDefilement(const RibModel &rib) {
     return Wide(rib.corde) * Wide(rib.Zoom) / 2.0;
 }
 
+Extent AvecDessus(const RibModel &rib, const Extent &drawn, const Extent &over) {
+    Extent all = drawn;
+    all.left = std::min(all.left, over.left);
+    all.right = std::max(all.right, over.right);
+    if (DefileEnHauteur(rib)) {
+        all.top = std::min(all.top, over.top);
+        all.bottom = std::max(all.bottom, over.bottom);
+    }
+    return all;
+}
+
 Defilement DefilementSur(const RibModel &rib, const std::optional<Extent> &drawn, double width,
                          double height) {
     Defilement bars;

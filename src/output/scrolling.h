@@ -13,6 +13,9 @@ namespace loftwing {
 /// zoomed.
 double UniteDefilement(const RibModel &rib);
 
+/// A drawing with what lies over it. The height of a view that doesn't move up and down is its own.
+Extent AvecDessus(const RibModel &rib, const Extent &drawn, const Extent &over);
+
 /// The ranges that both bars get. The vertical one runs from 0 at the top to a negative value at
 /// the bottom.
 struct Defilement {

@@ -19,20 +19,18 @@ std::string MotsCorde(const RibModel &rib, const Saisie &saisie) {
     return saisie.messages.Text({"MainTolbar", "13"}) + " : " + rib.cordeAfich + saisie.Unite;
 }
 
-void PlaceEpCourb(const Trace &trace) {
-    const RibModel &rib = trace.rib;
-    PlaceSurEcran(rib, trace.plot);
+void PlaceEpCourb(const RibModel &rib, PlotState &plot) {
+    PlaceSurEcran(rib, plot);
     // The new section may rise over the old one.
     const double above = std::abs(rib.ExtradosMaxi - At(rib.NouvExtrados, kStationHaute));
-    trace.plot.OrigineY = ToSingle(
+    plot.OrigineY = ToSingle(
         (above + rib.ExtradosMaxi) * Wide(rib.corde) * kUnitsPerMm * Wide(rib.Zoom) + kMargeHaute);
 }
 
-void PlaceCouple(const Trace &trace) {
-    const RibModel &rib = trace.rib;
-    PlaceSurEcran(rib, trace.plot);
+void PlaceCouple(const RibModel &rib, PlotState &plot) {
+    PlaceSurEcran(rib, plot);
     if (rib.AffHaut) { // the lower surface is on top
-        trace.plot.OrigineY = ToSingle(
+        plot.OrigineY = ToSingle(
             Wide(rib.corde) * -rib.IntradosMini * kUnitsPerMm * Wide(rib.Zoom) + kMargeHaute);
     }
 }
@@ -65,7 +63,7 @@ Affichage afficheEpcourb(const Trace &trace) {
         return Affichage::rien;
     }
     return Affiche(
-        trace, " Main/PrintRoutineEpcourb", [&] { PlaceEpCourb(trace); },
+        trace, " Main/PrintRoutineEpcourb", [&] { PlaceEpCourb(trace.rib, trace.plot); },
         [&] { return PrintRoutineEpcourb(trace, 1.0); });
 }
 
@@ -74,7 +72,7 @@ Affichage afficheCouple(const Trace &trace) {
         return Affichage::rien;
     }
     return Affiche(
-        trace, " Main/PrintRoutineCouple", [&] { PlaceCouple(trace); },
+        trace, " Main/PrintRoutineCouple", [&] { PlaceCouple(trace.rib, trace.plot); },
         [&] { return PrintRoutineCouple(trace, 1.0); });
 }
 
@@ -87,6 +85,20 @@ Affichage afficheVue(const Trace &trace, const Comparaison &compare) {
         return afficheEpcourb(trace);
     }
     return rib.ModeCouple ? afficheCouple(trace) : afficheRib(trace);
+}
+
+PlaceEcran PlaceVue(const RibModel &rib, const Comparaison &compare) {
+    PlotState plot;
+    if (CompareEnVue(rib, compare)) {
+        PlaceSurEcran(rib, plot);
+    } else if (rib.ModeEpCourb) {
+        PlaceEpCourb(rib, plot);
+    } else if (rib.ModeCouple) {
+        PlaceCouple(rib, plot);
+    } else {
+        PlaceRib(rib, plot);
+    }
+    return {Wide(plot.OrigineX), Wide(plot.OrigineY), Wide(rib.Zoom)};
 }
 
 bool DefileEnHauteur(const RibModel &rib) {

@@ -18,6 +18,9 @@ Affichage afficheCouple(const Trace &trace);
 /// The view that is up, or the rib where there is none.
 Affichage afficheVue(const Trace &trace, const Comparaison &compare);
 
+/// Where that lies on the screen. Failure 6 beyond 32 bits.
+PlaceEcran PlaceVue(const RibModel &rib, const Comparaison &compare);
+
 /// Whether a view moves with the vertical scroll bar. Views whose height is fixed start at the top.
 bool DefileEnHauteur(const RibModel &rib);
 

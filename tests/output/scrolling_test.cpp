@@ -43,6 +43,24 @@ TEST_F(Scrolling, AUnitIsHalfTheChordAsItIsZoomed) {
     EXPECT_EQ(UniteDefilement(rib), 75.0);
 }
 
+TEST_F(Scrolling, WhatLiesOverTheDrawingIsReachedToo) {
+    const Extent over{-300, -2000, 9000, 8000};
+    const Extent all = AvecDessus(rib, drawn, over);
+    EXPECT_EQ(all.left, -300);
+    EXPECT_EQ(all.right, 11623.5);
+    EXPECT_EQ(all.top, -2000);
+    EXPECT_EQ(all.bottom, 8000);
+}
+
+TEST_F(Scrolling, AViewOfFixedHeightStaysSoUnderWhatLiesOverIt) {
+    rib.ModeEpCourb = true;
+    const Extent all = AvecDessus(rib, drawn, {-300, -2000, 12000, 8000});
+    EXPECT_EQ(all.left, -300);
+    EXPECT_EQ(all.right, 12000);
+    EXPECT_EQ(all.top, 850.5);
+    EXPECT_EQ(all.bottom, 2000);
+}
+
 TEST_F(Scrolling, TheBarsReachAMarginBeyondTheDrawing) {
     EXPECT_EQ(Bars().across, kAcross);
     EXPECT_EQ(Bars().down, kDown);

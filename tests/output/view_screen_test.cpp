@@ -35,6 +35,10 @@ class ViewScreen : public testing::Test {
         compare.CompareNom2 = "two";
     }
     void ExpectPlace(float x, float y) {
+        const PlaceEcran place = PlaceVue(world.rib, compare);
+        EXPECT_EQ(place.x, x);
+        EXPECT_EQ(place.y, y);
+        EXPECT_EQ(place.zoom, 0.5);
         EXPECT_EQ(world.plot.CordeEchelle, 2835.0F);
         EXPECT_EQ(world.plot.OrigineX, x);
         EXPECT_EQ(world.plot.OrigineY, y);
@@ -51,25 +55,40 @@ constexpr float kX = 283.5F - 100.0F;
 constexpr float kY = -50.0F + 283.5F + 850.5F;
 
 TEST_F(ViewScreen, AComparisonIsPlacedLikeTheRib) {
+    world.rib.ModeCompare = true;
+    world.rib.TypeGabarit = kGabaritMousse; // no matter of a view's
     EXPECT_EQ(afficheCompare(world.On(device), compare), Affichage::dessine);
     ExpectPlace(kX, kY);
 }
 
 TEST_F(ViewScreen, TheSimplePlotIsPlacedLikeTheRib) {
+    world.rib.ModeCouple = true;
+    world.rib.TypeGabarit = kGabaritMousse;
     EXPECT_EQ(afficheCouple(world.On(device)), Affichage::dessine);
     ExpectPlace(kX, kY);
 }
 
 TEST_F(ViewScreen, TheInvertedSimplePlotHasItsLowerSurfaceOnTop) {
-    world.rib.AffHaut = true;
+    world.rib.AffHaut = world.rib.ModeCouple = true;
     EXPECT_EQ(afficheCouple(world.On(device)), Affichage::dessine);
     ExpectPlace(kX, 113.4F + 850.5F); // 4 mm at half size, not scrolled
 }
 
 TEST_F(ViewScreen, TheNewSectionGetsRoomByStation300) {
     world.rib.NouvExtrados[300] = 0.15;
+    world.rib.ModeEpCourb = true;
     EXPECT_EQ(afficheEpcourb(world.On(device)), Affichage::dessine);
     ExpectPlace(kX, static_cast<float>((0.15 - 0.1 + 0.1) * 100 * 56.7 * 0.5 + 850.5));
+}
+
+TEST_F(ViewScreen, ARibLiesWhereItsPlotFindsItsOrigin) {
+    world.rib.TypeGabarit = kGabaritMousse;
+    world.rib.bloc.HTbloc = 20; // half of which the line is lower
+    world.rib.bloc.BAbloc = 30; // by which the plot itself moves the rib
+    const PlaceEcran place = PlaceVue(world.rib, compare);
+    EXPECT_EQ(place.x, kX);
+    EXPECT_EQ(place.y, kY + 10 * 28.35F);
+    EXPECT_EQ(place.zoom, 0.5);
 }
 
 TEST_F(ViewScreen, WithoutAnAirfoilOrASecondOneNothingIsDrawn) {

@@ -106,14 +106,14 @@ TEST(CommandTables, TheSimplePlotAddsThreeEntriesToAView) {
     EXPECT_EQ(simple.alive, alive);
 }
 
-TEST(CommandTables, EveryCheckedEntryShowsSomethingOfTheRib) {
+TEST(CommandTables, EveryCheckedEntryShowsSomethingOfTheRibButTheSheets) {
     std::set<std::string> checkable;
     for (const Command &command : MenuCommands()) {
         if (command.checkable) {
             checkable.insert(command.name);
         }
     }
-    std::set<std::string> shown;
+    std::set<std::string> shown = {"mnu_afffeuilles"}; // of the page
     for (const CocheVue &coche : kCochesVue) {
         shown.insert(coche.name);
     }

@@ -24,21 +24,22 @@ const std::set<std::string> kBornWithARib = {
     "mnu_profillongeron", "mnu_profiltrou", "mnu_profilbf", "mnu_profilTalon", "mnu_param",
     "mnu_Outilcoord",
     // Live and die with the DXF entry beside them.
-    "mnu_filepdf", "mnu_filesvg"};
+    "mnu_filepdf", "mnu_filesvg",
+    // The sheets of a drawing.
+    "mnu_afffeuilles"};
 
 const std::set<std::string> kDeadAfterClear = {
     "mnu_filesaveas", "Toolbar1(3)", "mnu_filedxf",     "mnu_filepage", "mnu_fileprinterconfig",
     "mnu_fileprint",  "Toolbar1(7)", "mnu_profilTalon", "mnu_param",    "mnu_affInstxt",
-    "mnu_filepdf",    "mnu_filesvg",
+    "mnu_filepdf",    "mnu_filesvg", "mnu_afffeuilles",
     // Not among those that a clear brings back: still as the airfoil left them.
 };
 
 const std::set<std::string> kAlwaysAlive = {
-    "mnu_fileopen",        "mnu_fileprofilopen", "mnu_fileexit",     "mnu_affcouleur",
-    "mnu_affclear",        "mnu_affLang",        "mnu_profilcorde",  "cmdcorde",
-    "cmdprofil",           "mnu_outil",          "mnu_OutilCompare", "mnu_calc",
-    "mnu_fileimport",      "mnu_help",           "mnu_helpAbout",    "Toolbar1(2)",
-    "mnu_fileprintpreview"};
+    "mnu_fileopen",   "mnu_fileprofilopen", "mnu_fileexit",     "mnu_affcouleur",
+    "mnu_affclear",   "mnu_affLang",        "mnu_profilcorde",  "cmdcorde",
+    "cmdprofil",      "mnu_outil",          "mnu_OutilCompare", "mnu_calc",
+    "mnu_fileimport", "mnu_help",           "mnu_helpAbout",    "Toolbar1(2)"};
 
 bool Enabled(const WindowWorld &world, const std::string &name) {
     if (name.starts_with("cmd")) {
