@@ -19,8 +19,9 @@
 #include "mainwindow/frmmain.h"
 #include "mainwindow/frmopen.h"
 #include "output/frmPrint.h"
-#include "output/frmpapier.h"
+#include "output/frmcorrection.h"
 #include "output/frmcoul.h"
+#include "output/frmpapier.h"
 #include "persist/frmdefaut.h"
 #include "platform/qt_form.h"
 #include "programme/console_platform.h"
@@ -185,6 +186,8 @@ class Pictures {
         TakeCalculators();
         frmPrint page(programme_, window_.get());
         Save(page, "frmPrint");
+        frmcorrection correction(programme_, window_.get());
+        Save(correction, "frmcorrection");
         frmpapier paper(programme_, window_.get());
         Save(paper, "frmpapier");
         frmcoul colours(programme_, window_.get());

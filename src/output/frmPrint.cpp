@@ -1,5 +1,6 @@
 #include "output/frmPrint.h"
 
+#include "output/frmcorrection.h"
 #include "output/frmpapier.h"
 
 #include <QSignalBlocker>
@@ -37,6 +38,7 @@ frmPrint::frmPrint(Programme &programme, QWidget *parent)
         page_.temoin = on;
         MontreCompte(compte_);
     });
+    connect(&cmdcorrection, &QPushButton::clicked, this, &frmPrint::cmdcorrection_Click);
 }
 
 void frmPrint::SuitPage(std::function<void(const MiseEnPage *page)> suit) {
@@ -82,6 +84,7 @@ void frmPrint::PoseTextes() {
     SetTip(chkrangees, programme_.Text({"FrmPrint", "256T"}));
     SetTip(chktemoin, programme_.Text({"FrmPrint", "257T"}));
     SetTip(cmdpapier, programme_.Text({"FrmPrint", "258T"}));
+    cmdcorrection.setText(Mot({"FrmPrint", "275"}));
     Combo1.setAccessibleName(Frame6.title());
     Text1[kChampYdprint].setAccessibleName(Frame5.title());
     for (QLabel *unit : {&Label5, &Label6, &Label7, &Label8}) {
@@ -276,6 +279,13 @@ void frmPrint::cmdretire_Click() {
 void frmPrint::cmdconfigImprim_Click() {
     programme_.platform.ShowPrinterSettings();
     setWindowTitle(Q(TitrePage(programme_.language, programme_.platform.PrinterName())));
+}
+
+void frmPrint::cmdcorrection_Click() {
+    Garde(" Print/Correction", [this] {
+        frmcorrection dialog(programme_, this);
+        ShowModal(dialog);
+    });
 }
 
 } // namespace loftwing

@@ -47,6 +47,7 @@ class frmPrint : public Dialogue {
     QPushButton cmdconfigImprim;
     QPushButton cmdpapier;
     QPushButton cmdretire;
+    QPushButton cmdcorrection;
     QLabel Label1;
     QLabel Label2;
     std::array<NumericField, kChampsPage> Text1;
@@ -80,6 +81,7 @@ class frmPrint : public Dialogue {
     void cmdconfigImprim_Click();
     void cmdpapier_Click();
     void cmdretire_Click();
+    void cmdcorrection_Click();
 
     template <class Action>
     void Compte(const char *label, Action action);

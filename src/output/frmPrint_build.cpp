@@ -17,6 +17,7 @@ void frmPrint::NameAll() {
                   {&cmdretire, "cmdretire"},
                   {&chkrangees, "chkrangees"},
                   {&chktemoin, "chktemoin"},
+                  {&cmdcorrection, "cmdcorrection"},
                   {&Frame2, "Frame2"},
                   {&Label1, "Label1"},
                   {&Label2, "Label2"},
@@ -59,6 +60,7 @@ void frmPrint::LayOutPaper() {
     own->addWidget(&cmdpapier);
     own->addWidget(&cmdretire);
     own->addStretch();
+    own->addWidget(&cmdcorrection);
     grid->addLayout(own, 2, 0, 1, 2);
     grid->setColumnStretch(0, 1);
 }

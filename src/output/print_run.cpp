@@ -4,7 +4,9 @@
 #include "output/etendue.h"
 #include "output/page_entry.h"
 #include "output/print_file.h"
+#include "output/sheet_marks.h"
 #include "output/styles.h"
+#include "output/temoins.h"
 #include "output/view_plots.h"
 #include "platform/busy_pointer.h"
 
@@ -156,26 +158,34 @@ void PlaceFeuille(const Impression &run, const Feuille &feuille) {
     }
 }
 
-namespace {
+Origine OrigineDe(const PlotState &plot) {
+    return {Wide(plot.OrigineX) / kUnitsPerMm, Wide(plot.OrigineY) / kUnitsPerMm};
+}
 
-/// How far the drawing reaches. Nothing when its plot failed, which that has reported. The plot
-/// state is afterwards what it was: a drawing may depend on what was drawn before.
-std::optional<Portee> MesurePortee(const Impression &run) {
+std::optional<Origine> MesureDessin(const Impression &run, PlotDevice &metre) {
     const PlotState kept = run.plot;
-    Metre metre;
     PlaceFeuille(run, {});
-    const double x = Wide(run.plot.OrigineX) / kUnitsPerMm;
-    const double y = Wide(run.plot.OrigineY) / kUnitsPerMm;
+    const Origine origin = OrigineDe(run.plot);
     const bool drawn = run.plot_routine(metre);
     run.plot = kept;
-    if (!drawn) {
+    return drawn ? std::optional(origin) : std::nullopt;
+}
+
+namespace {
+
+/// How far the drawing reaches. Nothing when its plot failed.
+std::optional<Portee> MesurePortee(const Impression &run) {
+    Metre metre;
+    const std::optional<Origine> origin = MesureDessin(run, metre);
+    if (!origin) {
         return std::nullopt;
     }
     const Etendue all = metre.Tout();
     if (all.Vide()) {
         return Portee{};
     }
-    return Portee{x - all.gauche, all.droite - x, y - all.haut, all.bas - y};
+    return Portee{origin->x - all.gauche, all.droite - origin->x, origin->y - all.haut,
+                  all.bas - origin->y};
 }
 
 bool DecideRangees(const Impression &run, const Portee &portee) {
@@ -186,16 +196,28 @@ bool DecideRangees(const Impression &run, const Portee &portee) {
     return true;
 }
 
+/// A page with room below the drawing for a check line.
+bool PrendPageAvecTemoin(const Impression &run, Portee portee) {
+    MiseEnPage &page = run.settings.page;
+    const std::string &Unite = run.settings.Unite;
+    const double before = Wide(page.MargeHaut);
+    const double behind = Wide(page.MargeBas);
+    portee.apres = std::max(portee.apres, LongueurPourTemoin(before, behind, Unite) - behind -
+                                              std::max(before, portee.avant + before));
+    return CalculPageEntiere(page, portee, HauteurPourTemoin(before, Unite));
+}
+
 bool DecidePageEntiere(const Impression &run, const Portee &portee) {
     MiseEnPage &page = run.settings.page;
     Portee wanted = portee;
     // The margin behind the rib counts from its end, also where nothing is drawn so far.
     wanted.apres = std::max(wanted.apres, Wide(LongueurDe(run.rib).EnJeu()));
-    if (!CalculPageEntiere(page, wanted, 0)) {
-        RefusePageTropGrande(page.entiere, run.messages);
-        return false;
+    // A check line is worth a larger page, but no refusal.
+    if ((page.temoin && PrendPageAvecTemoin(run, wanted)) || CalculPageEntiere(page, wanted, 0)) {
+        return true;
     }
-    return true;
+    RefusePageTropGrande(page.entiere, run.messages);
+    return false;
 }
 
 } // namespace
@@ -229,6 +251,7 @@ PrintQuestion DemandeImprimante(const Impression &run) {
     question.short_side_mm = std::min(paper.tailleFeuille, paper.largeur);
     question.proposed_pdf = run.nom + ".pdf";
     question.pdf_title = TitreFichierImprime(run.messages);
+    question.stretch = {run.settings.correction.x, run.settings.correction.y};
     return question;
 }
 
@@ -246,7 +269,14 @@ FinImpression imprime1page(const Impression &run, Printer &printer) {
     return Conduit(run, printer, [&] {
         PlaceOrigine(run);
         PrepareImprimante(run, printer, Papiers()[kPapierImprimante]);
-        return run.plot_routine(printer);
+        Temoins marks(run, printer, 1);
+        const Origine origin = OrigineDe(run.plot);
+        if (!marks.Mesure() || !run.plot_routine(printer)) {
+            return false;
+        }
+        marks.Trace(1, origin);
+        marks.Finit();
+        return true;
     });
 }
 
@@ -255,16 +285,23 @@ FinImpression imprimeXpage(const Impression &run, Printer &printer) {
         PlaceOrigine(run);
         PrepareImprimante(run, printer, PapierDe(run.settings.page));
         const int sheets = NombreFeuilles(run.settings.page);
+        Temoins marks(run, printer, sheets);
+        if (!marks.Mesure()) {
+            return false;
+        }
         for (int i = 0; i < sheets; ++i) {
             DecaleOrigine(run, FeuilleNumero(run, i));
+            const Origine origin = OrigineDe(run.plot);
             if (!run.plot_routine(printer)) {
                 return false;
             }
             tracerepere(run, printer);
+            marks.Trace(i + 1, origin);
             if (i + 1 < sheets) {
                 printer.NewPage();
             }
         }
+        marks.Finit();
         return true;
     });
 }

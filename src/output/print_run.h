@@ -21,7 +21,8 @@ struct Impression {
     /// Draws the current view on the printer at the scale and origin set; false after a failure
     /// that it has reported.
     std::function<bool(PlotDevice &)> plot_routine;
-    std::string nom; ///< of the drawing
+    std::string nom;       ///< of the drawing
+    std::string date = {}; ///< of the print, as the note of a check line has it
 };
 
 /// How a print run ended.
@@ -65,11 +66,26 @@ std::optional<FinImpression> PrepareDessin(const Impression &run);
 /// Sets scale and origin as a sheet of the run has them.
 void PlaceFeuille(const Impression &run, const Feuille &feuille);
 
+/// Where the leading edge end of the reference line stands on a sheet, mm.
+struct Origine {
+    double x = 0;
+    double y = 0;
+};
+Origine OrigineDe(const PlotState &plot);
+
+/// Draws on a surface that measures, as on the first sheet, and says where the drawing stands
+/// there. Nothing when its plot failed, which that has reported. The plot state is afterwards what
+/// it was: a drawing may depend on what was drawn before.
+std::optional<Origine> MesureDessin(const Impression &run, PlotDevice &metre);
+
 /// What the platform is asked for the run's paper.
 PrintQuestion DemandeImprimante(const Impression &run);
 
 /// How many sheets of which paper the run takes, a line each.
 std::string ResumeFeuilles(const Impression &run);
+
+// Where the page's settings say so, every sheet gets a check line, after all else that is on it. A
+// run with a sheet that has no room for one ends with a sheet of its own for it.
 
 /// One sheet on the printer's own paper; what lies beyond it is lost.
 FinImpression imprime1page(const Impression &run, Printer &printer);

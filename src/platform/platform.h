@@ -48,6 +48,12 @@ struct FormAnswer {
     int form = 0;     ///< 0 the question's own filter, then the further ones
 };
 
+/// What a printer's sheets are stretched by, from their upper left corner.
+struct SheetStretch {
+    double x = 1;
+    double y = 1;
+};
+
 /// What a print run wants to know of the sheet before it opens the printer.
 struct PrintQuestion {
     std::string document;       ///< name of the job in the queue
@@ -56,6 +62,7 @@ struct PrintQuestion {
     double short_side_mm = 0;   ///< likewise
     std::string proposed_pdf;   ///< file name to offer for a PDF
     std::string pdf_title = {}; ///< of the box that asks for it where no printer is installed
+    SheetStretch stretch = {};  ///< on a printer's sheets, whose drive may be off; never in a PDF
 };
 
 enum class Pointer { normal, busy };

@@ -85,7 +85,7 @@ std::unique_ptr<Printer> QtPlatform::OpenPrinter(const PrintQuestion &question) 
     if (!printer->isValid()) {
         throw MakeFailure(kDeviceError, S(printer->printerName()));
     }
-    return MakeSystemPrinter(std::move(printer));
+    return MakeSystemPrinter(std::move(printer), question.stretch);
 }
 
 std::unique_ptr<Printer> QtPlatform::OpenPdf(const PrintQuestion &question) {

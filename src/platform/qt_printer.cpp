@@ -43,6 +43,16 @@ bool IsNear(double one, double other) {
     return std::abs(one - other) <= kSheetsDiffer;
 }
 
+QPageLayout::Orientation LayoutOf(Orientation orientation) {
+    return orientation == Orientation::landscape ? QPageLayout::Landscape : QPageLayout::Portrait;
+}
+
+SheetSize SizeOf(const QPageSize &paper, Orientation orientation) {
+    const QPageLayout layout(paper, LayoutOf(orientation), {});
+    const QSizeF size = layout.fullRect(QPageLayout::Millimeter).size();
+    return {size.width(), size.height()};
+}
+
 /// Failure 57 where the device would print on other paper, or the other way round.
 void SetLayout(QPagedPaintDevice &device, const std::optional<QPageSize> &paper,
                Orientation orientation) {
@@ -53,8 +63,7 @@ void SetLayout(QPagedPaintDevice &device, const std::optional<QPageSize> &paper,
     if (paper) {
         layout.setPageSize(*paper, layout.minimumMargins());
     }
-    layout.setOrientation(orientation == Orientation::landscape ? QPageLayout::Landscape
-                                                                : QPageLayout::Portrait);
+    layout.setOrientation(LayoutOf(orientation));
     // What the call answers also depends on the rim and the paper's name; only the sheet counts.
     device.setPageLayout(layout);
     const QRectF wanted = layout.fullRect(QPageLayout::Millimeter);
@@ -65,7 +74,8 @@ void SetLayout(QPagedPaintDevice &device, const std::optional<QPageSize> &paper,
     }
 }
 
-void DrawSheets(QPagedPaintDevice &device, const std::deque<Sheet> &sheets) {
+void DrawSheets(QPagedPaintDevice &device, const std::deque<Sheet> &sheets,
+                const SheetStretch &stretch = {}) {
     QPainter painter;
     if (!painter.begin(&device)) {
         throw MakeFailure(kDeviceError);
@@ -76,7 +86,9 @@ void DrawSheets(QPagedPaintDevice &device, const std::deque<Sheet> &sheets) {
         if (&sheet != &sheets.front() && !device.newPage()) {
             throw MakeFailure(kDeviceError);
         }
+        painter.resetTransform();
         painter.setClipRect(QRect({}, size));
+        painter.scale(stretch.x, stretch.y);
         Replay(sheet, painter, surface);
     }
     if (!painter.end()) {
@@ -95,6 +107,9 @@ class SheetPrinter : public Printer {
         const bool own = short_side == 0 && long_side == 0;
         paper_ = own ? own_paper_ : PaperOf(short_side, long_side);
     }
+    SheetSize SizeOfSheets() const override {
+        return paper_ ? SizeOf(*paper_, orientation_) : SheetSize{};
+    }
     void NewPage() override { sheets_.emplace_back(); }
     void EndDoc() override {
         Send(sheets_);
@@ -108,6 +123,7 @@ class SheetPrinter : public Printer {
   protected:
     virtual void Send(const std::deque<Sheet> &sheets) = 0;
 
+    Orientation Lie() const { return orientation_; }
     void SetUp(QPagedPaintDevice &device) const { SetLayout(device, paper_, orientation_); }
 
     void Segment(double x1, double y1, double x2, double y2, const Pen &pen) override {
@@ -202,14 +218,24 @@ void ForbidScaling(QPrinter &printer) {
 
 class SystemPrinter : public SheetPrinter {
   public:
-    explicit SystemPrinter(std::unique_ptr<QPrinter> printer)
-        : SheetPrinter(std::nullopt), printer_(std::move(printer)) {}
+    SystemPrinter(std::unique_ptr<QPrinter> printer, const SheetStretch &stretch)
+        : SheetPrinter(std::nullopt), printer_(std::move(printer)), stretch_(stretch) {}
+
+    /// Of what is stretched less goes onto a sheet. Of what is shrunk no more does: the printer
+    /// enlarges it again.
+    SheetSize SizeOfSheets() const override {
+        SheetSize size = SheetPrinter::SizeOfSheets();
+        if (!(size.width > 0)) {
+            size = SizeOf(printer_->pageLayout().pageSize(), Lie());
+        }
+        return {size.width / std::max(1.0, stretch_.x), size.height / std::max(1.0, stretch_.y)};
+    }
 
   protected:
     void Send(const std::deque<Sheet> &sheets) override {
         SetUp(*printer_);
         ForbidScaling(*printer_);
-        DrawSheets(*printer_, sheets);
+        DrawSheets(*printer_, sheets, stretch_);
         if (printer_->printerState() == QPrinter::Error) {
             throw MakeFailure(kDeviceError, S(printer_->printerName()));
         }
@@ -217,6 +243,7 @@ class SystemPrinter : public SheetPrinter {
 
   private:
     std::unique_ptr<QPrinter> printer_;
+    SheetStretch stretch_;
 };
 
 } // namespace
@@ -250,8 +277,9 @@ std::unique_ptr<Printer> MakePdfFilePrinter(const std::string &path, const std::
     return std::make_unique<FilePdf>(path, title, paper);
 }
 
-std::unique_ptr<Printer> MakeSystemPrinter(std::unique_ptr<QPrinter> printer) {
-    return std::make_unique<SystemPrinter>(std::move(printer));
+std::unique_ptr<Printer> MakeSystemPrinter(std::unique_ptr<QPrinter> printer,
+                                           const SheetStretch &stretch) {
+    return std::make_unique<SystemPrinter>(std::move(printer), stretch);
 }
 
 } // namespace loftwing

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "output/printer.h"
+#include "platform/platform.h"
 
 #include <QPageSize>
 
@@ -30,7 +31,9 @@ std::unique_ptr<Printer> MakePdfPrinter(std::string &bytes, const std::string &t
 std::unique_ptr<Printer> MakePdfFilePrinter(const std::string &path, const std::string &title,
                                             const QPageSize &paper = QPageSize(QPageSize::A4));
 
-/// A job for a printer of the system, set up as the user chose it.
-std::unique_ptr<Printer> MakeSystemPrinter(std::unique_ptr<QPrinter> printer);
+/// A job for a printer of the system, set up as the user chose it. All that is drawn is stretched
+/// from the sheet's corner; what then lies beyond the sheet is cut off.
+std::unique_ptr<Printer> MakeSystemPrinter(std::unique_ptr<QPrinter> printer,
+                                           const SheetStretch &stretch = {});
 
 } // namespace loftwing

@@ -5,6 +5,9 @@
 #include "output/view_screen.h"
 #include "programme/nom_propose.h"
 
+#include <array>
+#include <ctime>
+
 namespace loftwing {
 
 std::unique_ptr<Recording> DessineVue(Programme &programme, PlotState &plot, bool &failed,
@@ -21,6 +24,19 @@ std::unique_ptr<Recording> DessineVue(Programme &programme, PlotState &plot, boo
     return result == Affichage::dessine ? std::move(recording) : nullptr;
 }
 
+namespace {
+
+/// Today as 2031-05-24.
+std::string DateDuJour() {
+    const std::time_t now = std::time(nullptr);
+    std::array<char, 16> text{};
+    const std::size_t length =
+        std::strftime(text.data(), text.size(), "%Y-%m-%d", std::localtime(&now));
+    return {text.data(), length};
+}
+
+} // namespace
+
 Impression ImpressionDeVue(Programme &programme, PlotState &plot) {
     RibModel &rib = programme.rib;
     const AppSettings &settings = programme.settings;
@@ -35,7 +51,8 @@ Impression ImpressionDeVue(Programme &programme, PlotState &plot) {
             [&rib, &settings, &messages, &plot, &compare](PlotDevice &device) {
                 return TraceVue({device, rib, settings, plot, messages}, compare);
             },
-            NomDuDessin(rib, compare)};
+            NomDuDessin(rib, compare),
+            DateDuJour()};
 }
 
 ReglagePage ReglageDeFenetre(const Messages &messages, std::function<bool()> regle) {

@@ -6,6 +6,7 @@
 #include "output/printer.h"
 #include "output/recording.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -17,13 +18,23 @@ class TestPrinter : public Printer {
     std::vector<std::vector<Operation>> sheets = std::vector<std::vector<Operation>>(1);
     int fails_at_sheet = -1; ///< NewPage to this sheet, counted from 0, is a device error
     bool fails_at_end = false;
-    std::string file; ///< which the job is written to
+    std::string file;    ///< which the job is written to
+    SheetSize own_paper; ///< what is set in the printer, as it lies
 
     void SetOrientation(Orientation orientation) override {
         calls.emplace_back(orientation == Orientation::landscape ? "landscape" : "portrait");
+        landscape_ = orientation == Orientation::landscape;
     }
     void SetPaperSize(double short_side, double long_side) override {
         calls.push_back("paper " + NumberText(short_side) + " " + NumberText(long_side));
+        short_ = std::min(short_side, long_side);
+        long_ = std::max(short_side, long_side);
+    }
+    SheetSize SizeOfSheets() const override {
+        if (long_ == 0) {
+            return own_paper;
+        }
+        return landscape_ ? SheetSize{long_, short_} : SheetSize{short_, long_};
     }
     void NewPage() override {
         if (std::ssize(sheets) == fails_at_sheet) {
@@ -56,6 +67,10 @@ class TestPrinter : public Printer {
     }
 
   private:
+    bool landscape_ = false;
+    double short_ = 0;
+    double long_ = 0;
+
     void Draw(const Operation &operation) {
         if (calls.empty() || calls.back() != "draw") {
             calls.emplace_back("draw");

@@ -322,6 +322,59 @@ TEST(SystemPrinter, PrintsTheSameSheets) {
     ExpectKnownLines(pdf.Lines(2));
 }
 
+TEST(SystemPrinter, StretchesItsSheetsFromTheirCorner) {
+    const TempFolder folder;
+    const QString path = QString::fromStdString(folder.Path("queue.pdf"));
+    auto queue = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    queue->setOutputFormat(QPrinter::PdfFormat);
+    queue->setOutputFileName(path);
+    const auto printer = MakeSystemPrinter(std::move(queue), {1.02, 0.97});
+    OnA4(*printer);
+    DrawKnownLines(*printer);
+    printer->NewPage();
+    DrawKnownLines(*printer);
+    printer->EndDoc();
+    const ReadPdf pdf(path);
+    EXPECT_NEAR(pdf.PageSizes().at(0).width(), 297 * 72 / 25.4, 0.5);
+    for (const int page : {1, 2}) {
+        const std::vector<QPolygonF> lines = pdf.Lines(page);
+        ASSERT_EQ(lines.size(), 2U);
+        ExpectLine(lines[0], {10.2, 48.5}, {214.2, 48.5});
+        ExpectLine(lines[1], {285.6, 145.5}, {285.6, 194});
+    }
+}
+
+TEST(SystemPrinter, StretchedSheetsHoldLess) {
+    const auto printer = MakeSystemPrinter(std::make_unique<QPrinter>(), {1.02, 0.97});
+    OnA4(*printer);
+    EXPECT_NEAR(printer->SizeOfSheets().width, 297 / 1.02, 0.01);
+    EXPECT_NEAR(printer->SizeOfSheets().height, 210, 0.01);
+}
+
+TEST(SystemPrinter, ThePapersSizeIsThatOfTheQueueWhereNoneIsSet) {
+    auto queue = std::make_unique<QPrinter>();
+    queue->setPageSize(QPageSize(QPageSize::A3));
+    const auto printer = MakeSystemPrinter(std::move(queue));
+    printer->SetOrientation(Orientation::landscape);
+    printer->SetPaperSize(0, 0);
+    EXPECT_NEAR(printer->SizeOfSheets().width, 420, 0.1);
+    EXPECT_NEAR(printer->SizeOfSheets().height, 297, 0.1);
+}
+
+TEST(PdfPrinter, SizeOfSheetsIsThatOfThePaperAsItLies) {
+    std::string bytes;
+    const auto printer = MakePdfPrinter(bytes, "", QPageSize(QPageSize::A5));
+    printer->SetPaperSize(123, 2000);
+    printer->SetOrientation(Orientation::portrait);
+    EXPECT_NEAR(printer->SizeOfSheets().width, 123, 0.1);
+    EXPECT_NEAR(printer->SizeOfSheets().height, 2000, 0.1);
+    printer->SetOrientation(Orientation::landscape);
+    EXPECT_NEAR(printer->SizeOfSheets().width, 2000, 0.1);
+    printer->SetPaperSize(0, 0);
+    EXPECT_NEAR(printer->SizeOfSheets().width, 210, 0.1);
+    EXPECT_NEAR(printer->SizeOfSheets().height, 148, 0.1);
+}
+
 TEST(SystemPrinter, ADeviceThatDoesNotBeginIsADeviceError) {
     const TempFolder folder;
     auto queue = std::make_unique<QPrinter>(QPrinter::HighResolution);
