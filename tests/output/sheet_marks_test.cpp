@@ -162,7 +162,7 @@ TEST_F(SheetMarks, ALongNameIsShortened) {
 struct Stroke {
     double x1, y1, x2, y2;
 };
-std::vector<Stroke> Drawn(const Recording &drawing) {
+std::vector<Stroke> StrokesOf(const Recording &drawing) {
     std::vector<Stroke> strokes;
     for (const Operation &operation : drawing.Operations()) {
         if (const auto *line = std::get_if<DrawnSegment>(&operation)) {
@@ -178,7 +178,7 @@ TEST_F(SheetMarks, ArmsAndTicksAreExact) {
     TraceTemoin(drawing, *Found(), " mm");
     int along = 0;
     int across = 0;
-    for (const Stroke &stroke : Drawn(drawing)) {
+    for (const Stroke &stroke : StrokesOf(drawing)) {
         if (std::abs(stroke.x1 - stroke.x2) > 50) {
             EXPECT_NEAR(stroke.x1, 10, 1e-9);
             EXPECT_NEAR(stroke.x2, 110, 1e-9);
@@ -206,7 +206,7 @@ TEST_F(SheetMarks, InchesHaveATickAtEveryHalf) {
     note.Unite = " in";
     Recording drawing;
     TraceTemoin(drawing, *Found(), " in");
-    const std::vector<Stroke> strokes = Drawn(drawing);
+    const std::vector<Stroke> strokes = StrokesOf(drawing);
     ASSERT_EQ(strokes.size(), 2U + 8U + 8U);
     EXPECT_NEAR(strokes[0].x2 - strokes[0].x1, 101.6, 1e-9);
     EXPECT_NEAR(strokes[2].x1, 10 + 12.7, 1e-9);
