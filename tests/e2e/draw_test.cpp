@@ -9,6 +9,7 @@
 
 #include <cmath>
 #include <filesystem>
+#include <locale>
 #include <sstream>
 
 namespace loftwing {
@@ -289,6 +290,7 @@ PdfFacts FactsOf(const std::string &pdf) {
     std::istringstream lines(ran.out);
     for (std::string line; std::getline(lines, line);) {
         std::istringstream words(line);
+        words.imbue(std::locale::classic());
         std::string word;
         std::string times;
         words >> word;
