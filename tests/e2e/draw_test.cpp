@@ -194,14 +194,16 @@ TEST(Draw, FrenchWordsComeFromTheFrenchFile) {
     EXPECT_THAT(other.out, HasSubstr("<text"));
 }
 
+constexpr const char *kSettings =
+    "[Couleurs]\ncoulprofil=4\ncoulcoffrage=9\ncoulaxe=2\ncoulba=9\ncoulbf=9\n"
+    "[StyleLignes]\nlineaxe=1\n[Eprlines]\nprofil=3\neplinecoffrage=1\neplineba=1\n"
+    "eplinebf=1\n[InsText]\nTailleFont=9\n[Defaut]\nunit= mm\ncordeAfich=120\n"
+    "EpCoffrageAfich=1\nEpBAAfich=0\n[Marges]\nMargeHaut=10\nMargeBas=15\n"
+    "recouvrement=20\nNumIndex=0\n";
+
 TEST(Draw, ASettingsFileGivesTheColours) {
     const TempFolder folder;
-    const std::string settings = folder.File(
-        "s.ini", "[Couleurs]\ncoulprofil=4\ncoulcoffrage=9\ncoulaxe=2\ncoulba=9\ncoulbf=9\n"
-                 "[StyleLignes]\nlineaxe=1\n[Eprlines]\nprofil=3\neplinecoffrage=1\neplineba=1\n"
-                 "eplinebf=1\n[InsText]\nTailleFont=9\n[Defaut]\nunit= mm\ncordeAfich=120\n"
-                 "EpCoffrageAfich=1\nEpBAAfich=0\n[Marges]\nMargeHaut=10\nMargeBas=15\n"
-                 "recouvrement=20\nNumIndex=0\n");
+    const std::string settings = folder.File("s.ini", kSettings);
     const Ran ran = RunLoftwing(
         {"draw", Sample("naca2412.dat"), "--to", "svg", "-o", "-", "--settings", settings});
     ASSERT_EQ(ran.status, 0) << ran.err;
@@ -339,6 +341,23 @@ TEST(Draw, PaperOfOnesOwnHasTheMeasuresThatWereTyped) {
     const PdfFacts whole = draw({"--chord", "1200", "--paper", "drawing"});
     EXPECT_EQ(whole.pages, 1);
     EXPECT_NEAR(whole.width, 1226 * kPoints, 2); // 10 + 1200 + 15 and what the lines have around
+}
+
+TEST(Draw, SheetsHaveACheckLineOnlyWhereItIsAskedFor) {
+    const TempFolder folder;
+    const std::string settings =
+        folder.File("s.ini", std::string(kSettings) + "[Feuilles]\nTemoin=1\nRangees=1\n");
+    const auto words = [&](std::vector<std::string> more) {
+        const std::string out = folder.Path("rib.pdf");
+        std::vector<std::string> all = {"draw", Sample("naca2412.dat"), "-o", out};
+        all.insert(all.end(), more.begin(), more.end());
+        EXPECT_EQ(RunLoftwing(all).status, 0);
+        return RunShell("pdftotext " + ShellWord(out) + " -").out;
+    };
+    EXPECT_THAT(words({}), Not(HasSubstr("measure this line")));
+    EXPECT_THAT(words({"--settings", settings}), Not(HasSubstr("measure this line")));
+    EXPECT_THAT(words({"--check-line"}), HasSubstr("measure this line : 100 mm"));
+    EXPECT_THAT(words({"--check-line", "--unit", "in"}), HasSubstr("measure this line : 4 in"));
 }
 
 TEST(Draw, PaperThatNoPageCanHaveIsWrongUsage) {
