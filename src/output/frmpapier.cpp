@@ -32,8 +32,8 @@ void frmpapier::Form_Load() {
 
 void frmpapier::cmdok_Click() {
     Garde(" Print/Paper", [this] {
-        const auto paper = PapierSaisi(S(txtnom.text()), FieldTexts(Text1),
-                                       programme_.SaisieEnCours(), Titre());
+        const auto paper =
+            PapierSaisi(S(txtnom.text()), FieldTexts(Text1), programme_.SaisieEnCours(), Titre());
         if (paper) {
             papier_ = *paper;
             accept();

@@ -29,7 +29,7 @@ class frmpapier : public Dialogue {
     QLabel Label3;
     QLineEdit txtnom;
     std::array<NumericField, 2> Text1; ///< along the rib, across
-    QLabel Label4; ///< the units
+    QLabel Label4;                     ///< the units
     QLabel Label5;
 
     // frmpapier_build.cpp

@@ -18,7 +18,7 @@ class Views : public testing::Test {
     Views() {
         world.Open();
         ValeursDefautTraits(world.programme.settings); // colours and styles that tell lines apart
-        world.programme.settings.page.temoin = false; // what is printed is the view alone
+        world.programme.settings.page.temoin = false;  // what is printed is the view alone
     }
 
     /// Acts in the value dialog and in the airfoil picker.
