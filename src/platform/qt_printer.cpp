@@ -82,13 +82,19 @@ void DrawSheets(QPagedPaintDevice &device, const std::deque<Sheet> &sheets,
     }
     const PlotSurface surface = PaperSurface(device.logicalDpiX());
     const QSize size = device.pageLayout().fullRectPixels(device.logicalDpiX()).size();
+    const bool stretched = stretch.x != 1 || stretch.y != 1;
     for (const Sheet &sheet : sheets) {
         if (&sheet != &sheets.front() && !device.newPage()) {
             throw MakeFailure(kDeviceError);
         }
-        painter.resetTransform();
+        // A file that isn't stretched has no trace of it.
+        if (stretched) {
+            painter.resetTransform();
+        }
         painter.setClipRect(QRect({}, size));
-        painter.scale(stretch.x, stretch.y);
+        if (stretched) {
+            painter.scale(stretch.x, stretch.y);
+        }
         Replay(sheet, painter, surface);
     }
     if (!painter.end()) {
