@@ -45,7 +45,8 @@ void AjouteLignes(std::vector<std::string> &lines, const std::string &text, doub
     std::istringstream words(text);
     std::string line;
     for (std::string word; words >> word;) {
-        const std::string longer = line.empty() ? word : line + " " + word;
+        std::string longer = line;
+        longer += (line.empty() ? "" : " ") + word;
         if (!line.empty() && LargeurTexte(longer) > width) {
             lines.push_back(line);
             line = word;
