@@ -1,18 +1,13 @@
 #include "features/frmInstxt.h"
 
 #include "base/number_text.h"
+#include "lang/aide.h"
 #include "lang/ini_file.h"
 
 namespace loftwing {
 
-namespace {
-
-constexpr int kAide = 70;
-
-} // namespace
-
 frmInstxt::frmInstxt(Programme &programme, MainView &view, QWidget *parent)
-    : Dialogue(programme, "frmInstxt", kAide, parent), view_(view) {
+    : Dialogue(programme, "frmInstxt", kAideDessin, parent), view_(view) {
     NameAll();
     LayOut();
     Form_Load();

@@ -1,18 +1,13 @@
 #include "features/frmTalon.h"
 
 #include "base/number_text.h"
+#include "lang/aide.h"
 #include "programme/rib_trial.h"
 
 namespace loftwing {
 
-namespace {
-
-constexpr int kAide = 40;
-
-} // namespace
-
 frmTalon::frmTalon(Programme &programme, MainView &view, QWidget *parent)
-    : Dialogue(programme, "frmTalon", kAide, parent), view_(view) {
+    : Dialogue(programme, "frmTalon", kAideValeurs, parent), view_(view) {
     NameAll();
     LayOut();
     Form_Load();

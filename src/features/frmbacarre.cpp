@@ -1,15 +1,11 @@
 #include "features/frmbacarre.h"
 
+#include "lang/aide.h"
+
 namespace loftwing {
 
-namespace {
-
-constexpr int kAide = 40;
-
-} // namespace
-
 frmbacarre::frmbacarre(Programme &programme, MainView &view, QWidget *parent)
-    : Dialogue(programme, "frmbacarre", kAide, parent), view_(view) {
+    : Dialogue(programme, "frmbacarre", kAideValeurs, parent), view_(view) {
     NameAll();
     LayOut();
     Form_Load();

@@ -1,17 +1,12 @@
 #include "features/frmbloc.h"
 
+#include "lang/aide.h"
 #include "programme/rib_trial.h"
 
 namespace loftwing {
 
-namespace {
-
-constexpr int kAide = 50;
-
-} // namespace
-
 frmbloc::frmbloc(Programme &programme, MainView &view, QWidget *parent)
-    : Dialogue(programme, "frmbloc", kAide, parent), view_(view) {
+    : Dialogue(programme, "frmbloc", kAideGabarit, parent), view_(view) {
     NameAll();
     LayOut();
     Form_Load();

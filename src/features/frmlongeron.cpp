@@ -1,19 +1,15 @@
 #include "features/frmlongeron.h"
 
+#include "lang/aide.h"
+
 namespace loftwing {
-
-namespace {
-
-constexpr int kAide = 42;
-
-} // namespace
 
 frmlongeron::frmlongeron(Programme &programme, MainView &view, QWidget *parent)
     : SlotsDialog(programme, view, parent,
                   {.fenetre = "frmlongeron",
                    .etiquettes = "LblNblongeron",
                    .label = " Longeron",
-                   .aide = kAide,
+                   .aide = kAideLongerons,
                    .mots = {.cadre = {"Frmlongeron", "4"},
                             .place_mm = {"Frmlongeron", "2"},
                             .place_in = {"Frmlongeron", "3"},

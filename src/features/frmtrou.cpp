@@ -1,19 +1,15 @@
 #include "features/frmtrou.h"
 
+#include "lang/aide.h"
+
 namespace loftwing {
-
-namespace {
-
-constexpr int kAide = 43;
-
-} // namespace
 
 frmtrou::frmtrou(Programme &programme, MainView &view, QWidget *parent)
     : SlotsDialog(programme, view, parent,
                   {.fenetre = "frmtrou",
                    .etiquettes = "LblNbtrou",
                    .label = " Trou",
-                   .aide = kAide,
+                   .aide = kAideTrous,
                    .mots = {.cadre = {"FrmTrou", "4"},
                             .place_mm = {"FrmTrou", "2"},
                             .place_in = {"FrmTrou", "3"},

@@ -3,6 +3,7 @@
 #include "base/number_text.h"
 #include "features/inserted_text.h"
 #include "features/talon.h"
+#include "lang/aide.h"
 
 #include <algorithm>
 
@@ -11,8 +12,6 @@ namespace loftwing {
 namespace {
 
 constexpr double kMaxReperes = 255;
-constexpr int kAideNervure = 40;
-constexpr int kAideGabarit = 50;
 
 // Every routine below converts all that it needs before it stores the first value, so that a
 // failure leaves the rib as it was.
@@ -85,7 +84,7 @@ constexpr std::array<ModeEntree, 5> kModes = {{
      {"FrmInput", "1"},
      {"FrmInput", "2"},
      true,
-     kAideNervure,
+     kAideValeurs,
      [](const RibModel &rib) { return rib.cordeAfich; },
      SaisitCorde,
      CordeSeule},
@@ -93,7 +92,7 @@ constexpr std::array<ModeEntree, 5> kModes = {{
      {"FrmInput", "3"},
      {"FrmInput", "4"},
      true,
-     kAideNervure,
+     kAideValeurs,
      [](const RibModel &rib) { return rib.EpCoffrageAfich; },
      SaisitCoffrage,
      CoffrageSeul},
@@ -101,7 +100,7 @@ constexpr std::array<ModeEntree, 5> kModes = {{
      {"FrmInput", "5"},
      {"FrmInput", "6"},
      true,
-     kAideNervure,
+     kAideValeurs,
      [](const RibModel &rib) { return rib.EpBAAfich; },
      SaisitBordAttaque,
      SaisitBordAttaque},
@@ -109,7 +108,7 @@ constexpr std::array<ModeEntree, 5> kModes = {{
      {"FrmInput", "7"},
      {"FrmInput", "8"},
      true,
-     kAideNervure,
+     kAideValeurs,
      [](const RibModel &rib) { return rib.EpBFAfich; },
      SaisitBordFuite,
      SaisitBordFuite},

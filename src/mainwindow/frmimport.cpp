@@ -1,21 +1,16 @@
 #include "mainwindow/frmimport.h"
 
 #include "base/text_encoding.h"
+#include "lang/aide.h"
 #include "programme/import_words.h"
 
 #include <filesystem>
 
 namespace loftwing {
 
-namespace {
-
-constexpr int kAide = 41;
-
-} // namespace
-
 frmimport::frmimport(Programme &programme, QWidget *parent, std::string path,
                      ImportedAirfoil airfoil)
-    : Dialogue(programme, "frmimport", kAide, parent), path_(std::move(path)),
+    : Dialogue(programme, "frmimport", kAideImport, parent), path_(std::move(path)),
       airfoil_(std::move(airfoil)), Picture1(this), lblrecit(this), lblenregistre(this),
       cmdenregistrer(this), cmdouvrir(this) {
     NameAll();

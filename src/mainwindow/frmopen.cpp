@@ -1,6 +1,7 @@
 #include "mainwindow/frmopen.h"
 
 #include "base/text_encoding.h"
+#include "lang/aide.h"
 #include "output/airfoil_preview.h"
 
 #include <QKeyEvent>
@@ -10,14 +11,13 @@ namespace loftwing {
 
 namespace {
 
-constexpr int kAide = 41;
 constexpr int kTitleLines = 3;
 constexpr int kRepos = 150; // milliseconds after which a selection rests
 
 } // namespace
 
 frmopen::frmopen(Programme &programme, MainView &view, QWidget *parent)
-    : Dialogue(programme, "frmopen", kAide, parent), view_(view), rib_(programme.rib),
+    : Dialogue(programme, "frmopen", kAideOuvrir, parent), view_(view), rib_(programme.rib),
       precedent_(programme.rib), txtchemin(this), lbldossiers(this), Dir1(this), lblfichiers(this),
       txtcherche(this), File1(this), lbltype(this), Combo1(this), lblfichier(this),
       nomfile1(1, this), lbldossier(this), Lbchemin(1, this), Surface(this),

@@ -1,5 +1,6 @@
 #include "output/frmPrint.h"
 
+#include "lang/aide.h"
 #include "output/frmcorrection.h"
 #include "output/frmpapier.h"
 
@@ -8,8 +9,6 @@
 namespace loftwing {
 
 namespace {
-
-constexpr int kAide = 31;
 
 void SetBold(QWidget &widget, bool bold) {
     QFont font; // says nothing but the weight, so that the size goes on following the dialog's
@@ -20,7 +19,7 @@ void SetBold(QWidget &widget, bool bold) {
 } // namespace
 
 frmPrint::frmPrint(Programme &programme, QWidget *parent)
-    : Dialogue(programme, "frmPrint", kAide, parent), page_(programme.settings.page) {
+    : Dialogue(programme, "frmPrint", kAidePage, parent), page_(programme.settings.page) {
     NameAll();
     LayOut();
     Form_Load();

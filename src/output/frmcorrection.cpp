@@ -1,17 +1,13 @@
 #include "output/frmcorrection.h"
 
+#include "lang/aide.h"
 #include "persist/settings.h"
 
 namespace loftwing {
 
-namespace {
-
-constexpr int kAide = 31; // that of the page
-
-} // namespace
-
 frmcorrection::frmcorrection(Programme &programme, QWidget *parent)
-    : Dialogue(programme, "frmcorrection", kAide, parent), avant_(programme.settings.correction) {
+    : Dialogue(programme, "frmcorrection", kAideFeuilles, parent),
+      avant_(programme.settings.correction) {
     NameAll();
     LayOut();
     PoseTextes();

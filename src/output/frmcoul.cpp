@@ -1,19 +1,19 @@
 #include "output/frmcoul.h"
 
 #include "base/version.h"
+#include "lang/aide.h"
 #include "output/test_page.h"
 
 namespace loftwing {
 
 namespace {
 
-constexpr int kAide = 70;
 constexpr const char *kLargeurFixe = "Non Modifiable";
 
 } // namespace
 
 frmcoul::frmcoul(Programme &programme, QWidget *parent)
-    : Dialogue(programme, "frmcoul", kAide, parent), avant_(programme.settings.traits) {
+    : Dialogue(programme, "frmcoul", kAideDessin, parent), avant_(programme.settings.traits) {
     NameAll();
     LayOut();
     ConnectEach(txtcoul, &QLineEdit::textChanged, this, &frmcoul::txtcoul_Change);

@@ -1,18 +1,18 @@
 #include "output/frmpapier.h"
 
+#include "lang/aide.h"
 #include "output/page_entry.h"
 
 namespace loftwing {
 
 namespace {
 
-constexpr int kAide = 31;
 constexpr int kNomMaxi = 30;
 
 } // namespace
 
 frmpapier::frmpapier(Programme &programme, QWidget *parent)
-    : Dialogue(programme, "frmpapier", kAide, parent) {
+    : Dialogue(programme, "frmpapier", kAideFeuilles, parent) {
     NameAll();
     LayOut();
     Form_Load();

@@ -1,6 +1,7 @@
 #include "persist/frmdefaut.h"
 
 #include "base/number_text.h"
+#include "lang/aide.h"
 #include "lang/ini_file.h"
 #include "programme/rib_trial.h"
 
@@ -8,14 +9,8 @@
 
 namespace loftwing {
 
-namespace {
-
-constexpr int kAide = 70;
-
-} // namespace
-
 frmdefaut::frmdefaut(Programme &programme, MainView &view, QWidget *parent)
-    : Dialogue(programme, "frmdefaut", kAide, parent), view_(view),
+    : Dialogue(programme, "frmdefaut", kAideDessin, parent), view_(view),
       unite_avant_(programme.settings.Unite), page_avant_(programme.settings.page) {
     NameAll();
     LayOut();

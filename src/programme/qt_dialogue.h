@@ -1,6 +1,7 @@
 /// What all dialogs have in common.
 #pragma once
 
+#include "lang/aide.h"
 #include "platform/qt_form.h"
 #include "programme/programme.h"
 
@@ -17,9 +18,6 @@ class QBoxLayout;
 class QPushButton;
 
 namespace loftwing {
-
-/// The help context of a window without a help button.
-inline constexpr int kSansAide = 0;
 
 /// A button of a dialog's row: one that windows share, or one of the window's own.
 using BoutonDeLigne = std::variant<SharedWord, QPushButton *>;

@@ -1,5 +1,7 @@
 #include "utilities/frmCoord.h"
 
+#include "lang/aide.h"
+
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -7,14 +9,8 @@
 
 namespace loftwing {
 
-namespace {
-
-constexpr int kAide = 80;
-
-} // namespace
-
 frmCoord::frmCoord(Programme &programme, QWidget *parent)
-    : Dialogue(programme, "frmCoord", kAide, parent) {
+    : Dialogue(programme, "frmCoord", kAideCoord, parent) {
     NameAll();
     LayOut();
     ConnectAll();

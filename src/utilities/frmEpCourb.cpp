@@ -1,5 +1,6 @@
 #include "utilities/frmEpCourb.h"
 
+#include "lang/aide.h"
 #include "platform/busy_pointer.h"
 #include "utilities/tool_files.h"
 
@@ -7,14 +8,8 @@
 
 namespace loftwing {
 
-namespace {
-
-constexpr int kAide = 60;
-
-} // namespace
-
 frmEpCourb::frmEpCourb(Programme &programme, MainView &view, QWidget *parent)
-    : Dialogue(programme, "frmEpCourb", kAide, parent), view_(view) {
+    : Dialogue(programme, "frmEpCourb", kAideCalculs, parent), view_(view) {
     NameAll();
     LayOut();
     PoseTextes();

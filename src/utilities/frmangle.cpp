@@ -1,18 +1,13 @@
 #include "utilities/frmangle.h"
 
 #include "base/number_text.h"
+#include "lang/aide.h"
 #include "utilities/tool_files.h"
 
 namespace loftwing {
 
-namespace {
-
-constexpr int kAide = 62;
-
-} // namespace
-
 frmangle::frmangle(Programme &programme, MainView &view, QWidget *parent)
-    : Dialogue(programme, "frmangle", kAide, parent), view_(view) {
+    : Dialogue(programme, "frmangle", kAideOblique, parent), view_(view) {
     NameAll();
     LayOut();
     Form_Load();

@@ -1,12 +1,12 @@
 #include "utilities/frmdiedre.h"
 
+#include "lang/aide.h"
+
 #include <QKeyEvent>
 
 namespace loftwing {
 
 namespace {
-
-constexpr int kAide = 60;
 
 bool EstReturn(const QEvent &event) {
     return event.type() == QEvent::KeyPress &&
@@ -16,7 +16,7 @@ bool EstReturn(const QEvent &event) {
 } // namespace
 
 frmdiedre::frmdiedre(Programme &programme, QWidget *parent)
-    : Dialogue(programme, "frmdiedre", kAide, parent) {
+    : Dialogue(programme, "frmdiedre", kAideCalculs, parent) {
     NameAll();
     LayOut();
     Form_Load();

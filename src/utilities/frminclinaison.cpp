@@ -1,18 +1,13 @@
 #include "utilities/frminclinaison.h"
 
 #include "core/units.h"
+#include "lang/aide.h"
 #include "utilities/tool_files.h"
 
 namespace loftwing {
 
-namespace {
-
-constexpr int kAide = 63;
-
-} // namespace
-
 frminclinaison::frminclinaison(Programme &programme, MainView &view, QWidget *parent)
-    : Dialogue(programme, "frminclinaison", kAide, parent), view_(view) {
+    : Dialogue(programme, "frminclinaison", kAideInclinaison, parent), view_(view) {
     NameAll();
     LayOut();
     Form_Load();

@@ -1,16 +1,17 @@
 #include "utilities/frmnervure.h"
 
+#include "lang/aide.h"
+
 namespace loftwing {
 
 namespace {
 
-constexpr int kAide = 60;
 constexpr int kHautEcran = 2; // mm over the list
 
 } // namespace
 
 frmnervure::frmnervure(Programme &programme, QWidget *parent)
-    : Dialogue(programme, "frmnervure", kAide, parent) {
+    : Dialogue(programme, "frmnervure", kAideCalculs, parent) {
     NameAll();
     LayOut();
     Form_Load();

@@ -1,15 +1,11 @@
 #include "utilities/frmribevol.h"
 
+#include "lang/aide.h"
+
 namespace loftwing {
 
-namespace {
-
-constexpr int kAide = 61;
-
-} // namespace
-
 frmribevol::frmribevol(Programme &programme, MainView &view, QWidget *parent)
-    : RibSetDialog(programme, view, "frmribevol", kAide, parent) {
+    : RibSetDialog(programme, view, "frmribevol", kAideJeu, parent) {
     NameAll();
     LayOut();
     Form_Load();

@@ -1,12 +1,12 @@
 #include "utilities/frmribevol2.h"
 
+#include "lang/aide.h"
+
 #include <QEvent>
 
 namespace loftwing {
 
 namespace {
-
-constexpr int kAide = 610;
 
 /// Blue that can be read on the window's ground.
 QColor Bleu(const QPalette &palette) {
@@ -19,7 +19,8 @@ constexpr const char *kBleu = "bleu";
 } // namespace
 
 frmribevol2::frmribevol2(Programme &programme, MainView &view, QWidget *parent)
-    : RibSetDialog(programme, view, "frmribevol2", kAide, parent), jeu_(programme.rib.jeu) {
+    : RibSetDialog(programme, view, "frmribevol2", kAideJeuVariable, parent),
+      jeu_(programme.rib.jeu) {
     NameAll();
     LayOut();
     PoseTextes();

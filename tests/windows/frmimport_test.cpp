@@ -45,7 +45,7 @@ TEST_F(FrmImportTest, TellsWhatWasDone) {
     EXPECT_EQ(seen.Word("cmdenregistrer"), "Save as...");
     EXPECT_EQ(seen.Word("cmdannuler"), "Cancel");
     seen.Click("cmdaide");
-    EXPECT_EQ(platform.help_contexts, std::vector<int>{41});
+    EXPECT_EQ(platform.help_contexts, std::vector<int>{44});
 }
 
 TEST_F(FrmImportTest, DrawsPointsAndContourInTwoColoursOfTheDesktop) {
