@@ -1,11 +1,30 @@
 #include "lang/LngIni.h"
 
+#include "base/failure.h"
+
 #include <algorithm>
 #include <filesystem>
 
 namespace loftwing {
 
+namespace {
+
 namespace fs = std::filesystem;
+
+constexpr LngKey kCode = {"Language", "Code"};
+constexpr const char *kEnglish = "en";
+
+/// The two letters of a language; empty where its file doesn't tell or can't be read.
+std::string CodeOf(const std::string &folder, const std::string &name) {
+    try {
+        const IniFile file = IniFile::Read((fs::path(folder) / (name + ".lng")).string());
+        return file.Value(kCode.section, kCode.key);
+    } catch (const Failure &) {
+        return {};
+    }
+}
+
+} // namespace
 
 void LngIni::Charge(const std::string &folder, const std::string &name) {
     const std::string path = (fs::path(folder) / (name + ".lng")).string();
@@ -30,6 +49,23 @@ std::vector<std::string> LngIni::Languages(const std::string &folder) {
     }
     std::sort(names.begin(), names.end());
     return names;
+}
+
+std::string LngIni::LanguageOf(const std::string &folder, const std::string &code) {
+    const std::vector<std::string> names = Languages(folder);
+    const auto named = [&](const std::string &letters) {
+        return std::find_if(names.begin(), names.end(), [&](const std::string &name) {
+            return CodeOf(folder, name) == letters;
+        });
+    };
+    auto found = code.empty() ? names.end() : named(code);
+    if (found == names.end()) {
+        found = named(kEnglish);
+    }
+    if (found == names.end()) {
+        found = names.begin();
+    }
+    return found == names.end() ? std::string() : *found;
 }
 
 } // namespace loftwing

@@ -33,6 +33,9 @@ class LngIni {
 
     /// Names of the languages in `folder`, sorted: its *.lng files without the extension.
     static std::vector<std::string> Languages(const std::string &folder);
+    /// The name among these of the language that two letters ("fr") stand for; English where none
+    /// has them, the first where English isn't there, empty where none is.
+    static std::string LanguageOf(const std::string &folder, const std::string &code);
 
   private:
     IniFile texts_;

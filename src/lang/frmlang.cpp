@@ -27,7 +27,15 @@ void lang::Form_Load() {
     }
     Combo1.setAccessibleName(windowTitle());
     Combo1.setPlaceholderText(windowTitle());
-    Combo1.setCurrentIndex(none ? -1 : Combo1.findText(Q(programme_.language.LangueCourante)));
+    if (none) {
+        // The desktop's language is chosen already, so that OK is enough.
+        const std::string &folder = programme_.paths.langues;
+        const std::string wanted = programme_.platform.SystemLanguage();
+        Combo1.setCurrentText(Q(LngIni::LanguageOf(folder, wanted)));
+        change_ = Combo1.count() > 0;
+    } else {
+        Combo1.setCurrentText(Q(programme_.language.LangueCourante));
+    }
 }
 
 void lang::Combo1_Click() {

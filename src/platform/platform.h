@@ -105,6 +105,8 @@ class Platform {
 
     /// First character of the locale's decimal separator.
     virtual char DecimalSeparator() = 0;
+    /// The language that the user has chosen for the desktop, as two small letters ("fr").
+    virtual std::string SystemLanguage() = 0;
     /// The per-user store: the value, or the empty text.
     virtual std::string StoredValue(const std::string &section, const std::string &key) = 0;
     virtual void StoreValue(const std::string &section, const std::string &key,

@@ -258,6 +258,12 @@ char QtPlatform::DecimalSeparator() {
     return separator.isEmpty() ? '.' : separator.front().toLatin1();
 }
 
+std::string QtPlatform::SystemLanguage() {
+    // The list is in the user's order; a locale alone tells of numbers and dates too.
+    const QStringList wanted = QLocale::system().uiLanguages();
+    return wanted.isEmpty() ? std::string() : S(wanted.front().section('-', 0, 0).toLower());
+}
+
 std::string QtPlatform::StoredValue(const std::string &section, const std::string &key) {
     return store_.Value(section, key);
 }

@@ -34,6 +34,7 @@ class QtPlatform : public Platform {
     void SetPointer(Pointer pointer) override;
     void ProcessEvents() override;
     char DecimalSeparator() override;
+    std::string SystemLanguage() override;
     std::string StoredValue(const std::string &section, const std::string &key) override;
     void StoreValue(const std::string &section, const std::string &key,
                     const std::string &value) override;

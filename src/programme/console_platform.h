@@ -32,6 +32,7 @@ class ConsolePlatform : public Platform {
     void SetPointer(Pointer) override {}
     void ProcessEvents() override {}
     char DecimalSeparator() override { return '.'; }
+    std::string SystemLanguage() override { return {}; }
     std::string StoredValue(const std::string &section, const std::string &key) override;
     void StoreValue(const std::string &, const std::string &, const std::string &) override {}
     void OpenPage(const std::string &) override {}

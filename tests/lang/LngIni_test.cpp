@@ -80,5 +80,19 @@ TEST(LngIni, ListsNoLanguageWhereThereIsNone) {
     EXPECT_THAT(LngIni::Languages(folder.Path("none")), IsEmpty());
 }
 
+TEST(LngIni, FindsALanguageByItsTwoLetters) {
+    const TempFolder folder;
+    folder.File("Deutsch.lng", "[Language]\r\nCode=de\r\n");
+    folder.File("English.lng", "[Language]\r\nCode=en\r\n");
+    folder.File("Old.lng", "[Language]\r\n2=Language\r\n");
+    EXPECT_EQ(LngIni::LanguageOf(folder.Path(), "de"), "Deutsch");
+    EXPECT_EQ(LngIni::LanguageOf(folder.Path(), "en"), "English");
+    EXPECT_EQ(LngIni::LanguageOf(folder.Path(), "fi"), "English");
+    EXPECT_EQ(LngIni::LanguageOf(folder.Path(), ""), "English");
+    fs::remove(folder.Path("English.lng"));
+    EXPECT_EQ(LngIni::LanguageOf(folder.Path(), "fi"), "Deutsch");
+    EXPECT_EQ(LngIni::LanguageOf(folder.Path("none"), "de"), "");
+}
+
 } // namespace
 } // namespace loftwing

@@ -63,6 +63,7 @@ class ScriptedPlatform : public Platform {
     ButtonWords button_words;
     Pointer pointer = Pointer::normal;
     char decimal_separator = '.';
+    std::string system_language;
     bool leaves_ticks = true;               ///< as boxes have them at first
     std::vector<std::string> ticks_offered; ///< by boxes with one
     bool programs_start = true;
@@ -84,6 +85,7 @@ class ScriptedPlatform : public Platform {
     void SetPointer(Pointer shape) override { pointer = shape; }
     void ProcessEvents() override {}
     char DecimalSeparator() override { return decimal_separator; }
+    std::string SystemLanguage() override { return system_language; }
     std::string StoredValue(const std::string &section, const std::string &key) override;
     void StoreValue(const std::string &section, const std::string &key,
                     const std::string &value) override;

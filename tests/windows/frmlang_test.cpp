@@ -60,7 +60,37 @@ TEST_F(FrmLangTest, SpeaksPlainEnglishWhileNoLanguageIsLoaded) {
     const Seen window(language);
     EXPECT_EQ(window.Title(), "Language");
     EXPECT_EQ(window.Word("ok"), "OK");
-    EXPECT_EQ(List(window).currentIndex(), -1);
+}
+
+TEST_F(FrmLangTest, AFirstChoiceBeginsWithTheLanguageOfTheSystem) {
+    platform.system_language = "fr";
+    lang language(programme, view, nullptr);
+    const Seen window(language);
+    EXPECT_EQ(S(List(window).currentText()), "French");
+    language.show();
+    window.Click("ok");
+    EXPECT_EQ(Noted(), "French");
+    EXPECT_EQ(programme.language.LangueCourante, "French");
+    EXPECT_EQ(programme.Text({"TextButton", "2"}), "Annuler");
+}
+
+TEST_F(FrmLangTest, AFirstChoiceOfALanguageThatIsNotThereBeginsWithEnglish) {
+    for (const char *code : {"fi", ""}) {
+        platform.system_language = code;
+        lang language(programme, view, nullptr);
+        EXPECT_EQ(S(List(Seen(language)).currentText()), "English") << code;
+    }
+}
+
+TEST_F(FrmLangTest, AFirstChoiceThatIsGivenUpLeavesNoLanguage) {
+    platform.system_language = "fr";
+    lang language(programme, view, nullptr);
+    const Seen window(language);
+    language.show();
+    window.Key(Qt::Key_Escape);
+    EXPECT_FALSE(window.IsOpen());
+    EXPECT_EQ(Noted(), "");
+    EXPECT_EQ(programme.language.LangueCourante, "");
 }
 
 TEST_F(FrmLangTest, ShowsTheLanguageThatIsLoaded) {
@@ -81,16 +111,6 @@ TEST_F(FrmLangTest, OkWithoutAChangeJustCloses) {
     EXPECT_FALSE(window.IsOpen());
     EXPECT_TRUE(view.asked.empty());
     EXPECT_EQ(Noted(), "French");
-}
-
-TEST_F(FrmLangTest, OkWithNothingChosenLeavesNoLanguage) {
-    lang language(programme, view, nullptr);
-    const Seen window(language);
-    language.show();
-    window.Click("ok");
-    EXPECT_FALSE(window.IsOpen());
-    EXPECT_EQ(Noted(), "");
-    EXPECT_EQ(programme.language.LangueCourante, "");
 }
 
 TEST_F(FrmLangTest, NewLanguageIsNotedAndAppliedAtOnce) {
@@ -171,7 +191,6 @@ TEST_F(FrmLangTest, ChoiceThatCannotBeKeptIsReportedAndHoldsForThisRun) {
     lang language(programme, view, nullptr);
     const Seen window(language);
     language.show();
-    window.Key("Combo1", Qt::Key_Down);
     platform.Expect(BoxAnswer::ok);
     window.Click("ok");
     EXPECT_EQ(platform.boxes.at(0).title, " WriteINIFile");
