@@ -203,8 +203,9 @@ std::vector<Command> HelpMenu() {
         Entry("mnu_helpsearch", menu, {"MenuHelp", "2"}, kAlways, &frmmain::mnu_helpsearch_Click,
               "F1"),
         // Its caption is a fixed word and the word for version; see AppliqueLangue.
-        Ailleurs("mnu_helpVersion", menu, {"FrmAbout", "3"}, {"MenuHelp", "230"}),
-        Ailleurs("mnu_helpConfig", menu, {"MenuHelp", "4"}, {"MenuHelp", "231"}),
+        Entry("mnu_helpVersion", menu, {"FrmAbout", "3"}, kAlways,
+              &frmmain::mnu_helpVersion_Click),
+        Entry("mnu_helpConfig", menu, {"MenuHelp", "4"}, kAlways, &frmmain::mnu_helpConfig_Click),
         Below(Entry("mnu_helpAbout", menu, {"MenuHelp", "3"}, kAlways,
                     &frmmain::mnu_helpAbout_Click)),
     };

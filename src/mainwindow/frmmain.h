@@ -88,6 +88,8 @@ class frmmain : public MainFrame {
     void mnu_outilInclinaison_Click();
     void mnu_calc_Click();
     void mnu_helpsearch_Click();
+    void mnu_helpVersion_Click();
+    void mnu_helpConfig_Click();
     void mnu_helpAbout_Click();
     void cmdba_Click();
 

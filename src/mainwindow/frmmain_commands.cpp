@@ -2,6 +2,7 @@
 
 #include "base/version.h"
 #include "features/frmInstxt.h"
+#include "lang/aide.h"
 #include "lang/frmlang.h"
 #include "mainwindow/frmAbout.h"
 #include "mainwindow/frmmain.h"
@@ -14,7 +15,9 @@
 #include "platform/qt_form.h"
 #include "programme/export.h"
 #include "programme/heel_steps.h"
+#include "programme/library_setup.h"
 #include "programme/rib_steps.h"
+#include "programme/tool_steps.h"
 
 namespace loftwing {
 
@@ -146,8 +149,15 @@ void frmmain::mnu_paramrep_Click() {
 }
 
 void frmmain::mnu_helpsearch_Click() {
-    constexpr int kHelpTopics = 10;
-    programme_.platform.ShowHelp(kHelpTopics);
+    programme_.platform.ShowHelp(kAideVisite);
+}
+
+void frmmain::mnu_helpVersion_Click() {
+    VerifieVersion(programme_);
+}
+
+void frmmain::mnu_helpConfig_Click() {
+    installationProfils(programme_);
 }
 
 void frmmain::mnu_helpAbout_Click() {

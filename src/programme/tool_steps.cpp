@@ -4,7 +4,27 @@
 #include "programme/rib_steps.h"
 #include "utilities/ribevol2.h"
 
+#include <string_view>
+
 namespace loftwing {
+
+namespace {
+
+/// The page that tells of new versions, by the letter of the build.
+constexpr std::string_view PageVersion(char lettre) {
+    switch (lettre) {
+    case 'E':
+        return "majE.html";
+    case 'H':
+        return "majH.html";
+    case 'D':
+        return "majD.html";
+    default:
+        return "maj.html";
+    }
+}
+
+} // namespace
 
 bool ConfirmeJeu(const Programme &programme) {
     return !programme.rib.ProfilCharge ||
@@ -36,6 +56,20 @@ std::optional<ProfilChoisi> ChoisitPourOutil(Programme &programme, CommandView &
     const ProfilChoisi chosen = ProfilDuRib(rib);
     before.Rend(rib);
     return picked ? std::optional(chosen) : std::nullopt;
+}
+
+void VerifieVersion(const Programme &programme) {
+    std::string site = GetINIFile("Version", "Site", programme.paths.fichier);
+    while (site.ends_with('/')) {
+        site.pop_back();
+    }
+    if (site.empty()) {
+        programme.messages.Inform(programme.Text({"MenuHelp", "240"}) + "\n" +
+                                      programme.paths.fichier + "\n[Version]\nSite=",
+                                  kTitre);
+        return;
+    }
+    programme.platform.OpenPage(site + "/loftwing/fr/" + std::string(PageVersion(kLettre)));
 }
 
 void OuvreCalculette(const Programme &programme) {

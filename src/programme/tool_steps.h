@@ -23,6 +23,10 @@ int DemandeNombre(const Programme &programme, const std::string &titre);
 std::optional<ProfilChoisi> ChoisitPourOutil(Programme &programme, CommandView &view,
                                              const std::string &titre);
 
+/// Opens the page that tells of new versions, or says that no address is set: the site is a line of
+/// the settings file ([Version], Site). Failure of the browser is not told.
+void VerifieVersion(const Programme &programme);
+
 /// Starts the desktop's calculator, or says that there is none.
 void OuvreCalculette(const Programme &programme);
 

@@ -93,6 +93,24 @@ TEST_F(ToolSteps, ACancelledPickerGivesAToolNothing) {
     EXPECT_EQ(Rib().NomProfil, "naca0012");
 }
 
+TEST_F(ToolSteps, TheVersionCheckOpensThePageOfTheSite) {
+    for (const char *site : {"https://example.org", "https://example.org/"}) {
+        WriteINIFile("Version", "Site", site, programme.paths.fichier);
+        VerifieVersion(programme);
+        EXPECT_EQ(platform.pages_opened.back(), "https://example.org/loftwing/fr/maj.html");
+    }
+}
+
+TEST_F(ToolSteps, TheVersionCheckSaysThatNoAddressIsSet) {
+    ExpectBox(BoxAnswer::ok,
+              "No address is set for the version check. It stands in the settings file, on these "
+              "lines :\n" +
+                  programme.paths.fichier + "\n[Version]\nSite=",
+              "Loftwing");
+    VerifieVersion(programme);
+    EXPECT_THAT(platform.pages_opened, IsEmpty());
+}
+
 TEST_F(ToolSteps, TheCalculatorStarts) {
     OuvreCalculette(programme);
     EXPECT_THAT(platform.programs_started, ElementsAre("calc"));

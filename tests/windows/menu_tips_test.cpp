@@ -36,9 +36,7 @@ struct Elsewhere {
 constexpr Elsewhere kElsewhere[] = {
     {"mnu_file", "mnu_fileprintpreview", "View, Sheets", "Affichage, Feuilles"},
     {"mnu_param", "mnu_paramvril", "template (Layout, Template)",
-     "gabarit (Gabarit, Gabarit de découpe)"},
-    {"mnu_help", "mnu_helpVersion", "Help, About Loftwing", "Aide, À propos de Loftwing"},
-    {"mnu_help", "mnu_helpConfig", "View, Template defaults", "Affichage, Valeurs par défaut"}};
+     "gabarit (Gabarit, Gabarit de découpe)"}};
 
 TEST(MenuTips, AnEntryThatDoesNothingIsDeadAndSaysWhereItsThingIs) {
     for (const char *language : {"English", "French"}) {
