@@ -1,8 +1,13 @@
-// Makes pictures of every window, in each language and unit, to look at them after a change.
+// Makes pictures of every window.
 //
 //     window_pictures FOLDER [SCALE]
+//     window_pictures --help-pages FOLDER
 //
-// Pictures go to FOLDER, named WINDOW-LANGUAGE-UNIT.png. SCALE is that of the font, 1 if left out.
+// The first is to look at windows after a change: in each language and unit, pictures go to FOLDER,
+// named WINDOW-LANGUAGE-UNIT.png; SCALE is that of the font, 1 if left out. The second makes the
+// pictures of the help, in mm: FOLDER/LANGUAGE/pictures/WINDOW.png.
+
+#include "picture_platform.h"
 
 #include "base/whole_file.h"
 #include "features/frmInstxt.h"
@@ -11,10 +16,12 @@
 #include "features/frmbloc.h"
 #include "features/frmlongeron.h"
 #include "features/frmtrou.h"
+#include "lang/aide.h"
 #include "lang/frmlang.h"
 #include "mainwindow/frmAbout.h"
 #include "mainwindow/frmInput.h"
 #include "mainwindow/frmSplash.h"
+#include "mainwindow/frmaide.h"
 #include "mainwindow/frmimport.h"
 #include "mainwindow/frmmain.h"
 #include "mainwindow/frmopen.h"
@@ -24,7 +31,7 @@
 #include "output/frmpapier.h"
 #include "persist/frmdefaut.h"
 #include "platform/qt_form.h"
-#include "programme/console_platform.h"
+#include "programme/export.h"
 #include "programme/programme.h"
 #include "programme/special_views.h"
 #include "utilities/frmCoord.h"
@@ -48,29 +55,28 @@
 #include <QTimer>
 
 #include <iostream>
+#include <stdexcept>
 
 namespace {
 
 using namespace loftwing;
 
-/// Answers with folders of its own, so that no alert comes up.
-class PicturePlatform : public ConsolePlatform {
-  public:
-    explicit PicturePlatform(std::string folder)
-        : ConsolePlatform(std::cerr, true), folder_(std::move(folder)) {}
-    std::string StoredValue(const std::string &, const std::string &) override { return folder_; }
-    std::string PrinterName() override { return "Office"; }
+const std::string kResources = std::string(LOFTWING_SOURCE_DIR) + "/resources";
+const std::string kLanguages = kResources + "/lng";
 
-  private:
-    std::string folder_;
+/// Where pictures go.
+struct Target {
+    std::string folder;
+    std::string suffix; ///< behind a window's name
+    std::string help;   ///< the folder of the help that the help window shows
 };
 
 class Pictures {
   public:
-    Pictures(const std::string &folder, const std::string &language, const std::string &unit)
-        : platform_(std::string(LOFTWING_SOURCE_DIR) + "/resources/airfoils"),
-          programme_(PathsIn(home_.path().toStdString()), platform_),
-          name_("-" + language + "-" + unit + ".png"), folder_(folder) {
+    Pictures(Target target, const std::string &language, const std::string &unit)
+        : platform_(kResources + "/airfoils"),
+          programme_(PathsIn(home_.path().toStdString(), target.help), platform_),
+          target_(std::move(target)) {
         programme_.language.Charge(programme_.paths.langues, language);
         WriteINIFile("Language", "Langue", language, programme_.paths.fichier);
         window_ = std::make_unique<frmmain>(programme_);
@@ -98,6 +104,7 @@ class Pictures {
         window_->affiche();
         Save(*window_, "frmmain");
         TakeSheets();
+        TakePrint();
         TakeNotices();
         for (const char *mode : {"corde", "epcof", "ba", "bf", "rep"}) {
             frmInput entry(programme_, mode, window_.get());
@@ -111,12 +118,10 @@ class Pictures {
     PicturePlatform platform_;
     Programme programme_;
     std::unique_ptr<frmmain> window_;
-    std::string name_;
-    std::string folder_;
+    Target target_;
 
-    static Paths PathsIn(const std::string &home) {
-        const std::string resources = std::string(LOFTWING_SOURCE_DIR) + "/resources";
-        return {resources, resources + "/lng", home + "/Loftwing.ini", resources + "/help"};
+    static Paths PathsIn(const std::string &home, const std::string &help) {
+        return {kResources, kLanguages, home + "/Loftwing.ini", help};
     }
 
     /// The sheets around the rib, seen whole.
@@ -129,6 +134,28 @@ class Pictures {
         Save(*window_, "frmmain-sheets");
         entry("mnu_afffeuilles");
         entry("mnu_affzoom100");
+    }
+
+    /// The sheet that comes out of the printer: the rib of the tour.
+    void TakePrint() {
+        RibModel &rib = programme_.rib;
+        const PartieGardee<Ajouts> features(rib);
+        const PartieGardee<Dimensions> sizes(rib);
+        const PartieGardee<Vue> view(rib);
+        rib.NbRep = 0;
+        rib.AffEpr = rib.AffHautBA = rib.AffHautBF = false;
+        const Saisie typed = programme_.SaisieEnCours();
+        const Refus nobody = [](Regle, float) {};
+        StockeLongeron(rib.longeron[0], {{"30%", "8", "3", ""}, 1, 1, kLongeronSurface, 0},
+                       rib.corde, typed, nobody);
+        StockeLongeron(rib.longeron[1], {{"60", "5", "3", ""}, 1, 1, kLongeronSurface, 1},
+                       rib.corde, typed, nobody);
+        rib.NbLongeron = 1;
+        StockeTrou(rib.trou[0], {{"50%", "12", "0"}, "0", true, 0, kTrouRond}, rib.corde, typed,
+                   nobody);
+        rib.NbTrou = 0;
+        ImprimeSurDemande(programme_, ReglageDeFenetre(programme_.messages, [] { return true; }));
+        Write(platform_.FirstSheet(), "sheet");
     }
 
     /// The window before the first airfoil, and after one.
@@ -205,6 +232,9 @@ class Pictures {
         frminclinaison inclined(programme_, *window_, window_.get());
         Save(inclined, "frminclinaison");
         TakeSets();
+        frmaide help(programme_);
+        help.Montre(kAideLongerons);
+        Save(help, "frmaide");
         frmAbout about(programme_, window_.get());
         Save(about, "frmAbout");
         frmSplash splash(programme_, window_.get());
@@ -360,32 +390,64 @@ class Pictures {
     void Save(QWidget &window, const std::string &name) {
         window.show();
         QApplication::processEvents();
-        const QString path = Q(folder_ + "/" + name + name_);
-        if (!window.grab().save(path)) {
-            std::cerr << "can't write " << S(path) << '\n';
+        Write(window.grab().toImage(), name);
+    }
+
+    void Write(const QImage &picture, const std::string &name) const {
+        const QString path = Q(target_.folder + "/" + name + target_.suffix + ".png");
+        if (!picture.save(path)) {
+            throw std::runtime_error("can't write " + S(path));
         }
     }
 };
 
 } // namespace
 
+namespace {
+
+void TakeAll(const std::string &folder) {
+    QDir().mkpath(Q(folder));
+    for (const std::string &language : LngIni::Languages(kLanguages)) {
+        for (const char *unit : {"mm", "in"}) {
+            Pictures({folder, "-" + language + "-" + unit, kResources + "/help"}, language, unit)
+                .Take();
+        }
+    }
+}
+
+void TakeForHelp(const std::string &folder) {
+    for (const std::string &language : LngIni::Languages(kLanguages)) {
+        const std::string pictures = folder + "/" + language + "/pictures";
+        QDir().mkpath(Q(pictures));
+        Pictures({pictures, "", folder}, language, "mm").Take();
+    }
+}
+
+} // namespace
+
 int main(int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    if (argc < 2) {
-        std::cerr << "window_pictures FOLDER [SCALE]\n";
+    const QApplication application(argc, argv);
+    QApplication::setStyle("Fusion"); // the same on every desktop
+    const QStringList words = QApplication::arguments().mid(1);
+    if (words.isEmpty() || words.size() > 2) {
+        std::cerr << "window_pictures FOLDER [SCALE], or window_pictures --help-pages FOLDER\n";
         return 2;
     }
-    if (argc > 2) {
-        QFont font = QApplication::font();
-        font.setPointSizeF(font.pointSizeF() * QString(argv[2]).toDouble());
-        QApplication::setFont(font);
-    }
-    QDir().mkpath(argv[1]);
-    for (const char *language : {"English", "French"}) {
-        for (const char *unit : {"mm", "in"}) {
-            Pictures(argv[1], language, unit).Take();
+    try {
+        if (words.front() == "--help-pages") {
+            TakeForHelp(S(words.back()));
+            return 0;
         }
+        if (words.size() > 1) {
+            QFont font = QApplication::font();
+            font.setPointSizeF(font.pointSizeF() * words[1].toDouble());
+            QApplication::setFont(font);
+        }
+        TakeAll(S(words.front()));
+    } catch (const std::exception &error) {
+        std::cerr << "window_pictures: " << error.what() << '\n';
+        return 1;
     }
     return 0;
 }

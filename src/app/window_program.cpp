@@ -6,10 +6,12 @@
 #include "base/version.h"
 #include "lang/frmlang.h"
 #include "mainwindow/frmSplash.h"
+#include "mainwindow/frmaide.h"
 #include "mainwindow/frmmain.h"
 #include "mainwindow/tool_icons.h"
 #include "platform/qt_form.h"
 #include "platform/qt_platform.h"
+#include "programme/library_setup.h"
 #include "programme/load.h"
 #include "programme/startup.h"
 
@@ -62,6 +64,9 @@ int Show(Programme &programme, const std::vector<std::string> &files) {
     frmSplash splash(programme, window.get());
     splash.show();
     if (programme.PremierDemarrage) {
+        if (SansProfil(programme.settings.repertoires.RepProfil)) {
+            installationProfils(programme);
+        }
         FinPremierDemarrage(programme);
     }
     if (!files.empty()) {
@@ -106,6 +111,15 @@ int RunWindow(int argc, char **argv) {
         const Paths paths = WindowPaths(arguments.Value("--settings"));
         QtPlatform platform(paths.programme);
         Programme programme(paths, platform);
+        std::unique_ptr<frmaide> help;
+        platform.SetHelp(
+            [&](int context) {
+                if (!help) {
+                    help = std::make_unique<frmaide>(programme);
+                }
+                help->Montre(context);
+            },
+            [&] { help.reset(); });
         return Show(programme, arguments.Files());
     } catch (const UsageError &error) {
         std::cerr << "loftwing: " << error.what() << " (see loftwing --help)\n";

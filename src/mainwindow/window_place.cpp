@@ -15,17 +15,17 @@ QSettings PlaceStore() {
 
 } // namespace
 
-void LitPlace(QWidget &window) {
+void LitPlace(QWidget &window, const char *nom, const QSize &usual) {
     const QSettings store = PlaceStore();
-    if (!window.restoreGeometry(store.value("geometry").toByteArray())) {
+    if (!window.restoreGeometry(store.value(nom).toByteArray())) {
         const QSize screen = QGuiApplication::primaryScreen()->availableSize();
-        window.resize(QSize(1000, 600).boundedTo(screen));
+        window.resize(usual.boundedTo(screen));
     }
 }
 
-void EcritPlace(const QWidget &window) {
+void EcritPlace(const QWidget &window, const char *nom) {
     QSettings store = PlaceStore();
-    store.setValue("geometry", window.saveGeometry());
+    store.setValue(nom, window.saveGeometry());
 }
 
 } // namespace loftwing
