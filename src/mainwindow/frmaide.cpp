@@ -98,6 +98,9 @@ void frmaide::RemplitSommaire() {
     for (const ChapitreAide &chapitre : ChapitresAide()) {
         auto *heading = new QTreeWidgetItem(&Sommaire, {Mot(chapitre.titre)});
         heading->setFlags(Qt::ItemIsEnabled);
+        QFont bold = Sommaire.font();
+        bold.setBold(true);
+        heading->setFont(0, bold);
         for (const int contexte : chapitre.pages) {
             const auto page = std::find_if(pages_.begin(), pages_.end(), [&](const PageAide &each) {
                 return each.contexte == contexte;

@@ -15,7 +15,7 @@ namespace loftwing {
 
 namespace {
 
-constexpr int kLettresSommaire = 34; // room for the title of a page
+constexpr int kLettresSommaire = 44; // room for the title of a page
 
 void Raccourci(QWidget &window, const QKeySequence &keys, QToolButton &button) {
     auto *shortcut = new QShortcut(keys, &window);

@@ -15,8 +15,8 @@ namespace {
 constexpr double kMarge = 12;     // around the page's text
 constexpr int kPlusEtroite = 240; // of a picture
 
-constexpr const char *kStyle = "a { color: %1; }"
-                               "table { border-color: %2; margin-top: 6px; margin-bottom: 6px; }"
+// Links have the application's colour by themselves; a rule would colour every anchor.
+constexpr const char *kStyle = "table { border-color: %1; margin-top: 6px; margin-bottom: 6px; }"
                                "h1 { font-size: xx-large; }"
                                "h2 { font-size: x-large; margin-top: 18px; }"
                                "li { margin-bottom: 3px; }"
@@ -30,9 +30,8 @@ HelpBrowser::HelpBrowser(QWidget *parent) : QTextBrowser(parent) {
 }
 
 void HelpBrowser::PoseCouleurs() {
-    const QPalette &colours = palette();
-    document()->setDefaultStyleSheet(QString::fromLatin1(kStyle).arg(
-        colours.color(QPalette::Link).name(), colours.color(QPalette::Mid).name()));
+    document()->setDefaultStyleSheet(
+        QString::fromLatin1(kStyle).arg(palette().color(QPalette::Mid).name()));
 }
 
 void HelpBrowser::changeEvent(QEvent *event) {

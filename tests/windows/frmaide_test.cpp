@@ -211,6 +211,33 @@ TEST_F(FrmAideTest, StaysUsableWhenADialogOpensBesideIt) {
     EXPECT_TRUE(help.isVisible());
 }
 
+/// The colour of the letters of a word on the page.
+QColor ColourOf(const frmaide &help, const QString &word) {
+    const auto *page = help.findChild<HelpBrowser *>("Page");
+    const QTextCursor at = page->document()->find(word);
+    EXPECT_FALSE(at.isNull()) << S(word);
+    const QBrush brush = at.charFormat().foreground();
+    return brush.style() == Qt::NoBrush ? page->palette().color(QPalette::Text) : brush.color();
+}
+
+TEST_F(FrmAideTest, FollowsTheColoursOfTheDesktop) {
+    const QPalette before = QApplication::palette();
+    Page("English", kAideVisite, "Tour",
+         "<h2><a name=\"one\">Heading</a></h2><p>plain <a href=\"42.html\">leads on</a></p>");
+    frmaide help(programme);
+    help.Montre(kAideVisite);
+    QPalette dark(QColor(0x30, 0x30, 0x30));
+    dark.setColor(QPalette::Base, QColor(0x20, 0x20, 0x20));
+    dark.setColor(QPalette::Text, Qt::white);
+    dark.setColor(QPalette::Link, QColor(0x80, 0xC0, 0xFF));
+    QApplication::setPalette(dark);
+    QApplication::processEvents();
+    EXPECT_EQ(ColourOf(help, "Heading"), QColor(Qt::white));
+    EXPECT_EQ(ColourOf(help, "plain"), QColor(Qt::white));
+    EXPECT_EQ(ColourOf(help, "leads"), QColor(0x80, 0xC0, 0xFF));
+    QApplication::setPalette(before);
+}
+
 TEST_F(FrmAideTest, APictureIsNoWiderThanThePage) {
     QImage wide(1000, 100, QImage::Format_RGB32);
     wide.fill(Qt::red);
