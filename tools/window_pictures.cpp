@@ -104,7 +104,9 @@ class Pictures {
         window_->affiche();
         Save(*window_, "frmmain");
         TakeSheets();
-        TakePrint();
+        if (programme_.settings.Unite == kUniteMm) {
+            TakePrint();
+        }
         TakeNotices();
         for (const char *mode : {"corde", "epcof", "ba", "bf", "rep"}) {
             frmInput entry(programme_, mode, window_.get());

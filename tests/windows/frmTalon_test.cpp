@@ -20,7 +20,8 @@ TEST_F(FrmTalonTest, ShowsItsWordsAndTheDepthOfTheContour) {
         EXPECT_EQ(window.Tip("OptTalon(0)"), "The heel stands under the lower surface");
         EXPECT_EQ(window.Tip("OptTalon(1)"), "The heel stands on the upper surface");
         EXPECT_EQ(window.Tip("txt(3)"),
-                  "Enter washout angle, 20° at most. Trailing edge up : negative angle");
+                  "Enter washout angle, 20° at most. Trailing edge up : negative angle, typed here "
+                  "without its minus");
         EXPECT_EQ(window.Text("txt(0)"), " 6.50"); // 256 / 32 - 1.5
         EXPECT_EQ(window.Text("txt(1)"), "0");
         EXPECT_EQ(window.Text("txt(2)"), "0");
