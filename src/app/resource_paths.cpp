@@ -1,6 +1,7 @@
 #include "app/resource_paths.h"
 
-#include <cstdlib>
+#include "platform/system.h"
+
 #include <filesystem>
 
 namespace loftwing {
@@ -8,16 +9,6 @@ namespace loftwing {
 namespace {
 
 namespace fs = std::filesystem;
-
-fs::path ConfigFolder() {
-    // An empty variable counts as none.
-    const char *config = std::getenv("XDG_CONFIG_HOME");
-    if (config != nullptr && *config != '\0') {
-        return config;
-    }
-    const char *home = std::getenv("HOME");
-    return fs::path(home == nullptr ? "." : home) / ".config";
-}
 
 Paths PathsWith(const std::string &settings) {
     const std::string folder = ResourceFolder();
@@ -28,12 +19,16 @@ Paths PathsWith(const std::string &settings) {
 } // namespace
 
 std::string ResourceFolder() {
-    std::error_code error;
-    const fs::path program = fs::read_symlink("/proc/self/exe", error).parent_path();
-    if (fs::is_directory(program / "lng", error)) {
-        return program.string();
+    const fs::path program = ProgramFile().parent_path();
+    const fs::path installed = program.parent_path() / "share" / "loftwing";
+    const fs::path of_bundle = program.parent_path() / "Resources";
+    for (const fs::path &folder : {program, of_bundle}) {
+        std::error_code error;
+        if (fs::is_directory(folder / "lng", error)) {
+            return folder.string();
+        }
     }
-    return (program.parent_path() / "share" / "loftwing").string();
+    return installed.string();
 }
 
 Paths WindowPaths(const std::string &settings) {

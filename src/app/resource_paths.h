@@ -5,8 +5,8 @@
 
 namespace loftwing {
 
-/// The folder of the program's resources: beside the program in the build tree, share/loftwing when
-/// it is installed.
+/// The folder of the program's resources: beside the program in the build tree, in its bundle where
+/// programs are bundles, otherwise share/loftwing beside the folder that it is installed in.
 std::string ResourceFolder();
 
 /// Paths of the window: the settings file is `settings` where that is given, a Loftwing.ini in the

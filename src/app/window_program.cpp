@@ -11,6 +11,7 @@
 #include "mainwindow/tool_icons.h"
 #include "platform/qt_form.h"
 #include "platform/qt_platform.h"
+#include "platform/system.h"
 #include "programme/library_setup.h"
 #include "programme/load.h"
 #include "programme/startup.h"
@@ -18,8 +19,6 @@
 #include <QApplication>
 
 #include <algorithm>
-#include <array>
-#include <cstdlib>
 #include <filesystem>
 #include <iostream>
 #include <memory>
@@ -28,9 +27,6 @@
 namespace loftwing {
 
 namespace {
-
-/// One of them is set wherever a window can be shown.
-constexpr std::array kDisplays = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
 
 std::vector<std::string> WordsLeft() {
     std::vector<std::string> words;
@@ -79,21 +75,17 @@ int Show(Programme &programme, const std::vector<std::string> &files) {
 }
 
 /// Whether the toolkit has anywhere to show a window; without, it would end the process.
-bool HasDisplay(int argc, char **argv) {
+bool CanShow(int argc, char **argv) {
     const auto chooses = [](std::string_view word) {
         return word.ends_with("-platform") || word.ends_with("-display");
     };
-    return std::any_of(argv + 1, argv + argc, chooses) ||
-           std::any_of(kDisplays.begin(), kDisplays.end(), [](const char *name) {
-               const char *value = std::getenv(name);
-               return value != nullptr && *value != '\0';
-           });
+    return std::any_of(argv + 1, argv + argc, chooses) || HasDisplay();
 }
 
 } // namespace
 
 int RunWindow(int argc, char **argv) {
-    if (!HasDisplay(argc, argv)) {
+    if (!CanShow(argc, argv)) {
         std::cerr << "loftwing: no display for the window (see loftwing --help for what goes "
                      "without)\n";
         return kRefused;

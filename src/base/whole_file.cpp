@@ -21,6 +21,15 @@ struct CloseFile {
 };
 using FileHandle = std::unique_ptr<std::FILE, CloseFile>;
 
+/// The handle is null where the file doesn't open; errno then says why.
+FileHandle Open(const fs::path &path, const char *mode) {
+#ifdef _WIN32
+    return FileHandle(_wfopen(path.c_str(), fs::path(mode).c_str())); // paths are wide there
+#else
+    return FileHandle(std::fopen(path.c_str(), mode));
+#endif
+}
+
 Failure OpenFailure(const std::string &path, int error) {
     if (error == EACCES || error == EPERM) {
         return MakeFailure(kPermissionDenied, path);
@@ -52,13 +61,12 @@ bool MayBeReplaced(const fs::path &target) {
     if (!fs::is_regular_file(status)) {
         return false;
     }
-    const FileHandle file(std::fopen(target.c_str(), "r+b"));
-    return file != nullptr;
+    return Open(target, "r+b") != nullptr;
 }
 
 bool WriteAll(const fs::path &path, std::string_view bytes) {
     // Exclusively: a file that already bears the name is somebody else's.
-    FileHandle file(std::fopen(path.c_str(), "wbx"));
+    FileHandle file = Open(path, "wbx");
     if (!file) {
         return false;
     }
@@ -79,13 +87,13 @@ std::string ReadWholeFile(const std::string &path) {
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
     if (!fs::exists(status)) {
-        throw OpenFailure(path, error ? error.value() : ENOENT);
+        throw OpenFailure(path, error ? error.default_error_condition().value() : ENOENT);
     }
     // A pipe or a device could go on for ever; a folder holds no text.
     if (!fs::is_regular_file(status)) {
         throw MakeFailure(kPathFileAccess, path);
     }
-    const FileHandle file(std::fopen(path.c_str(), "rb"));
+    const FileHandle file = Open(path, "rb");
     if (!file) {
         throw OpenFailure(path, errno);
     }

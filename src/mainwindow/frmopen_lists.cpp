@@ -2,13 +2,13 @@
 
 #include "base/text_encoding.h"
 #include "mainwindow/frmopen.h"
+#include "platform/system.h"
 #include "programme/dossiers.h"
 #include "programme/load.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
 
-#include <cstdlib>
 #include <filesystem>
 
 namespace loftwing {
@@ -55,9 +55,9 @@ std::string DernierOuvert(Programme &programme, const std::string &folder) {
 
 /// A path as typed: "~" is the home folder, and it may start from the folder that is shown.
 std::filesystem::path CheminTape(const std::string &typed, const std::string &folder) {
-    const char *home = std::getenv("HOME");
-    const bool at_home = typed == "~" || typed.starts_with("~/");
-    const std::string text = at_home && home != nullptr ? home + typed.substr(1) : typed;
+    const std::string home = HomeFolder().string();
+    const bool at_home = !home.empty() && (typed == "~" || typed.starts_with("~/"));
+    const std::string text = at_home ? home + typed.substr(1) : typed;
     const std::filesystem::path path = (std::filesystem::path(folder) / text).lexically_normal();
     return path.has_filename() ? path : path.parent_path();
 }

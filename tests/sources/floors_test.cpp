@@ -78,6 +78,15 @@ bool OfToolkit(const std::string &header) {
            header.find_first_of("/.") == std::string::npos;
 }
 
+/// The one unit that asks the system itself, and what it may include for that.
+const std::string kSystemUnit = "platform/system.cpp";
+const std::vector<std::string> kSystemHeaders = {"fcntl.h", "io.h", "mach-o/dyld.h", "windows.h"};
+
+bool OfSystem(const std::string &file, const std::string &header) {
+    return file == kSystemUnit &&
+           std::count(kSystemHeaders.begin(), kSystemHeaders.end(), header) > 0;
+}
+
 struct Include {
     std::string name;
     bool ours = false; ///< "name", not <name>
@@ -124,7 +133,7 @@ std::string Wrong(const std::string &file, const Include &include) {
     if (OfToolkit(include.name)) {
         return toolkit ? "" : file + " lies below the toolkit's line and includes " + include.name;
     }
-    return OfStandardLibrary(include.name)
+    return OfStandardLibrary(include.name) || OfSystem(file, include.name)
                ? ""
                : file + " includes " + include.name + ", which is not of the standard library";
 }
@@ -219,6 +228,14 @@ TEST(Floors, NothingButStandardLibraryAndToolkitIsUsed) {
                 << file << header;
         }
     }
+}
+
+TEST(Floors, OneUnitAsksTheSystem) {
+    const std::string source = "#include <windows.h>\n#include <mach-o/dyld.h>\n";
+    EXPECT_THAT(WrongIn("platform/system.cpp", source), IsEmpty());
+    EXPECT_THAT(WrongIn("platform/system.h", source), testing::SizeIs(2));
+    EXPECT_THAT(WrongIn("base/whole_file.cpp", source), testing::SizeIs(2));
+    EXPECT_THAT(WrongIn("platform/system.cpp", "#include <unistd.h>\n"), testing::SizeIs(1));
 }
 
 TEST(Floors, AFileThatLiesNowhereIsFound) {

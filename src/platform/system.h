@@ -1,0 +1,25 @@
+/// What every system answers in its own way and the toolkit isn't needed for. Calls that only some
+/// systems have stand in this unit and nowhere else.
+#pragma once
+
+#include <filesystem>
+
+namespace loftwing {
+
+/// The running program's own file; empty where the system doesn't tell.
+std::filesystem::path ProgramFile();
+
+/// The user's own folder; empty when none is known.
+std::filesystem::path HomeFolder();
+
+/// Where programs keep the user's settings, each in a folder of its own.
+std::filesystem::path ConfigFolder();
+
+/// Whether a window can be shown as far as the surroundings tell.
+bool HasDisplay();
+
+/// To be called before the first word is written: connects the standard streams with the console
+/// that the program was started from, and lets them pass bytes as they are.
+void PrepareConsole();
+
+} // namespace loftwing
