@@ -8,7 +8,7 @@
 #include "mainwindow/frmSplash.h"
 #include "mainwindow/frmaide.h"
 #include "mainwindow/frmmain.h"
-#include "mainwindow/tool_icons.h"
+#include "mainwindow/program_icon.h"
 #include "platform/qt_form.h"
 #include "platform/qt_platform.h"
 #include "platform/system.h"

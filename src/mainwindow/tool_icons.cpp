@@ -1,7 +1,6 @@
 #include "mainwindow/tool_icons.h"
 
 #include <QPainter>
-#include <QPainterPath>
 #include <QPixmap>
 
 #include <functional>
@@ -53,19 +52,6 @@ void DrawPrinter(QPainter &painter) {
     painter.drawRect(QRectF(7, 14, 10, 7));
 }
 
-/// A rib with its spar and sheeting.
-void DrawRib(QPainter &painter) {
-    QPainterPath rib;
-    rib.moveTo(22.5, 13.5);
-    rib.cubicTo(15, 7.5, 6, 5.5, 2, 11);
-    rib.cubicTo(0.5, 14.5, 6, 15, 22.5, 13.5);
-    painter.setPen(QPen(QColor(0x10, 0x40, 0xA0), 1.4));
-    painter.setBrush(QColor(0xF4, 0xE2, 0xB8));
-    painter.drawPath(rib);
-    painter.drawEllipse(QPointF(8, 11.3), 2, 2);
-    painter.drawLine(QPointF(13.5, 9), QPointF(13.5, 14.3));
-}
-
 } // namespace
 
 QIcon ToolIcon(int index, const QPalette &palette) {
@@ -88,10 +74,6 @@ QIcon ToolIcon(int index, const QPalette &palette) {
     default:
         return {};
     }
-}
-
-QIcon ProgramIcon() {
-    return IconOf(DrawRib);
 }
 
 } // namespace loftwing

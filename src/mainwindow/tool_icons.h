@@ -8,7 +8,5 @@ namespace loftwing {
 
 /// The image of tool bar button `index`; empty for separators and placeholders.
 QIcon ToolIcon(int index, const QPalette &palette);
-/// The program's own icon: a rib.
-QIcon ProgramIcon();
 
 } // namespace loftwing
