@@ -3,7 +3,8 @@
 #
 #     tools/setup.sh GROUP...
 #
-# Groups: build (compile the program), run (use it), test, format, bench, fuzz.
+# Groups: build (compile the program), run (use it), package (make a Debian package), test, format,
+# bench, fuzz.
 # With LOFTWING_NO_INSTALL set it does nothing: for machines where the same things come from
 # elsewhere.
 set -euo pipefail
@@ -11,7 +12,9 @@ set -euo pipefail
 declare -A packages=(
     [build]="cmake g++ ninja-build qt6-base-dev"
     [run]="fonts-liberation libqt6svg6 qt6-translations-l10n qt6-wayland xdg-utils"
-    [test]="libgmock-dev libgtest-dev librecad locales poppler-utils python3 python3-ezdxf xauth xvfb"
+    [package]="dpkg-dev file"
+    [test]="appstream desktop-file-utils libglib2.0-bin libgmock-dev libgtest-dev librecad lintian
+        locales man-db poppler-utils python3 python3-ezdxf shared-mime-info xauth xvfb"
     [format]="clang-format clang-tidy"
     [bench]="libbenchmark-dev"
     [fuzz]="clang"
@@ -24,7 +27,7 @@ wanted_by() {
             echo "setup.sh: no group '$group'; there are: ${!packages[*]}" >&2
             exit 2
         fi
-        tr ' ' '\n' <<<"${packages[$group]}"
+        tr -s ' \n' '\n' <<<"${packages[$group]}"
     done
 }
 

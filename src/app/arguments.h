@@ -25,7 +25,8 @@ struct OptionRule {
     const char *value; ///< what it takes, for the help; null for a switch
     std::string help;
     bool repeatable = false;
-    int values = 1; ///< number of words that it takes, or kAllWords
+    int values = 1;                        ///< number of words that it takes, or kAllWords
+    std::vector<std::string> choices = {}; ///< words to offer for it, where they can be listed
 };
 
 /// What stood on the command line.

@@ -1,20 +1,11 @@
 #include "app/command_line.h"
 
-#include "app/angle_command.h"
 #include "app/console_program.h"
-#include "app/convert_command.h"
-#include "app/dihedral_command.h"
-#include "app/draw_command.h"
-#include "app/info_command.h"
-#include "app/modify_command.h"
-#include "app/ribs_command.h"
-#include "app/table_command.h"
-#include "app/view_commands.h"
+#include "app/verbs.h"
 #include "base/failure.h"
 #include "base/version.h"
 
 #include <algorithm>
-#include <array>
 #include <filesystem>
 #include <iostream>
 
@@ -23,41 +14,6 @@ namespace loftwing {
 namespace {
 
 namespace fs = std::filesystem;
-
-struct Verb {
-    const char *name;
-    const char *usage;
-    const char *summary;
-    std::vector<OptionRule> (*options)();
-    int (*run)(const Arguments &arguments);
-    // Another way to use it, for its own help; null without one.
-    const char *other_usage = nullptr;
-    const char *other_summary = nullptr;
-};
-
-constexpr std::array kVerbs = {
-    Verb{"draw", "draw FILE... -o OUT", "a rib drawing (or several: --to EXT -o DIR/)", DrawOptions,
-         RunDraw, "draw RIB.lfw --on FILE... -o OUT", "the rib's features on other airfoils"},
-    Verb{"info", "info FILE... [--json]", "what the program knows of an airfoil", InfoOptions,
-         RunInfo},
-    Verb{"ribs", "ribs ROOT TIP ... -o DIR", "a full set of ribs between two airfoils", RibsOptions,
-         RunRibs},
-    Verb{"plot", "plot FILE -o OUT", "the simple plot of the raw points", PlotOptions, RunPlot},
-    Verb{"compare", "compare FILE1 FILE2 -o OUT", "two airfoils over each other", CompareOptions,
-         RunCompare},
-    Verb{"modify", "modify FILE ... -o OUT.dat", "other thickness and camber", ModifyOptions,
-         RunModify},
-    Verb{"table", "table --chords A B --count N", "chords and spar places of a tapered panel",
-         TableOptions, RunTable},
-    Verb{"dihedral", "dihedral ...", "angle, length, height: two of them give the third",
-         DihedralOptions, RunDihedral},
-    Verb{"oblique", "oblique FILE ... -o OUT.dat", "a rib that crosses the panel at an angle",
-         ObliqueOptions, RunOblique},
-    Verb{"incline", "incline FILE ... -o OUT.dat", "a rib inclined by the dihedral", InclineOptions,
-         RunIncline},
-    Verb{"convert", "convert FILE... -o OUT.dat", "any table of coordinates as an airfoil file",
-         ConvertOptions, RunConvert},
-};
 
 std::string Padded(std::string text, std::size_t width) {
     text.resize(std::max(text.size() + 1, width), ' ');
@@ -68,10 +24,10 @@ constexpr std::size_t kUsageColumn = 40;
 constexpr std::size_t kOptionColumn = 32;
 
 void PrintHelp() {
-    std::cout << "loftwing " << kVersion << ": full-size rib drawings from airfoil files\n\n"
+    std::cout << "loftwing " << kVersion << ": " << kWhatItIs << "\n\n"
               << Padded("loftwing [--settings FILE] [FILE]", kUsageColumn)
               << "the window; FILE is opened in it\n";
-    for (const Verb &verb : kVerbs) {
+    for (const Verb &verb : Verbs()) {
         std::cout << Padded(std::string("loftwing ") + verb.usage, kUsageColumn) << verb.summary
                   << '\n';
     }
@@ -90,11 +46,8 @@ void PrintHelp(const Verb &verb) {
     }
 }
 
-const Verb *FindVerb(const std::vector<std::string> &words) {
-    const auto verb = std::find_if(kVerbs.begin(), kVerbs.end(), [&](const Verb &each) {
-        return !words.empty() && words.front() == each.name;
-    });
-    return verb == kVerbs.end() ? nullptr : &*verb;
+const Verb *VerbOf(const std::vector<std::string> &words) {
+    return words.empty() ? nullptr : FindVerb(words.front());
 }
 
 int RunVerb(const Verb &verb, const Arguments &arguments) {
@@ -117,7 +70,7 @@ int Run(const Verb &verb, const std::vector<std::string> &words) {
 /// Whether a word is nothing that the program could do: it is no command, and no file has that
 /// name. Where that can't be told the window tries, and says what is wrong.
 bool IsNothing(const std::vector<std::string> &words) {
-    if (words.empty() || words.front().starts_with('-') || FindVerb(words) != nullptr) {
+    if (words.empty() || words.front().starts_with('-') || VerbOf(words) != nullptr) {
         return false;
     }
     std::error_code error;
@@ -127,13 +80,13 @@ bool IsNothing(const std::vector<std::string> &words) {
 } // namespace
 
 bool IsCommandLine(const std::vector<std::string> &words) {
-    return FindVerb(words) != nullptr || IsNothing(words) ||
+    return VerbOf(words) != nullptr || IsNothing(words) ||
            (!words.empty() && (words.front() == "--help" || words.front() == "--version"));
 }
 
 int RunCommandLine(const std::vector<std::string> &words) {
     try {
-        if (const Verb *verb = FindVerb(words)) {
+        if (const Verb *verb = VerbOf(words)) {
             return Run(*verb, words);
         }
         if (IsNothing(words)) {

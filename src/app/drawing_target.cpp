@@ -28,13 +28,21 @@ std::vector<const ExportForm *> FormsOf(const DrawingVerb &verb) {
     return forms;
 }
 
+std::vector<std::string> ExtensionsOf(const DrawingVerb &verb) {
+    std::vector<std::string> extensions;
+    for (const ExportForm *form : FormsOf(verb)) {
+        if (form->option == nullptr) {
+            extensions.push_back(form->extension);
+        }
+    }
+    return extensions;
+}
+
 /// "dxf, pdf, svg"
 std::string Listed(const DrawingVerb &verb) {
     std::string names;
-    for (const ExportForm *form : FormsOf(verb)) {
-        if (form->option == nullptr) {
-            names += (names.empty() ? "" : ", ") + form->extension;
-        }
+    for (const std::string &extension : ExtensionsOf(verb)) {
+        names += (names.empty() ? "" : ", ") + extension;
     }
     return names;
 }
@@ -107,7 +115,8 @@ std::vector<OptionRule> DrawingOptions(const DrawingVerb &verb) {
              ") chooses the form, - is standard output"},
         {"--to", "EXT",
          verb.files_each == 1 ? "form of several drawings, which go to the folder -o DIR/"
-                              : "form of the drawing on standard output"},
+                              : "form of the drawing on standard output",
+         false, 1, ExtensionsOf(verb)},
         {"--airfoils", "DIR",
          "where to search for the airfoil of a rib components file (may be repeated; default: the "
          "file's folder)",

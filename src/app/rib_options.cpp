@@ -51,6 +51,15 @@ std::optional<PapierPropre> PaperOfSize(const std::string &words, const Programm
     return PapierPropre{{}, NombreMm(sides[0], saisie), NombreMm(sides[1], saisie)};
 }
 
+std::vector<std::string> PaperNames() {
+    std::vector<std::string> names;
+    for (std::size_t i = 0; i < kPapierImprimante; ++i) {
+        names.push_back(Papiers()[i].nom_court);
+    }
+    names.emplace_back(kPaperOfDrawing);
+    return names;
+}
+
 /// Takes a paper by the name that it has in the table or in the settings file, or by its measures.
 void TakePaper(const std::string &name, Programme &programme) {
     MiseEnPage &page = programme.settings.page;
@@ -120,7 +129,8 @@ std::vector<OptionRule> RibOptions() {
 std::vector<OptionRule> PageOptions() {
     return {{"--paper", "NAME",
              "paper of a PDF: A4, Letter, Fanfold, Legal, Executive, B4, "
-             "\"US B\", A3, LENGTHxWIDTH of your own, or drawing for one page as large as that"},
+             "\"US B\", A3, LENGTHxWIDTH of your own, or drawing for one page as large as that",
+             false, 1, PaperNames()},
             {"--margin-before", "LENGTH", "margin before the leading edge"},
             {"--margin-after", "LENGTH", "margin behind the trailing edge"},
             {"--overlap", "LENGTH", "overlap of two sheets"},
