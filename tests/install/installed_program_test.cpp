@@ -28,6 +28,7 @@ TEST(InstalledProgram, FilesStandWhereTheSystemLooksForThem) {
                                        "share/icons/hicolor/scalable/apps/loftwing.svg",
                                        "share/loftwing/airfoils/naca2412.dat",
                                        "share/loftwing/lng/English.lng",
+                                       "share/loftwing/help/German/10.html",
                                        "share/loftwing/lng/French.lng",
                                        "share/man/man1/loftwing.1.gz",
                                        "share/metainfo/local.loftwing.loftwing.metainfo.xml",
@@ -59,6 +60,27 @@ TEST(InstalledProgram, AllResourcesOfTheSourcesAreThere) {
             EXPECT_EQ(ReadWholeFile(there), ReadWholeFile(source + "/" + file));
         }
     }
+}
+
+TEST(InstalledProgram, EveryPictureOfTheHelpIsThere) {
+    const std::string help = Installed::Get().Path("share/loftwing/help");
+    std::size_t pictures = 0;
+    for (const std::string &page : FilesBelow(help)) {
+        if (!page.ends_with(".html")) {
+            continue;
+        }
+        const std::string text = ReadWholeFile(help + "/" + page);
+        const std::string mark = "src=\"";
+        for (std::size_t at = text.find(mark); at != std::string::npos;
+             at = text.find(mark, at + 1)) {
+            const std::size_t from = at + mark.size();
+            const std::string name = text.substr(from, text.find('"', from) - from);
+            EXPECT_TRUE(fs::exists(fs::path(help) / fs::path(page).parent_path() / name))
+                << page << " " << name;
+            ++pictures;
+        }
+    }
+    EXPECT_GT(pictures, 100U);
 }
 
 TEST(InstalledProgram, EverybodyMayReadItAndNobodyElseChangeIt) {
