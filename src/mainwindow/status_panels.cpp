@@ -1,6 +1,7 @@
 #include "mainwindow/status_panels.h"
 
 #include "base/failure.h"
+#include "mainwindow/fitted_label.h"
 #include "platform/qt_text.h"
 
 #include <QLabel>
@@ -13,10 +14,10 @@ StatusPanels::StatusPanels(QMainWindow &window) {
     QStatusBar *bar = window.statusBar();
     bar->setObjectName("StatusBar");
     for (std::size_t i = 0; i < panels_.size(); ++i) {
-        panels_[i] = new QLabel(&window);
+        // The words about the airfoil may be long; they must not widen the window.
+        panels_[i] = i == 1 ? new FittedLabel(1, &window) : new QLabel(&window);
         panels_[i]->setObjectName(QStringLiteral("StatusBar(%1)").arg(i + 1));
         panels_[i]->setTextFormat(Qt::PlainText);
-        // The words about the airfoil may be long; they must not widen the window.
         if (i == 1) {
             panels_[i]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         }

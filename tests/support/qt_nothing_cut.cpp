@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include <algorithm>
 #include <vector>
 
 namespace loftwing {
@@ -19,11 +20,22 @@ std::string NameOf(const QWidget &widget) {
            (label != nullptr ? " \"" + label->text().toStdString() + "\"" : "");
 }
 
+/// What lies over another widget for a while and lets everything through.
+bool IsMark(const QWidget &widget) {
+    return widget.testAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+bool IsLeaf(const QWidget &widget) {
+    const QList<QWidget *> children = widget.findChildren<QWidget *>();
+    return std::all_of(children.begin(), children.end(),
+                       [](const QWidget *child) { return IsMark(*child); });
+}
+
 /// What stands in the window without children of its own.
 std::vector<QWidget *> Leaves(const QWidget &window) {
     std::vector<QWidget *> leaves;
     for (auto *child : window.findChildren<QWidget *>()) {
-        if (child->isVisible() && child->findChildren<QWidget *>().isEmpty()) {
+        if (child->isVisible() && !IsMark(*child) && IsLeaf(*child)) {
             leaves.push_back(child);
         }
     }
