@@ -52,6 +52,7 @@ void frmTalon::PoseTextes() {
     LabelAvant.setText(Mot({"FrmTalon", "12"}));
     LabelOpt.setText(Mot({"FrmTalon", "13"}));
     Picture1.SetEdgeWords(Mot({"MainTolbar", "15"}), Mot({"MainTolbar", "21"}));
+    NommeEsquisse(Picture1);
 }
 
 void frmTalon::PoseBulles() {

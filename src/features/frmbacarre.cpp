@@ -17,6 +17,7 @@ void frmbacarre::Form_Load() {
     Label1[kCarreX].setText(Mot({"FrmBacarre", "3"}));
     Label1[kCarreY].setText(Mot({"FrmBacarre", "4"}));
     Picture1.SetEdgeWords(Mot({"MainTolbar", "15"}), Mot({"MainTolbar", "21"}));
+    NommeEsquisse(Picture1);
     AdmetLongueurs(infotxt);
     AdmetLongueurSignee(infotxt[kCarreY]);
     ShowTexts(infotxt, TextesDuCarre(programme_.rib));

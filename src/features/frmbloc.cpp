@@ -48,6 +48,7 @@ void frmbloc::PoseTextes() {
     LabelPointHaut.setText(Mot({"FrmBloc", "15"}));
     LabelPointBas.setText(Mot({"FrmBloc", "16"}));
     Picture1.SetEdgeWords(Mot({"MainTolbar", "15"}), Mot({"MainTolbar", "21"}));
+    NommeEsquisse(Picture1);
     Picture1.SetChordWord(Mot({"FrmBloc", "7"}));
 }
 

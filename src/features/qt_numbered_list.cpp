@@ -1,5 +1,6 @@
 #include "features/qt_numbered_list.h"
 
+#include "features/qt_click_label_accessible.h"
 #include "platform/qt_form.h"
 
 #include <QHBoxLayout>
@@ -16,18 +17,19 @@ namespace {
 constexpr int kBord = 1;
 constexpr int kMarge = 3;
 
-/// The border takes its room from the margin, so that marking a number moves nothing.
-void PoseBord(QLabel &label, bool marked) {
-    label.setFrameStyle(marked ? static_cast<int>(QFrame::Box) | static_cast<int>(QFrame::Plain)
-                               : static_cast<int>(QFrame::NoFrame));
-    label.setLineWidth(kBord);
-    label.setMargin(marked ? kMarge - kBord : kMarge);
-}
-
 } // namespace
 
 ClickLabel::ClickLabel(QWidget *parent) : QLabel(parent) {
+    TellScreenReaders();
     setTextFormat(Qt::PlainText);
+}
+
+void ClickLabel::Marque(bool marked) {
+    marked_ = marked;
+    setFrameStyle(marked ? static_cast<int>(QFrame::Box) | static_cast<int>(QFrame::Plain)
+                         : static_cast<int>(QFrame::NoFrame));
+    setLineWidth(kBord);
+    setMargin(marked ? kMarge - kBord : kMarge);
 }
 
 void ClickLabel::keyPressEvent(QKeyEvent *event) {
@@ -84,12 +86,19 @@ void NumberedList::SetTip(const std::string &tip) {
     Numerote(last_);
 }
 
+void NumberedList::Nomme(const QString &caption) {
+    caption_ = caption;
+    setAccessibleName(caption);
+    Numerote(last_);
+}
+
 void NumberedList::Numerote(int last) {
     last_ = last;
     for (int i = 0; i < kNumeros; ++i) {
         const bool used = i <= last;
         ClickLabel &label = At(labels_, i);
         label.setText(used ? QString::number(i + 1) : QString());
+        label.setAccessibleName(used ? caption_ + " " + label.text() : QString());
         loftwing::SetTip(label, used ? tip_ : std::string());
         label.setCursor(used ? Qt::PointingHandCursor : Qt::ArrowCursor);
     }
@@ -107,7 +116,7 @@ void NumberedList::SansMarque() {
 
 void NumberedList::MarqueOuNon(int marked) {
     for (int i = 0; i < kNumeros; ++i) {
-        PoseBord(At(labels_, i), i == marked);
+        At(labels_, i).Marque(i == marked);
     }
 }
 

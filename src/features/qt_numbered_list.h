@@ -18,6 +18,10 @@ class ClickLabel : public QLabel {
   public:
     explicit ClickLabel(QWidget *parent = nullptr);
 
+    /// The border of what is chosen. It takes its room from the margin, so that it moves nothing.
+    void Marque(bool marked);
+    bool EstMarque() const { return marked_; }
+
   Q_SIGNALS:
     void Clicked();
 
@@ -26,6 +30,9 @@ class ClickLabel : public QLabel {
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+
+  private:
+    bool marked_ = false;
 };
 
 /// Twelve labels with the numbers from 1; those not in use yet are blank. A border marks the one
@@ -39,6 +46,8 @@ class NumberedList : public QWidget {
 
     std::array<ClickLabel, kNumeros> &Labels() { return labels_; }
     void SetTip(const std::string &tip);
+    /// What the numbers count, for those who can't see the caption beside them.
+    void Nomme(const QString &caption);
 
     /// Numbers the labels 0 to `last` and blanks the others.
     void Numerote(int last);
@@ -57,6 +66,7 @@ class NumberedList : public QWidget {
   private:
     std::array<ClickLabel, kNumeros> labels_;
     std::string tip_;
+    QString caption_;
     int last_ = -1;
 
     void MarqueOuNon(int marked);

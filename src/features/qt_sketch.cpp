@@ -1,5 +1,6 @@
 #include "features/qt_sketch.h"
 
+#include "platform/qt_contrast.h"
 #include "platform/qt_form.h"
 
 #include <QEvent>
@@ -96,33 +97,37 @@ QPolygonF SketchPainter::At(const QPolygonF &points) const {
     return placed;
 }
 
-/// The text's colour over the window's: readable in dark themes too.
-QColor SketchPainter::Mixed(double ink) const {
-    const QColor text = widget_.palette().color(QPalette::WindowText);
-    const QColor window = widget_.palette().color(QPalette::Window);
-    const auto mix = [ink](int front, int back) {
-        return static_cast<int>(std::lround(front * ink + back * (1.0 - ink)));
-    };
-    return {mix(text.red(), window.red()), mix(text.green(), window.green()),
-            mix(text.blue(), window.blue())};
-}
-
-QPen SketchPainter::PenFor(SketchLine kind) const {
+QColor SketchColour(const QPalette &palette, SketchLine kind) {
+    const QColor window = palette.color(QPalette::Window);
+    const QColor text = palette.color(QPalette::WindowText);
     switch (kind) {
     case SketchLine::rib:
-        return QPen(Mixed(1), kThin);
+        return text;
     case SketchLine::added:
-        return QPen(widget_.palette().color(QPalette::Highlight), kStrong);
+        return Lisible(palette.color(QPalette::Highlight), window, kContrasteTrait);
     case SketchLine::axis:
-        return QPen(Mixed(0.7), kThin, Qt::DashDotLine);
+        return Melange(window, text, 0.7);
     case SketchLine::aid:
         break;
     }
-    return QPen(Mixed(0.45), kThin);
+    return Lisible(Melange(window, text, 0.45), window, kContrasteTrait);
+}
+
+QPen SketchPainter::PenFor(SketchLine kind) const {
+    const QColor colour = SketchColour(widget_.palette(), kind);
+    switch (kind) {
+    case SketchLine::added:
+        return QPen(colour, kStrong);
+    case SketchLine::axis:
+        return QPen(colour, kThin, Qt::DashDotLine);
+    default:
+        return QPen(colour, kThin);
+    }
 }
 
 QPen SketchPainter::MeasurePen(const QString &letter) const {
-    return QPen(Mixed(1), letter == strong_ ? kStrong : kThin);
+    return QPen(SketchColour(widget_.palette(), SketchLine::rib),
+                letter == strong_ ? kStrong : kThin);
 }
 
 void SketchPainter::Line(QPointF from, QPointF to, SketchLine kind) {
@@ -167,7 +172,7 @@ void SketchPainter::Put(const QString &text, QPointF centre, bool bold) {
     QFont font = widget_.font();
     font.setBold(bold);
     painter_.setFont(font);
-    painter_.setPen(Mixed(1));
+    painter_.setPen(SketchColour(widget_.palette(), SketchLine::rib));
     painter_.drawText(place, static_cast<int>(Qt::AlignCenter), text);
     words_.push_back({text, place});
 }

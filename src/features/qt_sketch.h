@@ -29,6 +29,9 @@ enum class SketchLine {
     aid    ///< where a measure ends
 };
 
+/// The colour of such a line on a window: as much of the desktop's as can be seen there.
+QColor SketchColour(const QPalette &palette, SketchLine kind);
+
 /// What a sketch draws with. Points are in lines of text from the sketch's origin, y upwards, so
 /// that a drawing leaves its words the same room at every size of font.
 class SketchPainter {
@@ -65,7 +68,6 @@ class SketchPainter {
 
     QPointF At(QPointF point) const;
     QPolygonF At(const QPolygonF &points) const;
-    QColor Mixed(double ink) const;
     QPen PenFor(SketchLine kind) const;
     QPen MeasurePen(const QString &letter) const;
     void Arrow(QPointF tip, QPointF from);

@@ -23,6 +23,7 @@ void SlotsDialog::PoseTextes() {
     OptDistance[0].setText(Mot(mots.depuis_ba));
     OptDistance[1].setText(Mot(mots.depuis_bf));
     LabelListe.setText(Mot(mots.liste));
+    numeros_.Nomme(LabelListe.text());
     numeros_.SetTip(programme_.Text(mots.liste_tip));
     cmdajout.setText(Mot(mots.ajout));
     Cmdmodif.setText(Mot(mots.modif));

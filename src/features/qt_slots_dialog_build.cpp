@@ -76,8 +76,8 @@ void SlotsDialog::RegleTabulation(const std::vector<QWidget *> &order) {
                {champs_[0], &OptDistance[0], &OptDistance[1], champs_[1], champs_[2], champs_[3]});
     all.insert(all.end(), order.begin(), order.end());
     all.insert(all.end(),
-               {&cmdajout, &Cmdmodif, &Cmdeffac, &Bouton(SharedWord::ok),
-                &Bouton(SharedWord::close), &Bouton(SharedWord::apply), &Bouton(SharedWord::help)});
+               {&cmdajout, &Cmdmodif, &Cmdeffac, &Bouton(SharedWord::apply),
+                &Bouton(SharedWord::ok), &Bouton(SharedWord::close), &Bouton(SharedWord::help)});
     for (std::size_t i = 1; i < all.size(); ++i) {
         setTabOrder(all[i - 1], all[i]);
     }

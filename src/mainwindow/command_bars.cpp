@@ -6,6 +6,7 @@
 
 #include <QMenu>
 #include <QMenuBar>
+#include <QToolButton>
 
 namespace loftwing {
 
@@ -40,7 +41,7 @@ bool MontreRecents(const Entries &entries, const FichiersRecents &recent) {
 } // namespace
 
 CommandBars::CommandBars(QMainWindow &window, Demandes demandes)
-    : window_(window), demandes_(std::move(demandes)) {
+    : window_(window), demandes_(std::move(demandes)), touches_(*window.menuBar()) {
     BuildMenus();
     BuildToolbar();
 }
@@ -137,6 +138,10 @@ void CommandBars::AddTool(const ToolButton &button) {
         button.handler == nullptr ? Toolbar1_->addSeparator() : Toolbar1_->addAction(QString());
     action->setObjectName(QStringLiteral("Toolbar1(%1)").arg(button.index));
     tools_[button.index] = action;
+    if (auto *icon = qobject_cast<QToolButton *>(Toolbar1_->widgetForAction(action))) {
+        icon->setObjectName(action->objectName() + "_button");
+        icon->setFocusPolicy(Qt::TabFocus);
+    }
     QObject::connect(action, &QAction::triggered, &window_,
                      [this, &button] { Execute("Toolbar1", button.handler); });
 }
@@ -213,6 +218,22 @@ void CommandBars::PoseTextes(const LngIni &language) {
     const QString zoom = tools_.at(kZoomTool)->toolTip();
     Combo1_->setToolTip(zoom);
     Combo1_->setAccessibleName(zoom);
+    Toolbar1_->setAccessibleName(caption({"MainTolbar", "240"}));
+    DonneTouches();
+}
+
+void CommandBars::DonneTouches() {
+    std::vector<QAbstractButton *> buttons;
+    for (const PushButton &button : PushButtons()) {
+        buttons.push_back(buttons_.at(button.name));
+    }
+    std::vector<QAction *> icons;
+    for (const ToolButton &button : ToolButtons()) {
+        if (button.handler != nullptr) {
+            icons.push_back(tools_.at(button.index));
+        }
+    }
+    touches_.Give(buttons, *Toolbar1_, icons);
 }
 
 } // namespace loftwing

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "lang/LngIni.h"
+#include "mainwindow/access_keys.h"
 #include "mainwindow/commands.h"
 #include "persist/settings.h"
 
@@ -39,6 +40,7 @@ class CommandBars {
     /// Opens a menu of the menu bar elsewhere.
     void OuvreMenu(const std::string &name, const QPoint &place);
     QComboBox &ListeZoom() const { return *Combo1_; }
+    QToolBar &Barre() const { return *Toolbar1_; }
 
     /// Enables and disables what changes with a state.
     void Met(EtatCommandes state);
@@ -61,6 +63,7 @@ class CommandBars {
     std::map<int, QAction *> tools_; ///< buttons of Toolbar1 by index
     std::map<std::string, QPushButton *> buttons_;
     QComboBox *Combo1_ = nullptr;
+    AccessKeys touches_;
 
     /// A control that runs nothing may be clicked too.
     void Execute(const char *name, CommandHandler handler);
@@ -74,6 +77,7 @@ class CommandBars {
     void AddTool(const ToolButton &button);
     void BuildZoomList();
     void AddButton(const PushButton &button);
+    void DonneTouches();
 };
 
 } // namespace loftwing

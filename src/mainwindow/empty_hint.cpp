@@ -1,5 +1,6 @@
 #include "mainwindow/empty_hint.h"
 
+#include "platform/qt_focus_mark.h"
 #include "platform/qt_form.h"
 #include "platform/qt_text.h"
 
@@ -23,6 +24,7 @@ void MakeQuiet(QPushButton &button) {
     button.setAutoDefault(false);
     button.setFocusPolicy(Qt::TabFocus);
     button.setCursor(Qt::PointingHandCursor);
+    FocusMark::On(button); // the style shows none on a flat button
 }
 
 } // namespace

@@ -27,6 +27,7 @@ void frmAbout::Form_Load() {
     lblversion.setText(Q(programme_.Text({"FrmAbout", "3"}) + " " + kVersion));
     Label1[0].setText(Mot({"FrmAbout", "4"}));
     Label1[1].setText(Mot({"FrmAbout", "5"}));
+    image.setAccessibleName(Mot({"MainTolbar", "25"}));
     ShowFolder(txtdossier[0], "RepAirfoil");
     ShowFolder(txtdossier[1], "RepEvol");
     lblsystemes.setText(kSystems);

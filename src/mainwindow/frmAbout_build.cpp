@@ -22,7 +22,7 @@ void frmAbout::LayOut() {
     auto *folders = new QFormLayout;
     for (std::size_t i = 0; i < txtdossier.size(); ++i) {
         folders->addRow(&Label1[i], &txtdossier[i]);
-        PlainText({&Label1[i]});
+        SetCaption(Label1[i], txtdossier[i]);
         txtdossier[i].setReadOnly(true);
         txtdossier[i].setFrame(false);
         QPalette plain = txtdossier[i].palette();

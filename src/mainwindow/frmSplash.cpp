@@ -33,6 +33,7 @@ void frmSplash::Form_Load() {
     lbltitre.setText(QString::fromUtf8(kTitre));
     lblversion.setText(Q(programme_.Text({"FrmAbout", "3"}) + "  " + kVersion));
     lblpresentation.setText(Q(programme_.Text({"FrmAbout", "2"})));
+    image.setAccessibleName(Q(programme_.Text({"MainTolbar", "25"})));
     Timer1.setSingleShot(true);
     Timer1.setInterval(kShownFor);
 }

@@ -3,6 +3,7 @@
 #include "mainwindow/frmaide.h"
 
 #include "mainwindow/window_place.h"
+#include "platform/qt_focus_mark.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -72,6 +73,9 @@ void frmaide::LayOut() {
     Sommaire.setItemsExpandable(false);
     Liste.addWidget(&Sommaire);
     Liste.addWidget(&Trouves);
+    // The style shows no focus of a page, nor of an empty list.
+    FocusMark::On(Page);
+    FocusMark::On(Trouves);
     auto *panes = new QSplitter(this);
     panes->addWidget(&Liste);
     panes->addWidget(&Page);
@@ -88,6 +92,10 @@ void frmaide::LayOut() {
     constexpr int kScrollBar = 60;
     LitPlace(*this, kPlaceAide, {contents + HelpBrowser::kLargeurImage + kScrollBar, 700});
     Page.setFocus();
+    // As they stand from left to right, whichever of the two lists is shown.
+    setTabOrder(&txtcherche, &Sommaire);
+    setTabOrder(&Sommaire, &Trouves);
+    setTabOrder(&Trouves, &Page);
 }
 
 void frmaide::PoseTouches() {

@@ -3,6 +3,7 @@
 #include "base/text_encoding.h"
 #include "lang/aide.h"
 #include "output/airfoil_preview.h"
+#include "platform/qt_contrast.h"
 
 #include <QKeyEvent>
 #include <QShortcut>
@@ -26,6 +27,7 @@ frmopen::frmopen(Programme &programme, MainView &view, QWidget *parent)
     NameAll();
     PoseTextes();
     PoseBulles();
+    AssureInvite();
     LayOut();
     ConnectAll();
     Form_Load();
@@ -53,6 +55,15 @@ void frmopen::PoseTextes() {
     Combo1.addItem("Coordinates Files (*.cor)");
 }
 
+/// The desktop's own colour for a hint in an empty field is often too faint to be read.
+void frmopen::AssureInvite() {
+    const QColor ground = txtcherche.palette().color(QPalette::Base);
+    const QColor faint = Melange(txtcherche.palette().color(QPalette::Text), ground, 0.5);
+    QPalette colours; // says nothing but this one
+    colours.setColor(QPalette::PlaceholderText, Lisible(faint, ground, kContrasteTexte));
+    txtcherche.setPalette(colours);
+}
+
 void frmopen::PoseBulles() {
     SetTip(memP1, programme_.Text({"frmopen", "2t"}));
     SetTip(LbMem, programme_.Text({"frmopen", "2t"}));
@@ -65,6 +76,7 @@ void frmopen::PoseBulles() {
     SetTip(Lbchemin, programme_.Text({"frmopen", "8T"}));
     SetTip(txtchemin, programme_.Text({"frmopen", "8T"}));
     SetTip(Label2, programme_.Text({"frmopen", "24t"}));
+    Surface.setAccessibleName(Mot({"frmopen", "240"}));
     Dir1.setAccessibleName(lbldossiers.text());
     File1.setAccessibleName(lblfichiers.text());
     Combo1.setAccessibleName(lbltype.text());

@@ -85,6 +85,7 @@ class frmopen : public Dialogue {
     // frmopen.cpp
     void PoseTextes();
     void PoseBulles();
+    void AssureInvite();
     /// The controls whose events pass through eventFilter.
     std::array<QObject *, 6> Surveilles();
     void ConnectAll();

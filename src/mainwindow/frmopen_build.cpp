@@ -2,6 +2,8 @@
 
 #include "mainwindow/frmopen.h"
 
+#include "platform/qt_focus_mark.h"
+
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QScreen>
@@ -79,6 +81,11 @@ void frmopen::LayOut() {
     PoseBoutons(*rows, {&cmdouvrir, SharedWord::cancel, SharedWord::help}, &cmdimporter);
     cmdimporter.setAutoDefault(false);
     txtcherche.setClearButtonEnabled(true);
+    for (QListWidget *list : {&Dir1, &File1}) {
+        FocusMark::On(*list); // an empty one has no line that could show it
+    }
+    setTabOrder(&memP1, &cmdimporter);
+    setTabOrder(&cmdimporter, &cmdouvrir);
     cmdouvrir.setDefault(true);
     File1.setFocus();
     // The preview shrinks with the height, so it may have nearly all of a small screen.

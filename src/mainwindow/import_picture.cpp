@@ -1,5 +1,7 @@
 #include "mainwindow/import_picture.h"
 
+#include "platform/qt_contrast.h"
+
 #include <QTransform>
 
 #include <algorithm>
@@ -73,7 +75,8 @@ QColor ImportPicture::PointsColour() const {
 }
 
 QColor ImportPicture::ContourColour() const {
-    return palette().color(QPalette::Highlight);
+    return Lisible(palette().color(QPalette::Highlight), palette().color(QPalette::Base),
+                   kContrasteTrait);
 }
 
 /// Two entries side by side.

@@ -5,14 +5,24 @@
 #include "mainwindow/frmInput.h"
 #include "mainwindow/frmimport.h"
 #include "mainwindow/frmopen.h"
+#include "mainwindow/pane_keys.h"
 #include "platform/qt_form.h"
 #include "platform/qt_plot_device.h"
 #include "programme/load.h"
 #include "utilities/frmEpCourb.h"
 
+#include <QMenuBar>
+#include <QStatusBar>
+
 #include <memory>
 
 namespace loftwing {
+
+namespace {
+
+constexpr int kPanneauDit = 2; // the panel that says what is shown
+
+} // namespace
 
 MainFrame::MainFrame(Programme &programme, CommandBars::Demandes demandes)
     : programme_(programme), commands_(*this, std::move(demandes)),
@@ -20,6 +30,7 @@ MainFrame::MainFrame(Programme &programme, CommandBars::Demandes demandes)
       panels_(*this) {
     setCentralWidget(picture_);
     ConnectNotices();
+    LeadThroughPanes(*this, {&commands_.Barre(), &picture_->Avis(), picture_->focusProxy()});
 }
 
 void MainFrame::ConnectNotices() {
@@ -46,6 +57,9 @@ void MainFrame::Titre(const std::string &caption) {
 
 void MainFrame::Panneau(int number, const std::string &text) {
     panels_.Montre(number, text);
+    if (number == kPanneauDit) {
+        picture_->Decrit(text);
+    }
 }
 
 void MainFrame::AfficheUnite() {
@@ -65,7 +79,9 @@ void MainFrame::AfficheFichiersRecents() {
 
 void MainFrame::AppliqueLangue() {
     commands_.PoseTextes(programme_.language);
-    picture_->Accueil().PoseTextes(programme_.language);
+    picture_->PoseTextes(programme_.language);
+    menuBar()->setAccessibleName(Q(programme_.Text({"MainTolbar", "244"})));
+    statusBar()->setAccessibleName(Q(programme_.Text({"MainTolbar", "245"})));
     programme_.messages.PoseMotsDesBoutons();
     toolkit_words_.Follow(programme_.language.LangueCourante);
     AppliqueLangueOutils(*this);

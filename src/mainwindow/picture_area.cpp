@@ -1,6 +1,8 @@
 #include "mainwindow/picture_area.h"
 
+#include "platform/qt_focus_mark.h"
 #include "platform/qt_plot_device.h"
+#include "platform/qt_text.h"
 
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -41,6 +43,7 @@ PictureArea::PictureArea(RibModel &rib, QWidget *parent)
         bar->setRange(0, 0);
     }
     setFocusProxy(&Pic_);
+    FocusMark::On(Pic_);
     LayOut();
     Connect();
 }
@@ -75,6 +78,17 @@ void PictureArea::Connect() {
     resized_.setInterval(0);
     connect(&Pic_, &PicView::Redimensionne, &resized_, qOverload<>(&QTimer::start));
     connect(&resized_, &QTimer::timeout, this, &PictureArea::Repose);
+}
+
+void PictureArea::PoseTextes(const LngIni &language) {
+    hint_.PoseTextes(language);
+    Pic_.setAccessibleName(Q(language.LngText({"MainTolbar", "241"})));
+    Hsbpic_.setAccessibleName(Q(language.LngText({"MainTolbar", "242"})));
+    Vsbpic_.setAccessibleName(Q(language.LngText({"MainTolbar", "243"})));
+}
+
+void PictureArea::Decrit(const std::string &words) {
+    Pic_.setAccessibleDescription(Q(words));
 }
 
 void PictureArea::Repose() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/rib_model.h"
+#include "lang/LngIni.h"
 #include "mainwindow/empty_hint.h"
 #include "mainwindow/notice_bar.h"
 #include "mainwindow/pic_view.h"
@@ -12,6 +13,7 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 
 namespace loftwing {
 
@@ -23,6 +25,10 @@ class PictureArea : public QWidget {
   public:
     PictureArea(RibModel &rib, QWidget *parent);
 
+    /// Gives everything its words, those for screen readers too.
+    void PoseTextes(const LngIni &language);
+    /// What is drawn, in words, for those who can't see it.
+    void Decrit(const std::string &words);
     /// Takes a new drawing, null for an empty picture. The bars stay until RegleDefilement.
     void Montre(std::unique_ptr<Recording> drawing);
     /// Lays the edges of the sheets over the drawing, null for none. An empty picture takes none.

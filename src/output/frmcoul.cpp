@@ -53,6 +53,7 @@ void frmcoul::NommeChamps() {
     };
     for (std::size_t i = 0; i < kElements; ++i) {
         name(txtcoul[i], i, 0);
+        name(Swatch[i], i, 0);
         name(txtline[i], i, 1);
     }
     for (int i = 0; i < static_cast<int>(kEpaisseurs); ++i) {

@@ -10,6 +10,7 @@ ColourSwatch::ColourSwatch(QWidget *parent) : QWidget(parent) {
 
 void ColourSwatch::Montre(const std::optional<Colour> &colour) {
     colour_ = colour;
+    setAccessibleDescription(colour ? QColor::fromRgb(*colour).name() : QString());
     update();
 }
 

@@ -47,6 +47,7 @@ QString WithJoinedFraction(QString number) {
 NumericField::NumericField(std::string_view keys, QWidget *parent)
     : QLineEdit(parent), keys_(Q(keys)) {
     setInputMethodHints(Qt::ImhPreferNumbers | Qt::ImhNoPredictiveText);
+    MontreSelection(false);
 }
 
 void NumericField::SetKeys(std::string_view keys) {
@@ -193,6 +194,35 @@ void NumericField::focusInEvent(QFocusEvent *event) {
     }
     entered_by_press_ = event->reason() == Qt::MouseFocusReason;
     selectAll();
+    MontreSelection(true);
+}
+
+void NumericField::focusOutEvent(QFocusEvent *event) {
+    QLineEdit::focusOutEvent(event);
+    // While its context menu is open, what that is about is to be seen.
+    MontreSelection(event->reason() == Qt::PopupFocusReason);
+}
+
+void NumericField::changeEvent(QEvent *event) {
+    QLineEdit::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && selection_hidden_) {
+        MontreSelection(false);
+    }
+}
+
+/// A text may be selected in a field that hasn't the focus, for whoever comes to it; shown, it
+/// would look like the field that takes the next key.
+void NumericField::MontreSelection(bool shown) {
+    selection_hidden_ = !shown;
+    QPalette colours; // says nothing but these two
+    if (!shown) {
+        for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+            colours.setColor(group, QPalette::Highlight, Qt::transparent);
+            colours.setColor(group, QPalette::HighlightedText,
+                             palette().color(group, QPalette::Text));
+        }
+    }
+    setPalette(colours);
 }
 
 void NumericField::mousePressEvent(QMouseEvent *event) {

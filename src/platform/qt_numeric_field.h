@@ -38,6 +38,8 @@ class NumericField : public QLineEdit {
     void contextMenuEvent(QContextMenuEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void changeEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
 
@@ -46,6 +48,7 @@ class NumericField : public QLineEdit {
     std::string tip_;
     std::string notation_;
     bool entered_by_press_ = false;
+    bool selection_hidden_ = false;
 
     bool Admits(QChar character) const;
     QString Admitted(const QString &text) const;
@@ -57,6 +60,7 @@ class NumericField : public QLineEdit {
     QString AsPasted(const QString &text) const;
     void Paste(const QString &text);
     void ShowTip();
+    void MontreSelection(bool shown);
 };
 
 } // namespace loftwing

@@ -1,5 +1,6 @@
 #include "platform/qt_platform.h"
 
+#include "platform/qt_access_letters.h"
 #include "platform/qt_desktop.h"
 #include "platform/qt_pointer.h"
 #include "platform/qt_text.h"
@@ -48,10 +49,13 @@ struct BoxButton {
     BoxAnswer answer;
     QMessageBox::StandardButton button;
     std::string ButtonWords::*word;
+    bool lettered =
+        true; ///< has an access letter; Return and Escape are keys enough for the others
 };
 
-const BoxButton kOk = {BoxAnswer::ok, QMessageBox::Ok, &ButtonWords::ok};
-const BoxButton kCancelButton = {BoxAnswer::cancel, QMessageBox::Cancel, &ButtonWords::cancel};
+const BoxButton kOk = {BoxAnswer::ok, QMessageBox::Ok, &ButtonWords::ok, false};
+const BoxButton kCancelButton = {BoxAnswer::cancel, QMessageBox::Cancel, &ButtonWords::cancel,
+                                 false};
 const BoxButton kYes = {BoxAnswer::yes, QMessageBox::Yes, &ButtonWords::yes};
 const BoxButton kNo = {BoxAnswer::no, QMessageBox::No, &ButtonWords::no};
 const BoxButton kRetry = {BoxAnswer::retry, QMessageBox::Retry, &ButtonWords::retry};
@@ -72,6 +76,22 @@ std::vector<BoxButton> ButtonsOf(BoxButtons buttons) {
         break;
     }
     return {kOk};
+}
+
+/// The words of a box's buttons, with access letters; an empty one is left to the toolkit.
+QStringList WordsOf(const std::vector<BoxButton> &buttons, const ButtonWords &words) {
+    QStringList all;
+    QStringList lettered;
+    for (const BoxButton &button : buttons) {
+        all += Q(words.*button.word);
+        lettered += button.lettered ? all.back() : QString();
+    }
+    const std::vector<QChar> letters = AccessLetters(lettered);
+    for (std::size_t i = 0; i < letters.size(); ++i) {
+        QString &word = all[static_cast<qsizetype>(i)];
+        word = WithAccessLetter(word, letters[i]);
+    }
+    return all;
 }
 
 void Prepare(QFileDialog &dialog, const FileQuestion &question,
@@ -145,10 +165,11 @@ BoxAnswer QtPlatform::Run(const MessageBox &box, QCheckBox *tick) {
     dialog.setText(Q(box.text).remove('\r'));
     WidenForTitle(dialog);
     const std::vector<BoxButton> buttons = ButtonsOf(box.buttons);
+    QStringList words = WordsOf(buttons, words_);
     for (const BoxButton &button : buttons) {
         QPushButton *push = dialog.addButton(button.button);
-        if (const std::string &word = words_.*button.word; !word.empty()) {
-            push->setText(Q(word));
+        if (const QString word = words.takeFirst(); !word.isEmpty()) {
+            push->setText(word);
         }
         if (button.answer == box.fallback) {
             dialog.setDefaultButton(push);

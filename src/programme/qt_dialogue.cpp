@@ -91,6 +91,10 @@ void Dialogue::PoseMotsPartages() {
     }
 }
 
+void Dialogue::NommeEsquisse(QWidget &sketch) const {
+    sketch.setAccessibleName(Mot({"Message", "240"}));
+}
+
 void Dialogue::AdmetTouches(NumericField &field, std::string_view mm, std::string_view in) const {
     field.SetKeys(TouchesSelonUnite(programme_.settings.Unite, mm, in));
     field.SetNotation(programme_.Text({"Message", "140"}));

@@ -56,6 +56,8 @@ class Dialogue : public QDialog {
     void PoseMotsPartages();
 
     QString Mot(LngKey key) const { return Q(programme_.Text(key)); }
+    /// Names the sketch of a window's measures for those who can't see it.
+    void NommeEsquisse(QWidget &sketch) const;
     /// The window's caption, which titles its boxes.
     std::string Titre() const { return S(windowTitle()); }
 

@@ -36,6 +36,7 @@ void frmCoord::PoseTextes() {
     Label2.setText(Mot({"Frmcoord", "5"}));
     txtinX.setAccessibleName("X");
     txtinY.setAccessibleName("Y");
+    Liste_Valeurs.setAccessibleName(Mot({"Frmcoord", "240"}));
     cmdentre.setText(Mot({"TextButton", "18"}));
     SetTip(cmdentre, programme_.Text({"TextButton", "18T"}));
     cmdajouter.setText(Mot({"TextButton", "19"}));

@@ -2,6 +2,8 @@
 
 #include "utilities/frmCoord.h"
 
+#include "platform/qt_focus_mark.h"
+
 #include <QFontDatabase>
 #include <QHBoxLayout>
 
@@ -36,6 +38,7 @@ void frmCoord::NameAll() {
 void frmCoord::LayOut() {
     Liste_Valeurs.setSelectionMode(QAbstractItemView::ExtendedSelection);
     Liste_Valeurs.setUniformItemSizes(true);
+    FocusMark::On(Liste_Valeurs); // an empty one has no line that could show it
     Liste_Valeurs.setFont(ColumnFont(font()));
     const QFontMetrics metrics(Liste_Valeurs.font());
     constexpr int kCharacters = 30;

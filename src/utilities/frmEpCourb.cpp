@@ -38,6 +38,13 @@ void frmEpCourb::PoseTextes() {
     Label1.setText(Mot({"FrmEpCourb", "3"}));
     Label2.setText(Mot({"FrmEpCourb", "4"}));
     Label3[1].setText(Mot({"FrmEpCourb", "5"}));
+    const auto name = [](QLineEdit &field, const QLabel &airfoil, const QLabel &measure) {
+        field.setAccessibleName(airfoil.text() + ", " + measure.text());
+    };
+    name(txtEpROr, Label3[0], Label1);
+    name(txtCourbureOr, Label3[0], Label2);
+    name(txtEpR, Label3[1], Label1);
+    name(txtCourbure, Label3[1], Label2);
     cmdsave.setText(Mot({"TextButton", "10"}));
     SetTip(cmdsave, programme_.Text({"FrmEpCourb", "6"}));
     cmdprintEC.setText(Mot({"TextButton", "14"}));

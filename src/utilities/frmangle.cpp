@@ -36,6 +36,7 @@ void frmangle::PoseTextes() {
     Label1[3].setText(Mot({"FrmAngle", "7"}));
     Label2[0].setText(Mot({"MainTolbar", "15"}));
     Label2[1].setText(Mot({"MainTolbar", "21"}));
+    NommeEsquisse(Picture1);
     txtprofil.setAccessibleName(Label1[3].text());
     cmdouvrir.setText(Mot({"FrmDefaut", "14"}));
     SetTip(cmdouvrir, programme_.Text({"FrmAngle", "7T"}));

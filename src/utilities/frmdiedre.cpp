@@ -40,6 +40,7 @@ void frmdiedre::PoseTextes() {
     for (NumericField &field : txt) {
         SetTip(field, programme_.Text({"FrmDiedre", "2T"}));
     }
+    NommeEsquisse(Image1);
     AdmetLongueurs(txt);
     txt[kDiedreAngle].SetNotation({}); // degrees
     cmdcalcul.setText(Mot({"TextButton", "6"}));

@@ -20,6 +20,7 @@ void frminclinaison::Form_Load() {
     Label2.setText(Mot({"FrmInclinaisonNervure", "3"}));
     Label3.setText(Mot({"FrmInclinaisonNervure", "4"}));
     Label4.setText(Mot({"FrmInclinaisonNervure", "5"}));
+    NommeEsquisse(Picture1);
     txtprofil.setAccessibleName(Label1.text());
     cmdouvrir.setText(Mot({"FrmDefaut", "14"}));
     SetTip(cmdouvrir, programme_.Text({"FrmInclinaisonNervure", "5T"}));

@@ -39,10 +39,20 @@ void frmnervure::PoseTextes() {
     Label10.setText(Mot({"FrmNervure", "9"}));
     Label11.setText(Mot({"FrmNervure", "10"}));
     Label12.setText(Mot({"FrmNervure", "11"}));
-    Liste.setAccessibleName(Mot({"FrmNervure", "1"}));
+    NommePourLecteurs();
     cmdcalcul.setText(Mot({"TextButton", "6"}));
     cmdprintnerv.setText(Mot({"TextButton", "14"}));
     PoseMotsPartages();
+}
+
+/// Names for screen readers. The two spar places have the same caption; the sketch tells them
+/// apart.
+void frmnervure::NommePourLecteurs() {
+    NommeEsquisse(Image1);
+    Liste.setAccessibleName(Mot({"FrmNervure", "1"}));
+    Vbar.setAccessibleName(Mot({"MainTolbar", "243"}));
+    txtnerv[kNervLongeronMaj].setAccessibleName(Label4[0].text() + ", " + Label2.text());
+    txtnerv[kNervLongeronMin].setAccessibleName(Label4[1].text() + ", " + Label3.text());
 }
 
 void frmnervure::Calcule() {

@@ -27,6 +27,7 @@ class frmnervure : public Dialogue {
 
     /// Words in the language in force.
     void PoseTextes();
+    void NommePourLecteurs();
 
   private:
     Nervures panneau_;

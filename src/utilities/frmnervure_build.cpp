@@ -49,6 +49,8 @@ void frmnervure::LayOut() {
     PoseBoutons(*rows, {&cmdcalcul, &cmdprintnerv, SharedWord::close, SharedWord::help});
     PlainText({&Label5, &Label10, &Label11, &Label12, &Lblecart});
     cmdcalcul.setDefault(true);
+    setTabOrder(&txtnerv[kNervEpr], &Liste);
+    setTabOrder(&Liste, &cmdcalcul);
 }
 
 QGridLayout *frmnervure::LayOutFields() {

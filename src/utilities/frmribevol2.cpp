@@ -52,6 +52,7 @@ void frmribevol2::PoseTextes() {
     for (int k = 1; k <= DernierEcart(); ++k) {
         ClickLabel &label = At(LblNoNervInterm, k - 1);
         label.setText(QString::number(k));
+        label.setAccessibleName(FrameNervInterm.title() + " " + label.text());
         label.setFocusPolicy(Qt::TabFocus);
         label.setCursor(Qt::PointingHandCursor);
         QFont font = label.font();

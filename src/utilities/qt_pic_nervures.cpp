@@ -1,10 +1,12 @@
 #include "utilities/qt_pic_nervures.h"
 
 #include "output/text_lines.h"
+#include "platform/qt_focus_mark.h"
 #include "platform/qt_plot_device.h"
 #include "utilities/nervure.h"
 
 #include <QFontInfo>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QWheelEvent>
 
@@ -17,6 +19,7 @@ namespace {
 constexpr double kRoomForLength = 1300.0; // device units of the last column
 constexpr int kUsualLines = 16;
 constexpr int kFewestLines = 5;
+constexpr int kPage = 5;         // notches that a page of the list is worth
 constexpr int kWheelNotch = 120; // eighths of a degree
 
 } // namespace
@@ -24,6 +27,8 @@ constexpr int kWheelNotch = 120; // eighths of a degree
 PicNervures::PicNervures(QWidget *parent) : QWidget(parent) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::TabFocus); // for the keys that scroll
+    FocusMark::On(*this);
 }
 
 void PicNervures::Montre(std::unique_ptr<Recording> drawing) {
@@ -60,6 +65,21 @@ void PicNervures::paintEvent(QPaintEvent *) {
         PlotSurface surface = ScreenSurface();
         surface.scale = Scale();
         Replay(*drawing_, painter, surface);
+    }
+}
+
+void PicNervures::keyPressEvent(QKeyEvent *event) {
+    switch (event->key()) {
+    case Qt::Key_Up:
+        return Q_EMIT Roule(1);
+    case Qt::Key_Down:
+        return Q_EMIT Roule(-1);
+    case Qt::Key_PageUp:
+        return Q_EMIT Roule(kPage);
+    case Qt::Key_PageDown:
+        return Q_EMIT Roule(-kPage);
+    default:
+        return QWidget::keyPressEvent(event);
     }
 }
 

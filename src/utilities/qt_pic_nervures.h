@@ -31,13 +31,14 @@ class PicNervures : public QWidget {
 
   Q_SIGNALS:
     void Redimensionne();
-    /// The wheel: notches, positive up.
+    /// The wheel, or the keys that stand for it: notches, positive up.
     void Roule(int notches);
 
   protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
   private:
     std::unique_ptr<Recording> drawing_;

@@ -492,7 +492,7 @@ TEST(MainWindow, SpeaksFrench) {
         }
     }
     EXPECT_EQ(world.platform.button_words.yes, "Oui");
-    EXPECT_EQ(world.Main().Word("cmdcorde"), world.programme.Text({"MainTolbar", "13"}));
+    EXPECT_EQ(world.Main().Word("cmdcorde"), "&" + world.programme.Text({"MainTolbar", "13"}));
 }
 
 TEST(MainWindow, AFileDroppedOnItOpens) {

@@ -127,7 +127,7 @@ TEST(QtPlatformBox, LocateIsAnAnswerWithAWordOfItsOwn) {
     world.platform.SetButtonWords({"Bien", "Annuler", "Oui", "Non", "Encore", "Indiquer"});
     InNextDialog([](Seen &dialog) {
         QAbstractButton *locate = dialog.As<QMessageBox>().button(QMessageBox::Open);
-        EXPECT_EQ(locate->text(), "Indiquer");
+        EXPECT_EQ(locate->text(), "&Indiquer");
         locate->click();
     });
     EXPECT_EQ(world.platform.Show(
@@ -146,7 +146,7 @@ TEST(QtPlatformBox, TakesTheWordsOfTheLanguage) {
     world.platform.Show({"?", "t", BoxIcon::stop, BoxButtons::ok_cancel, BoxAnswer::ok});
     InNextDialog([](Seen &dialog) {
         const QMessageBox &box = dialog.As<QMessageBox>();
-        EXPECT_EQ(box.button(QMessageBox::Yes)->text(), "Oui");
+        EXPECT_EQ(box.button(QMessageBox::Yes)->text(), "&Oui");
         EXPECT_FALSE(box.button(QMessageBox::No)->text().isEmpty()) << "the toolkit's own";
     });
     world.platform.Show({"?", "t", BoxIcon::none, BoxButtons::yes_no, BoxAnswer::yes});
