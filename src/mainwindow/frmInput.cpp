@@ -16,8 +16,9 @@ frmInput::frmInput(Programme &programme, std::string_view ModeSaisie, QWidget *p
 void frmInput::Form_Load() {
     programme_.rib.Annule = false;
     setWindowTitle(Q(TitreSaisie(mode_, programme_.SaisieEnCours())));
-    // The caption carries the unit, so it must not be cut by the title bar's own buttons.
-    setMinimumWidth(fontMetrics().horizontalAdvance(windowTitle() + QString(16, '0')));
+    // The caption carries the unit, so it must not be cut by the title bar's own buttons. The box
+    // makes the room: a width of the window's own would count instead of what its words need.
+    infotxt.setMinimumWidth(fontMetrics().horizontalAdvance(windowTitle() + QString(16, '0')));
     msgtxt.setText(Mot(mode_.message));
     AdmetLongueur(infotxt);
     if (!mode_.avec_unite) {

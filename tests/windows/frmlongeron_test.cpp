@@ -111,11 +111,10 @@ TEST_F(FrmLongeronTest, TabGoesThroughTheWholeWindow) {
     Use([](SeenSlots &window) {
         window.Click("OptLong(3)");
         window.GoTo({"Text1", 0});
-        const char *const order[] = {
-            "OptDistance(0)", "Text1(1)",   "Text1(2)", "Text1(3)", "OptLong(3)",
-            "Opte(0)",        "Opti(0)",    "cmdajout", "Cmdmodif", "Cmdeffac",
-            "cmdok",          "Cmdannuler", "CmdApply", "cmdaide",  "LblNblongeron(0)",
-            "Text1(0)"};
+        const char *const order[] = {"OptDistance(0)", "Text1(1)", "Text1(2)",         "Text1(3)",
+                                     "OptLong(3)",     "Opte(0)",  "Opti(0)",          "cmdajout",
+                                     "Cmdmodif",       "Cmdeffac", "CmdApply",         "cmdok",
+                                     "Cmdannuler",     "cmdaide",  "LblNblongeron(0)", "Text1(0)"};
         for (const char *name : order) {
             window.Key(Qt::Key_Tab);
             EXPECT_EQ(window.Focus(), name);

@@ -107,9 +107,9 @@ TEST_F(FrmTrouTest, TabGoesThroughTheWholeWindow) {
     Use([](SeenSlots &window) {
         window.Click("OptTrouRec(1)");
         window.GoTo({"Text1", 0});
-        const char *const order[] = {"OptDistance(0)", "Text1(1)",      "Text1(2)",   "Text2",
-                                     "Chkcentr",       "OptTrouRec(1)", "cmdajout",   "Cmdmodif",
-                                     "Cmdeffac",       "cmdok",         "Cmdannuler", "CmdApply",
+        const char *const order[] = {"OptDistance(0)", "Text1(1)",      "Text1(2)", "Text2",
+                                     "Chkcentr",       "OptTrouRec(1)", "cmdajout", "Cmdmodif",
+                                     "Cmdeffac",       "CmdApply",      "cmdok",    "Cmdannuler",
                                      "cmdaide",        "LblNbtrou(0)",  "Text1(0)"};
         for (const char *name : order) {
             window.Key(Qt::Key_Tab);
