@@ -13,6 +13,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QRegularExpression>
+#include <QSignalBlocker>
 
 #include <algorithm>
 #include <iterator>
@@ -48,6 +49,11 @@ NumericField::NumericField(std::string_view keys, QWidget *parent)
     : QLineEdit(parent), keys_(Q(keys)) {
     setInputMethodHints(Qt::ImhPreferNumbers | Qt::ImhNoPredictiveText);
     MontreSelection(false);
+    connect(this, &QLineEdit::selectionChanged, this, [this] {
+        if (!hasFocus() && hasSelectedText()) {
+            CacheCurseur();
+        }
+    });
 }
 
 void NumericField::SetKeys(std::string_view keys) {
@@ -223,6 +229,13 @@ void NumericField::MontreSelection(bool shown) {
         }
     }
     setPalette(colours);
+}
+
+/// The toolkit shows a cursor wherever text is selected. Only leaving a field hides it.
+void NumericField::CacheCurseur() {
+    const QSignalBlocker quiet(this);
+    QFocusEvent left(QEvent::FocusOut, Qt::PopupFocusReason);
+    QLineEdit::focusOutEvent(&left);
 }
 
 void NumericField::mousePressEvent(QMouseEvent *event) {

@@ -61,6 +61,7 @@ class NumericField : public QLineEdit {
     void Paste(const QString &text);
     void ShowTip();
     void MontreSelection(bool shown);
+    void CacheCurseur();
 };
 
 } // namespace loftwing

@@ -115,5 +115,22 @@ TEST(FocusSeen, AFieldLeftAndComeBackToShowsItsSelectionAgain) {
     EXPECT_TRUE(ShowsColour(one, selection));
 }
 
+TEST(FocusSeen, AFieldThatIsSelectedWithoutTheFocusShowsNoCursor) {
+    QWidget window;
+    NumericField one(&window);
+    NumericField other(&window);
+    other.move(0, 60);
+    one.setText("200");
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    other.setFocus();
+    one.deselect();
+    const QImage plain = one.grab().toImage();
+    one.selectAll();
+    EXPECT_EQ(one.selectedText(), "200");
+    EXPECT_EQ(one.grab().toImage(), plain);
+}
+
 } // namespace
 } // namespace loftwing
