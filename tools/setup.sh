@@ -10,7 +10,7 @@
 set -euo pipefail
 
 declare -A packages=(
-    [build]="cmake g++ ninja-build qt6-base-dev"
+    [build]="cmake g++ libpolyclipping-dev ninja-build qt6-base-dev"
     [run]="fonts-liberation libqt6svg6 qt6-translations-l10n qt6-wayland xdg-utils"
     [package]="dpkg-dev file"
     [test]="appstream desktop-file-utils libglib2.0-bin libgmock-dev libgtest-dev librecad lintian
