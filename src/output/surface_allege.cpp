@@ -71,9 +71,9 @@ Anneau AllegeAnneau(const Anneau &ring, double ecart) {
 Surface Allege(const Surface &surface, double ecart) {
     Surface light;
     for (const Anneau &ring : surface) {
-        Anneau next = AllegeAnneau(ring, ecart);
+        const Anneau next = AllegeAnneau(ring, ecart);
         // Narrower than the tolerance a ring would vanish.
-        light.push_back(next.size() > 2 ? std::move(next) : ring);
+        light.push_back(next.size() > 2 ? next : ring);
     }
     return light;
 }
