@@ -2,16 +2,14 @@
 
 #include "output/dxf.h"
 
-#include "base/text_encoding.h"
 #include "core/stations.h"
-#include "output/dxf_text.h"
+#include "output/dxf_r12.h"
 #include "output/recording.h"
 #include "output/rib_measures.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdio>
 
 namespace loftwing {
 
@@ -19,7 +17,6 @@ namespace {
 
 constexpr std::string_view kCalqueReperes = "STATIONS";
 constexpr std::string_view kCalqueTexte = "TEXT";
-constexpr double kCapitales = 0.716; // height of Arial's capitals, parts of the font size
 
 struct Segment {
     std::string_view calque;
@@ -31,16 +28,6 @@ struct Texte {
     DxfPoint place; ///< start of the base line
     double hauteur; ///< of its capitals
     double largeur;
-};
-
-struct Etendue {
-    DxfPoint bas{1e300, 1e300};
-    DxfPoint haut{-1e300, -1e300};
-
-    void Prend(DxfPoint point) {
-        bas = {std::min(bas.x, point.x), std::min(bas.y, point.y)};
-        haut = {std::max(haut.x, point.x), std::max(haut.y, point.y)};
-    }
 };
 
 /// Everything on the drawing, in the file's unit.
@@ -63,7 +50,7 @@ class Dessin {
     std::vector<Segment> segments_;
     std::vector<DxfCercle> cercles_;
     std::vector<Texte> textes_;
-    Etendue etendue_;
+    EtendueDxf etendue_;
 
     double Mm(double mm) const { return mm / DiviseurDxf(source_.Unite); }
     /// Upside down the drawing is mirrored about the reference line.
@@ -76,8 +63,6 @@ class Dessin {
     void Reperes();
     void TexteInsere();
 
-    void Entete(DxfText &dxf) const;
-    void Tables(DxfText &dxf) const;
     void Entites(DxfText &dxf) const;
 };
 
@@ -143,29 +128,6 @@ void Dessin::Reperes() {
     }
 }
 
-/// R12 texts are in the code page that the header names: a degree sign has its own code, Latin
-/// letters are one byte, the rest is told by its number.
-std::string EnPageDeCode(const std::string &text) {
-    std::string texte;
-    for (const char32_t code : CodePoints(text)) {
-        if (code < 0x80) {
-            texte += code < ' ' ? ' ' : static_cast<char>(code);
-        } else if (code == 0xB0) {
-            texte += "%%d";
-        } else if (code >= 0xA0 && code <= 0xFF) {
-            texte += static_cast<char>(code);
-        } else if (code <= 0xFFFF) {
-            std::array<char, 8> number{};
-            std::snprintf(number.data(), number.size(), "\\U+%04lX",
-                          static_cast<unsigned long>(code));
-            texte += number.data();
-        } else {
-            texte += '?';
-        }
-    }
-    return texte;
-}
-
 /// The inserted text as high as on paper; it stands upright whichever way up the rib is.
 void Dessin::TexteInsere() {
     const auto &texte = source_.rib.texte;
@@ -182,87 +144,21 @@ void Dessin::TexteInsere() {
         MeasuredAdvance(texte.InsTexte, {"Arial", Wide(texte.TailleFont)}) / kUnitsPerMm;
     const DxfPoint place{Mm(x), Mm(top - size * kAscent)};
     const double height = Mm(size * kCapitales);
-    textes_.push_back({EnPageDeCode(texte.InsTexte), place, height, Mm(width)});
+    textes_.push_back({texte.InsTexte, place, height, Mm(width)});
     etendue_.Prend(place);
     etendue_.Prend({place.x + Mm(width), place.y + height});
 }
 
-void Dessin::Entete(DxfText &dxf) const {
-    const bool inches = DiviseurDxf(source_.Unite) != 1.0;
-    constexpr int kPouces = 1;
-    constexpr int kMillimetres = 4;
-    dxf.Texte(0, "SECTION");
-    dxf.Texte(2, "HEADER");
-    dxf.Texte(9, "$ACADVER");
-    dxf.Texte(1, "AC1009");
-    dxf.Texte(9, "$DWGCODEPAGE");
-    dxf.Texte(3, "ANSI_1252");
-    dxf.Texte(9, "$INSUNITS");
-    dxf.Entier(70, inches ? kPouces : kMillimetres);
-    dxf.Texte(9, "$MEASUREMENT");
-    dxf.Entier(70, inches ? 0 : 1);
-    const bool empty = etendue_.bas.x > etendue_.haut.x;
-    dxf.Texte(9, "$EXTMIN");
-    dxf.Point(10, empty ? 0.0 : etendue_.bas.x, empty ? 0.0 : etendue_.bas.y);
-    dxf.Reel(30, 0.0);
-    dxf.Texte(9, "$EXTMAX");
-    dxf.Point(10, empty ? 0.0 : etendue_.haut.x, empty ? 0.0 : etendue_.haut.y);
-    dxf.Reel(30, 0.0);
-    dxf.Texte(0, "ENDSEC");
-}
-
-void LineType(DxfText &dxf, std::string_view name, std::string_view description,
-              const std::vector<double> &dashes, double scale) {
-    dxf.Texte(0, "LTYPE");
-    dxf.Texte(2, name);
-    dxf.Entier(70, 0);
-    dxf.Trait(description, dashes, scale);
-}
-
-struct Calque {
-    std::string_view nom;
-    int couleur;
-    std::string_view trait;
-};
-
-constexpr std::array<Calque, 8> kCalques = {{{kCalqueContour, 7, "CONTINUOUS"},
-                                             {kCalqueTalon, 10, "CONTINUOUS"},
-                                             {kCalqueAxe, 10, "CENTER"},
-                                             {kCalqueCoffrage, 180, "CONTINUOUS"},
-                                             {kCalqueLongeron, 210, "CONTINUOUS"},
-                                             {kCalqueTrou, 195, "CONTINUOUS"},
-                                             {kCalqueReperes, 1, "CONTINUOUS"},
-                                             {kCalqueTexte, 7, "CONTINUOUS"}}};
-
-void OuvreTable(DxfText &dxf, std::string_view name, int records) {
-    dxf.Texte(0, "TABLE");
-    dxf.Texte(2, name);
-    dxf.Entier(70, records);
-}
-
-void Dessin::Tables(DxfText &dxf) const {
-    const double scale = DiviseurDxf(source_.Unite);
-    dxf.Texte(0, "SECTION");
-    dxf.Texte(2, "TABLES");
-    OuvreTable(dxf, "LTYPE", 2);
-    LineType(dxf, "CONTINUOUS", "Solid line", {}, scale);
-    LineType(dxf, "CENTER", "Center ____ _ ____ _ ____", {31.75, -6.35, 6.35, -6.35}, scale);
-    dxf.Texte(0, "ENDTAB");
-    OuvreTable(dxf, "LAYER", static_cast<int>(kCalques.size()));
-    for (const Calque &layer : kCalques) {
-        dxf.Texte(0, "LAYER");
-        dxf.Texte(2, layer.nom);
-        dxf.Entier(70, 0);
-        dxf.Entier(62, layer.couleur);
-        dxf.Texte(6, layer.trait);
-    }
-    dxf.Texte(0, "ENDTAB");
-    dxf.Texte(0, "ENDSEC");
-}
+constexpr std::array<CalqueR12, 8> kCalques = {{{kCalqueContour, 7, kTraitPlein},
+                                                {kCalqueTalon, 10, kTraitPlein},
+                                                {kCalqueAxe, 10, kTraitAxe},
+                                                {kCalqueCoffrage, 180, kTraitPlein},
+                                                {kCalqueLongeron, 210, kTraitPlein},
+                                                {kCalqueTrou, 195, kTraitPlein},
+                                                {kCalqueReperes, 1, kTraitPlein},
+                                                {kCalqueTexte, 7, kTraitPlein}}};
 
 void Dessin::Entites(DxfText &dxf) const {
-    dxf.Texte(0, "SECTION");
-    dxf.Texte(2, "ENTITIES");
     for (const Segment &line : segments_) {
         dxf.Texte(0, "LINE");
         dxf.Texte(8, line.calque);
@@ -279,27 +175,12 @@ void Dessin::Entites(DxfText &dxf) const {
         dxf.Reel(40, circle.rayon);
     }
     for (const Texte &texte : textes_) {
-        dxf.Texte(0, "TEXT");
-        dxf.Texte(8, kCalqueTexte);
-        dxf.Point(10, texte.place.x, texte.place.y);
-        dxf.Reel(30, 0.0);
-        dxf.Reel(40, texte.hauteur);
-        dxf.Texte(1, texte.mots);
+        TexteR12(dxf, kCalqueTexte, {texte.place, texte.hauteur, texte.mots});
     }
-    dxf.Texte(0, "ENDSEC");
 }
 
 std::string Dessin::Fichier() const {
-    std::string out;
-    DxfText dxf(out);
-    Entete(dxf);
-    Tables(dxf);
-    dxf.Texte(0, "SECTION");
-    dxf.Texte(2, "BLOCKS");
-    dxf.Texte(0, "ENDSEC");
-    Entites(dxf);
-    dxf.Texte(0, "EOF");
-    return out;
+    return FichierR12({source_.Unite, etendue_, kCalques}, [this](DxfText &dxf) { Entites(dxf); });
 }
 
 } // namespace

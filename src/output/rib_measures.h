@@ -12,5 +12,7 @@ inline constexpr double kSousLeProfil = 0.015;
 inline constexpr double kSousLeProfilInverse = 0.01;
 /// From the top of a text to its base line, in sizes of Arial.
 inline constexpr double kAscent = 0.905;
+/// Height of its capitals, in the same.
+inline constexpr double kCapitales = 0.716;
 
 } // namespace loftwing

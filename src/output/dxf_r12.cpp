@@ -1,0 +1,122 @@
+#include "output/dxf_r12.h"
+
+#include "base/text_encoding.h"
+
+#include <array>
+#include <cstdio>
+#include <vector>
+
+namespace loftwing {
+
+namespace {
+
+/// R12 texts are in the code page that the header names: a degree sign has its own code, Latin
+/// letters are one byte, the rest is told by its number.
+std::string EnPageDeCode(const std::string &text) {
+    std::string texte;
+    for (const char32_t code : CodePoints(text)) {
+        if (code < 0x80) {
+            texte += code < ' ' ? ' ' : static_cast<char>(code);
+        } else if (code == 0xB0) {
+            texte += "%%d";
+        } else if (code >= 0xA0 && code <= 0xFF) {
+            texte += static_cast<char>(code);
+        } else if (code <= 0xFFFF) {
+            std::array<char, 8> number{};
+            std::snprintf(number.data(), number.size(), "\\U+%04lX",
+                          static_cast<unsigned long>(code));
+            texte += number.data();
+        } else {
+            texte += '?';
+        }
+    }
+    return texte;
+}
+
+void Entete(DxfText &dxf, const CadreR12 &cadre) {
+    const bool inches = DiviseurDxf(cadre.Unite) != 1.0;
+    const EtendueDxf &etendue = cadre.etendue;
+    constexpr int kPouces = 1;
+    constexpr int kMillimetres = 4;
+    dxf.Texte(0, "SECTION");
+    dxf.Texte(2, "HEADER");
+    dxf.Texte(9, "$ACADVER");
+    dxf.Texte(1, "AC1009");
+    dxf.Texte(9, "$DWGCODEPAGE");
+    dxf.Texte(3, "ANSI_1252");
+    dxf.Texte(9, "$INSUNITS");
+    dxf.Entier(70, inches ? kPouces : kMillimetres);
+    dxf.Texte(9, "$MEASUREMENT");
+    dxf.Entier(70, inches ? 0 : 1);
+    const bool empty = etendue.bas.x > etendue.haut.x;
+    dxf.Texte(9, "$EXTMIN");
+    dxf.Point(10, empty ? 0.0 : etendue.bas.x, empty ? 0.0 : etendue.bas.y);
+    dxf.Reel(30, 0.0);
+    dxf.Texte(9, "$EXTMAX");
+    dxf.Point(10, empty ? 0.0 : etendue.haut.x, empty ? 0.0 : etendue.haut.y);
+    dxf.Reel(30, 0.0);
+    dxf.Texte(0, "ENDSEC");
+}
+
+void LineType(DxfText &dxf, std::string_view name, std::string_view description,
+              const std::vector<double> &dashes, double scale) {
+    dxf.Texte(0, "LTYPE");
+    dxf.Texte(2, name);
+    dxf.Entier(70, 0);
+    dxf.Trait(description, dashes, scale);
+}
+
+void OuvreTable(DxfText &dxf, std::string_view name, int records) {
+    dxf.Texte(0, "TABLE");
+    dxf.Texte(2, name);
+    dxf.Entier(70, records);
+}
+
+void Tables(DxfText &dxf, const CadreR12 &cadre) {
+    const double scale = DiviseurDxf(cadre.Unite);
+    dxf.Texte(0, "SECTION");
+    dxf.Texte(2, "TABLES");
+    OuvreTable(dxf, "LTYPE", 2);
+    LineType(dxf, kTraitPlein, "Solid line", {}, scale);
+    LineType(dxf, kTraitAxe, "Center ____ _ ____ _ ____", {31.75, -6.35, 6.35, -6.35}, scale);
+    dxf.Texte(0, "ENDTAB");
+    OuvreTable(dxf, "LAYER", static_cast<int>(cadre.calques.size()));
+    for (const CalqueR12 &layer : cadre.calques) {
+        dxf.Texte(0, "LAYER");
+        dxf.Texte(2, layer.nom);
+        dxf.Entier(70, 0);
+        dxf.Entier(62, layer.couleur);
+        dxf.Texte(6, layer.trait);
+    }
+    dxf.Texte(0, "ENDTAB");
+    dxf.Texte(0, "ENDSEC");
+}
+
+} // namespace
+
+std::string FichierR12(const CadreR12 &cadre, const std::function<void(DxfText &)> &entites) {
+    std::string out;
+    DxfText dxf(out);
+    Entete(dxf, cadre);
+    Tables(dxf, cadre);
+    dxf.Texte(0, "SECTION");
+    dxf.Texte(2, "BLOCKS");
+    dxf.Texte(0, "ENDSEC");
+    dxf.Texte(0, "SECTION");
+    dxf.Texte(2, "ENTITIES");
+    entites(dxf);
+    dxf.Texte(0, "ENDSEC");
+    dxf.Texte(0, "EOF");
+    return out;
+}
+
+void TexteR12(DxfText &dxf, std::string_view calque, const TexteDxf &texte) {
+    dxf.Texte(0, "TEXT");
+    dxf.Texte(8, calque);
+    dxf.Point(10, texte.place.x, texte.place.y);
+    dxf.Reel(30, 0.0);
+    dxf.Reel(40, texte.hauteur);
+    dxf.Texte(1, EnPageDeCode(texte.mots));
+}
+
+} // namespace loftwing
