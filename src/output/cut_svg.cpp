@@ -1,0 +1,145 @@
+// Pieces for a cutter as SVG.
+
+#include "output/cut_forms.h"
+
+#include "output/rib_measures.h"
+#include "output/svg_text.h"
+#include "output/written_ring.h"
+
+namespace loftwing {
+
+namespace {
+
+constexpr int kDecimales = 6; // what a piece counts to, so that nothing is rounded
+
+std::string Nombre(double mm) {
+    return SvgNumber(mm, kDecimales);
+}
+
+PointEcrit Ecrit(const PointMm &point) {
+    return {Nombre(point.x), Nombre(-point.y)};
+}
+
+std::string Place(const PointEcrit &point) {
+    return point.x + " " + point.y;
+}
+
+std::string Trait(Colour couleur) {
+    return SvgAttribute("fill", "none") + SvgAttribute("stroke", SvgColour(couleur)) +
+           SvgAttribute("stroke-width", Nombre(kTraitDeCoupe));
+}
+
+/// The data of one path, subpath by subpath.
+class Chemin {
+  public:
+    void Prend(const Anneau &anneau) {
+        const std::vector<PointEcrit> points = AnneauEcrit(anneau, Ecrit);
+        for (std::size_t i = 0; i < points.size(); ++i) {
+            Mot(i == 0 ? "M " : "L ", Place(points[i]));
+        }
+        if (!points.empty()) {
+            Mot("Z", {});
+        }
+    }
+    void Prend(const CerclePiece &cercle) {
+        const std::string rayon = Nombre(cercle.rayon);
+        if (rayon == "0") {
+            return;
+        }
+        const PointMm &centre = cercle.centre;
+        const std::string gauche = Place(Ecrit({centre.x - cercle.rayon, centre.y}));
+        const std::string droite = Place(Ecrit({centre.x + cercle.rayon, centre.y}));
+        const std::string demi = rayon + " " + rayon + " 0 1 0 ";
+        Mot("M ", gauche);
+        Mot("A ", demi + droite);
+        Mot("A ", demi + gauche);
+        Mot("Z", {});
+    }
+    const std::string &Donnees() const { return donnees_; }
+
+  private:
+    std::string donnees_;
+
+    void Mot(const char *commande, const std::string &reste) {
+        donnees_ += (donnees_.empty() ? "" : " ") + std::string(commande) + reste;
+    }
+};
+
+std::string CheminDe(const Piece &piece) {
+    Chemin chemin;
+    for (const PartiePiece &partie : piece.parties) {
+        for (const CerclePiece &cercle : partie.cercles) {
+            chemin.Prend(cercle);
+        }
+        for (const Anneau &anneau : partie.dedans) {
+            chemin.Prend(anneau);
+        }
+    }
+    for (const PartiePiece &partie : piece.parties) {
+        chemin.Prend(partie.dehors);
+    }
+    return chemin.Donnees();
+}
+
+std::string Coupe(const DessinDecoupe &decoupe, Colour couleur) {
+    std::string groupe;
+    for (const Piece &piece : decoupe.pieces) {
+        groupe += "<path" + SvgAttribute("fill-rule", "evenodd") +
+                  SvgAttribute("d", CheminDe(piece)) + Trait(couleur) + "/>\n";
+    }
+    return groupe;
+}
+
+std::string Marque(const TraitMarque &trait, Colour couleur) {
+    std::string donnees;
+    for (const PointMm &point : trait.points) {
+        donnees += (donnees.empty() ? "M " : " L ") + Place(Ecrit(point));
+    }
+    return "<path" + SvgAttribute("d", donnees) + Trait(couleur) + "/>\n";
+}
+
+std::string Marque(const TexteMarque &texte, Colour couleur) {
+    const PointEcrit place = Ecrit(texte.place);
+    return "<text" + SvgAttribute("x", place.x) + SvgAttribute("y", place.y) +
+           SvgAttribute("font-family", kSvgFaces) +
+           SvgAttribute("font-size", Nombre(texte.hauteur / kCapitales)) +
+           SvgAttribute("fill", SvgColour(couleur)) + SvgAttribute("xml:space", "preserve") + ">" +
+           SvgText(texte.texte) + "</text>\n";
+}
+
+std::string Marques(const DessinDecoupe &decoupe, const CouleursDecoupe &couleurs) {
+    std::string groupe;
+    for (const Piece &piece : decoupe.pieces) {
+        for (const TraitMarque &trait : piece.traits) {
+            groupe += Marque(trait, couleurs.De(trait.genre));
+        }
+        for (const TexteMarque &texte : piece.textes) {
+            groupe += Marque(texte, couleurs.De(texte.genre));
+        }
+    }
+    return groupe;
+}
+
+std::string Groupe(const char *nom, const std::string &contenu) {
+    return "<g" + SvgAttribute("id", nom) + ">\n" + contenu + "</g>\n";
+}
+
+} // namespace
+
+std::string EcritDecoupeSvg(const DessinDecoupe &decoupe, const CouleursDecoupe &couleurs) {
+    const BoitePiece boite = EtendueDe(decoupe.pieces);
+    const double largeur = boite.haut_droite.x - boite.bas_gauche.x + 2 * kEcartPieces;
+    const double hauteur = boite.haut_droite.y - boite.bas_gauche.y + 2 * kEcartPieces;
+    const PointEcrit coin =
+        Ecrit({boite.bas_gauche.x - kEcartPieces, boite.haut_droite.y + kEcartPieces});
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+           "<svg xmlns=\"http://www.w3.org/2000/svg\"" +
+           SvgAttribute("width", Nombre(largeur) + "mm") +
+           SvgAttribute("height", Nombre(hauteur) + "mm") +
+           SvgAttribute("viewBox", Place(coin) + " " + Nombre(largeur) + " " + Nombre(hauteur)) +
+           ">\n<title>" + SvgText(decoupe.titre) + "</title>\n" +
+           Groupe("marks", Marques(decoupe, couleurs)) +
+           Groupe("cut", Coupe(decoupe, couleurs.coupe)) + "</svg>\n";
+}
+
+} // namespace loftwing
