@@ -38,15 +38,6 @@ std::vector<std::string> ExtensionsOf(const DrawingVerb &verb) {
     return extensions;
 }
 
-/// "dxf, pdf, svg"
-std::string Listed(const DrawingVerb &verb) {
-    std::string names;
-    for (const std::string &extension : ExtensionsOf(verb)) {
-        names += (names.empty() ? "" : ", ") + extension;
-    }
-    return names;
-}
-
 /// The form of an extension that the words ask for by an option of it; null without one. Throws
 /// UsageError for an option that names none.
 const ExportForm *VariantNamed(const Arguments &arguments, const DrawingVerb &verb,
@@ -69,7 +60,7 @@ const ExportForm &FormNamed(const Arguments &arguments, const DrawingVerb &verb,
                             const std::string &extension) {
     const ExportForm *usual = FindExportForm(extension);
     if (usual == nullptr || (usual->vues & verb.vue) == 0) {
-        throw UsageError("no form \"" + extension + "\"; there are " + Listed(verb));
+        throw UsageError("no form \"" + extension + "\"; there are " + Listed(ExtensionsOf(verb)));
     }
     const ExportForm *variant = VariantNamed(arguments, verb, *usual);
     return variant == nullptr ? *usual : *variant;
@@ -84,22 +75,40 @@ bool HasOverlap(const Programme &programme) {
     return false;
 }
 
-/// Runs the drawing of some FILEs. A failure to draw is told with the first one's name; one to
-/// write names OUT itself.
-bool DrawAndDeliver(const Arguments &arguments, const DrawingTarget &target,
-                    const std::vector<std::string> &files, const Draw &draw) {
+/// The file that is made of `file`, in the folder for several ones.
+std::string NameOf(const Destination &destination, const std::string &file) {
+    return destination.several ? (fs::path(destination.folder) /
+                                  (fs::path(file).stem().string() + "." + destination.extension))
+                                     .string()
+                               : destination.file;
+}
+
+/// Writes a file whole. Failure 75 when it is refused. False when standard output is.
+bool Deliver(const Destination &destination, const std::string &file, const std::string &bytes) {
+    if (destination.IsStandardOutput()) {
+        std::cout << bytes << std::flush;
+        return static_cast<bool>(std::cout);
+    }
+    WriteWholeFile(NameOf(destination, file), bytes);
+    return true;
+}
+
+/// Makes a file of some FILEs. A failure to make it is told with the first one's name; one to write
+/// names OUT itself.
+bool MakeAndDeliver(const Arguments &arguments, const Destination &destination,
+                    const std::vector<std::string> &files, const Make &make) {
     std::string concerned = files.front() + ": ";
     try {
         bool complete = false;
-        const auto bytes = draw(target, files, complete);
+        const auto bytes = make(files, complete);
         if (!bytes) {
-            if (target.several) {
+            if (destination.several) {
                 NameRefused(files.front());
             }
             return false;
         }
         concerned.clear();
-        return Deliver(target, files.front(), *bytes) && complete;
+        return Deliver(destination, files.front(), *bytes) && complete;
     } catch (const Failure &failure) {
         std::cerr << "loftwing: " << concerned << FailureText(arguments, failure) << '\n';
         return false;
@@ -108,19 +117,30 @@ bool DrawAndDeliver(const Arguments &arguments, const DrawingTarget &target,
 
 } // namespace
 
+std::string Listed(const std::vector<std::string> &extensions) {
+    std::string names;
+    for (const std::string &extension : extensions) {
+        names += (names.empty() ? "" : ", ") + extension;
+    }
+    return names;
+}
+
+std::vector<OptionRule> TargetOptions(const DrawingVerb &verb,
+                                      const std::vector<std::string> &extensions) {
+    return {{"--output", "OUT",
+             "file to write, also -o; its extension (" + Listed(extensions) +
+                 ") chooses the form, - is standard output"},
+            {"--to", "EXT",
+             verb.files_each == 1 ? "form of several drawings, which go to the folder -o DIR/"
+                                  : "form of the drawing on standard output"},
+            {"--airfoils", "DIR",
+             "where to search for the airfoil of a rib components file (may be repeated; default: "
+             "the file's folder)",
+             true}};
+}
+
 std::vector<OptionRule> DrawingOptions(const DrawingVerb &verb) {
-    std::vector<OptionRule> rules = {
-        {"--output", "OUT",
-         "file to write, also -o; its extension (" + Listed(verb) +
-             ") chooses the form, - is standard output"},
-        {"--to", "EXT",
-         verb.files_each == 1 ? "form of several drawings, which go to the folder -o DIR/"
-                              : "form of the drawing on standard output",
-         false, 1, ExtensionsOf(verb)},
-        {"--airfoils", "DIR",
-         "where to search for the airfoil of a rib components file (may be repeated; default: the "
-         "file's folder)",
-         true}};
+    std::vector<OptionRule> rules = TargetOptions(verb, ExtensionsOf(verb));
     for (const ExportForm *form : FormsOf(verb)) {
         if (form->option != nullptr) {
             rules.push_back({form->option, form->variant, form->option_help});
@@ -129,8 +149,8 @@ std::vector<OptionRule> DrawingOptions(const DrawingVerb &verb) {
     return rules;
 }
 
-DrawingTarget TargetOf(const Arguments &arguments, const DrawingVerb &verb,
-                       const std::vector<std::string> &files) {
+Destination DestinationOf(const Arguments &arguments, const DrawingVerb &verb,
+                          const std::vector<std::string> &files) {
     const std::string out = arguments.Value("--output");
     const bool one = files.size() == verb.files_each;
     const bool more_may_be = verb.files_each == 1;
@@ -141,32 +161,26 @@ DrawingTarget TargetOf(const Arguments &arguments, const DrawingVerb &verb,
         if (!arguments.Has("--to") || !one) {
             throw UsageError("-o - wants --to EXT and " + std::string(verb.wants));
         }
-        return {&FormNamed(arguments, verb, arguments.Value("--to")), {}, {}};
+        return {arguments.Value("--to"), {}, {}};
     }
     if (arguments.Has("--to")) {
-        const ExportForm &form = FormNamed(arguments, verb, arguments.Value("--to"));
-        return more_may_be ? DrawingTarget{&form, {}, out, true} : DrawingTarget{&form, out, {}};
+        const std::string extension = arguments.Value("--to");
+        return more_may_be ? Destination{extension, {}, out, true}
+                           : Destination{extension, out, {}};
     }
     if (!one) {
         throw UsageError("several FILEs want --to EXT -o DIR/");
     }
     const std::string extension = fs::path(out).extension().string();
-    return {
-        &FormNamed(arguments, verb, extension.empty() ? extension : extension.substr(1)), out, {}};
+    return {extension.empty() ? extension : extension.substr(1), out, {}};
 }
 
-bool Deliver(const DrawingTarget &target, const std::string &file, const std::string &bytes) {
-    if (!target.several && target.file.empty()) {
-        std::cout << bytes << std::flush;
-        return static_cast<bool>(std::cout);
-    }
-    const std::string name = target.several
-                                 ? (fs::path(target.folder) /
-                                    (fs::path(file).stem().string() + "." + target.form->extension))
-                                       .string()
-                                 : target.file;
-    WriteWholeFile(name, bytes);
-    return true;
+DrawingTarget TargetOf(const Arguments &arguments, const DrawingVerb &verb,
+                       const std::vector<std::string> &files) {
+    DrawingTarget target{DestinationOf(arguments, verb, files)};
+    target.form = &FormNamed(arguments, verb, target.extension);
+    target.extension = target.form->extension;
+    return target;
 }
 
 std::optional<std::string> Dessine(Programme &programme, const DrawingTarget &target) {
@@ -183,22 +197,31 @@ std::optional<std::string> Dessine(Programme &programme, const DrawingTarget &ta
     return std::move(exported.bytes);
 }
 
-int DrawAll(const Arguments &arguments, const DrawingVerb &verb,
-            const std::vector<std::string> &files, const Draw &draw) {
-    const DrawingTarget target = TargetOf(arguments, verb, files);
-    if (target.several) {
+int DeliverAll(const Arguments &arguments, const DrawingVerb &verb,
+               const std::vector<std::string> &files, const Destination &destination,
+               const Make &make) {
+    if (destination.several) {
         std::error_code error;
-        fs::create_directories(target.folder, error);
+        fs::create_directories(destination.folder, error);
     }
-    const Toolkit toolkit(target.form->needs_toolkit);
     int status = kDone;
     const auto each = static_cast<std::ptrdiff_t>(verb.files_each);
     for (auto at = files.begin(); at != files.end(); at += each) {
-        if (!DrawAndDeliver(arguments, target, {at, at + each}, draw)) {
+        if (!MakeAndDeliver(arguments, destination, {at, at + each}, make)) {
             status = kRefused;
         }
     }
     return status;
+}
+
+int DrawAll(const Arguments &arguments, const DrawingVerb &verb,
+            const std::vector<std::string> &files, const Draw &draw) {
+    const DrawingTarget target = TargetOf(arguments, verb, files);
+    const Toolkit toolkit(target.form->needs_toolkit);
+    return DeliverAll(arguments, verb, files, target,
+                      [&](const std::vector<std::string> &some, bool &complete) {
+                          return draw(target, some, complete);
+                      });
 }
 
 } // namespace loftwing

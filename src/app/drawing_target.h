@@ -1,4 +1,4 @@
-/// Where the drawings of a command go, and in which form.
+/// Where the files of a command go, and in which form.
 #pragma once
 
 #include "app/arguments.h"
@@ -11,11 +11,17 @@
 
 namespace loftwing {
 
-struct DrawingTarget {
-    const ExportForm *form = nullptr;
-    std::string file;   ///< empty: standard output
-    std::string folder; ///< for several files
+struct Destination {
+    std::string extension; ///< names the form, as it was typed
+    std::string file;      ///< empty: standard output
+    std::string folder;    ///< for several files
     bool several = false;
+
+    bool IsStandardOutput() const { return !several && file.empty(); }
+};
+
+struct DrawingTarget : Destination {
+    const ExportForm *form = nullptr;
 };
 
 /// What a verb that draws can do.
@@ -26,31 +32,47 @@ struct DrawingVerb {
     const char *wants;      ///< "a FILE", for the message of wrong usage
 };
 
-/// The options --output, --to and --airfoils, and those that tell the verb's forms of one extension
+/// Extensions for reading: "dxf, pdf, svg".
+std::string Listed(const std::vector<std::string> &extensions);
+
+/// The options --output, --to and --airfoils of a verb with forms of these extensions.
+std::vector<OptionRule> TargetOptions(const DrawingVerb &verb,
+                                      const std::vector<std::string> &extensions);
+
+/// The same for drawings, and the options that tell the verb's forms of one extension
 /// apart.
 std::vector<OptionRule> DrawingOptions(const DrawingVerb &verb);
 
-/// Where the drawings of `files` go. Throws UsageError for words that name no place, no form, or
-/// one that the verb doesn't have.
+/// Where what is made of `files` goes. Throws UsageError for words that name no place or no form.
+Destination DestinationOf(const Arguments &arguments, const DrawingVerb &verb,
+                          const std::vector<std::string> &files);
+/// The same for drawings, with their form. Throws UsageError also for one that the verb doesn't
+/// have.
 DrawingTarget TargetOf(const Arguments &arguments, const DrawingVerb &verb,
                        const std::vector<std::string> &files);
 
-/// Writes a drawing whole; in a folder it is named after `file`. Failure 75 when it is refused.
-/// False when standard output is.
-bool Deliver(const DrawingTarget &target, const std::string &file, const std::string &bytes);
+/// The bytes of a file, nothing when anything was refused; `complete` says whether nothing was
+/// amiss on the way.
+using Make = std::function<std::optional<std::string>(const std::vector<std::string> &files,
+                                                      bool &complete)>;
+
+/// Makes a file of all `files`, as many as the verb wants at a time, writes each whole, and gives
+/// the exit status. In a folder it is named after the first of its files. A refused one stops no
+/// other one, and leaves nothing under its name.
+int DeliverAll(const Arguments &arguments, const DrawingVerb &verb,
+               const std::vector<std::string> &files, const Destination &destination,
+               const Make &make);
 
 /// Exports the current view of a program that has shown nothing yet. A PDF of several sheets must
 /// have its overlap, for which nobody can be asked. Nothing when it was refused; a line told why.
 /// Failures as the form's.
 std::optional<std::string> Dessine(Programme &programme, const DrawingTarget &target);
 
-/// The bytes of a drawing, nothing when anything was refused; `complete` says whether nothing was
-/// amiss on the way.
+/// Makes the bytes of a drawing.
 using Draw = std::function<std::optional<std::string>(
     const DrawingTarget &target, const std::vector<std::string> &files, bool &complete)>;
 
-/// Draws all `files`, as many as the verb wants at a time, and gives the exit status. A refused
-/// drawing stops no other one, and leaves nothing under its name.
+/// Draws all `files` and gives the exit status; see DeliverAll.
 int DrawAll(const Arguments &arguments, const DrawingVerb &verb,
             const std::vector<std::string> &files, const Draw &draw);
 
