@@ -132,7 +132,8 @@ std::vector<OptionRule> TargetOptions(const DrawingVerb &verb,
                  ") chooses the form, - is standard output"},
             {"--to", "EXT",
              verb.files_each == 1 ? "form of several drawings, which go to the folder -o DIR/"
-                                  : "form of the drawing on standard output"},
+                                  : "form of the drawing on standard output",
+             false, 1, extensions},
             {"--airfoils", "DIR",
              "where to search for the airfoil of a rib components file (may be repeated; default: "
              "the file's folder)",

@@ -66,4 +66,13 @@ void JsonLine::Add(std::string_view name, std::span<const double> numbers) {
     body_ += ']';
 }
 
+void JsonLine::Add(std::string_view name, std::span<const std::string> texts) {
+    Name(name);
+    body_ += '[';
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        body_ += (i == 0 ? "" : ", ") + Quoted(texts[i]);
+    }
+    body_ += ']';
+}
+
 } // namespace loftwing

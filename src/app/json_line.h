@@ -15,6 +15,7 @@ class JsonLine {
     /// Reals have 17 significant digits, so that they read back to the bit.
     void Add(std::string_view name, double number);
     void Add(std::string_view name, std::span<const double> numbers);
+    void Add(std::string_view name, std::span<const std::string> texts);
 
     std::string Text() const { return "{" + body_ + "}"; }
 

@@ -93,14 +93,14 @@ void TakePaper(const std::string &name, Programme &programme) {
     page.NumIndex = ToByte(static_cast<double>(kPapierPropre + (own - page.papiers.begin())));
 }
 
-/// Puts the margins of an opened rib's heel in force where the words ask for it, and tells of them
-/// where they don't: the drawing of old is the one without. False when they are too long.
-bool TakeHeelMargins(const Arguments &arguments, Programme &programme) {
+/// Puts the margins of an opened rib's heel in force where they shall be, and tells of them where
+/// not: the drawing of old is the one without. False when they are too long.
+bool TakeHeelMargins(bool in_force, Programme &programme) {
     const Saisie saisie = programme.SaisieEnCours();
     if (!MargesEnAttente(programme.rib, saisie)) {
         return true;
     }
-    if (arguments.Has("--heel")) {
+    if (in_force) {
         return PrendMarges(programme.rib, saisie);
     }
     programme.messages.Inform(TexteMargesEnAttente(programme.rib, saisie) + " " +
@@ -139,7 +139,7 @@ std::vector<OptionRule> PageOptions() {
             {"--check-line", nullptr, "a line to measure and a note on every sheet"}};
 }
 
-bool ApplyRibOptions(const Arguments &arguments, Programme &programme) {
+bool ApplyRibOptions(const Arguments &arguments, Programme &programme, HeelMargins margins) {
     // A rib components file has a value for everything; an option replaces its own only.
     const Suite suite = programme.rib.FichierRibOuvert ? Suite::rien : Suite::tout;
     for (const EntryOption &entry : kEntryOptions) {
@@ -156,7 +156,7 @@ bool ApplyRibOptions(const Arguments &arguments, Programme &programme) {
         }
     }
     RibModel &rib = programme.rib;
-    if (!TakeHeelMargins(arguments, programme)) {
+    if (!TakeHeelMargins(margins == HeelMargins::in_force || arguments.Has("--heel"), programme)) {
         return false;
     }
     rib.AffHaut = rib.AffHaut || arguments.Has("--invert");

@@ -9,10 +9,15 @@ namespace loftwing {
 std::vector<OptionRule> RibOptions();
 std::vector<OptionRule> PageOptions();
 
+/// The margins of an opened rib's heel come into force by --heel and are told of without it, or
+/// they are in force anyway.
+enum class HeelMargins { as_asked, in_force };
+
 /// Puts the rib options into the rib as the value dialogs do; on a rib from a rib components file
 /// each sets its own value only. False when a value was refused.
 /// Throws UsageError for a text that the dialogs' fields wouldn't admit.
-bool ApplyRibOptions(const Arguments &arguments, Programme &programme);
+bool ApplyRibOptions(const Arguments &arguments, Programme &programme,
+                     HeelMargins margins = HeelMargins::as_asked);
 
 /// Puts the page options into the page settings. Throws UsageError for an unknown paper or a text
 /// that isn't a length.

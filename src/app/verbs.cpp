@@ -2,6 +2,7 @@
 
 #include "app/angle_command.h"
 #include "app/convert_command.h"
+#include "app/cut_command.h"
 #include "app/dihedral_command.h"
 #include "app/draw_command.h"
 #include "app/info_command.h"
@@ -21,6 +22,8 @@ constexpr std::array kVerbs = {
     Verb{"draw", "draw FILE... -o OUT", "a rib drawing (or several: --to EXT -o DIR/)", DrawOptions,
          RunDraw, Takes::airfoils, "draw RIB.lfw --on FILE... -o OUT",
          "the rib's features on other airfoils"},
+    Verb{"cut", "cut FILE... -o OUT", "the pieces themselves: closed outlines for a cutter",
+         CutOptions, RunCut, Takes::airfoils},
     Verb{"info", "info FILE... [--json]", "what the program knows of an airfoil", InfoOptions,
          RunInfo, Takes::airfoils},
     Verb{"ribs", "ribs ROOT TIP ... -o DIR", "a full set of ribs between two airfoils", RibsOptions,
