@@ -156,7 +156,7 @@ TEST_F(PieceSecond, TheRulesPointByPointGiveTheSameWood) {
         std::mt19937 random(1);
         std::uniform_real_distribution<double> along(-5, 205);
         std::uniform_real_distribution<double> up(-50, 50);
-        for (int i = 0; i < 300; ++i) {
+        for (int i = 0; i < 200; ++i) {
             const PointMm at{along(random), up(random) / (i % 2 == 0 ? 1 : 3)};
             if (InWood(piece, at) != second.Wood(at.x, at.y) && !AtEdge(piece, at)) {
                 ADD_FAILURE() << file << ": " << at.x << ", " << at.y;
@@ -168,7 +168,7 @@ TEST_F(PieceSecond, TheRulesPointByPointGiveTheSameWood) {
 }
 
 TEST_F(PieceSecond, ItsAreaIsThatOfItsColumns) {
-    for (int variant = 0; variant < 4; ++variant) {
+    for (const int variant : {0, 3}) {
         rib.Partie<Ajouts>() = {};
         TakeAirfoil(world, Naca(variant % 2 == 0 ? 4415 : 18, 60, true));
         AllOn(variant);

@@ -107,16 +107,18 @@ bool NaivePiece::InP(double x, double y) const {
 }
 
 double NaivePiece::DistanceToP(double x, double y) const {
-    double least = kFar;
+    double least = kFar * kFar;
     for (std::size_t i = 0, j = xs_.size() - 1; i < xs_.size(); j = i++) {
         const double dx = xs_[j] - xs_[i];
         const double dy = ys_[j] - ys_[i];
         const double square = dx * dx + dy * dy;
         double t = square == 0 ? 0 : ((x - xs_[i]) * dx + (y - ys_[i]) * dy) / square;
         t = std::max(0.0, std::min(1.0, t));
-        least = std::min(least, std::hypot(xs_[i] + t * dx - x, ys_[i] + t * dy - y));
+        const double px = xs_[i] + t * dx - x;
+        const double py = ys_[i] + t * dy - y;
+        least = std::min(least, px * px + py * py);
     }
-    return least;
+    return std::sqrt(least);
 }
 
 bool NaivePiece::InBody(double x, double y) const {
@@ -153,7 +155,7 @@ double NaivePiece::BodyFace(double x, bool above) const {
     const Stretch p = PFaces(x);
     double outside = above ? p.second : p.first;
     double inside = outside;
-    const double step = above ? -0.01 : 0.01;
+    const double step = above ? -0.1 : 0.1;
     while (!InBody(x, inside)) {
         outside = inside;
         inside += step;
