@@ -4,6 +4,7 @@
 #include "platform/qt_desktop.h"
 #include "platform/qt_pointer.h"
 #include "platform/qt_text.h"
+#include "platform/save_form.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -125,6 +126,14 @@ std::string WithExtension(const std::string &path, const std::string &extension)
     return path.empty() || has_one || extension.empty() ? path : path + "." + extension;
 }
 
+std::vector<std::string> ExtensionsOffered(const QStringList &filters) {
+    std::vector<std::string> texts;
+    for (const QString &filter : filters) {
+        texts.push_back(S(filter));
+    }
+    return ExtensionsDe(texts);
+}
+
 /// A title bar cuts a title that is wider than its window.
 void WidenForTitle(QMessageBox &dialog) {
     auto *grid = qobject_cast<QGridLayout *>(dialog.layout());
@@ -234,12 +243,15 @@ FormAnswer QtPlatform::ChooseSaveForm(const FileQuestion &question,
         if (form < filters.size()) {
             dialog.selectNameFilter(filters[form]);
         }
-        const std::string path = WithExtension(Chosen(dialog), question.default_extension);
-        form =
+        const std::string chosen = Chosen(dialog);
+        const int left_with =
             static_cast<int>(std::max<qsizetype>(filters.indexOf(dialog.selectedNameFilter()), 0));
-        const QFileInfo file(Q(path));
-        if (path.empty() || !file.exists() || MayReplace(path, question.title)) {
-            return {path, form};
+        FormAnswer answer = FormeVoulue(chosen, form, left_with, ExtensionsOffered(filters));
+        answer.path = WithExtension(answer.path, question.default_extension);
+        form = answer.form;
+        const QFileInfo file(Q(answer.path));
+        if (answer.path.empty() || !file.exists() || MayReplace(answer.path, question.title)) {
+            return answer;
         }
         next.folder = S(file.path());
         next.name = S(file.fileName());

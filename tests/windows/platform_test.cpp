@@ -282,6 +282,28 @@ TEST(QtPlatformChooser, StartsWithTheFormThatIsAskedFor) {
     }
 }
 
+TEST(QtPlatformChooser, TheNameFollowsTheFormBeforeItIsAskedWhetherToReplace) {
+    World world;
+    world.folder.File("rib.svg", "an older drawing");
+    const FileQuestion question = {"t", world.folder.Path(), "rib.svg", "SVG (*.svg)", "svg"};
+    InNextDialog([](Seen &dialog) {
+        dialog.As<QFileDialog>().selectNameFilter("DXF (*.dxf)");
+        dialog.As<QDialog>().accept();
+    });
+    const FormAnswer answer = world.platform.ChooseSaveForm(question, {"DXF (*.dxf)"});
+    EXPECT_EQ(answer.path, world.folder.Path("rib.dxf"));
+    EXPECT_EQ(answer.form, 1);
+}
+
+TEST(QtPlatformChooser, AnExtensionThatWasTypedChoosesItsForm) {
+    World world;
+    const FileQuestion question = {"t", world.folder.Path(), "", "SVG (*.svg)", "svg"};
+    InNextDialog([](Seen &dialog) { TypeName(dialog, "rib.dxf"); });
+    const FormAnswer answer = world.platform.ChooseSaveForm(question, {"DXF (*.dxf)"});
+    EXPECT_EQ(answer.path, world.folder.Path("rib.dxf"));
+    EXPECT_EQ(answer.form, 1);
+}
+
 TEST(QtPlatformChooser, ChoosesAFolder) {
     World world;
     fs::create_directory(world.folder.Path("rib sets"));

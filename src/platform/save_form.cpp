@@ -1,0 +1,55 @@
+#include "platform/save_form.h"
+
+#include "base/failure.h"
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+
+namespace loftwing {
+
+namespace {
+
+std::string Lower(std::string text) {
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return text;
+}
+
+/// Without its point.
+std::string ExtensionOf(const std::string &path) {
+    const std::string extension = std::filesystem::path(path).extension().string();
+    return extension.empty() ? extension : Lower(extension.substr(1));
+}
+
+} // namespace
+
+FormAnswer FormeVoulue(const std::string &path, int started, int chosen,
+                       const std::vector<std::string> &extensions) {
+    const std::string typed = ExtensionOf(path);
+    const auto known = std::find(extensions.begin(), extensions.end(), typed);
+    const std::string &wanted = At(extensions, chosen);
+    if (path.empty() || typed == wanted) {
+        return {path, chosen};
+    }
+    if (known != extensions.end() && !typed.empty()) {
+        if (chosen == started) {
+            return {path, static_cast<int>(known - extensions.begin())};
+        }
+        return {path.substr(0, path.size() - typed.size()) + wanted, chosen};
+    }
+    return {typed.empty() && !wanted.empty() ? path + "." + wanted : path, chosen};
+}
+
+std::vector<std::string> ExtensionsDe(const std::vector<std::string> &filters) {
+    std::vector<std::string> extensions;
+    for (const std::string &filter : filters) {
+        const std::size_t start = filter.rfind("(*.");
+        const std::size_t end = filter.rfind(')');
+        const bool there = start != std::string::npos && end != std::string::npos && end > start;
+        extensions.push_back(there ? Lower(filter.substr(start + 3, end - start - 3)) : "");
+    }
+    return extensions;
+}
+
+} // namespace loftwing
