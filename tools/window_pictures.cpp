@@ -22,6 +22,7 @@
 #include "mainwindow/frmInput.h"
 #include "mainwindow/frmSplash.h"
 #include "mainwindow/frmaide.h"
+#include "mainwindow/frmdecoupe.h"
 #include "mainwindow/frmimport.h"
 #include "mainwindow/frmmain.h"
 #include "mainwindow/frmopen.h"
@@ -104,6 +105,7 @@ class Pictures {
         window_->affiche();
         Save(*window_, "frmmain");
         TakeSheets();
+        TakePiece();
         if (programme_.settings.Unite == kUniteMm) {
             TakePrint();
         }
@@ -136,6 +138,17 @@ class Pictures {
         Save(*window_, "frmmain-sheets");
         entry("mnu_afffeuilles");
         entry("mnu_affzoom100");
+    }
+
+    /// The piece under the drawing, and on its way to a cutter.
+    void TakePiece() {
+        const auto entry = [this] { window_->findChild<QAction *>("mnu_affpiece")->trigger(); };
+        entry();
+        Save(*window_, "frmmain-piece");
+        entry();
+        frmdecoupe cut(programme_, window_.get());
+        Fill(cut, "txtsaignee", programme_.settings.Unite == kUniteIn ? "0.008" : "0.2");
+        Save(cut, "frmdecoupe");
     }
 
     /// The sheet that comes out of the printer: the rib of the tour.

@@ -7,7 +7,7 @@ namespace {
 constexpr std::array kDebut = {kAideVisite, kAideFenetre};
 constexpr std::array kProfils = {kAideOuvrir, kAideImport, kAideComposants};
 constexpr std::array kRib = {kAideValeurs, kAideLongerons, kAideTrous, kAideGabarit, kAideDessin};
-constexpr std::array kSorties = {kAidePage, kAideFeuilles, kAideExport};
+constexpr std::array kSorties = {kAidePage, kAideFeuilles, kAideExport, kAideDecoupe};
 constexpr std::array kOutils = {kAideCalculs,     kAideJeu,  kAideJeuVariable, kAideOblique,
                                 kAideInclinaison, kAideVues, kAideCoord};
 constexpr std::array kDivers = {kAideBibliotheque, kAideCommandes, kAideProgramme};

@@ -17,6 +17,7 @@ inline constexpr int kAideFenetre = 20;
 inline constexpr int kAidePage = 31;
 inline constexpr int kAideFeuilles = 32; ///< the printer's correction, papers of one's own
 inline constexpr int kAideExport = 33;
+inline constexpr int kAideDecoupe = 34; ///< pieces for a cutter, and on the screen
 inline constexpr int kAideValeurs = 40; ///< chord, sheeting, stocks, V-notch, heel
 inline constexpr int kAideOuvrir = 41;
 inline constexpr int kAideLongerons = 42;

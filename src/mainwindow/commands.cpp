@@ -9,6 +9,7 @@ namespace {
 
 constexpr unsigned kFile = kWithRib | kDiesOnClear;
 constexpr unsigned kPaper = kFile | kAliveInView;
+constexpr unsigned kOneRib = kFile | kNotInView;
 constexpr unsigned kRib = kWithRib | kNotInView | kAliveAfterClear;
 
 Command Menu(const char *name, LngKey text, unsigned groups = kAlways) {
@@ -89,6 +90,8 @@ std::vector<Command> FileMenu() {
     Ajoute(commands, ExportEntries(menu));
     Ajoute(commands,
            {
+               Entry("mnu_filedecoupe", menu, {"Piece", "100"}, kOneRib,
+                     &frmmain::mnu_filedecoupe_Click),
                Below(Entry("mnu_filepage", menu, {"MenuFile", "6"}, kPaper,
                            &frmmain::mnu_filepage_Click)),
                Entry("mnu_fileprinterconfig", menu, {"MenuFile", "7"}, kPaper,
@@ -122,6 +125,9 @@ std::vector<Command> ViewMenu() {
         Conseille(Check("mnu_afffeuilles", menu, {"MenuAffich", "215"}, kPaper,
                         &frmmain::mnu_afffeuilles_Click),
                   {"MenuAffich", "230"}),
+        Conseille(
+            Check("mnu_affpiece", menu, {"Piece", "101"}, kOneRib, &frmmain::mnu_affpiece_Click),
+            {"Piece", "102"}),
         Below(SubMenu(zoom, menu, {"MenuAffich", "210"}, kAlways)),
         Entry("mnu_affzoomplus", zoom, {"MenuAffich", "211"}, kAlways,
               &frmmain::mnu_affzoomplus_Click, "Ctrl++; Ctrl+="),
@@ -203,8 +209,7 @@ std::vector<Command> HelpMenu() {
         Entry("mnu_helpsearch", menu, {"MenuHelp", "2"}, kAlways, &frmmain::mnu_helpsearch_Click,
               "F1"),
         // Its caption is a fixed word and the word for version; see AppliqueLangue.
-        Entry("mnu_helpVersion", menu, {"FrmAbout", "3"}, kAlways,
-              &frmmain::mnu_helpVersion_Click),
+        Entry("mnu_helpVersion", menu, {"FrmAbout", "3"}, kAlways, &frmmain::mnu_helpVersion_Click),
         Entry("mnu_helpConfig", menu, {"MenuHelp", "4"}, kAlways, &frmmain::mnu_helpConfig_Click),
         Below(Entry("mnu_helpAbout", menu, {"MenuHelp", "3"}, kAlways,
                     &frmmain::mnu_helpAbout_Click)),

@@ -44,6 +44,7 @@ class frmmain : public MainFrame {
     void mnu_fileimport_Click();
     void mnu_fileopen_Click();
     void mnu_filesaveas_Click();
+    void mnu_filedecoupe_Click();
     void mnu_filepage_Click();
     void mnu_fileprinterconfig_Click();
     void mnu_fileprint_Click() override;
@@ -60,6 +61,7 @@ class frmmain : public MainFrame {
     void mnu_affTrac_Click();
     void mnu_afflignRef_Click();
     void mnu_afffeuilles_Click();
+    void mnu_affpiece_Click();
     void mnu_affzoomplus_Click();
     void mnu_affzoommoins_Click();
     void mnu_affzoom100_Click();

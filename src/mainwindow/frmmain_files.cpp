@@ -1,6 +1,8 @@
 // The commands of the main window that read and write files of the rib.
 
+#include "mainwindow/frmdecoupe.h"
 #include "mainwindow/frmmain.h"
+#include "output/sheeting.h"
 #include "programme/export.h"
 #include "programme/file_steps.h"
 #include "programme/heel_steps.h"
@@ -57,6 +59,22 @@ void frmmain::Exporte(const EntreeExport &entree) {
         }
     });
     sheets_.SuitReglages(); // sheets that were made decide about rows, for one
+}
+
+void frmmain::mnu_filedecoupe_Click() {
+    Garde(" Main/mnu_filedecoupe", [this] {
+        if (!DemandeMarges(programme_, *this)) {
+            return;
+        }
+        // A rib that can't be drawn is told so, whatever else may be said of its piece.
+        PlotState plot = EtatAmorce(programme_.rib);
+        bool failed = false;
+        if (DessineVue(programme_, plot, failed)) {
+            MontreDecoupe(programme_, picture_->PlaceDuDessin(), this);
+        } else if (failed) {
+            affclear();
+        }
+    });
 }
 
 } // namespace loftwing

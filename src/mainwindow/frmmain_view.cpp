@@ -117,6 +117,11 @@ void frmmain::mnu_afffeuilles_Click() {
     sheets_.Montre(commands_.Entree("mnu_afffeuilles").isChecked());
 }
 
+void frmmain::mnu_affpiece_Click() {
+    piece_.Montre(commands_.Entree("mnu_affpiece").isChecked());
+    MontreAvis();
+}
+
 void frmmain::Form_Resize() {
     // What is typed in a dialog may not fit yet, and a plot that fails costs the rib.
     if (DialogueNervureOuvert(*this)) {

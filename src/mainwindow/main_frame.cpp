@@ -27,7 +27,7 @@ constexpr int kPanneauDit = 2; // the panel that says what is shown
 MainFrame::MainFrame(Programme &programme, CommandBars::Demandes demandes)
     : programme_(programme), commands_(*this, std::move(demandes)),
       picture_(new PictureArea(programme.rib, this)), sheets_(programme, *picture_),
-      panels_(*this) {
+      piece_(programme, *picture_), panels_(*this) {
     setCentralWidget(picture_);
     ConnectNotices();
     LeadThroughPanes(*this, {&commands_.Barre(), &picture_->Avis(), picture_->focusProxy()});
@@ -117,6 +117,7 @@ void MainFrame::Dessine(const std::function<Affichage(const Trace &)> &draw,
         dessine_ = true;
         picture_->Montre(std::move(recording));
         sheets_.Pose();
+        piece_.Pose();
         Panneau(1, kVersion);
         tell();
     }

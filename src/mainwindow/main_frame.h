@@ -3,6 +3,7 @@
 
 #include "mainwindow/command_bars.h"
 #include "mainwindow/picture_area.h"
+#include "mainwindow/piece_overlay.h"
 #include "mainwindow/sheet_overlay.h"
 #include "mainwindow/status_panels.h"
 #include "mainwindow/toolkit_words.h"
@@ -49,6 +50,7 @@ class MainFrame : public QMainWindow, public CommandView {
     CommandBars commands_;
     PictureArea *picture_;
     SheetOverlay sheets_;
+    PieceOverlay piece_;
     bool dessine_ = false; ///< something has been drawn since the start
 
     /// Runs what an event asks for: no failure may pass into the toolkit's event loop.

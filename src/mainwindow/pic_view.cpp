@@ -1,5 +1,6 @@
 #include "mainwindow/pic_view.h"
 
+#include "mainwindow/piece_look.h"
 #include "platform/qt_plot_device.h"
 
 #include <QMouseEvent>
@@ -18,7 +19,13 @@ PicView::PicView(QWidget *parent) : QWidget(parent) {
 
 void PicView::Montre(std::unique_ptr<Recording> drawing) {
     drawing_ = std::move(drawing);
+    wood_.clear();
     overlay_.reset();
+    update();
+}
+
+void PicView::MontreDessous(std::vector<QPainterPath> wood) {
+    wood_ = std::move(wood);
     update();
 }
 
@@ -30,6 +37,7 @@ void PicView::MontreDessus(std::unique_ptr<Recording> overlay) {
 void PicView::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
+    PeintBois(painter, wood_);
     if (drawing_) {
         Replay(*drawing_, painter, ScreenSurface());
     }

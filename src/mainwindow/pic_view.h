@@ -4,10 +4,12 @@
 #include "output/recording.h"
 #include "output/scrolling.h"
 
+#include <QPainterPath>
 #include <QPoint>
 #include <QWidget>
 
 #include <memory>
+#include <vector>
 
 namespace loftwing {
 
@@ -22,6 +24,9 @@ class PicView : public QWidget {
     /// Takes a new drawing, null for an empty picture.
     void Montre(std::unique_ptr<Recording> drawing);
     const Recording *Dessin() const { return drawing_.get(); }
+    /// Pieces of wood that lie under the drawing, in logical pixels; a new drawing starts without.
+    void MontreDessous(std::vector<QPainterPath> wood);
+    const std::vector<QPainterPath> &Dessous() const { return wood_; }
     /// What lies over the drawing, null for nothing; a new drawing starts without.
     void MontreDessus(std::unique_ptr<Recording> overlay);
     const Recording *Dessus() const { return overlay_.get(); }
@@ -46,6 +51,7 @@ class PicView : public QWidget {
 
   private:
     std::unique_ptr<Recording> drawing_;
+    std::vector<QPainterPath> wood_;
     std::unique_ptr<Recording> overlay_;
     QPoint dragged_from_;
     bool dragging_ = false;

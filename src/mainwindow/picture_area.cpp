@@ -110,6 +110,10 @@ void PictureArea::MontreFeuilles(std::unique_ptr<Recording> sheets) {
     Pic_.MontreDessus(Pic_.Dessin() == nullptr ? nullptr : std::move(sheets));
 }
 
+void PictureArea::MontrePiece(std::vector<QPainterPath> wood) {
+    Pic_.MontreDessous(Pic_.Dessin() == nullptr ? std::vector<QPainterPath>() : std::move(wood));
+}
+
 std::optional<Extent> PictureArea::Etendu() const {
     if (Pic_.Dessin() == nullptr) {
         return std::nullopt;

@@ -33,6 +33,8 @@ class PictureArea : public QWidget {
     void Montre(std::unique_ptr<Recording> drawing);
     /// Lays the edges of the sheets over the drawing, null for none. An empty picture takes none.
     void MontreFeuilles(std::unique_ptr<Recording> sheets);
+    /// Lays the wood of pieces under the drawing, in logical pixels. An empty picture takes none.
+    void MontrePiece(std::vector<QPainterPath> wood);
     /// Gives the bars their ranges over the present drawing and the sheets.
     void RegleDefilement();
     /// The strips above the picture.

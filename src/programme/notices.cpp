@@ -84,11 +84,15 @@ std::string ElsewhereText(const Programme &programme) {
            DossierDe(rib.CheminRib) + ".";
 }
 
+std::string PieceText(const Programme &programme) {
+    return programme.Text({"Piece", "124"}) + " " + programme.AvisDePiece;
+}
+
 std::vector<NoticeButton> NoButtons(const Programme & /*programme*/) {
     return {};
 }
 
-const std::array<Row, 5> kRows = {{
+const std::array<Row, 6> kRows = {{
     {NoticeSubject::contour, "contour",
      [](const Programme &programme) { return programme.rib.faute.cause != CauseContour::aucune; },
      ContourText, NoButtons},
@@ -108,6 +112,9 @@ const std::array<Row, 5> kRows = {{
     {NoticeSubject::airfoil_elsewhere, "airfoil_elsewhere",
      [](const Programme &programme) { return programme.rib.ProfilAilleurs; }, ElsewhereText,
      NoButtons},
+    {NoticeSubject::piece, "piece",
+     [](const Programme &programme) { return !programme.AvisDePiece.empty(); }, PieceText,
+     NoButtons},
 }};
 
 } // namespace
@@ -122,6 +129,10 @@ const char *NoticeName(NoticeSubject subject) {
 }
 
 std::vector<Notice> Notices::Standing(const Programme &programme) {
+    if (programme.AvisDePiece != piece_) {
+        piece_ = programme.AvisDePiece;
+        closed_.erase(NoticeSubject::piece);
+    }
     std::vector<Notice> standing;
     for (const Row &row : kRows) {
         if (!programme.rib.ProfilCharge || !row.stands(programme)) {

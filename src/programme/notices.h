@@ -13,7 +13,7 @@ namespace loftwing {
 
 /// What a notice is about; a rib has one of each at most. Another kind of notice is one more name
 /// here and one more row of the table in notices.cpp.
-enum class NoticeSubject { contour, import_offered, unit, heel_margins, airfoil_elsewhere };
+enum class NoticeSubject { contour, import_offered, unit, heel_margins, airfoil_elsewhere, piece };
 
 /// What a button of a notice asks for.
 enum class NoticeAct { take_heel_margins, open_in_other_unit, import_airfoil };
@@ -45,6 +45,7 @@ class Notices {
 
   private:
     std::set<NoticeSubject> closed_;
+    std::string piece_; ///< what was said of the piece; other words are another notice
 };
 
 /// Does what a button asks for. A failure is told.

@@ -44,6 +44,7 @@ struct Programme {
     Messages messages{platform, language};
     std::string DernierProfil; ///< the airfoil file that was opened last in this run
     VoisinEssaye voisin;
+    std::string AvisDePiece;       ///< what there is to say of the piece that the window shows
     bool PremierDemarrage = false; ///< no settings file was there
     bool SeparateurDit = false;    ///< this run has told of a decimal separator that is no point
 

@@ -146,6 +146,19 @@ TEST_F(NoticesTest, AViewInTheRibsPlaceHasNoneAndTheClosedOnesStayClosed) {
     EXPECT_THAT(Subjects(), IsEmpty());
 }
 
+TEST_F(NoticesTest, WhatIsSaidOfThePieceStandsUntilItIsClosedOrOtherwise) {
+    programme.AvisDePiece = "It falls apart.";
+    ASSERT_THAT(Subjects(), ElementsAre(NoticeSubject::piece));
+    EXPECT_EQ(Standing().front().text, "Piece : It falls apart.");
+    EXPECT_THAT(Standing().front().buttons, IsEmpty());
+    notices.Close(NoticeSubject::piece);
+    EXPECT_THAT(Subjects(), IsEmpty());
+    programme.AvisDePiece = "It is thin."; // another fault
+    EXPECT_THAT(Subjects(), ElementsAre(NoticeSubject::piece));
+    programme.AvisDePiece = "";
+    EXPECT_THAT(Subjects(), IsEmpty());
+}
+
 TEST_F(NoticesTest, AClearedRibHasNone) {
     HaveHeel();
     Rib().ProfilCharge = false;

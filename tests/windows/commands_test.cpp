@@ -51,9 +51,10 @@ const std::set<std::string> kRibsOwn = {
     "mnu_profilba", "mnu_profillongeron", "mnu_profiltrou", "mnu_profilbf"};
 
 /// What saves, prints or completes one.
-const std::set<std::string> kNeedsARib = {
-    "mnu_filesaveas", "Toolbar1(3)",     "mnu_filepage", "mnu_fileprinterconfig", "mnu_fileprint",
-    "Toolbar1(7)",    "mnu_profilTalon", "mnu_param",    "mnu_affInstxt"};
+const std::set<std::string> kNeedsARib = {"mnu_filesaveas",        "Toolbar1(3)",   "mnu_filepage",
+                                          "mnu_fileprinterconfig", "mnu_fileprint", "Toolbar1(7)",
+                                          "mnu_profilTalon",       "mnu_param",     "mnu_affInstxt",
+                                          "mnu_filedecoupe",       "mnu_affpiece"};
 
 const std::set<std::string> kPaper = {"mnu_filepage", "Toolbar1(5)", "mnu_fileprinterconfig",
                                       "mnu_fileprint"};
@@ -88,7 +89,7 @@ TEST(CommandTables, AClearedRibKeepsItsOwnCommandsAndThePageButton) {
 TEST(CommandTables, AViewHasNoneOfTheRibsOwnCommandsAndIsPrinted) {
     const Changed changed = ChangedBy(EtatCommandes::vue);
     std::set<std::string> dead = kRibsOwn;
-    dead.insert("mnu_param");
+    dead.insert({"mnu_param", "mnu_filedecoupe", "mnu_affpiece"});
     EXPECT_EQ(changed.dead, dead);
     ExpectAllIn(kPaper, changed.alive);
     // Its button is left to what the rib before it came to.
@@ -106,14 +107,15 @@ TEST(CommandTables, TheSimplePlotAddsThreeEntriesToAView) {
     EXPECT_EQ(simple.alive, alive);
 }
 
-TEST(CommandTables, EveryCheckedEntryShowsSomethingOfTheRibButTheSheets) {
+TEST(CommandTables, EveryCheckedEntryShowsSomethingOfTheRibButTheSheetsAndThePiece) {
     std::set<std::string> checkable;
     for (const Command &command : MenuCommands()) {
         if (command.checkable) {
             checkable.insert(command.name);
         }
     }
-    std::set<std::string> shown = {"mnu_afffeuilles"}; // of the page
+    // Of the page, and what is made of the rib.
+    std::set<std::string> shown = {"mnu_afffeuilles", "mnu_affpiece"};
     for (const CocheVue &coche : kCochesVue) {
         shown.insert(coche.name);
     }

@@ -25,13 +25,13 @@ const std::set<std::string> kBornWithARib = {
     "mnu_Outilcoord",
     // Live and die with the DXF entry beside them.
     "mnu_filepdf", "mnu_filesvg",
-    // The sheets of a drawing.
-    "mnu_afffeuilles"};
+    // The sheets of a drawing, and the piece.
+    "mnu_afffeuilles", "mnu_affpiece", "mnu_filedecoupe"};
 
 const std::set<std::string> kDeadAfterClear = {
     "mnu_filesaveas", "Toolbar1(3)", "mnu_filedxf",     "mnu_filepage", "mnu_fileprinterconfig",
     "mnu_fileprint",  "Toolbar1(7)", "mnu_profilTalon", "mnu_param",    "mnu_affInstxt",
-    "mnu_filepdf",    "mnu_filesvg", "mnu_afffeuilles",
+    "mnu_filepdf",    "mnu_filesvg", "mnu_afffeuilles", "mnu_affpiece", "mnu_filedecoupe",
     // Not among those that a clear brings back: still as the airfoil left them.
 };
 

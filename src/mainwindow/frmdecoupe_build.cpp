@@ -1,0 +1,82 @@
+// Names and places of the cutting window's controls.
+
+#include "mainwindow/frmdecoupe.h"
+
+#include <QGridLayout>
+#include <QScreen>
+#include <QVBoxLayout>
+
+namespace loftwing {
+
+namespace {
+
+constexpr double kShareOfScreen = 0.9;
+constexpr int kDigits = 8; // of a kerf
+
+} // namespace
+
+void frmdecoupe::NameAll() {
+    NameControls({{&Picture1, "Picture1"},
+                  {&Label1, "Label1"},
+                  {&txtsaignee, "txtsaignee"},
+                  {&Label2, "Label2"},
+                  {&Frame1, "Frame1"},
+                  {&txtetiquette, "txtetiquette"},
+                  {&chkpolylignes, "chkpolylignes"},
+                  {&lblmesures, "lblmesures"},
+                  {&lblavis, "lblavis"},
+                  {&lblenregistre, "lblenregistre"},
+                  {&cmdenregistrer, "cmdenregistrer"}});
+    NameControls(chkmarque, "chkmarque");
+}
+
+void frmdecoupe::LayOut() {
+    PlainText({&Label1, &Label2, &lblmesures, &lblavis, &lblenregistre});
+    for (QLabel *label : {&lblmesures, &lblavis, &lblenregistre}) {
+        // Words that come and go, and long paths, break rather than widen the window.
+        label->setWordWrap(true);
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
+    }
+    SetCaption(Label1, txtsaignee);
+    txtsaignee.setMaximumWidth(txtsaignee.fontMetrics().horizontalAdvance(QString(kDigits, '0')) +
+                               2 * txtsaignee.fontMetrics().averageCharWidth());
+    auto *kerf = new QHBoxLayout;
+    kerf->addWidget(&Label1);
+    kerf->addWidget(&txtsaignee);
+    kerf->addWidget(&Label2);
+    kerf->addStretch();
+    kerf->addWidget(&chkpolylignes);
+    auto *marks = new QGridLayout(&Frame1);
+    for (int i = 0; i < kEtiquette; ++i) {
+        marks->addWidget(&At(chkmarque, i), i / 2, i % 2);
+    }
+    marks->addWidget(&chkmarque[kEtiquette], 2, 0);
+    marks->addWidget(&txtetiquette, 2, 1);
+    marks->setColumnStretch(1, 1);
+    auto *rows = new QVBoxLayout(this);
+    rows->addWidget(&Picture1, 1);
+    rows->addWidget(&lblmesures);
+    rows->addWidget(&lblavis);
+    rows->addLayout(kerf);
+    rows->addWidget(&Frame1);
+    rows->addWidget(&lblenregistre);
+    PoseBoutons(*rows, {&cmdenregistrer, SharedWord::close, SharedWord::help});
+    cmdenregistrer.setDefault(true);
+    SelectField(txtsaignee);
+    resize(sizeHint().boundedTo(screen()->availableSize() * kShareOfScreen));
+}
+
+void frmdecoupe::Connect() {
+    const auto refait = [this] { Garde(" frmdecoupe/Refait", [this] { Refait(); }); };
+    for (QLineEdit *field : {static_cast<QLineEdit *>(&txtsaignee), &txtetiquette}) {
+        connect(field, &QLineEdit::textChanged, this, refait);
+    }
+    for (QCheckBox &box : chkmarque) {
+        connect(&box, &QCheckBox::toggled, this, refait);
+    }
+    connect(&chkpolylignes, &QCheckBox::toggled, this, refait);
+    connect(&cmdenregistrer, &QPushButton::clicked, this,
+            [this] { Garde(" frmdecoupe/cmdenregistrer", [this] { cmdenregistrer_Click(); }); });
+}
+
+} // namespace loftwing
