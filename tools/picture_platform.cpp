@@ -1,8 +1,7 @@
 #include "picture_platform.h"
 
 #include "output/printer.h"
-#include "output/recording.h"
-#include "platform/qt_plot_device.h"
+#include "platform/qt_sheet.h"
 
 #include <QPainter>
 
@@ -14,15 +13,6 @@ namespace {
 
 constexpr double kDotsPerMm = 5;
 constexpr double kMmPerInch = 25.4;
-
-/// A sheet as it was drawn.
-class Sheet : public Recording {
-  public:
-    Sheet() : Recording(PaperAdvance) {}
-    using Recording::CircleOutline;
-    using Recording::Segment;
-    using Recording::Text;
-};
 
 /// Puts the first sheet of a job, which lies lengthwise, on a picture.
 class SheetPicture : public Printer {

@@ -3,8 +3,7 @@
 #include "base/failure.h"
 #include "base/version.h"
 #include "base/whole_file.h"
-#include "output/recording.h"
-#include "platform/qt_plot_device.h"
+#include "platform/qt_sheet.h"
 #include "platform/qt_text.h"
 
 #include <QBuffer>
@@ -28,15 +27,6 @@ namespace {
 /// One dot is 0.02 mm; places between dots are kept.
 constexpr int kDpi = 1200;
 constexpr double kSamePaper = 0.1; // mm
-
-/// A sheet as it was drawn.
-class Sheet : public Recording {
-  public:
-    Sheet() : Recording(PaperAdvance) {}
-    using Recording::CircleOutline;
-    using Recording::Segment;
-    using Recording::Text;
-};
 
 bool IsNear(double one, double other) {
     constexpr double kSheetsDiffer = 1; // mm; printers round the measures of their papers

@@ -95,15 +95,23 @@ TEST(FocusSeen, OfTheFieldsOfASparOnlyTheOneWithTheFocusLooksSelected) {
               }});
 }
 
-TEST(FocusSeen, AFieldLeftAndComeBackToShowsItsSelectionAgain) {
+/// Two fields in a window that is in use.
+class TwoFields : public testing::Test {
+  protected:
+    TwoFields() {
+        other.move(0, 60);
+        one.setText("200");
+        window.show();
+        window.activateWindow();
+    }
+    void SetUp() override { ASSERT_TRUE(QTest::qWaitForWindowActive(&window)); }
+
     QWidget window;
-    NumericField one(&window);
-    NumericField other(&window);
-    other.move(0, 60);
-    one.setText("200");
-    window.show();
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    NumericField one{&window};
+    NumericField other{&window};
+};
+
+TEST_F(TwoFields, OneThatIsLeftAndComeBackToShowsItsSelectionAgain) {
     const QColor selection = QApplication::palette().color(QPalette::Highlight);
     one.setFocus();
     EXPECT_TRUE(ShowsColour(one, selection));
@@ -115,15 +123,7 @@ TEST(FocusSeen, AFieldLeftAndComeBackToShowsItsSelectionAgain) {
     EXPECT_TRUE(ShowsColour(one, selection));
 }
 
-TEST(FocusSeen, AFieldThatIsSelectedWithoutTheFocusShowsNoCursor) {
-    QWidget window;
-    NumericField one(&window);
-    NumericField other(&window);
-    other.move(0, 60);
-    one.setText("200");
-    window.show();
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+TEST_F(TwoFields, OneThatIsSelectedWithoutTheFocusShowsNoCursor) {
     other.setFocus();
     one.deselect();
     const QImage plain = one.grab().toImage();
