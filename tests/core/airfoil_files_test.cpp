@@ -3,6 +3,7 @@
 
 #include "base/whole_file.h"
 #include "core/airfoil_reader.h"
+#include "support/airfoil_folders.h"
 #include "support/contour_check.h"
 #include "support/naive_reader.h"
 #include "support/words.h"
@@ -21,20 +22,6 @@ namespace fs = std::filesystem;
 constexpr const char *kFileWords = "[TextButton]\n3=Help\n"
                                    "[frmopen]\n1=Open\n11=A\n12=C\n13=C1\n14=C2\n16=D \n17= D \n"
                                    "18=E\n19=E1\n[Erreur]\n1=F\n2=in\n";
-
-std::vector<fs::path> FilesOf(const fs::path &folder) {
-    std::vector<fs::path> files;
-    if (fs::is_directory(folder)) {
-        for (const auto &entry : fs::directory_iterator(folder)) {
-            const std::string extension = entry.path().extension().string();
-            if (extension == ".dat" || extension == ".cor") {
-                files.push_back(entry.path());
-            }
-        }
-    }
-    std::sort(files.begin(), files.end());
-    return files;
-}
 
 /// First letter of the box that belongs to a reading.
 char LetterOf(NaiveReading reading) {
@@ -107,7 +94,7 @@ std::map<std::string, int> SweepAll(const std::vector<fs::path> &files) {
 
 TEST(AirfoilFiles, OfTheBundledLibraryAreAllGood) {
     const std::vector<fs::path> files =
-        FilesOf(fs::path(LOFTWING_SOURCE_DIR) / "resources" / "airfoils");
+        AirfoilFilesOf(fs::path(LOFTWING_SOURCE_DIR) / "resources" / "airfoils");
     if (files.empty()) {
         GTEST_SKIP() << "no library in the sources";
     }
@@ -115,10 +102,9 @@ TEST(AirfoilFiles, OfTheBundledLibraryAreAllGood) {
 }
 
 TEST(AirfoilFiles, OfTheLargeCollectionAgreeWithSecondComputations) {
-    const std::vector<fs::path> files =
-        FilesOf(fs::path(LOFTWING_SOURCE_DIR) / ".." / "shared" / "airfoils");
+    const std::vector<fs::path> files = LargeCollection();
     if (files.empty()) {
-        GTEST_SKIP() << "the collection is not on this machine";
+        GTEST_SKIP() << kNoCollection;
     }
     EXPECT_GT(SweepAll(files)["complete"], 0);
 }

@@ -3,6 +3,7 @@
 #include "base/whole_file.h"
 #include "core/airfoil_reader.h"
 #include "core/contour.h"
+#include "support/airfoil_folders.h"
 #include "support/synthetic_airfoil.h"
 #include "support/words.h"
 
@@ -238,16 +239,13 @@ TEST_F(AirfoilImport, TheDeviationOfAnAirfoilAsReadIsThatOfItsImport) {
 }
 
 TEST_F(AirfoilImport, EveryFileOfTheLargeCollectionCanBeImported) {
-    const fs::path folder = fs::path(LOFTWING_SOURCE_DIR) / ".." / "shared" / "airfoils";
-    if (!fs::is_directory(folder)) {
-        GTEST_SKIP() << "the collection is not on this machine";
+    const std::vector<fs::path> files = LargeCollection();
+    if (files.empty()) {
+        GTEST_SKIP() << kNoCollection;
     }
-    for (const auto &entry : fs::directory_iterator(folder)) {
-        if (entry.path().extension() != ".dat") {
-            continue;
-        }
-        SCOPED_TRACE(entry.path().string());
-        const ImportedAirfoil airfoil = ImportAirfoil(ReadWholeFile(entry.path().string()));
+    for (const fs::path &path : files) {
+        SCOPED_TRACE(path.string());
+        const ImportedAirfoil airfoil = ImportAirfoil(ReadWholeFile(path.string()));
         EXPECT_LE(airfoil.after, kImportTolerance);
         Open(airfoil);
         Passes(airfoil.file);

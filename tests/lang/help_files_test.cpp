@@ -47,10 +47,11 @@ std::string Page(const std::string &language, const std::string &name) {
 
 /// What a tag's attribute has, everywhere on a page.
 std::vector<std::string> Values(const std::string &page, const std::string &attribute) {
-    const std::regex wanted(attribute + "=\"([^\"]*)\"");
+    const std::string wanted = " " + attribute + "=\"";
     std::vector<std::string> values;
-    for (std::sregex_iterator each(page.begin(), page.end(), wanted), end; each != end; ++each) {
-        values.push_back((*each)[1]);
+    for (std::size_t at = page.find(wanted); at != std::string::npos; at = page.find(wanted, at)) {
+        at += wanted.size();
+        values.push_back(page.substr(at, page.find('"', at) - at));
     }
     return values;
 }
