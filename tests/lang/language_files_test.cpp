@@ -72,13 +72,15 @@ std::string Listed(const std::set<Key> &keys, const std::set<Key> &others) {
     return text;
 }
 
-TEST(LanguageFiles, EnglishAndFrenchAreThere) {
+TEST(LanguageFiles, OfFourLanguagesAreThere) {
     std::set<std::string> names;
     for (const fs::path &file : LanguageFiles()) {
         names.insert(file.stem().string());
     }
     EXPECT_TRUE(names.contains("English"));
     EXPECT_TRUE(names.contains("French"));
+    EXPECT_TRUE(names.contains("German"));
+    EXPECT_TRUE(names.contains("Spanish"));
 }
 
 TEST(LanguageFiles, HoldEveryKeyThatTheProgramAsksFor) {
@@ -110,6 +112,29 @@ TEST(LanguageFiles, HoldNoValueLongerThanTheProgramReads) {
     for (const fs::path &file : LanguageFiles()) {
         for (const std::string &line : SplitLines(ReadWholeFile(file.string()))) {
             EXPECT_LE(CharacterCount(line.substr(line.find('=') + 1)), 199U) << line;
+        }
+    }
+}
+
+/// What must be alike in every language: what stands for something that the program puts in, file
+/// endings, the dots of an entry that opens a window, and a blank that holds a piece apart from the
+/// text in front of it.
+std::string Fixed(const std::string &value) {
+    const std::regex fixed(R"(%[0-9]|\*\.[a-z]+|\.\.\.$)");
+    std::string kept = value.starts_with(' ') ? "blank " : "";
+    for (std::sregex_iterator each(value.begin(), value.end(), fixed), end; each != end; ++each) {
+        kept += each->str() + " ";
+    }
+    return kept;
+}
+
+TEST(LanguageFiles, HoldTheSamePlaceholders) {
+    const IniFile english = IniFile::Read(LOFTWING_SOURCE_DIR "/resources/lng/English.lng");
+    for (const fs::path &path : LanguageFiles()) {
+        const IniFile file = IniFile::Read(path.string());
+        for (const auto &[section, key] : english.Keys()) {
+            EXPECT_EQ(Fixed(file.Value(section, key)), Fixed(english.Value(section, key)))
+                << path << " [" << section << "] " << key;
         }
     }
 }
