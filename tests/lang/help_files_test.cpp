@@ -48,7 +48,7 @@ std::string Page(const std::string &language, const std::string &name) {
 
 /// What a tag's attribute has, everywhere on a page.
 std::vector<std::string> Values(const std::string &page, const std::string &attribute) {
-    const std::string wanted = " " + attribute + "=\"";
+    const std::string wanted = attribute + "=\"";
     std::vector<std::string> values;
     for (std::size_t at = page.find(wanted); at != std::string::npos; at = page.find(wanted, at)) {
         at += wanted.size();
