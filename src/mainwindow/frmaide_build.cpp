@@ -7,6 +7,7 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QPushButton>
 #include <QShortcut>
 #include <QSplitter>
 #include <QStyle>

@@ -38,6 +38,7 @@ QPainterPath BoisDe(const Piece &piece) {
 
 std::vector<QPainterPath> BoisDe(const std::vector<Piece> &pieces, const QTransform &to) {
     std::vector<QPainterPath> wood;
+    wood.reserve(pieces.size());
     for (const Piece &piece : pieces) {
         wood.push_back(to.map(BoisDe(piece)));
     }

@@ -60,7 +60,7 @@ std::string DemandeDossier(const Programme &programme) {
 std::string ChercheArchive(const Programme &programme) {
     const Messages &messages = programme.messages;
     for (;;) {
-        const std::string found = ArchiveLa(CheminArchive(DemandeDossier(programme)));
+        std::string found = ArchiveLa(CheminArchive(DemandeDossier(programme)));
         programme.platform.SetPointer(Pointer::normal);
         if (!found.empty()) {
             return found;
