@@ -25,6 +25,7 @@ inline std::vector<std::filesystem::path> LargeCollection() {
     return files;
 }
 
-inline constexpr const char *kNoCollection = "no collection here, or not its turn: see LargeCollection";
+inline constexpr const char *kNoCollection =
+    "no collection here, or not its turn: see LargeCollection";
 
 } // namespace loftwing
