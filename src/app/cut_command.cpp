@@ -10,7 +10,6 @@
 #include "base/text_encoding.h"
 #include "core/contour.h"
 #include "output/sheeting.h"
-#include "output/view_screen.h"
 #include "programme/export.h"
 #include "programme/piece_words.h"
 #include "programme/qt_cut_forms.h"
@@ -168,11 +167,9 @@ std::optional<std::string> Cut(const Arguments &arguments, const FormeDecoupe &f
         return std::nullopt;
     }
     const Programme &programme = program.Owner();
-    const ReglageDecoupe settings{CouleursDe(programme.settings), programme.settings.Unite,
-                                  arguments.Has("--polylines") ? AnneauxDxf::polylignes
-                                                               : AnneauxDxf::lignes};
-    std::string bytes =
-        form.Ecrit({EnDessous(*pieces), NomDuDessin(programme.rib, programme.compare)}, settings);
+    const bool polylines = arguments.Has("--polylines");
+    std::string bytes = EcritDecoupe(programme, form, *pieces,
+                                     polylines ? AnneauxDxf::polylignes : AnneauxDxf::lignes);
     for (const Piece &piece : *pieces) {
         report.Tell(programme.messages, piece);
     }

@@ -161,6 +161,17 @@ std::vector<std::string> SplitLines(std::string_view text) {
     return lines;
 }
 
+char LowerAscii(char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
+
+std::string LowerAscii(std::string text) {
+    for (char &letter : text) {
+        letter = LowerAscii(letter);
+    }
+    return text;
+}
+
 std::string FirstCharacters(const std::string &text, std::size_t count) {
     return text.substr(0, PositionOf(text, count));
 }

@@ -24,6 +24,10 @@ std::u32string CodePoints(std::string_view text);
 /// The lines of `text`. CR LF and LF both end a line; a last line needs no end.
 std::vector<std::string> SplitLines(std::string_view text);
 
+/// Small letters for the capitals of the plain alphabet; all else stays, whatever the locale.
+char LowerAscii(char letter);
+std::string LowerAscii(std::string text);
+
 /// The first `count` characters of a UTF-8 text.
 std::string FirstCharacters(const std::string &text, std::size_t count);
 /// The last `count` characters of a UTF-8 text; all of it when it is shorter.

@@ -18,18 +18,14 @@ constexpr std::size_t kCheminFin = 10;
 constexpr std::size_t kMotifEtCrochet = 6;
 constexpr std::size_t kMotif = 5;
 
-// Capitals of the plain alphabet only: the order must not depend on the locale.
-char Minuscule(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 bool MemeLettre(char a, char b) {
-    return Minuscule(a) == Minuscule(b);
+    return LowerAscii(a) == LowerAscii(b);
 }
 
 bool Avant(const std::string &a, const std::string &b) {
     const auto less = [](char x, char y) {
-        return static_cast<unsigned char>(Minuscule(x)) < static_cast<unsigned char>(Minuscule(y));
+        return static_cast<unsigned char>(LowerAscii(x)) <
+               static_cast<unsigned char>(LowerAscii(y));
     };
     if (std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), less)) {
         return true;

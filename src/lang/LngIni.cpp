@@ -17,7 +17,7 @@ constexpr const char *kEnglish = "en";
 /// The two letters of a language; empty where its file doesn't tell or can't be read.
 std::string CodeOf(const std::string &folder, const std::string &name) {
     try {
-        const IniFile file = IniFile::Read((fs::path(folder) / (name + ".lng")).string());
+        const IniFile file = IniFile::Read(LngIni::Fichier(folder, name));
         return file.Value(kCode.section, kCode.key);
     } catch (const Failure &) {
         return {};
@@ -27,7 +27,7 @@ std::string CodeOf(const std::string &folder, const std::string &name) {
 } // namespace
 
 void LngIni::Charge(const std::string &folder, const std::string &name) {
-    const std::string path = (fs::path(folder) / (name + ".lng")).string();
+    const std::string path = Fichier(folder, name);
     texts_ = IniFile::Read(path);
     LangueCourante = name;
     FichierLng = path;
@@ -35,6 +35,10 @@ void LngIni::Charge(const std::string &folder, const std::string &name) {
 
 std::string LngIni::LngText(LngKey key) const {
     return texts_.Value(key.section, key.key);
+}
+
+std::string LngIni::Fichier(const std::string &folder, const std::string &name) {
+    return (fs::path(folder) / (name + ".lng")).string();
 }
 
 std::vector<std::string> LngIni::Languages(const std::string &folder) {

@@ -31,6 +31,8 @@ class LngIni {
     /// The text of a key, empty when the file hasn't it.
     std::string LngText(LngKey key) const;
 
+    /// The file of a language in `folder`.
+    static std::string Fichier(const std::string &folder, const std::string &name);
     /// Names of the languages in `folder`, sorted: its *.lng files without the extension.
     static std::vector<std::string> Languages(const std::string &folder);
     /// The name among these of the language that two letters ("fr") stand for; English where none

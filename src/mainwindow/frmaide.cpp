@@ -95,19 +95,18 @@ void frmaide::SuitLangue() {
 void frmaide::RemplitSommaire() {
     const QSignalBlocker quiet(Sommaire);
     Sommaire.clear();
+    QFont bold = Sommaire.font();
+    bold.setBold(true);
+    auto page = pages_.begin(); // they stand in the order of the contents
     for (const ChapitreAide &chapitre : ChapitresAide()) {
         auto *heading = new QTreeWidgetItem(&Sommaire, {Mot(chapitre.titre)});
         heading->setFlags(Qt::ItemIsEnabled);
-        QFont bold = Sommaire.font();
-        bold.setBold(true);
         heading->setFont(0, bold);
         for (const int contexte : chapitre.pages) {
-            const auto page = std::find_if(pages_.begin(), pages_.end(), [&](const PageAide &each) {
-                return each.contexte == contexte;
-            });
             auto *item = new QTreeWidgetItem(heading, {page->titre});
             item->setData(0, kRoleContexte, contexte);
             item->setToolTip(0, page->titre.toHtmlEscaped());
+            ++page;
         }
     }
     Sommaire.expandAll();

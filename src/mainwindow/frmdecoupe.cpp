@@ -49,7 +49,7 @@ void frmdecoupe::PoseTextes() {
     chkmarque[3].setText(Mot({"Piece", "112"}));
     chkmarque[kEtiquette].setText(Mot({"Piece", "106"}));
     txtetiquette.setAccessibleName(Mot({"Piece", "106"}));
-    txtetiquette.setPlaceholderText(Q(EtiquetteDuRib(programme_)));
+    txtetiquette.setPlaceholderText(Q(EtiquetteDuRib(programme_.rib, programme_.settings.Unite)));
     chkpolylignes.setText(Mot({"Piece", "114"}));
     cmdenregistrer.setText(Mot({"Piece", "116"}));
 }

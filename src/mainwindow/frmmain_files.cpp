@@ -62,19 +62,17 @@ void frmmain::Exporte(const EntreeExport &entree) {
 }
 
 void frmmain::mnu_filedecoupe_Click() {
-    Garde(" Main/mnu_filedecoupe", [this] {
-        if (!DemandeMarges(programme_, *this)) {
-            return;
-        }
-        // A rib that can't be drawn is told so, whatever else may be said of its piece.
-        PlotState plot = EtatAmorce(programme_.rib);
-        bool failed = false;
-        if (DessineVue(programme_, plot, failed)) {
-            MontreDecoupe(programme_, picture_->PlaceDuDessin(), this);
-        } else if (failed) {
-            affclear();
-        }
-    });
+    if (!DemandeMarges(programme_, *this)) {
+        return;
+    }
+    // A rib that can't be drawn is told so, whatever else may be said of its piece.
+    PlotState plot = EtatAmorce(programme_.rib);
+    bool failed = false;
+    if (DessineVue(programme_, plot, failed)) {
+        MontreDecoupe(programme_, picture_->PlaceDuDessin(), this);
+    } else if (failed) {
+        affclear();
+    }
 }
 
 } // namespace loftwing

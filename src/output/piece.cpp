@@ -32,7 +32,7 @@ double Longueur(const Anneau &ring) {
     double sum = 0;
     for (std::size_t i = 0; i < ring.size(); ++i) {
         const PointMm &a = ring[i];
-        const PointMm &b = ring[i + 1 == ring.size() ? 0 : i + 1];
+        const PointMm &b = Suivant(ring, i);
         sum += std::hypot(b.x - a.x, b.y - a.y);
     }
     return sum;

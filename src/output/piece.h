@@ -91,7 +91,9 @@ struct DemandePiece {
     bool axes = true;
     bool etiquette = true;
     bool talon = true;
-    std::string texte; ///< the label; empty: the rib's inserted text, or airfoil and chord
+    std::string texte; ///< the label; empty: that of EtiquetteDuRib
+
+    bool operator==(const DemandePiece &) const = default;
 };
 
 /// The piece of the rib as it is. The contour must have been prepared. Places of spars and holes
@@ -99,6 +101,9 @@ struct DemandePiece {
 /// plot has told. Failures as the plot's conversions, and 6 for a rib too large to be cut.
 std::variant<std::vector<Piece>, RefusPiece>
 FaitPieces(const RibModel &rib, const DemandePiece &demande, const Saisie &saisie);
+
+/// The rib's own label: its inserted text, or airfoil and chord with the unit.
+std::string EtiquetteDuRib(const RibModel &rib, const std::string &Unite);
 
 /// A box around all that is cut.
 struct BoitePiece {

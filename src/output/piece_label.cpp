@@ -12,7 +12,6 @@ namespace loftwing {
 namespace {
 
 constexpr double kMmParPoint = 25.4 / 72;
-constexpr double kCapitale = 0.716; // of a size of Arial
 constexpr double kMoins = 1.5;      // mm, the smallest letters that a laser burns legibly
 constexpr double kPlusPetit = 0.85; // from one size to the next
 /// Of a letter, in heights of capitals: wide enough for stroke fonts too, and under the line.
@@ -22,12 +21,7 @@ constexpr double kMarge = 0.3; // mm around the words
 constexpr int kColonnes = 160;
 
 std::string TexteEtiquette(const Etabli &etabli, const DemandePiece &demande) {
-    const RibModel &rib = etabli.rib;
-    if (!demande.texte.empty()) {
-        return demande.texte;
-    }
-    return !rib.texte.InsTexte.empty() ? rib.texte.InsTexte
-                                       : rib.NomProfil + " " + rib.cordeAfich + etabli.saisie.Unite;
+    return demande.texte.empty() ? EtiquetteDuRib(etabli.rib, etabli.saisie.Unite) : demande.texte;
 }
 
 /// Sizes of the words with capitals of some height.
@@ -55,7 +49,7 @@ std::vector<Plage> PlagesA(const Surface &wood, double x) {
     for (const Anneau &ring : wood) {
         for (std::size_t i = 0; i < ring.size(); ++i) {
             const PointMm &a = ring[i];
-            const PointMm &b = ring[i + 1 == ring.size() ? 0 : i + 1];
+            const PointMm &b = Suivant(ring, i);
             if ((a.x > x) != (b.x > x)) {
                 ys.push_back(a.y + (b.y - a.y) * ((x - a.x) / (b.x - a.x)));
             }
@@ -150,12 +144,17 @@ std::optional<PointMm> PlaceDonnee(const TexteInsere &texte) {
 
 } // namespace
 
+std::string EtiquetteDuRib(const RibModel &rib, const std::string &Unite) {
+    return !rib.texte.InsTexte.empty() ? rib.texte.InsTexte
+                                       : rib.NomProfil + " " + rib.cordeAfich + Unite;
+}
+
 void PlaceEtiquette(const Etabli &etabli, const DemandePiece &demande, const Surface &bois,
                     Piece &piece) {
     const std::string words = TexteEtiquette(etabli, demande);
     const std::size_t letters = CharacterCount(words);
     const TexteInsere &texte = etabli.rib.texte;
-    const double wanted = Wide(texte.TailleFont) * kMmParPoint * kCapitale;
+    const double wanted = Wide(texte.TailleFont) * kMmParPoint * kCapitales;
     if (letters == 0 || !(wanted > 0)) {
         return;
     }

@@ -27,7 +27,7 @@ class DroiteDansBois {
         cuts_ = {0, 1};
         for (const Anneau &ring : wood) {
             for (std::size_t i = 0; i < ring.size(); ++i) {
-                Croise(ring[i], ring[i + 1 == ring.size() ? 0 : i + 1]);
+                Croise(ring[i], Suivant(ring, i));
             }
         }
         std::sort(cuts_.begin(), cuts_.end());

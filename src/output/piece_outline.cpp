@@ -21,7 +21,7 @@ Silhouette::Silhouette(const Surface &surface) {
     for (const Anneau &ring : surface) {
         for (std::size_t i = 0; i < ring.size(); ++i) {
             const PointMm &a = ring[i];
-            const PointMm &b = ring[i + 1 == ring.size() ? 0 : i + 1];
+            const PointMm &b = Suivant(ring, i);
             aretes_.push_back(a.x <= b.x ? Arete{a, b} : Arete{b, a});
             all.push_back(a);
         }

@@ -29,7 +29,7 @@ template <class Test>
 bool ToutesAretes(const Surface &surface, Test test) {
     for (const Anneau &ring : surface) {
         for (std::size_t i = 0; i < ring.size(); ++i) {
-            if (!test(ring[i], ring[i + 1 == ring.size() ? 0 : i + 1])) {
+            if (!test(ring[i], Suivant(ring, i))) {
                 return false;
             }
         }

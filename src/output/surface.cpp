@@ -262,7 +262,7 @@ double Aire(const Anneau &ring) {
     double twice = 0;
     for (std::size_t i = 0; i < ring.size(); ++i) {
         const PointMm &a = ring[i];
-        const PointMm &b = ring[i + 1 == ring.size() ? 0 : i + 1];
+        const PointMm &b = Suivant(ring, i);
         // From the first point, so that a small ring far out loses no digits.
         twice += (a.x - ring[0].x) * (b.y - ring[0].y) - (b.x - ring[0].x) * (a.y - ring[0].y);
     }

@@ -17,6 +17,11 @@ struct PointMm {
 /// A closed ring: its last point joins the first, which isn't repeated.
 using Anneau = std::vector<PointMm>;
 
+/// The point behind the one at `i`, which is the first for the last.
+inline const PointMm &Suivant(const Anneau &ring, std::size_t i) {
+    return ring[i + 1 == ring.size() ? 0 : i + 1];
+}
+
 /// Outlines anticlockwise and the holes in them clockwise; no ring crosses itself or another one.
 using Surface = std::vector<Anneau>;
 

@@ -98,7 +98,7 @@ std::vector<Arete> AretesDe(const Anneau &ring) {
     edges.reserve(ring.size());
     for (std::size_t i = 0; i < ring.size(); ++i) {
         const PointMm &a = ring[i];
-        const PointMm &b = ring[i + 1 == ring.size() ? 0 : i + 1];
+        const PointMm &b = Suivant(ring, i);
         const double length = std::hypot(b.x - a.x, b.y - a.y);
         edges.push_back({{(b.y - a.y) / length, (a.x - b.x) / length}, length});
     }

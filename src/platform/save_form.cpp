@@ -1,25 +1,19 @@
 #include "platform/save_form.h"
 
 #include "base/failure.h"
+#include "base/text_encoding.h"
 
 #include <algorithm>
-#include <cctype>
 #include <filesystem>
 
 namespace loftwing {
 
 namespace {
 
-std::string Lower(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return text;
-}
-
 /// Without its point.
 std::string ExtensionOf(const std::string &path) {
     const std::string extension = std::filesystem::path(path).extension().string();
-    return extension.empty() ? extension : Lower(extension.substr(1));
+    return extension.empty() ? extension : LowerAscii(extension.substr(1));
 }
 
 } // namespace
@@ -47,7 +41,7 @@ std::vector<std::string> ExtensionsDe(const std::vector<std::string> &filters) {
         const std::size_t start = filter.rfind("(*.");
         const std::size_t end = filter.rfind(')');
         const bool there = start != std::string::npos && end != std::string::npos && end > start;
-        extensions.push_back(there ? Lower(filter.substr(start + 3, end - start - 3)) : "");
+        extensions.push_back(there ? LowerAscii(filter.substr(start + 3, end - start - 3)) : "");
     }
     return extensions;
 }

@@ -86,22 +86,9 @@ void RetientChoixDecoupe(const Programme &programme, const ChoixDecoupe &choix) 
 }
 
 DemandePiece DemandeDe(const ChoixDecoupe &choix, const std::string &texte) {
-    DemandePiece demande;
-    demande.saignee = choix.saignee;
-    demande.reference = choix.reference;
-    demande.stations = choix.stations;
-    demande.axes = choix.axes;
-    demande.etiquette = choix.etiquette;
-    demande.talon = choix.talon;
+    DemandePiece demande = choix;
     demande.texte = texte;
     return demande;
-}
-
-std::string EtiquetteDuRib(const Programme &programme) {
-    const RibModel &rib = programme.rib;
-    return !rib.texte.InsTexte.empty()
-               ? rib.texte.InsTexte
-               : rib.NomProfil + " " + rib.cordeAfich + programme.settings.Unite;
 }
 
 SaigneeLue LitSaignee(const std::string &text, const Programme &programme) {

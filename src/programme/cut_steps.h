@@ -13,13 +13,7 @@ namespace loftwing {
 inline constexpr double kSaigneeMaxi = 5.0; // mm
 
 /// What was chosen for cutting. The settings file remembers it.
-struct ChoixDecoupe {
-    double saignee = 0; ///< kerf, mm
-    bool reference = true;
-    bool stations = true;
-    bool axes = true;
-    bool etiquette = true;
-    bool talon = true;
+struct ChoixDecoupe : DemandePiece {
     bool polylignes = false; ///< of DXF
     std::string forme;       ///< extension of the form that was used last
 
@@ -32,8 +26,6 @@ void RetientChoixDecoupe(const Programme &programme, const ChoixDecoupe &choix);
 
 /// That choice with the words of a label, empty for the rib's own.
 DemandePiece DemandeDe(const ChoixDecoupe &choix, const std::string &texte);
-/// The rib's own.
-std::string EtiquetteDuRib(const Programme &programme);
 
 /// A kerf as it was typed.
 struct SaigneeLue {

@@ -1,11 +1,11 @@
 #include "programme/library_setup.h"
 
 #include "base/number_text.h"
+#include "base/text_encoding.h"
 #include "base/version.h"
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <filesystem>
 
 namespace loftwing {
@@ -18,12 +18,6 @@ constexpr const char *kArchive = "foilpack.exe";
 constexpr const char *kNomArchive = " Foilpack.exe";
 constexpr const char *kMotsQuestion = " \"Open Pack Sections\" Foilpack.exe ";
 constexpr int kAssezCherche = 20000; // files that are looked at for an airfoil
-
-std::string Minuscules(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
-    return text;
-}
 
 std::string CheminArchive(const std::string &dossier) {
     std::string path(Trim(dossier));
@@ -40,7 +34,7 @@ std::string ArchiveLa(const std::string &path) {
     for (fs::directory_iterator each(folder, error), end; !error && each != end;
          each.increment(error)) {
         std::error_code unknown;
-        if (Minuscules(each->path().filename().string()) == kArchive &&
+        if (LowerAscii(each->path().filename().string()) == kArchive &&
             each->is_regular_file(unknown)) {
             return each->path().string();
         }
@@ -112,7 +106,7 @@ bool SansProfil(const std::string &dossier) {
              each(dossier, fs::directory_options::skip_permission_denied, error),
          end;
          !error && each != end && seen < kAssezCherche; each.increment(error), ++seen) {
-        const std::string extension = Minuscules(each->path().extension().string());
+        const std::string extension = LowerAscii(each->path().extension().string());
         if (std::find(kProfils.begin(), kProfils.end(), extension) != kProfils.end()) {
             return false;
         }

@@ -1,7 +1,6 @@
 #include "programme/qt_cut_command.h"
 
 #include "base/whole_file.h"
-#include "output/view_screen.h"
 #include "platform/busy_pointer.h"
 #include "programme/nom_propose.h"
 #include "programme/qt_cut_forms.h"
@@ -45,11 +44,9 @@ std::string EnregistreDecoupe(const Programme &programme, const std::vector<Piec
     }
     const Sablier sablier(programme.platform);
     const FormeDecoupe &form = At(FormesDecoupe(), answer.form);
-    const ReglageDecoupe settings{CouleursDe(programme.settings), programme.settings.Unite,
-                                  choix.polylignes ? AnneauxDxf::polylignes : AnneauxDxf::lignes};
-    WriteWholeFile(
-        answer.path,
-        form.Ecrit({EnDessous(pieces), NomDuDessin(programme.rib, programme.compare)}, settings));
+    WriteWholeFile(answer.path,
+                   EcritDecoupe(programme, form, pieces,
+                                choix.polylignes ? AnneauxDxf::polylignes : AnneauxDxf::lignes));
     choix.forme = form.extension;
     RetientChoixDecoupe(programme, choix);
     return answer.path;

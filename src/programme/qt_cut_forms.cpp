@@ -1,9 +1,10 @@
 #include "programme/qt_cut_forms.h"
 
+#include "base/text_encoding.h"
 #include "output/qt_cut_pdf.h"
+#include "output/view_screen.h"
 
 #include <algorithm>
-#include <cctype>
 
 namespace loftwing {
 
@@ -24,14 +25,18 @@ const std::vector<FormeDecoupe> &FormesDecoupe() {
 }
 
 const FormeDecoupe *TrouveFormeDecoupe(const std::string &extension) {
-    std::string lower = extension;
-    std::transform(lower.begin(), lower.end(), lower.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    const std::string lower = LowerAscii(extension);
     const auto &forms = FormesDecoupe();
     const auto form = std::find_if(forms.begin(), forms.end(), [&](const FormeDecoupe &each) {
         return each.extension == lower;
     });
     return form == forms.end() ? nullptr : &*form;
+}
+
+std::string EcritDecoupe(const Programme &programme, const FormeDecoupe &forme,
+                         const std::vector<Piece> &pieces, AnneauxDxf anneaux) {
+    return forme.Ecrit({EnDessous(pieces), NomDuDessin(programme.rib, programme.compare)},
+                       {CouleursDe(programme.settings), programme.settings.Unite, anneaux});
 }
 
 } // namespace loftwing

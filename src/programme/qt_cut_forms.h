@@ -3,6 +3,7 @@
 #pragma once
 
 #include "output/cut_forms.h"
+#include "programme/programme.h"
 
 #include <functional>
 #include <string>
@@ -27,5 +28,9 @@ struct FormeDecoupe {
 const std::vector<FormeDecoupe> &FormesDecoupe();
 /// The form of an extension, case ignored; null for one that there isn't.
 const FormeDecoupe *TrouveFormeDecoupe(const std::string &extension);
+
+/// Pieces, each below the one before, as a file of that form, in the colours and the unit in force.
+std::string EcritDecoupe(const Programme &programme, const FormeDecoupe &forme,
+                         const std::vector<Piece> &pieces, AnneauxDxf anneaux);
 
 } // namespace loftwing

@@ -1,5 +1,6 @@
 #include "programme/qt_export_forms.h"
 
+#include "base/text_encoding.h"
 #include "base/version.h"
 #include "output/dxf.h"
 #include "output/print_run.h"
@@ -12,7 +13,6 @@
 #include "platform/qt_printer.h"
 
 #include <algorithm>
-#include <cctype>
 
 namespace loftwing {
 
@@ -128,9 +128,7 @@ const std::vector<ExportForm> &ExportForms() {
 }
 
 const ExportForm *FindExportForm(const std::string &extension, const std::string &variant) {
-    std::string lower = extension;
-    std::transform(lower.begin(), lower.end(), lower.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    const std::string lower = LowerAscii(extension);
     const auto &forms = ExportForms();
     const auto form = std::find_if(forms.begin(), forms.end(), [&](const ExportForm &each) {
         return each.extension == lower && each.variant == variant;

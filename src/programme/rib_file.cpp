@@ -1,5 +1,6 @@
 #include "programme/rib_file.h"
 
+#include "base/text_encoding.h"
 #include "base/version.h"
 #include "base/whole_file.h"
 #include "features/inserted_text.h"
@@ -7,7 +8,6 @@
 #include "programme/dossiers.h"
 
 #include <algorithm>
-#include <cctype>
 #include <filesystem>
 
 namespace loftwing {
@@ -132,10 +132,7 @@ OuvertureComposants LitProfil(Programme &programme, const DemandeComposants &dem
 } // namespace
 
 bool EstComposants(const std::string &path) {
-    std::string extension = fs::path(path).extension().string();
-    std::transform(extension.begin(), extension.end(), extension.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return extension == ".lfw";
+    return LowerAscii(fs::path(path).extension().string()) == ".lfw";
 }
 
 OuvertureComposants OuvreComposants(Programme &programme, const DemandeComposants &demande) {

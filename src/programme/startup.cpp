@@ -3,8 +3,6 @@
 #include "base/version.h"
 #include "programme/load.h"
 
-#include <filesystem>
-
 namespace loftwing {
 
 namespace {
@@ -52,8 +50,7 @@ void Charge(Programme &programme, const std::string &name) {
         language.Charge(programme.paths.langues, name);
     } catch (const Failure &failure) {
         language.LangueCourante = name;
-        language.FichierLng =
-            (std::filesystem::path(programme.paths.langues) / (name + ".lng")).string();
+        language.FichierLng = LngIni::Fichier(programme.paths.langues, name);
         programme.messages.Report(failure, " GetINIFile");
     }
 }

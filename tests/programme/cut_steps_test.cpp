@@ -114,9 +114,9 @@ TEST_F(CutSteps, TheRibsOwnLabelIsItsTextOrAirfoilAndChord) {
     Rib().NomProfil = "e205";
     Rib().cordeAfich = "180";
     Rib().texte.InsTexte = "";
-    EXPECT_EQ(EtiquetteDuRib(programme), "e205 180 mm");
+    EXPECT_EQ(EtiquetteDuRib(programme.rib, programme.settings.Unite), "e205 180 mm");
     Rib().texte.InsTexte = "Root left";
-    EXPECT_EQ(EtiquetteDuRib(programme), "Root left");
+    EXPECT_EQ(EtiquetteDuRib(programme.rib, programme.settings.Unite), "Root left");
 }
 
 } // namespace
