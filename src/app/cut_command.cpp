@@ -150,7 +150,8 @@ std::optional<std::vector<Piece>> PiecesOf(const Arguments &arguments, ConsolePr
     complete = prepared == Preparation::complete;
     Programme &programme = program.Owner();
     auto made =
-        FaitPieces(programme.rib, DemandOf(arguments, programme), programme.SaisieEnCours());
+        FaitPieces(programme.rib, AvecNoms(programme.messages, DemandOf(arguments, programme)),
+                   programme.SaisieEnCours());
     if (const auto *refusal = std::get_if<RefusPiece>(&made)) {
         programme.messages.Inform(TexteRefus(programme.messages, *refusal), file);
         return std::nullopt;

@@ -24,9 +24,9 @@ void MontreTexte(QLabel &label, const std::string &text) {
 
 frmdecoupe::frmdecoupe(Programme &programme, QWidget *parent)
     : Dialogue(programme, "frmdecoupe", kAideDecoupe, parent), choix_(LitChoixDecoupe(programme)),
-      Picture1(this), Label1(this), txtsaignee(this), Label2(this), Frame1(this),
-      txtetiquette(&Frame1), chkpolylignes(this), lblmesures(this), lblavis(this),
-      lblenregistre(this), cmdenregistrer(this) {
+      Picture1(this), Label1(this), txtsaignee(this), Label2(this), Label3(this), txtfil(this),
+      Label4(this), Frame1(this), txtetiquette(&Frame1), chkpolylignes(this), lblmesures(this),
+      lblavis(this), lblenregistre(this), cmdenregistrer(this) {
     NameAll();
     PoseTextes();
     PoseBulles();
@@ -41,7 +41,10 @@ void frmdecoupe::PoseTextes() {
                      NomDuDessin(programme_.rib, programme_.compare)));
     Picture1.setAccessibleName(Mot({"Piece", "125"}));
     Label1.setText(Mot({"Piece", "104"}));
-    Label2.setText(Q(programme_.settings.Unite).trimmed());
+    Label3.setText(Mot({"Piece", "126"}));
+    for (QLabel *unit : {&Label2, &Label4}) {
+        unit->setText(Q(programme_.settings.Unite).trimmed());
+    }
     Frame1.setTitle(Mot({"Piece", "108"}));
     chkmarque[0].setText(Mot({"Piece", "109"}));
     chkmarque[1].setText(Mot({"Piece", "110"}));
@@ -56,14 +59,22 @@ void frmdecoupe::PoseTextes() {
 
 void frmdecoupe::PoseBulles() {
     SetTip(txtsaignee, programme_.Text({"Piece", "105"}));
+    SetTip(txtfil, programme_.Text({"Piece", "127"}));
     SetTip(txtetiquette, programme_.Text({"Piece", "107"}));
     SetTip(chkpolylignes, programme_.Text({"Piece", "115"}));
     SetTip(cmdenregistrer, programme_.Text({"Piece", "117"}));
 }
 
 void frmdecoupe::MontreChoix() {
-    AdmetLongueur(txtsaignee);
-    txtsaignee.setText(Q(Trim(DepuisMm(choix_.saignee, programme_.settings.Unite))));
+    const auto montre = [this](NumericField &field, double mm) {
+        AdmetLongueur(field);
+        field.setText(Q(Trim(DepuisMm(mm, programme_.settings.Unite))));
+    };
+    montre(txtsaignee, choix_.saignee);
+    montre(txtfil, choix_.fil);
+    for (QWidget *control : std::initializer_list<QWidget *>{&Label3, &txtfil, &Label4}) {
+        control->setVisible(programme_.rib.TypeGabarit == kGabaritMousse);
+    }
     for (int i = 0; i < kMarques; ++i) {
         At(chkmarque, i).setChecked(choix_.*At(kCases, i));
     }
@@ -79,15 +90,33 @@ void frmdecoupe::PrendChoix() {
     txtetiquette.setEnabled(choix_.etiquette);
 }
 
+/// Why one of the widths is none; empty where all are.
+std::string frmdecoupe::PrendLargeurs() {
+    const auto prend = [this](Largeur width, NumericField &field, double &mm) {
+        if (!field.isVisibleTo(this)) {
+            return std::string();
+        }
+        const LargeurLue read = LitLargeur(width, S(field.text()), programme_);
+        if (read.refus.empty()) {
+            mm = read.mm;
+        } else {
+            fautif_ = &field;
+        }
+        return read.refus;
+    };
+    fautif_ = nullptr;
+    const std::string refused = prend(Largeur::saignee, txtsaignee, choix_.saignee);
+    return refused.empty() ? prend(Largeur::fil, txtfil, choix_.fil) : refused;
+}
+
 /// Makes the pieces as the fields have it.
 void frmdecoupe::Refait() {
     PrendChoix();
-    const SaigneeLue kerf = LitSaignee(S(txtsaignee.text()), programme_);
-    if (kerf.refus.empty()) {
-        choix_.saignee = kerf.mm;
+    const std::string refused = PrendLargeurs();
+    if (refused.empty()) {
         faites_ = FaitPiecesDuRib(programme_, DemandeDe(choix_, S(txtetiquette.text().trimmed())));
     } else {
-        faites_ = {{}, kerf.refus};
+        faites_ = {{}, refused};
     }
     Picture1.Montre(EnDessous(faites_.pieces), CouleursDe(programme_.settings));
     lblmesures.setText(
@@ -99,7 +128,7 @@ void frmdecoupe::Refait() {
 void frmdecoupe::cmdenregistrer_Click() {
     if (!faites_.refus.empty()) {
         programme_.messages.Inform(faites_.refus, Titre());
-        SelectField(txtsaignee);
+        SelectField(fautif_ == nullptr ? txtsaignee : *fautif_);
         return;
     }
     const std::string path = EnregistreDecoupe(programme_, faites_.pieces, choix_);

@@ -32,11 +32,15 @@ class frmdecoupe : public Dialogue {
 
     ChoixDecoupe choix_;
     PiecesFaites faites_;
+    NumericField *fautif_ = nullptr; ///< the field that says no width
 
     PiecePicture Picture1;
     QLabel Label1;
     NumericField txtsaignee;
     QLabel Label2;
+    QLabel Label3;
+    NumericField txtfil; ///< for a foam template only
+    QLabel Label4;
     QGroupBox Frame1;
     std::array<QCheckBox, kMarques> chkmarque;
     QLineEdit txtetiquette;
@@ -56,6 +60,7 @@ class frmdecoupe : public Dialogue {
     void PoseBulles();
     void MontreChoix();
     void PrendChoix();
+    std::string PrendLargeurs();
     void Refait();
     void cmdenregistrer_Click();
 };

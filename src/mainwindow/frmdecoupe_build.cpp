@@ -11,7 +11,7 @@ namespace loftwing {
 namespace {
 
 constexpr double kShareOfScreen = 0.9;
-constexpr int kDigits = 8; // of a kerf
+constexpr int kDigits = 8; // of a width
 
 } // namespace
 
@@ -20,6 +20,9 @@ void frmdecoupe::NameAll() {
                   {&Label1, "Label1"},
                   {&txtsaignee, "txtsaignee"},
                   {&Label2, "Label2"},
+                  {&Label3, "Label3"},
+                  {&txtfil, "txtfil"},
+                  {&Label4, "Label4"},
                   {&Frame1, "Frame1"},
                   {&txtetiquette, "txtetiquette"},
                   {&chkpolylignes, "chkpolylignes"},
@@ -31,21 +34,26 @@ void frmdecoupe::NameAll() {
 }
 
 void frmdecoupe::LayOut() {
-    PlainText({&Label1, &Label2, &lblmesures, &lblavis, &lblenregistre});
+    PlainText({&Label1, &Label2, &Label3, &Label4, &lblmesures, &lblavis, &lblenregistre});
     for (QLabel *label : {&lblmesures, &lblavis, &lblenregistre}) {
         // Words that come and go, and long paths, break rather than widen the window.
         label->setWordWrap(true);
         label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
     }
-    SetCaption(Label1, txtsaignee);
-    txtsaignee.setMaximumWidth(txtsaignee.fontMetrics().horizontalAdvance(QString(kDigits, '0')) +
-                               2 * txtsaignee.fontMetrics().averageCharWidth());
-    auto *kerf = new QHBoxLayout;
-    kerf->addWidget(&Label1);
-    kerf->addWidget(&txtsaignee);
-    kerf->addWidget(&Label2);
-    kerf->addStretch();
+    const auto width = [](QLabel &caption, NumericField &field, QLabel &unit) {
+        SetCaption(caption, field);
+        field.setMaximumWidth(field.fontMetrics().horizontalAdvance(QString(kDigits, '0')) +
+                              2 * field.fontMetrics().averageCharWidth());
+        auto *row = new QHBoxLayout;
+        row->addWidget(&caption);
+        row->addWidget(&field);
+        row->addWidget(&unit);
+        row->addStretch();
+        return row;
+    };
+    auto *kerf = width(Label1, txtsaignee, Label2);
     kerf->addWidget(&chkpolylignes);
+    auto *wire = width(Label3, txtfil, Label4);
     auto *marks = new QGridLayout(&Frame1);
     for (int i = 0; i < kEtiquette; ++i) {
         marks->addWidget(&At(chkmarque, i), i / 2, i % 2);
@@ -58,6 +66,7 @@ void frmdecoupe::LayOut() {
     rows->addWidget(&lblmesures);
     rows->addWidget(&lblavis);
     rows->addLayout(kerf);
+    rows->addLayout(wire);
     rows->addWidget(&Frame1);
     rows->addWidget(&lblenregistre);
     PoseBoutons(*rows, {&cmdenregistrer, SharedWord::close, SharedWord::help});
@@ -68,7 +77,8 @@ void frmdecoupe::LayOut() {
 
 void frmdecoupe::Connect() {
     const auto refait = [this] { Garde(" frmdecoupe/Refait", [this] { Refait(); }); };
-    for (QLineEdit *field : {static_cast<QLineEdit *>(&txtsaignee), &txtetiquette}) {
+    for (QLineEdit *field :
+         std::initializer_list<QLineEdit *>{&txtsaignee, &txtfil, &txtetiquette}) {
         connect(field, &QLineEdit::textChanged, this, refait);
     }
     for (QCheckBox &box : chkmarque) {

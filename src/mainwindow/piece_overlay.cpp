@@ -35,7 +35,7 @@ void PieceOverlay::Montre(bool shown) {
 
 void PieceOverlay::Pose() {
     // Kept, since a redraw that is refused leaves the drawing but not the rib as they were.
-    place_ = PlaceVue(programme_.rib, programme_.compare);
+    place_ = PlaceProfil(programme_.rib, programme_.compare);
     Retrace();
 }
 

@@ -46,6 +46,16 @@ void RetourneAnneau(Anneau &ring) {
     std::reverse(ring.begin(), ring.end());
 }
 
+/// The label, and the piece as the view has it.
+void Acheve(const Etabli &etabli, const DemandePiece &demande, const Surface &wood, Piece &piece) {
+    if (demande.etiquette) {
+        PlaceEtiquette(etabli, TexteEtiquette(etabli, demande, piece.genre), wood, piece);
+    }
+    if (etabli.rib.AffHaut) {
+        Retourne(piece);
+    }
+}
+
 Piece FaitNervure(const Etabli &etabli, const DemandePiece &demande) {
     Piece piece;
     std::vector<Avis> avis;
@@ -58,19 +68,36 @@ Piece FaitNervure(const Etabli &etabli, const DemandePiece &demande) {
     const Surface wood = bois.Tout();
     RegardeBois(wood, piece.avis);
     piece.avis.insert(piece.avis.end(), avis.begin(), avis.end());
-    TraceMarques(etabli, demande, wood, piece);
+    TraceMarques(etabli, demande, etabli.faces.Boite(), wood, piece);
     if (demande.talon) {
         for (Ligne &line : separation) {
             piece.traits.push_back({GenreMarque::talon, std::move(line)});
         }
     }
-    if (demande.etiquette) {
-        PlaceEtiquette(etabli, demande, wood, piece);
-    }
-    if (etabli.rib.AffHaut) {
-        Retourne(piece);
-    }
+    Acheve(etabli, demande, wood, piece);
     return piece;
+}
+
+Piece FaitGabarit(const Etabli &etabli, const DemandePiece &demande, GenrePiece genre) {
+    Piece piece;
+    piece.genre = genre;
+    const Surface wood = FaitBloc(etabli, demande.fil, genre);
+    piece.parties = FaitParties({wood, {}}, demande.saignee);
+    RegardeBois(wood, piece.avis);
+    TraceMarques(etabli, demande, BoiteAutour(wood.front()), wood, piece);
+    if (demande.stations) {
+        NumeroteStations(etabli, wood, piece);
+    }
+    Acheve(etabli, demande, wood, piece);
+    return piece;
+}
+
+std::vector<Piece> FaitTout(const Etabli &etabli, const DemandePiece &demande) {
+    if (etabli.rib.TypeGabarit != kGabaritMousse) {
+        return {FaitNervure(etabli, demande)};
+    }
+    return {FaitGabarit(etabli, demande, GenrePiece::gabarit_extrados),
+            FaitGabarit(etabli, demande, GenrePiece::gabarit_intrados)};
 }
 
 } // namespace
@@ -129,11 +156,8 @@ void Retourne(Piece &piece) {
 
 std::variant<std::vector<Piece>, RefusPiece>
 FaitPieces(const RibModel &rib, const DemandePiece &demande, const Saisie &saisie) {
-    if (rib.TypeGabarit == kGabaritMousse) {
-        return RefusPiece{RefusDePiece::gabarit};
-    }
     try {
-        return std::vector<Piece>{FaitNervure(PrepareEtabli(rib, saisie), demande)};
+        return FaitTout(PrepareEtabli(rib, saisie), demande);
     } catch (const RefusPiece &refusal) {
         return refusal;
     }

@@ -62,7 +62,7 @@ enum class RefusDePiece {
     longeron_sans_surface, ///< the outline has no height where spar `numero` stands
     talon_dans_profil,     ///< the heel's foot isn't wholly outside the airfoil
     sans_bois,             ///< nothing is left
-    gabarit,               ///< foam templates aren't made into pieces
+    hors_bloc,             ///< the wire's path leaves the block of the foam template
 };
 
 struct RefusPiece {
@@ -92,11 +92,14 @@ struct DemandePiece {
     bool etiquette = true;
     bool talon = true;
     std::string texte; ///< the label; empty: that of EtiquetteDuRib
+    /// What the label of a foam template ends with, so that nobody takes one for the other.
+    std::string nom_extrados, nom_intrados;
 
     bool operator==(const DemandePiece &) const = default;
 };
 
-/// The piece of the rib as it is. The contour must have been prepared. Places of spars and holes
+/// The piece of the rib as it is; where it has a foam template, that one's two pieces instead, the
+/// upper one first. The contour must have been prepared. Places of spars and holes
 /// and heel margins are taken from their texts; one that is no length counts as 0, of which the
 /// plot has told. Failures as the plot's conversions, and 6 for a rib too large to be cut.
 std::variant<std::vector<Piece>, RefusPiece>

@@ -20,10 +20,6 @@ constexpr double kJambage = 0.3;
 constexpr double kMarge = 0.3; // mm around the words
 constexpr int kColonnes = 160;
 
-std::string TexteEtiquette(const Etabli &etabli, const DemandePiece &demande) {
-    return demande.texte.empty() ? EtiquetteDuRib(etabli.rib, etabli.saisie.Unite) : demande.texte;
-}
-
 /// Sizes of the words with capitals of some height.
 struct Gabarit {
     double hauteur, largeur;
@@ -149,9 +145,22 @@ std::string EtiquetteDuRib(const RibModel &rib, const std::string &Unite) {
                                        : rib.NomProfil + " " + rib.cordeAfich + Unite;
 }
 
-void PlaceEtiquette(const Etabli &etabli, const DemandePiece &demande, const Surface &bois,
+std::string TexteEtiquette(const Etabli &etabli, const DemandePiece &demande, GenrePiece genre) {
+    const std::string words =
+        demande.texte.empty() ? EtiquetteDuRib(etabli.rib, etabli.saisie.Unite) : demande.texte;
+    const std::string &name = genre == GenrePiece::gabarit_extrados   ? demande.nom_extrados
+                              : genre == GenrePiece::gabarit_intrados ? demande.nom_intrados
+                                                                      : "";
+    return name.empty() ? words : words + ", " + name;
+}
+
+bool MotsDansBois(const Surface &bois, const PointMm &place, double hauteur,
+                  const std::string &words) {
+    return BoiteDans(bois, Gabarit(hauteur, CharacterCount(words)).Boite(place));
+}
+
+void PlaceEtiquette(const Etabli &etabli, const std::string &words, const Surface &bois,
                     Piece &piece) {
-    const std::string words = TexteEtiquette(etabli, demande);
     const std::size_t letters = CharacterCount(words);
     const TexteInsere &texte = etabli.rib.texte;
     const double wanted = Wide(texte.TailleFont) * kMmParPoint * kCapitales;

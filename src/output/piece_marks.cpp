@@ -94,30 +94,33 @@ void AjouteVerticale(GenreMarque genre, const BoitePiece &box, double x, const S
     AjouteDroite(genre, {x, box.bas_gauche.y}, {x, box.haut_droite.y}, wood, piece);
 }
 
-void TraceStations(const Etabli &etabli, const Surface &wood, Piece &piece) {
-    if (etabli.rib.NbRep == 0) {
-        return;
-    }
-    const int parts = etabli.rib.NbRep + 1;
-    for (int i = 0; i <= parts; ++i) {
-        AjouteVerticale(GenreMarque::station, etabli.faces.Boite(), etabli.corde / parts * i, wood,
-                        piece);
-    }
-}
-
 } // namespace
 
-void TraceMarques(const Etabli &etabli, const DemandePiece &demande, const Surface &bois,
-                  Piece &piece) {
+std::vector<double> PlacesStations(const RibModel &rib) {
+    std::vector<double> places;
+    if (rib.NbRep == 0) {
+        return places;
+    }
+    const int parts = rib.NbRep + 1;
+    for (int i = 0; i <= parts; ++i) {
+        places.push_back(Wide(rib.corde) / parts * i);
+    }
+    return places;
+}
+
+void TraceMarques(const Etabli &etabli, const DemandePiece &demande, const BoitePiece &etendue,
+                  const Surface &bois, Piece &piece) {
     if (demande.reference) {
         AjouteDroite(GenreMarque::reference, {0, 0}, {etabli.corde, 0}, bois, piece);
     }
     if (demande.stations) {
-        TraceStations(etabli, bois, piece);
+        for (const double place : PlacesStations(etabli.rib)) {
+            AjouteVerticale(GenreMarque::station, etendue, place, bois, piece);
+        }
     }
     if (demande.axes) {
         for (const double place : PlacesLongerons(etabli.rib, etabli.saisie)) {
-            AjouteVerticale(GenreMarque::axe, etabli.faces.Boite(), place, bois, piece);
+            AjouteVerticale(GenreMarque::axe, etendue, place, bois, piece);
         }
     }
 }

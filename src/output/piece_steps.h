@@ -79,10 +79,25 @@ Bois TailleBois(const Etabli &etabli, std::vector<Avis> &avis, std::vector<Ligne
 bool BoiteDans(const Surface &surface, const BoitePiece &box);
 
 // Marks
-void TraceMarques(const Etabli &etabli, const DemandePiece &demande, const Surface &bois,
-                  Piece &piece);
-void PlaceEtiquette(const Etabli &etabli, const DemandePiece &demande, const Surface &bois,
+/// `etendue` is how far upright marks reach.
+void TraceMarques(const Etabli &etabli, const DemandePiece &demande, const BoitePiece &etendue,
+                  const Surface &bois, Piece &piece);
+/// Where station lines stand, mm from the leading edge; none where the rib has none.
+std::vector<double> PlacesStations(const RibModel &rib);
+/// The label of a rib's piece, or of one of its templates.
+std::string TexteEtiquette(const Etabli &etabli, const DemandePiece &demande, GenrePiece genre);
+/// `words` where the user has put the inserted text, or where there is room.
+void PlaceEtiquette(const Etabli &etabli, const std::string &words, const Surface &bois,
                     Piece &piece);
+/// Whether words lie in the wood, `place` being the left end of the line that they stand on.
+bool MotsDansBois(const Surface &bois, const PointMm &place, double hauteur,
+                  const std::string &words);
+
+// Foam template
+/// The block below the wire's path on one surface of the airfoil, a single ring.
+Surface FaitBloc(const Etabli &etabli, double fil, GenrePiece genre);
+/// The numbers of the station lines at the foot of a template.
+void NumeroteStations(const Etabli &etabli, const Surface &bois, Piece &piece);
 
 // End
 /// Parts of the wood with its kerf.

@@ -1,7 +1,9 @@
 #include "output/view_screen.h"
 
 #include "base/version.h"
+#include "core/stations.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace loftwing {
@@ -99,6 +101,15 @@ PlaceEcran PlaceVue(const RibModel &rib, const Comparaison &compare) {
         PlaceRib(rib, plot);
     }
     return {Wide(plot.OrigineX), Wide(plot.OrigineY), Wide(rib.Zoom)};
+}
+
+PlaceEcran PlaceProfil(const RibModel &rib, const Comparaison &compare) {
+    PlaceEcran place = PlaceVue(rib, compare);
+    if (rib.TypeGabarit == kGabaritMousse && RibVisible(rib)) {
+        const double leaning = -Wide(rib.bloc.HTbasbloc) * std::sin(EnRadians(Wide(rib.vrillage)));
+        place.x += (Wide(rib.bloc.BAbloc) + std::max(leaning, 0.0)) * kUnitsPerMm * Wide(rib.Zoom);
+    }
+    return place;
 }
 
 bool DefileEnHauteur(const RibModel &rib) {

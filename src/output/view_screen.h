@@ -20,6 +20,8 @@ Affichage afficheVue(const Trace &trace, const Comparaison &compare);
 
 /// Where that lies on the screen. Failure 6 beyond 32 bits.
 PlaceEcran PlaceVue(const RibModel &rib, const Comparaison &compare);
+/// Where its leading edge stands on the reference line: behind the ramp of a foam template.
+PlaceEcran PlaceProfil(const RibModel &rib, const Comparaison &compare);
 
 /// Whether a view moves with the vertical scroll bar. Views whose height is fixed start at the top.
 bool DefileEnHauteur(const RibModel &rib);

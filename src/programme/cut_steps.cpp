@@ -22,14 +22,17 @@ constexpr std::array<std::pair<const char *, bool ChoixDecoupe::*>, 6> kCases = 
      {"Talon", &ChoixDecoupe::talon},
      {"Polylignes", &ChoixDecoupe::polylignes}}};
 
-bool SaigneePossible(double mm) {
+constexpr std::array<std::pair<const char *, double ChoixDecoupe::*>, 2> kLargeurs = {
+    {{"Saignee", &ChoixDecoupe::saignee}, {"Fil", &ChoixDecoupe::fil}}};
+
+bool LargeurPossible(double mm) {
     return mm >= 0 && mm <= kSaigneeMaxi;
 }
 
 double NombreRetenu(const std::string &text) {
     try {
         const double mm = LeadingNumber(text);
-        return SaigneePossible(mm) ? mm : 0;
+        return LargeurPossible(mm) ? mm : 0;
     } catch (const Failure &) {
         return 0;
     }
@@ -66,7 +69,9 @@ std::string Mesures(const Messages &messages, const Piece &piece, const std::str
 ChoixDecoupe LitChoixDecoupe(const Programme &programme) {
     const IniFile file = IniFile::Read(programme.paths.fichier);
     ChoixDecoupe choix;
-    choix.saignee = NombreRetenu(file.Value(kSection, "Saignee"));
+    for (const auto &[key, width] : kLargeurs) {
+        choix.*width = NombreRetenu(file.Value(kSection, key));
+    }
     for (const auto &[key, ticked] : kCases) {
         const std::string value = file.Value(kSection, key);
         choix.*ticked = value.empty() ? choix.*ticked : value == "1";
@@ -77,7 +82,9 @@ ChoixDecoupe LitChoixDecoupe(const Programme &programme) {
 
 void RetientChoixDecoupe(const Programme &programme, const ChoixDecoupe &choix) {
     IniFile file = IniFile::Read(programme.paths.fichier);
-    file.SetValue(kSection, "Saignee", NumberText(choix.saignee));
+    for (const auto &[key, width] : kLargeurs) {
+        file.SetValue(kSection, key, NumberText(choix.*width));
+    }
     for (const auto &[key, ticked] : kCases) {
         file.SetValue(kSection, key, choix.*ticked ? "1" : "0");
     }
@@ -91,17 +98,20 @@ DemandePiece DemandeDe(const ChoixDecoupe &choix, const std::string &texte) {
     return demande;
 }
 
-SaigneeLue LitSaignee(const std::string &text, const Programme &programme) {
+LargeurLue LitLargeur(Largeur largeur, const std::string &text, const Programme &programme) {
+    const bool kerf = largeur == Largeur::saignee;
     const std::string &Unite = programme.settings.Unite;
-    const std::string no_length = programme.Text({"Piece", "122"});
+    const std::string no_length =
+        programme.Text(kerf ? LngKey{"Piece", "122"} : LngKey{"Piece", "128"});
+    const std::string too_wide =
+        programme.Text(kerf ? LngKey{"Piece", "123"} : LngKey{"Piece", "129"});
     if (EstRefusee(text, Unite)) {
         return {0, no_length};
     }
     try {
         const double mm = NombreMm(text, programme.SaisieEnCours());
-        if (!SaigneePossible(mm)) {
-            return {0, programme.Text({"Piece", "123"}) + " " + DepuisMm(kSaigneeMaxi, Unite) +
-                           Unite + "."};
+        if (!LargeurPossible(mm)) {
+            return {0, too_wide + " " + DepuisMm(kSaigneeMaxi, Unite) + Unite + "."};
         }
         return {mm, {}};
     } catch (const Failure &) {
@@ -111,7 +121,8 @@ SaigneeLue LitSaignee(const std::string &text, const Programme &programme) {
 
 PiecesFaites FaitPiecesDuRib(const Programme &programme, const DemandePiece &demande) {
     try {
-        auto made = FaitPieces(programme.rib, demande, programme.SaisieEnCours());
+        auto made = FaitPieces(programme.rib, AvecNoms(programme.messages, demande),
+                               programme.SaisieEnCours());
         if (const auto *refusal = std::get_if<RefusPiece>(&made)) {
             return {{}, TexteRefus(programme.messages, *refusal)};
         }

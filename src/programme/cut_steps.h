@@ -9,7 +9,8 @@
 
 namespace loftwing {
 
-/// The widest kerf of a field: no tool that cuts ribs has one, so it is a slip of the keys.
+/// The widest kerf of a field, and the most that a wire melts: no tool that cuts ribs has one, so
+/// it is a slip of the keys.
 inline constexpr double kSaigneeMaxi = 5.0; // mm
 
 /// What was chosen for cutting. The settings file remembers it.
@@ -20,20 +21,23 @@ struct ChoixDecoupe : DemandePiece {
     bool operator==(const ChoixDecoupe &) const = default;
 };
 
-/// What the settings file has; a kerf that can't be is 0. Failures as IniFile::Read.
+/// What the settings file has; a width that can't be is 0. Failures as IniFile::Read.
 ChoixDecoupe LitChoixDecoupe(const Programme &programme);
 void RetientChoixDecoupe(const Programme &programme, const ChoixDecoupe &choix);
 
 /// That choice with the words of a label, empty for the rib's own.
 DemandePiece DemandeDe(const ChoixDecoupe &choix, const std::string &texte);
 
-/// A kerf as it was typed.
-struct SaigneeLue {
+/// What is taken away by a tool: its kerf, or what a hot wire melts.
+enum class Largeur { saignee, fil };
+
+/// Such a width as it was typed.
+struct LargeurLue {
     double mm = 0;
     std::string refus; ///< why it is none, empty where it is one
 };
 /// Shows no box: the text may not be whole yet.
-SaigneeLue LitSaignee(const std::string &text, const Programme &programme);
+LargeurLue LitLargeur(Largeur largeur, const std::string &text, const Programme &programme);
 
 struct PiecesFaites {
     std::vector<Piece> pieces;

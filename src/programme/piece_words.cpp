@@ -44,10 +44,16 @@ std::string TexteRefus(const Messages &messages, const RefusPiece &refus) {
         return messages.Text({"Piece", "12"});
     case RefusDePiece::sans_bois:
         return messages.Text({"Piece", "13"});
-    case RefusDePiece::gabarit:
+    case RefusDePiece::hors_bloc:
         return messages.Text({"Piece", "14"});
     }
     return {};
+}
+
+DemandePiece AvecNoms(const Messages &messages, DemandePiece demande) {
+    demande.nom_extrados = NomDePiece(messages, GenrePiece::gabarit_extrados);
+    demande.nom_intrados = NomDePiece(messages, GenrePiece::gabarit_intrados);
+    return demande;
 }
 
 std::string NomDePiece(const Messages &messages, GenrePiece genre) {

@@ -20,4 +20,7 @@ std::string TexteRefus(const Messages &messages, const RefusPiece &refus);
 /// "upper template"; empty for a rib.
 std::string NomDePiece(const Messages &messages, GenrePiece genre);
 
+/// What is asked for, with the names of templates for their labels.
+DemandePiece AvecNoms(const Messages &messages, DemandePiece demande);
+
 } // namespace loftwing

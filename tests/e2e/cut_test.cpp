@@ -344,11 +344,36 @@ TEST_F(CutReport, ARibWithoutAPieceIsRefusedInWordsAndLeavesNoFile) {
     EXPECT_FALSE(fs::exists(out));
 }
 
-TEST_F(CutReport, AFoamTemplateIsRefusedInWords) {
-    const Ran ran = Cut(LadenRib("1", false), {"-o", folder.Path("no.svg"), "--wire", "1"});
+TEST_F(CutReport, AFoamTemplateIsTwoPiecesAndTheWireLowersBoth) {
+    ComponentsText rib = LadenRib("1", false);
+    rib.washout = "0"; // ends that stand upright
+    const std::string out = folder.Path("foam.svg");
+    const auto areas = [&](const std::string &wire) {
+        const Ran ran = Cut(rib, {"-o", out, "--wire", wire, "--json"});
+        EXPECT_EQ(ran.status, 0) << ran.err;
+        const std::vector<std::string> lines = LinesOf(ran.out);
+        EXPECT_EQ(lines.size(), 2U);
+        if (lines.size() != 2) {
+            return std::array{0.0, 0.0};
+        }
+        EXPECT_THAT(lines[0], HasSubstr("\"piece\": \"upper\""));
+        EXPECT_THAT(lines[1], HasSubstr("\"piece\": \"lower\""));
+        return std::array{Number(lines[0], "area"), Number(lines[1], "area")};
+    };
+    const auto plain = areas("0");
+    const auto melted = areas("1");
+    const double length = std::stod(rib.chord) + std::stod(rib.ramp) + std::stod(rib.tail_ramp);
+    EXPECT_NEAR(plain[0] - melted[0], length / 2, 0.05);
+    EXPECT_NEAR(plain[1] - melted[1], length / 2, 0.05);
+    EXPECT_GT(plain[0], plain[1]);
+}
+
+TEST_F(CutReport, ATemplateTooLowForItsWireIsRefusedInWords) {
+    ComponentsText rib = LadenRib("1", false);
+    rib.below = "1";
+    const Ran ran = Cut(rib, {"-o", folder.Path("no.svg")});
     EXPECT_EQ(ran.status, 1);
-    EXPECT_EQ(ran.err,
-              folder.Path("rib.lfw") + ": No piece can be made: foam templates have none yet.\n");
+    EXPECT_THAT(ran.err, HasSubstr("No template can be made: the wire's path leaves the block."));
     EXPECT_FALSE(fs::exists(folder.Path("no.svg")));
 }
 

@@ -108,11 +108,6 @@ TEST_F(PieceBody, NothingLeftIsRefused) {
     EXPECT_EQ(Refusee().cause, RefusDePiece::sans_bois);
 }
 
-TEST_F(PieceBody, AFoamTemplateIsRefused) {
-    rib.TypeGabarit = kGabaritMousse;
-    EXPECT_EQ(Refusee(), (RefusPiece{RefusDePiece::gabarit, 0}));
-}
-
 TEST_F(PieceBody, AChordBeyondAllMeasuresIsAFailure) {
     rib.corde = 1e30F;
     EXPECT_THROW(Fait(), Failure);

@@ -12,7 +12,9 @@ class CutSteps : public StepsWorld {
     std::string Measures(const std::vector<Piece> &pieces) {
         return TexteMesures(programme.messages, pieces, programme.settings.Unite);
     }
-    SaigneeLue Kerf(const std::string &text) { return LitSaignee(text, programme); }
+    LargeurLue Kerf(const std::string &text) {
+        return LitLargeur(Largeur::saignee, text, programme);
+    }
 };
 
 // A board of 40 by 20 mm without a square of 5 by 4 and a circle of 7: 800 - 20 - 38.48 mm2, and
@@ -61,6 +63,36 @@ TEST_F(CutSteps, AKerfIsALengthUpToFiveMillimetres) {
         EXPECT_EQ(Kerf(text).refus, "The kerf is no length.") << text;
     }
     EXPECT_TRUE(platform.boxes.empty());
+}
+
+TEST_F(CutSteps, WhatAWireMeltsIsHeldToTheSameLimitInItsOwnWords) {
+    const auto wire = [this](const char *text) {
+        return LitLargeur(Largeur::fil, text, programme);
+    };
+    EXPECT_EQ(wire("0.8").mm, 0.8);
+    EXPECT_EQ(wire("5.001").refus, "What the wire melts must not be wider than 5 mm.");
+    programme.settings.Unite = kUniteIn;
+    EXPECT_EQ(wire("1/0").refus, "What the wire melts is no length.");
+}
+
+TEST_F(CutSteps, BothPiecesOfATemplateAreMadeWithTheirNames) {
+    Rib().TypeGabarit = kGabaritMousse;
+    Rib().bloc.HTbasbloc = 40;
+    Rib().corde = 100;
+    for (const auto &[x, y] : {std::pair{1.0, 0.1}, {0.0, 0.1}, {0.0, -0.1}, {1.0, -0.1}}) {
+        Rib().ContourX.Append(x);
+        Rib().ContourY.Append(y);
+        ++Rib().NbContour;
+    }
+    const PiecesFaites made = FaitPiecesDuRib(programme, DemandeDe({}, "root"));
+    ASSERT_EQ(made.refus, "");
+    ASSERT_EQ(made.pieces.size(), 2U);
+    ASSERT_EQ(made.pieces[1].textes.size(), 1U);
+    EXPECT_EQ(made.pieces[1].textes[0].texte, "root, Lower template");
+    Rib().bloc.HTbasbloc = 0;
+    EXPECT_EQ(FaitPiecesDuRib(programme, {}).refus,
+              "No template can be made: the wire's path leaves the block. Give the template more "
+              "height under the reference line, or longer ramps.");
 }
 
 TEST_F(CutSteps, TheFirstChoiceIsAllMarksAndNoKerf) {

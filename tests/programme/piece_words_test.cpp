@@ -35,7 +35,7 @@ TEST_F(PieceWords, ARefusalNamesItsSpar) {
     EXPECT_EQ(Refusal(RefusDePiece::longeron_sans_surface, 4), "At spar 4 nothing.");
     EXPECT_EQ(Refusal(RefusDePiece::talon_dans_profil), "Foot.");
     EXPECT_EQ(Refusal(RefusDePiece::sans_bois), "No wood.");
-    EXPECT_EQ(Refusal(RefusDePiece::gabarit), "Foam.");
+    EXPECT_EQ(Refusal(RefusDePiece::hors_bloc), "Foam.");
 }
 
 TEST_F(PieceWords, WarningsOfATemplateSayWhichOne) {

@@ -22,6 +22,7 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
+using testing::StartsWith;
 
 namespace fs = std::filesystem;
 
@@ -268,6 +269,38 @@ TEST_F(Decoupage, ASavedChoiceIsRemembered) {
     });
     world.programme.settings.Unite = kUniteIn;
     Use([](Seen &dialog) { EXPECT_EQ(dialog.Text("txtsaignee"), "0.006"); });
+}
+
+TEST_F(Decoupage, OnlyATemplateAsksWhatTheWireMelts) {
+    Use([](Seen &dialog) { EXPECT_FALSE(dialog.Shown("txtfil")); });
+    Rib().TypeGabarit = kGabaritMousse;
+    Rib().bloc.HTbasbloc = 30;
+    Use([this](Seen &dialog) {
+        EXPECT_EQ(dialog.Text("txtfil"), "0");
+        // From the foot at -30 to the top of the airfoil at 12 mm.
+        EXPECT_THAT(dialog.Label("lblmesures"), StartsWith("Upper template. "));
+        EXPECT_THAT(dialog.Label("lblmesures"),
+                    HasSubstr("size 200 \xC3\x97 42 mm\nLower template"));
+        dialog.Type("txtfil", "1");
+        EXPECT_THAT(dialog.Label("lblmesures"), HasSubstr("size 200 \xC3\x97 41.5 mm\n"));
+        Save(dialog, Out("foam.svg"));
+        DemandePiece demande;
+        demande.fil = 1;
+        demande.nom_extrados = "Upper template";
+        demande.nom_intrados = "Lower template";
+        EXPECT_EQ(world.folder.Bytes("foam.svg"), SvgOf(demande));
+    });
+    EXPECT_EQ(Remembered("Fil"), "1");
+    Use([this](Seen &dialog) {
+        EXPECT_EQ(dialog.Text("txtfil"), "1");
+        dialog.Type("txtfil", "6");
+        EXPECT_EQ(dialog.Label("lblavis"), "What the wire melts must not be wider than 5 mm.");
+        world.platform.Expect(BoxAnswer::ok,
+                              {.text = "What the wire melts must not be wider than 5 mm.",
+                               .title = "Export for cutting : naca0012"});
+        dialog.Click("cmdenregistrer");
+        EXPECT_TRUE(dialog.FocusedAndSelected("txtfil"));
+    });
 }
 
 TEST_F(Decoupage, CancelChangesNothing) {
