@@ -4,6 +4,7 @@
 #include "app/console_program.h"
 #include "app/drawing_target.h"
 #include "app/rib_options.h"
+#include "app/stack_command.h"
 #include "core/contour.h"
 #include "programme/modele.h"
 #include "programme/rib_file.h"
@@ -15,44 +16,71 @@ namespace {
 const DrawingVerb kDraw = {"draw", kVueRib, 1, "a FILE"};
 constexpr const char *kOn = "--on";
 
-std::optional<std::string> DrawPrepared(ConsoleProgram &program, const DrawingTarget &target,
-                                        Preparation prepared, bool &complete) {
-    if (prepared == Preparation::impossible) {
-        return std::nullopt;
-    }
-    program.WarnOfDeviation();
-    complete = prepared == Preparation::complete;
-    return Dessine(program.Owner(), target);
-}
-
-std::optional<std::string> DrawRib(const Arguments &arguments, const DrawingTarget &target,
-                                   const std::string &file, bool &complete) {
-    ConsoleProgram program(arguments);
+/// Opens a FILE with the options' values.
+Preparation PrepareRib(const Arguments &arguments, ConsoleProgram &program,
+                       const std::string &file) {
     Programme &programme = program.Owner();
     ApplyPageOptions(arguments, programme);
     if (!program.Ouvre(file, arguments.Values("--airfoils")) ||
         !ApplyRibOptions(arguments, programme)) {
-        return std::nullopt;
+        return Preparation::impossible;
     }
-    return DrawPrepared(program, target, PrepareContour(programme.rib, programme.messages),
-                        complete);
+    return PrepareContour(programme.rib, programme.messages);
 }
 
-std::optional<std::string> DrawOn(const Arguments &arguments, const DrawingTarget &target,
-                                  const Modele &modele, const std::string &airfoil,
-                                  bool &complete) {
-    ConsoleProgram program(arguments);
+/// Puts a rib's features on an airfoil, with the options' values.
+Preparation PrepareOn(const Arguments &arguments, const Modele &modele, ConsoleProgram &program,
+                      const std::string &airfoil) {
     Programme &programme = program.Owner();
     ApplyPageOptions(arguments, programme);
     PrendModele(programme.rib, modele);
     if (!program.ChoisitProfil(airfoil)) {
-        return std::nullopt;
+        return Preparation::impossible;
     }
     MetSurProfil(programme.rib, programme.SaisieEnCours());
     if (!ApplyRibOptions(arguments, programme)) {
-        return std::nullopt;
+        return Preparation::impossible;
     }
-    return DrawPrepared(program, target, FinitSurProfil(programme, modele), complete);
+    return FinitSurProfil(programme, modele);
+}
+
+/// The same with the warning of a contour that leaves its points.
+PrepareFile Warning(const PrepareFile &prepare) {
+    return [prepare](ConsoleProgram &program, const std::string &file) {
+        const Preparation prepared = prepare(program, file);
+        if (prepared != Preparation::impossible) {
+            program.WarnOfDeviation();
+        }
+        return prepared;
+    };
+}
+
+/// Draws all `files`, each for itself or on shared pages.
+int DrawFiles(const Arguments &arguments, const std::vector<std::string> &files,
+              const PrepareFile &prepare_only) {
+    const PrepareFile prepare = Warning(prepare_only);
+    if (arguments.Has(kStacked)) {
+        return DrawStacked(arguments, kDraw, files, prepare);
+    }
+    return DrawAll(arguments, kDraw, files,
+                   [&](const DrawingTarget &target, const std::vector<std::string> &each,
+                       bool &complete) -> std::optional<std::string> {
+                       ConsoleProgram program(arguments);
+                       const Preparation prepared = prepare(program, each.front());
+                       if (prepared == Preparation::impossible) {
+                           return std::nullopt;
+                       }
+                       complete = prepared == Preparation::complete;
+                       return Dessine(program.Owner(), target);
+                   });
+}
+
+void CheckTarget(const Arguments &arguments, const std::vector<std::string> &files) {
+    if (arguments.Has(kStacked)) {
+        TargetOfStack(arguments, kDraw, files);
+    } else {
+        TargetOf(arguments, kDraw, files);
+    }
 }
 
 int RunDrawOn(const Arguments &arguments) {
@@ -61,17 +89,15 @@ int RunDrawOn(const Arguments &arguments) {
         throw UsageError("--on wants one rib components file (.lfw) to put on airfoils");
     }
     const std::vector<std::string> airfoils = arguments.Values(kOn);
-    TargetOf(arguments, kDraw, airfoils); // wrong usage is told before a file is read
+    CheckTarget(arguments, airfoils); // wrong usage is told before a file is read
     ConsoleProgram reader(arguments);
     const auto modele = LitModele(reader.Owner(), files.front());
     if (!modele) {
         return kRefused;
     }
-    return DrawAll(
-        arguments, kDraw, airfoils,
-        [&](const DrawingTarget &target, const std::vector<std::string> &each, bool &complete) {
-            return DrawOn(arguments, target, *modele, each.front(), complete);
-        });
+    return DrawFiles(arguments, airfoils, [&](ConsoleProgram &program, const std::string &airfoil) {
+        return PrepareOn(arguments, *modele, program, airfoil);
+    });
 }
 
 std::vector<OptionRule> AirfoilsOption() {
@@ -85,7 +111,8 @@ std::vector<OptionRule> AirfoilsOption() {
 
 std::vector<OptionRule> DrawOptions() {
     std::vector<OptionRule> rules = DrawingOptions(kDraw);
-    for (const auto &more : {AirfoilsOption(), RibOptions(), PageOptions(), ReadingOptions()}) {
+    for (const auto &more :
+         {AirfoilsOption(), StackOptions(), RibOptions(), PageOptions(), ReadingOptions()}) {
         rules.insert(rules.end(), more.begin(), more.end());
     }
     return rules;
@@ -95,11 +122,10 @@ int RunDraw(const Arguments &arguments) {
     if (arguments.Has(kOn)) {
         return RunDrawOn(arguments);
     }
-    return DrawAll(arguments, kDraw, arguments.Files(),
-                   [&arguments](const DrawingTarget &target, const std::vector<std::string> &files,
-                                bool &complete) {
-                       return DrawRib(arguments, target, files.front(), complete);
-                   });
+    return DrawFiles(arguments, arguments.Files(),
+                     [&arguments](ConsoleProgram &program, const std::string &file) {
+                         return PrepareRib(arguments, program, file);
+                     });
 }
 
 } // namespace loftwing

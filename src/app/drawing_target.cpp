@@ -184,14 +184,16 @@ DrawingTarget TargetOf(const Arguments &arguments, const DrawingVerb &verb,
     return target;
 }
 
+ReglagePage PageAsTyped(Programme &programme) {
+    return {[&programme] { return HasOverlap(programme); },
+            {"--reference-line-at", "--margin-before", "--margin-after", "--paper", "--rows"},
+            false};
+}
+
 std::optional<std::string> Dessine(Programme &programme, const DrawingTarget &target) {
     // Nothing was shown before: the form that goes on from the last plot starts primed as well.
     programme.plot = EtatAmorce(programme.rib);
-    const ReglagePage page{
-        [&programme] { return HasOverlap(programme); },
-        {"--reference-line-at", "--margin-before", "--margin-after", "--paper", "--rows"},
-        false};
-    Exported exported = target.form->Export(programme, page);
+    Exported exported = target.form->Export(programme, PageAsTyped(programme));
     if (exported.rupture) {
         throw *exported.rupture;
     }

@@ -63,6 +63,10 @@ int DeliverAll(const Arguments &arguments, const DrawingVerb &verb,
                const std::vector<std::string> &files, const Destination &destination,
                const Make &make);
 
+/// What a print run asks about its page, of somebody who has typed the page's options and can't be
+/// asked: several sheets must have their overlap.
+ReglagePage PageAsTyped(Programme &programme);
+
 /// Exports the current view of a program that has shown nothing yet. A PDF of several sheets must
 /// have its overlap, for which nobody can be asked. Nothing when it was refused; a line told why.
 /// Failures as the form's.

@@ -91,4 +91,40 @@ double Recording::Text(double x, double y, const std::string &text, const TextFo
     return advance;
 }
 
+namespace {
+
+/// Puts operations on a device, each with its own pen or font.
+struct Redrawing {
+    PlotDevice &device;
+    double dx, dy;
+
+    void Take(const Pen &pen) const {
+        device.DrawWidth = pen.width;
+        device.DrawStyle = static_cast<int>(pen.style);
+    }
+    void operator()(const DrawnSegment &line) const {
+        Take(line.pen);
+        device.Line(line.x1 + dx, line.y1 + dy, line.x2 + dx, line.y2 + dy, line.pen.colour);
+    }
+    void operator()(const DrawnCircle &circle) const {
+        Take(circle.pen);
+        device.Circle(circle.x + dx, circle.y + dy, circle.radius, circle.pen.colour);
+    }
+    void operator()(const DrawnText &text) const {
+        device.Font = text.font;
+        device.ForeColor = text.colour;
+        device.CurrentX = text.x + dx;
+        device.CurrentY = text.y + dy;
+        device.Print(text.text);
+    }
+};
+
+} // namespace
+
+void Redraw(const Recording &recording, PlotDevice &device, double dx, double dy) {
+    for (const Operation &operation : recording.Operations()) {
+        std::visit(Redrawing{device, dx, dy}, operation);
+    }
+}
+
 } // namespace loftwing

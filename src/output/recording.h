@@ -61,4 +61,8 @@ class Recording : public PlotDevice {
     std::vector<Operation> operations_;
 };
 
+/// Draws a recording again on another device, shifted by (dx, dy) device units. What the device
+/// draws with is then what was drawn last.
+void Redraw(const Recording &recording, PlotDevice &device, double dx = 0, double dy = 0);
+
 } // namespace loftwing

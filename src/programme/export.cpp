@@ -24,9 +24,6 @@ std::unique_ptr<Recording> DessineVue(Programme &programme, PlotState &plot, boo
     return result == Affichage::dessine ? std::move(recording) : nullptr;
 }
 
-namespace {
-
-/// Today as 2031-05-24.
 std::string DateDuJour() {
     const std::time_t now = std::time(nullptr);
     std::array<char, 16> text{};
@@ -34,8 +31,6 @@ std::string DateDuJour() {
         std::strftime(text.data(), text.size(), "%Y-%m-%d", std::localtime(&now));
     return {text.data(), length};
 }
-
-} // namespace
 
 Impression ImpressionDeVue(Programme &programme, PlotState &plot) {
     RibModel &rib = programme.rib;

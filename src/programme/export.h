@@ -20,6 +20,9 @@ namespace loftwing {
 std::unique_ptr<Recording> DessineVue(Programme &programme, PlotState &plot, bool &failed,
                                       Recording::Measure measure = MeasuredAdvance);
 
+/// Today as 2031-05-24, as sheets have it.
+std::string DateDuJour();
+
 /// A print run of the current view. It works on the plot state given, at the scale of paper.
 Impression ImpressionDeVue(Programme &programme, PlotState &plot);
 
