@@ -46,6 +46,7 @@ bool Open(const Arguments &arguments, const std::string &file, const PrepareFile
 Programs OpenAll(const Arguments &arguments, const std::vector<std::string> &files,
                  const PrepareFile &prepare, bool &complete) {
     Programs programs;
+    programs.reserve(files.size());
     bool all = true;
     complete = true;
     for (const std::string &file : files) {

@@ -52,6 +52,7 @@ std::string Pile::Etiquette(const NervureEmpilee &nervure) const {
 
 std::vector<TailleDessin> Pile::Tailles() const {
     std::vector<TailleDessin> sizes;
+    sizes.reserve(dessins_.size());
     for (const auto &dessin : dessins_) {
         sizes.push_back(dessin->Taille());
     }
@@ -67,6 +68,7 @@ NoteTemoin Pile::Note() const {
 void Pile::Enregistre() {
     const Sablier sablier(demande_.messages.platform);
     dessins_.clear();
+    dessins_.reserve(demande_.nervures.size());
     for (const NervureEmpilee &nervure : demande_.nervures) {
         ReprendLongueur(nervure.rib); // of a template, which a rib from a file has none of yet
         dessins_.push_back(

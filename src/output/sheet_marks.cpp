@@ -18,26 +18,14 @@ constexpr double kTrait = 4.0;    // mm, the tick at the end of an arm
 constexpr double kTraitPas = 2.0; // those between
 constexpr double kRetrait = 6.0;  // from the arms to the note
 constexpr double kEcart = 2.0;    // from everything drawn
-constexpr double kTaille = 8.0;   // of the note's letters, points
-constexpr double kLigne = 1.2 * kTaille * kUnitsPerPoint / kUnitsPerMm; // mm
+constexpr double kLigne = 1.2 * kTailleNote * kUnitsPerPoint / kUnitsPerMm; // mm
 
 bool EnPouces(const std::string &Unite) {
     return Unite == kUniteIn;
 }
 
 double LargeurTexte(const std::string &text) {
-    return MeasuredAdvance(text, {"Arial", kTaille}) / kUnitsPerMm;
-}
-
-std::string Raccourci(const std::string &text, double width) {
-    if (LargeurTexte(text) <= width) {
-        return text;
-    }
-    std::string start = text;
-    while (!start.empty() && LargeurTexte(start + "...") > width) {
-        start = FirstCharacters(start, CharacterCount(start) - 1);
-    }
-    return start + "...";
+    return MeasuredAdvance(text, {"Arial", kTailleNote}) / kUnitsPerMm;
 }
 
 /// Adds a text to the lines of a note, a new line where the width is used up.
@@ -181,6 +169,17 @@ void TraceBras(Crayon &pen, const PlaceTemoin &place, double step) {
 
 } // namespace
 
+std::string Raccourci(const std::string &text, double width) {
+    if (LargeurTexte(text) <= width) {
+        return text;
+    }
+    std::string start = text;
+    while (!start.empty() && LargeurTexte(start + "...") > width) {
+        start = FirstCharacters(start, CharacterCount(start) - 1);
+    }
+    return start + "...";
+}
+
 FeuilleTemoin FeuilleAvecMarges(double longueur, double hauteur, double avant, double apres) {
     const double left = std::max(kBordTemoin, avant);
     const double right = std::max(kBordTemoin, apres);
@@ -238,7 +237,7 @@ void TraceTemoin(PlotDevice &device, const PlaceTemoin &place, const std::string
     device.DrawWidth = 1;
     device.DrawStyle = 0;
     device.ForeColor = 0;
-    device.Font = {"Arial", kTaille};
+    device.Font = {"Arial", kTailleNote};
     Crayon pen(device);
     TraceBras(pen, place, EnPouces(Unite) ? kPouce / 2 : 10.0);
     double y = place.note.haut;

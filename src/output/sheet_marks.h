@@ -32,6 +32,11 @@ struct NoteTemoin {
     std::string Unite;
 };
 
+inline constexpr double kTailleNote = 8.0; // of the note's letters, points
+
+/// A line in letters of that size, shortened to "..." where it is longer than `width` mm.
+std::string Raccourci(const std::string &text, double width);
+
 /// Where a check line stands: an L, whose arms go from a corner along the rib and across it.
 struct PlaceTemoin {
     double x = 0; ///< the corner of the L, mm

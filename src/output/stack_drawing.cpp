@@ -1,6 +1,7 @@
 #include "output/stack_drawing.h"
 
 #include "output/rib_plot.h"
+#include "output/sheet_marks.h"
 #include "output/sheeting.h"
 
 #include <algorithm>
@@ -11,9 +12,10 @@ namespace loftwing {
 
 namespace {
 
-constexpr double kTaille = 8.0; // of a label's letters, points
+constexpr double kTaille = kTailleNote; // of a label's letters, points
 constexpr double kHauteur = 1.2 * kTaille * kUnitsPerPoint / kUnitsPerMm;
-constexpr double kJeu = 1.0; // around it, mm
+constexpr double kJeu = 1.0;       // around it, mm
+constexpr double kPlusLong = 60.0; // that it may always be, mm
 
 Etendue BoiteEn(double x, double y, double width) {
     return {x, y, x + width, y + kHauteur};
@@ -65,14 +67,15 @@ std::optional<Etendue> CoinLibre(const Etendue &boite, double width,
 
 void EcritEtiquette(const std::string &words, const Metre &metre, Recording &trace) {
     const Etendue boite = metre.Tout();
-    const double width = MeasuredAdvance(words, {"Arial", kTaille}) / kUnitsPerMm;
+    const std::string shown = Raccourci(words, std::max(boite.droite - boite.gauche, kPlusLong));
+    const double width = MeasuredAdvance(shown, {"Arial", kTaille}) / kUnitsPerMm;
     const Etendue place = CoinLibre(boite, width, metre.encres)
                               .value_or(BoiteEn(boite.gauche, boite.bas + kJeu, width));
     trace.Font = {"Arial", kTaille};
     trace.ForeColor = 0;
     trace.CurrentX = place.gauche * kUnitsPerMm;
     trace.CurrentY = place.haut * kUnitsPerMm;
-    trace.Print(words);
+    trace.Print(shown);
 }
 
 void Dessine(RibModel &rib, const AppSettings &settings, const Messages &messages,

@@ -20,12 +20,15 @@ struct DessinEmpile {
     Etendue boite;               ///< all that is drawn, mm
     std::vector<Etendue> encres; ///< boxes of what is drawn, mm
 
-    TailleDessin Taille() const { return {boite.droite - boite.gauche, boite.bas - boite.haut}; }
+    TailleDessin Taille() const {
+        return boite.Vide() ? TailleDessin{}
+                            : TailleDessin{boite.droite - boite.gauche, boite.bas - boite.haut};
+    }
 };
 
 /// Draws a rib from a primed plot state, as its switches say. Where its inserted text isn't drawn
-/// the label stands in a corner that the drawing leaves free, otherwise under it. A failure of the
-/// plot passes on with the label.
+/// the label stands in a corner that the drawing leaves free, otherwise under it; it is shortened
+/// where it is longer than the drawing. A failure of the plot passes on with the label.
 std::unique_ptr<DessinEmpile> EnregistreDessin(RibModel &rib, const AppSettings &settings,
                                                const Messages &messages,
                                                const std::string &etiquette);

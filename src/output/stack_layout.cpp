@@ -99,6 +99,7 @@ std::vector<FeuilleEmpilee> Travail::Empile(Maniere maniere) const {
         }
     }
     std::vector<FeuilleEmpilee> filled;
+    filled.reserve(feuilles.size());
     for (const Feuille &feuille : feuilles) {
         filled.push_back(feuille.Dessins());
     }

@@ -36,12 +36,20 @@ Impression NervureTuilee::Run() {
             demande_.date};
 }
 
-bool NervureTuilee::Regle() {
-    if (!demande_.regle || !demande_.regle()) {
-        return false;
-    }
+void NervureTuilee::PrendRecouvrement() {
     settings_.page.recouvrement = demande_.settings.page.recouvrement;
     settings_.page.recouvrementAfich = demande_.settings.page.recouvrementAfich;
+}
+
+/// The overlap that was set up for one rib counts for the next ones too.
+bool NervureTuilee::Regle() {
+    PrendRecouvrement();
+    if (settings_.page.recouvrement == 0.0F) {
+        if (!demande_.regle || !demande_.regle()) {
+            return false;
+        }
+        PrendRecouvrement();
+    }
     return true;
 }
 

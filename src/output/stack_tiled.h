@@ -24,6 +24,7 @@ class NervureTuilee {
     PlotState plot_;
 
     Impression Run();
+    void PrendRecouvrement();
     bool Regle();
     std::optional<FinImpression> Avertit();
 };

@@ -320,6 +320,16 @@ TEST_F(Stack, ALabelWithoutAFreeCornerStandsUnderTheDrawing) {
     EXPECT_NEAR(lines[1].y1 - lines[0].y1, alone + 1 + 192 / kMm, 0.05);
 }
 
+TEST_F(Stack, ALabelIsNoLongerThanItsDrawing) {
+    Add(200).rib.texte.InsTexte = std::string(120, 'm'); // 282 mm of 8 points
+    const auto sheets = Print();
+    ASSERT_THAT(sheets, SizeIs(1));
+    ASSERT_THAT(feuilles.feuilles, SizeIs(1)); // it doesn't make the rib too long for a sheet
+    const auto texts = TextsOf(sheets[0]);
+    EXPECT_THAT(texts, Contains(testing::MatchesRegex("m+\\.\\.\\.")));
+    ExpectWithin(sheets[0], room);
+}
+
 TEST_F(Stack, InchesHaveTheirCheckLineAndLabel) {
     RibWorld &world = Add(203.2);
     world.rib.cordeAfich = "8";
@@ -371,8 +381,9 @@ TEST_F(Stack, AMissingOverlapIsAskedFor) {
         Page().recouvrement = 20;
         return true;
     };
-    EXPECT_THAT(Print(), SizeIs(3));
-    EXPECT_EQ(asked, 1);
+    Add(500); // two sheets
+    EXPECT_THAT(Print(), SizeIs(5));
+    EXPECT_EQ(asked, 1); // for both
 }
 
 TEST_F(Stack, ADrawingHigherThanTheSheetIsARunOfItsOwnAndTold) {

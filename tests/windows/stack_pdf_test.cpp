@@ -123,8 +123,10 @@ TEST_F(StackPdf, HeelAndTemplateAreHeldApart) {
     ASSERT_EQ(second.size(), 1U);
     ASSERT_EQ(third.size(), 1U);
     EXPECT_NEAR(second[0].x(), 10 + 15, kTrue); // behind the ramp
-    // The template reaches 40 mm above and 20 below the line, and the third rib is 5 mm under it.
-    EXPECT_NEAR(third[0].y() - second[0].y(), 20 + 5 + 160 * 0.0788, 0.2);
+    // The template reaches 20 mm below the line and fills its box, so its label of 8 points stands
+    // a millimetre under it; 5 mm from there is the top of the third rib.
+    const double label = 1 + 1.2 * 8 * 20 / 56.7;
+    EXPECT_NEAR(third[0].y() - second[0].y(), 20 + label + 5 + 160 * 0.0792, kTrue);
     ExpectInside(pdf, 1);
 }
 
