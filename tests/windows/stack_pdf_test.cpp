@@ -13,8 +13,8 @@
 namespace loftwing {
 namespace {
 
-constexpr double kTrue = 0.05; // mm
-constexpr double kPastEnds = 2 / 56.7;
+constexpr double kStackTrue = 0.05; // mm
+constexpr double kStackPastEnds = 2 / 56.7;
 
 /// Ribs of the bundled airfoils on A4, whose room is 272 x 190 mm.
 class StackPdf : public testing::Test {
@@ -44,8 +44,8 @@ class StackPdf : public testing::Test {
         std::vector<QPointF> starts;
         for (const QPolygonF &line : pdf.Lines(page)) {
             const QPointF way = line.back() - line.front();
-            if (line.size() == 2 && std::abs(way.y()) < kTrue &&
-                std::abs(std::abs(way.x()) - length) < kTrue) {
+            if (line.size() == 2 && std::abs(way.y()) < kStackTrue &&
+                std::abs(std::abs(way.x()) - length) < kStackTrue) {
                 starts.push_back(line.front());
             }
         }
@@ -75,9 +75,9 @@ TEST_F(StackPdf, RibsAreAtTrueScaleUnderEachOther) {
     EXPECT_NEAR(pdf.PageSizes()[0].width(), 842, 1); // A4 landscape, points
     double y = 0;
     for (const double chord : {240.0, 200.0, 137.5}) {
-        const auto lines = Level(pdf, 1, chord + kPastEnds);
+        const auto lines = Level(pdf, 1, chord + kStackPastEnds);
         ASSERT_EQ(lines.size(), 1U) << chord;
-        EXPECT_NEAR(lines[0].x(), 10, kTrue);
+        EXPECT_NEAR(lines[0].x(), 10, kStackTrue);
         EXPECT_GT(lines[0].y(), y);
         y = lines[0].y();
     }
@@ -95,7 +95,7 @@ TEST_F(StackPdf, EveryPageHasItsCheckLineAndNothingLeavesItsRoom) {
     ASSERT_GT(pages, 1);
     std::size_t ribs = 0;
     for (int page = 1; page <= pages; ++page) {
-        ribs += Level(pdf, page, 265 + kPastEnds).size();
+        ribs += Level(pdf, page, 265 + kStackPastEnds).size();
         EXPECT_EQ(Level(pdf, page, 100).size() + Level(pdf, page, 50).size(), 1U) << page;
         ExpectInside(pdf, page);
     }
@@ -115,18 +115,18 @@ TEST_F(StackPdf, HeelAndTemplateAreHeldApart) {
     Add(160);
     const ReadPdf pdf = Make();
     ASSERT_EQ(pdf.PageSizes().size(), 1U);
-    const auto first = Level(pdf, 1, 200 + kPastEnds);
-    const auto second = Level(pdf, 1, 180 + kPastEnds);
-    const auto third = Level(pdf, 1, 160 + kPastEnds);
+    const auto first = Level(pdf, 1, 200 + kStackPastEnds);
+    const auto second = Level(pdf, 1, 180 + kStackPastEnds);
+    const auto third = Level(pdf, 1, 160 + kStackPastEnds);
     ASSERT_EQ(first.size(), 2U); // the heel's foot is as long as the chord
-    EXPECT_NEAR(first[1].y() - first[0].y(), 20, kTrue);
+    EXPECT_NEAR(first[1].y() - first[0].y(), 20, kStackTrue);
     ASSERT_EQ(second.size(), 1U);
     ASSERT_EQ(third.size(), 1U);
-    EXPECT_NEAR(second[0].x(), 10 + 15, kTrue); // behind the ramp
+    EXPECT_NEAR(second[0].x(), 10 + 15, kStackTrue); // behind the ramp
     // The template reaches 20 mm below the line and fills its box, so its label of 8 points stands
     // a millimetre under it; 5 mm from there is the top of the third rib.
     const double label = 1 + 1.2 * 8 * 20 / 56.7;
-    EXPECT_NEAR(third[0].y() - second[0].y(), 20 + label + 5 + 160 * 0.0792, kTrue);
+    EXPECT_NEAR(third[0].y() - second[0].y(), 20 + label + 5 + 160 * 0.0792, kStackTrue);
     ExpectInside(pdf, 1);
 }
 
