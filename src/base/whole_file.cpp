@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <memory>
 #include <random>
+#include <utility>
 
 namespace loftwing {
 
@@ -80,6 +81,57 @@ bool WriteAll(const fs::path &path, std::string_view bytes) {
     return false;
 }
 
+/// A file on its way: beside its place until it is renamed, and gone if it never is.
+class NewFile {
+  public:
+    explicit NewFile(const std::string &path) : target_(Target(path)) {}
+    NewFile(const NewFile &) = delete;
+    NewFile &operator=(const NewFile &) = delete;
+    NewFile(NewFile &&other) noexcept
+        : target_(std::move(other.target_)), beside_(std::exchange(other.beside_, {})) {}
+    NewFile &operator=(NewFile &&) = delete;
+    ~NewFile() {
+        if (!beside_.empty()) {
+            std::error_code ignored;
+            fs::remove(beside_, ignored);
+        }
+    }
+
+    bool Write(std::string_view bytes) {
+        const fs::path beside = NameBeside(target_);
+        if (!MayBeReplaced(target_) || !WriteAll(beside, bytes)) {
+            return false;
+        }
+        beside_ = beside;
+        std::error_code error;
+        const fs::file_status old = fs::status(target_, error);
+        if (fs::exists(old)) {
+            fs::permissions(beside_, old.permissions(), error);
+        }
+        return true;
+    }
+    bool Rename() {
+        std::error_code error;
+        fs::rename(beside_, target_, error);
+        if (error) {
+            return false;
+        }
+        beside_.clear();
+        return true;
+    }
+
+  private:
+    fs::path target_;
+    fs::path beside_; ///< empty where there is none
+
+    /// A link keeps pointing where it points: the file behind it is the one that is replaced.
+    static fs::path Target(const std::string &path) {
+        std::error_code error;
+        const fs::path target = fs::weakly_canonical(path, error);
+        return error ? fs::path(path) : target;
+    }
+};
+
 } // namespace
 
 std::string ReadWholeFile(const std::string &path) {
@@ -123,32 +175,28 @@ std::string ReadWholeFileIfThere(const std::string &path) {
 }
 
 bool ReplaceFile(const std::string &path, std::string_view bytes) {
-    std::error_code error;
-    // A link keeps pointing where it points: the file behind it is the one that is replaced.
-    fs::path target = fs::weakly_canonical(path, error);
-    if (error) {
-        target = path;
-    }
-    const fs::path beside = NameBeside(target);
-    if (!MayBeReplaced(target) || !WriteAll(beside, bytes)) {
-        return false;
-    }
-    const fs::file_status old = fs::status(target, error);
-    if (fs::exists(old)) {
-        fs::permissions(beside, old.permissions(), error);
-    }
-    fs::rename(beside, target, error);
-    if (error) {
-        std::error_code ignored;
-        fs::remove(beside, ignored);
-        return false;
-    }
-    return true;
+    NewFile file(path);
+    return file.Write(bytes) && file.Rename();
 }
 
 void WriteWholeFile(const std::string &path, std::string_view bytes) {
     if (!ReplaceFile(path, bytes)) {
         throw MakeFailure(kPathFileAccess, path);
+    }
+}
+
+void WriteWholeFiles(const std::vector<FileToWrite> &files) {
+    std::vector<NewFile> written;
+    written.reserve(files.size());
+    for (const FileToWrite &file : files) {
+        if (!written.emplace_back(file.path).Write(file.bytes)) {
+            throw MakeFailure(kPathFileAccess, file.path);
+        }
+    }
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        if (!written[i].Rename()) {
+            throw MakeFailure(kPathFileAccess, files[i].path);
+        }
     }
 }
 

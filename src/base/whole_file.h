@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace loftwing {
 
@@ -23,5 +24,13 @@ bool ReplaceFile(const std::string &path, std::string_view bytes);
 
 /// The same for a file that must be written: failure 75 instead of false.
 void WriteWholeFile(const std::string &path, std::string_view bytes);
+
+struct FileToWrite {
+    std::string path;
+    std::string bytes;
+};
+/// Files that belong together: all are written beside their places before the first one is renamed,
+/// so that a refused one leaves everything as it was. Failure 75 names it.
+void WriteWholeFiles(const std::vector<FileToWrite> &files);
 
 } // namespace loftwing

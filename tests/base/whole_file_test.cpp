@@ -203,5 +203,27 @@ TEST(ReplaceFile, LeavesTheOldFileWhenTheDiskIsFull) {
     EXPECT_EQ(folder.Entries(), 1);
 }
 
+TEST(WriteWholeFiles, WritesAllAndReplacesWhatWasThere) {
+    const TempFolder folder;
+    folder.File("a", "old");
+    WriteWholeFiles({{folder.Path("a"), "new"}, {folder.Path("b"), "other"}});
+    EXPECT_EQ(folder.Bytes("a"), "new");
+    EXPECT_EQ(folder.Bytes("b"), "other");
+    EXPECT_EQ(folder.Entries(), 2);
+}
+
+TEST(WriteWholeFiles, LeavesAllAsItWasWhereOneIsRefused) {
+    const TempFolder folder;
+    folder.File("a", "old");
+    fs::create_directory(folder.Path("c"));
+    const auto write = [&] {
+        WriteWholeFiles(
+            {{folder.Path("a"), "new"}, {folder.Path("b"), "other"}, {folder.Path("c"), "third"}});
+    };
+    EXPECT_EQ(FailureOf(write), kPathFileAccess);
+    EXPECT_EQ(folder.Bytes("a"), "old");
+    EXPECT_EQ(folder.Entries(), 2);
+}
+
 } // namespace
 } // namespace loftwing
