@@ -151,7 +151,11 @@ EtendueDxf Etendue(const std::vector<Piece> &pieces, double diviseur) {
 
 std::string EcritDecoupeDxf(const DessinDecoupe &decoupe, const std::string &Unite,
                             AnneauxDxf anneaux) {
-    const CadreR12 cadre{Unite, Etendue(decoupe.pieces, DiviseurDxf(Unite)), kCalques};
+    const double diviseur = DiviseurDxf(Unite);
+    CadreR12 cadre{Unite, Etendue(decoupe.pieces, diviseur), kCalques};
+    if (decoupe.planche) {
+        cadre.limites = {decoupe.planche->x / diviseur, decoupe.planche->y / diviseur};
+    }
     return FichierR12(cadre, [&](DxfText &dxf) {
         const Fichier fichier(dxf, Unite, anneaux);
         for (const auto routine : {&Fichier::Marques, &Fichier::Dedans, &Fichier::Dehors}) {

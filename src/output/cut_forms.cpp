@@ -1,5 +1,6 @@
 #include "output/cut_forms.h"
 
+#include "output/piece_place.h"
 #include "output/recording.h"
 #include "output/rib_measures.h"
 #include "output/styles.h"
@@ -54,30 +55,6 @@ void Boite::Prend(const Piece &piece) {
     }
 }
 
-void Descend(std::vector<PointMm> &points, double mm) {
-    for (PointMm &point : points) {
-        point.y -= mm;
-    }
-}
-
-void Descend(Piece &piece, double mm) {
-    for (PartiePiece &partie : piece.parties) {
-        Descend(partie.dehors, mm);
-        for (Anneau &anneau : partie.dedans) {
-            Descend(anneau, mm);
-        }
-        for (CerclePiece &cercle : partie.cercles) {
-            cercle.centre.y -= mm;
-        }
-    }
-    for (TraitMarque &trait : piece.traits) {
-        Descend(trait.points, mm);
-    }
-    for (TexteMarque &texte : piece.textes) {
-        texte.place.y -= mm;
-    }
-}
-
 } // namespace
 
 BoitePiece EtendueDe(const std::vector<Piece> &pieces) {
@@ -88,11 +65,20 @@ BoitePiece EtendueDe(const std::vector<Piece> &pieces) {
     return boite.Prise();
 }
 
+BoitePiece PageDe(const DessinDecoupe &decoupe) {
+    if (decoupe.planche) {
+        return {{0, 0}, *decoupe.planche};
+    }
+    const BoitePiece box = EtendueDe(decoupe.pieces);
+    return {{box.bas_gauche.x - kEcartPieces, box.bas_gauche.y - kEcartPieces},
+            {box.haut_droite.x + kEcartPieces, box.haut_droite.y + kEcartPieces}};
+}
+
 std::vector<Piece> EnDessous(std::vector<Piece> pieces) {
     for (std::size_t i = 1; i < pieces.size(); ++i) {
         const double foot = EtendueDe({pieces[i - 1]}).bas_gauche.y;
         const double top = EtendueDe({pieces[i]}).haut_droite.y;
-        Descend(pieces[i], top - (foot - kEcartPieces));
+        pieces[i] = Deplacee(std::move(pieces[i]), {0, (foot - kEcartPieces) - top});
     }
     return pieces;
 }

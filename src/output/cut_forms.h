@@ -7,6 +7,7 @@
 #include "output/piece.h"
 #include "output/plot_device.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,10 @@ namespace loftwing {
 struct DessinDecoupe {
     std::vector<Piece> pieces; ///< where they lie in the drawing; see EnDessous
     std::string titre;
+    /// A sheet of stock, in whose coordinates the pieces lie and which is the file's page: its
+    /// upper right corner, the lower left one being 0,0. Without one the page goes round the
+    /// pieces.
+    std::optional<PointMm> planche = std::nullopt;
 };
 
 /// A line of a cut is as thin as a file can say: cutters take a hairline for a cut. mm.
@@ -25,6 +30,9 @@ inline constexpr double kEcartPieces = 5.0;
 
 /// The pieces with each below the one before. The first stays where it is, and all keep their x.
 std::vector<Piece> EnDessous(std::vector<Piece> pieces);
+
+/// The page of a drawing: its sheet, or all that is cut and marked and kEcartPieces all round.
+BoitePiece PageDe(const DessinDecoupe &decoupe);
 
 /// The box around all that is cut and marked, texts included; all 0 where there is nothing.
 BoitePiece EtendueDe(const std::vector<Piece> &pieces);
@@ -46,11 +54,12 @@ struct CouleursDecoupe {
 CouleursDecoupe CouleursDe(const AppSettings &settings);
 
 /// SVG in mm, y down; x and y count from the leading edge on the reference line as they do in a
-/// piece. The group "marks", then the group "cut" with a path a piece, whose circles are arcs.
+/// piece, or from the upper left corner of the sheet. The group "marks", then the group "cut" with
+/// a path a piece, whose circles are arcs.
 std::string EcritDecoupeSvg(const DessinDecoupe &decoupe, const CouleursDecoupe &couleurs);
 
-/// DXF in the unit given, y up: layers MARK and CUT. Rings are lines whose written ends meet, or
-/// closed polylines.
+/// DXF in the unit given, y up: layers MARK and CUT. A sheet is the drawing's limits. Rings are
+/// lines whose written ends meet, or closed polylines.
 enum class AnneauxDxf { lignes, polylignes };
 std::string EcritDecoupeDxf(const DessinDecoupe &decoupe, const std::string &Unite,
                             AnneauxDxf anneaux);

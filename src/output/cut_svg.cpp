@@ -2,6 +2,7 @@
 
 #include "output/cut_forms.h"
 
+#include "output/piece_place.h"
 #include "output/rib_measures.h"
 #include "output/svg_text.h"
 #include "output/written_ring.h"
@@ -120,6 +121,16 @@ std::string Marques(const DessinDecoupe &decoupe, const CouleursDecoupe &couleur
     return groupe;
 }
 
+/// A sheet's y counts down from its upper edge, so that its page begins at 0,0.
+DessinDecoupe SurLaPage(DessinDecoupe decoupe) {
+    if (decoupe.planche) {
+        for (Piece &piece : decoupe.pieces) {
+            piece = Deplacee(std::move(piece), {0, -decoupe.planche->y});
+        }
+    }
+    return decoupe;
+}
+
 std::string Groupe(const char *nom, const std::string &contenu) {
     return "<g" + SvgAttribute("id", nom) + ">\n" + contenu + "</g>\n";
 }
@@ -127,19 +138,18 @@ std::string Groupe(const char *nom, const std::string &contenu) {
 } // namespace
 
 std::string EcritDecoupeSvg(const DessinDecoupe &decoupe, const CouleursDecoupe &couleurs) {
-    const BoitePiece boite = EtendueDe(decoupe.pieces);
-    const double largeur = boite.haut_droite.x - boite.bas_gauche.x + 2 * kEcartPieces;
-    const double hauteur = boite.haut_droite.y - boite.bas_gauche.y + 2 * kEcartPieces;
+    const BoitePiece page = PageDe(decoupe);
+    const std::string largeur = Nombre(page.haut_droite.x - page.bas_gauche.x);
+    const std::string hauteur = Nombre(page.haut_droite.y - page.bas_gauche.y);
     const PointEcrit coin =
-        Ecrit({boite.bas_gauche.x - kEcartPieces, boite.haut_droite.y + kEcartPieces});
+        decoupe.planche ? PointEcrit{"0", "0"} : Ecrit({page.bas_gauche.x, page.haut_droite.y});
+    const DessinDecoupe posee = SurLaPage(decoupe);
     return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
            "<svg xmlns=\"http://www.w3.org/2000/svg\"" +
-           SvgAttribute("width", Nombre(largeur) + "mm") +
-           SvgAttribute("height", Nombre(hauteur) + "mm") +
-           SvgAttribute("viewBox", Place(coin) + " " + Nombre(largeur) + " " + Nombre(hauteur)) +
-           ">\n<title>" + SvgText(decoupe.titre) + "</title>\n" +
-           Groupe("marks", Marques(decoupe, couleurs)) +
-           Groupe("cut", Coupe(decoupe, couleurs.coupe)) + "</svg>\n";
+           SvgAttribute("width", largeur + "mm") + SvgAttribute("height", hauteur + "mm") +
+           SvgAttribute("viewBox", Place(coin) + " " + largeur + " " + hauteur) + ">\n<title>" +
+           SvgText(decoupe.titre) + "</title>\n" + Groupe("marks", Marques(posee, couleurs)) +
+           Groupe("cut", Coupe(posee, couleurs.coupe)) + "</svg>\n";
 }
 
 } // namespace loftwing

@@ -55,6 +55,12 @@ void Entete(DxfText &dxf, const CadreR12 &cadre) {
     dxf.Texte(9, "$EXTMAX");
     dxf.Point(10, empty ? 0.0 : etendue.haut.x, empty ? 0.0 : etendue.haut.y);
     dxf.Reel(30, 0.0);
+    if (cadre.limites) {
+        dxf.Texte(9, "$LIMMIN");
+        dxf.Point(10, 0.0, 0.0);
+        dxf.Texte(9, "$LIMMAX");
+        dxf.Point(10, cadre.limites->x, cadre.limites->y);
+    }
     dxf.Texte(0, "ENDSEC");
 }
 

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -36,6 +37,8 @@ struct CadreR12 {
     std::string Unite;
     EtendueDxf etendue;
     std::span<const CalqueR12> calques;
+    /// Upper right corner of the sheet that is drawn on, whose lower left one is 0,0.
+    std::optional<DxfPoint> limites = std::nullopt;
 };
 
 /// A whole file: header with unit and extent, line types, layers, no blocks, and what `entites`

@@ -159,6 +159,10 @@ bool MotsDansBois(const Surface &bois, const PointMm &place, double hauteur,
     return BoiteDans(bois, Gabarit(hauteur, CharacterCount(words)).Boite(place));
 }
 
+double LargeurReservee(const TexteMarque &texte) {
+    return Gabarit(texte.hauteur, CharacterCount(texte.texte)).largeur;
+}
+
 void PlaceEtiquette(const Etabli &etabli, const std::string &words, const Surface &bois,
                     Piece &piece) {
     const std::size_t letters = CharacterCount(words);

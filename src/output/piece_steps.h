@@ -92,6 +92,8 @@ void PlaceEtiquette(const Etabli &etabli, const std::string &words, const Surfac
 /// Whether words lie in the wood, `place` being the left end of the line that they stand on.
 bool MotsDansBois(const Surface &bois, const PointMm &place, double hauteur,
                   const std::string &words);
+/// How much room words are given along their line, whatever their letters: stroke fonts are wide.
+double LargeurReservee(const TexteMarque &texte);
 
 // Foam template
 /// The block below the wire's path on one surface of the airfoil, a single ring.

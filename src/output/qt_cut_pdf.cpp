@@ -107,7 +107,9 @@ void Dessine(const Page &page, const DessinDecoupe &decoupe, const CouleursDecou
 }
 
 /// A page as it lies, without a rim.
-QPageLayout Feuille(double largeur, double hauteur) {
+QPageLayout Feuille(const BoitePiece &page) {
+    const double largeur = page.haut_droite.x - page.bas_gauche.x;
+    const double hauteur = page.haut_droite.y - page.bas_gauche.y;
     const QPageSize size({std::min(largeur, hauteur), std::max(largeur, hauteur)},
                          QPageSize::Millimeter, {}, QPageSize::ExactMatch);
     QPageLayout layout(size, largeur > hauteur ? QPageLayout::Landscape : QPageLayout::Portrait,
@@ -116,29 +118,35 @@ QPageLayout Feuille(double largeur, double hauteur) {
     return layout;
 }
 
+void Verifie(bool done) {
+    if (!done) {
+        throw MakeFailure(kDeviceError);
+    }
+}
+
 } // namespace
 
-std::string EcritDecoupePdf(const DessinDecoupe &decoupe, const CouleursDecoupe &couleurs) {
-    const BoitePiece boite = EtendueDe(decoupe.pieces);
+std::string EcritDecoupePdf(const std::vector<DessinDecoupe> &pages,
+                            const CouleursDecoupe &couleurs) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
     writer.setResolution(kDpi);
-    writer.setTitle(Q(decoupe.titre));
     writer.setCreator(QString::fromLatin1(kTitre));
-    writer.setPageLayout(Feuille(boite.haut_droite.x - boite.bas_gauche.x + 2 * kEcartPieces,
-                                 boite.haut_droite.y - boite.bas_gauche.y + 2 * kEcartPieces));
     QPainter painter;
-    if (!painter.begin(&writer)) {
-        throw MakeFailure(kDeviceError);
+    for (const DessinDecoupe &decoupe : pages) {
+        const BoitePiece page = PageDe(decoupe);
+        writer.setPageLayout(Feuille(page));
+        if (&decoupe == &pages.front()) {
+            writer.setTitle(Q(decoupe.titre));
+            Verifie(painter.begin(&writer));
+        } else {
+            Verifie(writer.newPage());
+        }
+        Dessine(Page(painter, {page.bas_gauche.x, page.haut_droite.y}), decoupe, couleurs);
     }
-    const Page page(painter,
-                    {boite.bas_gauche.x - kEcartPieces, boite.haut_droite.y + kEcartPieces});
-    Dessine(page, decoupe, couleurs);
-    if (!painter.end()) {
-        throw MakeFailure(kDeviceError);
-    }
+    Verifie(painter.end());
     return bytes.toStdString();
 }
 

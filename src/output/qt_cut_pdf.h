@@ -4,11 +4,14 @@
 #include "output/cut_forms.h"
 
 #include <string>
+#include <vector>
 
 namespace loftwing {
 
-/// One page at true scale, as large as the drawing and kEcartPieces all round; order and colours as
-/// in the SVG. A piece is one path filled with nothing. Failure 57 where no such page can be made.
-std::string EcritDecoupePdf(const DessinDecoupe &decoupe, const CouleursDecoupe &couleurs);
+/// A page a drawing, at least one, at true scale, as large as PageDe says; order and colours as in
+/// the SVG, the title that of the first. A piece is one path filled with nothing. Failure 57 where
+/// no such page can be made.
+std::string EcritDecoupePdf(const std::vector<DessinDecoupe> &pages,
+                            const CouleursDecoupe &couleurs);
 
 } // namespace loftwing

@@ -170,6 +170,12 @@ Surface Commun(const Surface &a, const Surface &b) {
     return Combine(ClipperLib::ctIntersection, Chemins(a), Chemins(b));
 }
 
+Surface Reste(const Surface &a, const std::vector<Anneau> &b) {
+    return Execute([&] {
+        return DeChemins(Passe(ClipperLib::ctDifference, Chemins(a), Chemins(b), {}, false));
+    });
+}
+
 Surface Deplace(const Surface &surface, double mm, Coins coins, double ecart) {
     if (!(mm <= kRayonMaxi)) {
         throw MakeFailure(kOverflow); // its arcs would have more points than a machine has room for

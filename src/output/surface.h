@@ -44,6 +44,10 @@ enum class Coins { ronds, vifs }; ///< joins: round, or mitred with a limit of 2
 /// `ecart` from their arcs.
 Surface Deplace(const Surface &surface, double mm, Coins coins, double ecart = kEcartArc);
 
+/// Of areas too, but quicker: what is left of `a` without the rings of `b`, which run anticlockwise
+/// and may overlap. A ring of the result may touch itself.
+Surface Reste(const Surface &a, const std::vector<Anneau> &b);
+
 /// With fewer points, none of those left out farther than `ecart` from the lines that stay.
 Surface Allege(const Surface &surface, double ecart);
 
@@ -65,6 +69,14 @@ bool Contient(const Surface &surface, const PointMm &point);
 double Aire(const Anneau &ring);
 /// Of an area, holes taken off.
 double Aire(const Surface &surface);
+
+/// The smallest ring without a concave corner around some points, anticlockwise; fewer than three
+/// points where they lie in a line.
+Anneau Enveloppe(std::vector<PointMm> points);
+
+/// All sums of a point of `a` and one of `b`, both anticlockwise and without a concave corner. With
+/// the one turned by 180 degrees it is their no-fit polygon: what both would cover in common.
+Anneau SommeConvexe(const Anneau &a, const Anneau &b);
 
 /// A circle as a ring that deviates at most `ecart`, its corners on the circle.
 Anneau AnneauRond(const PointMm &centre, double rayon, double ecart = kEcartArc);

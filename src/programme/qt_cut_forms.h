@@ -2,7 +2,9 @@
 /// help.
 #pragma once
 
+#include "base/whole_file.h"
 #include "output/cut_forms.h"
+#include "output/nesting.h"
 #include "programme/programme.h"
 
 #include <functional>
@@ -22,7 +24,8 @@ struct FormeDecoupe {
     std::string extension; ///< without its point
     std::string mots;      ///< of the filter of a save box
     bool needs_toolkit;    ///< drawn with the toolkit's fonts, so its application must run
-    std::function<std::string(const DessinDecoupe &, const ReglageDecoupe &)> Ecrit;
+    bool several_pages;    ///< one file has them all; without that it takes one drawing
+    std::function<std::string(const std::vector<DessinDecoupe> &, const ReglageDecoupe &)> Ecrit;
 };
 
 const std::vector<FormeDecoupe> &FormesDecoupe();
@@ -32,5 +35,11 @@ const FormeDecoupe *TrouveFormeDecoupe(const std::string &extension);
 /// Pieces, each below the one before, as a file of that form, in the colours and the unit in force.
 std::string EcritDecoupe(const Programme &programme, const FormeDecoupe &forme,
                          const std::vector<Piece> &pieces, AnneauxDxf anneaux);
+
+/// The files of pieces on sheets, `path` being the one that the user named: a page a sheet in that
+/// file, or a file a sheet, "rib.svg" being "rib-1.svg", "rib-2.svg" and so on.
+std::vector<FileToWrite> EcritPlanches(const Programme &programme, const FormeDecoupe &forme,
+                                       const Imbrication &planches, AnneauxDxf anneaux,
+                                       const std::string &path);
 
 } // namespace loftwing

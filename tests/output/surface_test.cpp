@@ -201,5 +201,29 @@ TEST(SurfaceBounds, ARibOfKilometresIsStillRight) {
                 1e-6);
 }
 
+TEST(SurfaceConvexe, AnEnvelopeHasNoConcaveCornerAndNoPointTwice) {
+    const Anneau ring =
+        Enveloppe({{0, 0}, {10, 0}, {5, 3}, {10, 0}, {10, 10}, {5, 10}, {0, 10}, {2, 5}, {0, 4}});
+    EXPECT_EQ(ring, (Anneau{{0, 0}, {10, 0}, {10, 10}, {0, 10}}));
+    EXPECT_LT(Enveloppe({{0, 0}, {1, 1}, {2, 2}}).size(), 3U);
+}
+
+TEST(SurfaceConvexe, TheSumOfTwoRingsHasTheEdgesOfBoth) {
+    EXPECT_EQ(SommeConvexe(Carre(1, 2, 3), Carre(10, 20, 5)),
+              (Anneau{{11, 22}, {19, 22}, {19, 30}, {11, 30}}));
+    // A square and a triangle: 9 + 8 and the square's width and height along the triangle's.
+    const Anneau triangle = {{4, 4}, {0, 4}, {0, 0}};
+    const Anneau sum = SommeConvexe(Carre(0, 0, 3), triangle);
+    EXPECT_EQ(sum.size(), 5U);
+    EXPECT_DOUBLE_EQ(Aire(sum), 9 + 8 + 3 * 4 + 3 * 4);
+    EXPECT_EQ(Enveloppe(sum).size(), sum.size());
+    EXPECT_TRUE(SommeConvexe({}, triangle).empty());
+}
+
+TEST(SurfaceAires, WhatIsLeftOfAnAreaMayBeTakenByRingsThatOverlap) {
+    EXPECT_NEAR(Aire(Reste({Carre(0, 0, 10)}, {Carre(-1, -1, 6), Carre(2, 2, 5)})),
+                100 - 25 - (25 - 9), 1e-6);
+}
+
 } // namespace
 } // namespace loftwing
