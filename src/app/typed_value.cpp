@@ -17,15 +17,28 @@ std::string_view LengthKeys(const Programme &programme) {
     return TouchesSelonUnite(programme.settings.Unite, kTouchesPositif, kTouchesFraction);
 }
 
+namespace {
+
+void CheckLength(const std::string &value, const char *option, const Programme &programme) {
+    Typed(value, option, LengthKeys(programme));
+    if (EstRefusee(value, programme.settings.Unite)) {
+        NombreMm(value, programme.SaisieEnCours()); // says why
+        throw Refused{};
+    }
+}
+
+} // namespace
+
+double LengthMm(const std::string &value, const char *option, const Programme &programme) {
+    CheckLength(value, option, programme);
+    return NombreMm(value, programme.SaisieEnCours());
+}
+
 std::vector<std::string> TypedLengths(const Arguments &arguments, const char *option,
                                       const Programme &programme) {
     std::vector<std::string> values = arguments.Values(option);
     for (const std::string &value : values) {
-        Typed(value, option, LengthKeys(programme));
-        if (EstRefusee(value, programme.settings.Unite)) {
-            NombreMm(value, programme.SaisieEnCours()); // says why
-            throw Refused{};
-        }
+        CheckLength(value, option, programme);
     }
     return values;
 }

@@ -19,6 +19,10 @@ std::string Typed(const Arguments &arguments, const char *option, std::string_vi
 /// The keys of a length in the unit in force.
 std::string_view LengthKeys(const Programme &programme);
 
+/// `value` of an option as a length in mm. One that is no length in inches is told, and Refused
+/// thrown; UsageError for other characters.
+double LengthMm(const std::string &value, const char *option, const Programme &programme);
+
 /// All values of an option, each a length. One that is no length in inches is told, and Refused
 /// thrown.
 std::vector<std::string> TypedLengths(const Arguments &arguments, const char *option,

@@ -1,0 +1,178 @@
+#include "app/cut_sheets.h"
+
+#include "app/command_line.h"
+#include "app/cut_pieces.h"
+#include "app/json_line.h"
+#include "app/sheet_options.h"
+#include "app/toolkit.h"
+#include "base/number_text.h"
+#include "programme/piece_words.h"
+#include "programme/sheet_words.h"
+
+#include <filesystem>
+#include <iostream>
+
+namespace loftwing {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Where sheets go: beside `path`, which their numbers come into, or to standard output.
+struct SheetTarget {
+    std::string extension;
+    std::string path;
+    std::string folder; ///< made where it isn't there; empty for that of `path`
+    bool on_out = false;
+};
+
+SheetTarget TargetOfSheets(const Arguments &arguments) {
+    const std::string out = arguments.Value("--output");
+    if (arguments.Files().empty() || out.empty()) {
+        throw UsageError("cut wants a FILE and -o OUT");
+    }
+    const std::string extension = arguments.Value("--to");
+    if (out == "-" && extension.empty()) {
+        throw UsageError("-o - wants --to EXT");
+    }
+    if (!extension.empty()) {
+        const std::string name = "sheet." + CutFormOf(extension).extension;
+        return out == "-" ? SheetTarget{extension, name, {}, true}
+                          : SheetTarget{extension, (fs::path(out) / name).string(), out};
+    }
+    const std::string ending = fs::path(out).extension().string();
+    return {ending.empty() ? ending : ending.substr(1), out, {}};
+}
+
+/// The pieces of one FILE; nothing when it was refused, which was told.
+std::optional<std::vector<PieceNommee>> PiecesOfFile(const Arguments &arguments,
+                                                     const CutReport &report,
+                                                     const std::string &file, bool &complete) {
+    ConsoleProgram program(arguments);
+    bool whole = false;
+    const auto pieces = CutPiecesOf(arguments, program, file, whole);
+    if (!pieces) {
+        report.TellRefused(program.Platform().LastText());
+        if (arguments.Files().size() > 1) {
+            NameRefused(file);
+        }
+        return std::nullopt;
+    }
+    complete = complete && whole;
+    const Messages &messages = program.Owner().messages;
+    std::vector<PieceNommee> named;
+    for (const Piece &piece : *pieces) {
+        report.Tell(messages, piece);
+        const std::string kind = NomDePiece(messages, piece.genre);
+        named.push_back({kind.empty() ? file : file + ", " + kind, piece});
+    }
+    return named;
+}
+
+/// The same, failures told with the FILE's name.
+std::optional<std::vector<PieceNommee>> TryFile(const Arguments &arguments,
+                                                const SheetTarget &target, const std::string &file,
+                                                bool &complete) {
+    const CutReport report(arguments, target.on_out, file);
+    try {
+        return PiecesOfFile(arguments, report, file, complete);
+    } catch (const Failure &failure) {
+        report.TellRefused(FailureText(arguments, failure));
+        std::cerr << "loftwing: " << file << ": " << FailureText(arguments, failure) << '\n';
+        return std::nullopt;
+    }
+}
+
+std::string Plain(const Planche &sheet, std::size_t number, const std::string &Unite) {
+    const std::size_t count = sheet.pieces.size();
+    return "sheet " + std::to_string(number) + ": " + DepuisMm(sheet.format.largeur, Unite) +
+           " x " + DepuisMm(sheet.format.hauteur, Unite) + Unite + ", " + std::to_string(count) +
+           (count == 1 ? " piece, " : " pieces, ") + Format(sheet.Taux(), "##0.0") + " %";
+}
+
+std::string Json(const Planche &sheet, std::size_t number, const std::string &path) {
+    JsonLine line;
+    line.Add("sheet", static_cast<long>(number));
+    line.Add("width", sheet.format.largeur);
+    line.Add("height", sheet.format.hauteur);
+    line.Add("pieces", static_cast<long>(sheet.pieces.size()));
+    line.Add("area", sheet.aire);
+    line.Add("length", sheet.longueur);
+    line.Add("use", sheet.Taux());
+    line.Add("out", path);
+    return line.Text();
+}
+
+void TellSheets(const Arguments &arguments, const SheetTarget &target, const Imbrication &sheets,
+                const std::vector<FileToWrite> &files, const std::string &Unite) {
+    std::ostream &out = target.on_out ? std::cerr : std::cout;
+    for (std::size_t i = 0; i < sheets.size(); ++i) {
+        const std::string &path = files.size() == sheets.size() ? files[i].path : files[0].path;
+        out << (arguments.Has("--json") ? Json(sheets[i], i + 1, target.on_out ? "-" : path)
+                                        : Plain(sheets[i], i + 1, Unite))
+            << '\n';
+    }
+}
+
+std::variant<Imbrication, RefusPlanche> Nested(const std::vector<PieceNommee> &pieces,
+                                               const SheetWish &wish) {
+    if (pieces.size() * static_cast<std::size_t>(wish.copies) > kPiecesMaxi) {
+        return RefusPlanche{RefusDePlanche::trop_de_pieces}; // before there are so many
+    }
+    return Imbrique(EnCopies(pieces, wish.copies, wish.mirror), wish.reglage);
+}
+
+/// False when standard output refuses.
+bool Write(const SheetTarget &target, const std::vector<FileToWrite> &files) {
+    if (target.on_out) {
+        std::cout << files.front().bytes << std::flush;
+        return static_cast<bool>(std::cout);
+    }
+    if (!target.folder.empty()) {
+        std::error_code error;
+        fs::create_directories(target.folder, error);
+    }
+    WriteWholeFiles(files);
+    return true;
+}
+
+} // namespace
+
+int CutOnSheets(const Arguments &arguments) {
+    const SheetTarget target = TargetOfSheets(arguments);
+    const FormeDecoupe &form = CutFormOf(target.extension);
+    const Toolkit toolkit(form.needs_toolkit);
+    ConsoleProgram program(arguments);
+    const Programme &programme = program.Owner();
+    const SheetWish wish = SheetWishOf(arguments, programme);
+    std::vector<PieceNommee> pieces;
+    bool complete = true;
+    bool refused = false;
+    for (const std::string &file : arguments.Files()) {
+        const auto some = TryFile(arguments, target, file, complete);
+        refused = refused || !some;
+        if (some) {
+            pieces.insert(pieces.end(), some->begin(), some->end());
+        }
+    }
+    if (refused) {
+        return kRefused;
+    }
+    const auto made = Nested(pieces, wish);
+    if (const auto *why = std::get_if<RefusPlanche>(&made)) {
+        programme.messages.Inform(
+            TexteRefusPlanche(programme.messages, *why, programme.settings.Unite),
+            why->nom.empty() ? "--sheet" : why->nom);
+        return kRefused;
+    }
+    const Imbrication &sheets = std::get<Imbrication>(made);
+    const auto files = EcritPlanches(programme, form, sheets, RingsOf(arguments), target.path);
+    if (target.on_out && files.size() != 1) {
+        throw UsageError("-o - takes one sheet, and there are " + std::to_string(files.size()));
+    }
+    const bool written = Write(target, files);
+    TellSheets(arguments, target, sheets, files, programme.settings.Unite);
+    return written && complete ? kDone : kRefused;
+}
+
+} // namespace loftwing
