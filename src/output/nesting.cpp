@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <limits>
 #include <numeric>
+#include <random>
 
 namespace loftwing {
 
@@ -19,8 +20,12 @@ constexpr Mesure kMesures[] = {
     [](const FormeDePiece &forme) { return forme.aire; },
     [](const FormeDePiece &forme) { return forme.sens[0].Hauteur(); },
 };
-/// Above that many pieces one order must do.
+/// Above that many pieces one order must do, and above this many none is stirred.
 constexpr std::size_t kPeu = 120;
+constexpr std::size_t kTresPeu = 60;
+constexpr unsigned kMelanges = 3;
+/// By how much a stirred order may take a piece for a smaller one.
+constexpr double kMelange = 0.2;
 
 /// The pieces of one job, equal ones sharing a form.
 struct Lot {
@@ -53,8 +58,9 @@ Lot LotDe(const std::vector<PieceNommee> &pieces, const ReglageImbrication &regl
 /// Fills sheets in one order.
 class Remplissage {
   public:
-    Remplissage(Lot &lot, const ReglageImbrication &reglage, std::function<bool()> poursuit)
-        : lot_(lot), reglage_(reglage), poursuit_(std::move(poursuit)) {}
+    Remplissage(Lot &lot, const ReglageImbrication &reglage, bool demi_tour,
+                std::function<bool()> poursuit)
+        : lot_(lot), reglage_(reglage), demi_tour_(demi_tour), poursuit_(std::move(poursuit)) {}
 
     /// False when it was called off.
     bool Remplit(const std::vector<std::size_t> &ordre);
@@ -67,6 +73,7 @@ class Remplissage {
   private:
     Lot &lot_;
     const ReglageImbrication &reglage_;
+    bool demi_tour_;
     std::function<bool()> poursuit_;
     std::vector<PlancheEnCours> planches_;
 
@@ -91,7 +98,7 @@ void Remplissage::Pose(std::size_t rang) {
         }
     }
     for (const FormatPlanche &format : reglage_.formats) {
-        PlancheEnCours planche(format, reglage_.marge, reglage_.demi_tour);
+        PlancheEnCours planche(format, reglage_.marge, demi_tour_);
         if (planche.Pose(lot_.table, rang, forme)) {
             planches_.push_back(std::move(planche));
             return;
@@ -112,7 +119,7 @@ void Remplissage::ReduitDerniere() {
         if (aire(format) >= aire(planches_.back().Format())) {
             return;
         }
-        PlancheEnCours planche(format, reglage_.marge, reglage_.demi_tour);
+        PlancheEnCours planche(format, reglage_.marge, demi_tour_);
         const auto &posees = planches_.back().Posees();
         if (std::all_of(posees.begin(), posees.end(), [&](const Posee &posee) {
                 return planche.Pose(lot_.table, posee.rang, posee.forme);
@@ -135,26 +142,60 @@ double Remplissage::Stock() const {
 
 using Ordre = std::vector<std::size_t>;
 
-Ordre OrdreDe(const Lot &lot, Mesure mesure) {
-    Ordre order(lot.formes.size());
+/// The largest first; `taille` gives the size of a piece.
+template <class Taille>
+Ordre OrdreSelon(const Lot &lot, Taille taille) {
+    std::vector<double> sizes;
+    for (const std::size_t forme : lot.formes) {
+        sizes.push_back(taille(lot.table[forme]));
+    }
+    Ordre order(sizes.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
-    std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
-        return mesure(lot.table[lot.formes[a]]) > mesure(lot.table[lot.formes[b]]);
-    });
+    std::stable_sort(order.begin(), order.end(),
+                     [&](std::size_t a, std::size_t b) { return sizes[a] > sizes[b]; });
     return order;
 }
 
-/// The orders that are tried, all different.
-std::vector<Ordre> OrdresDe(const Lot &lot) {
-    std::vector<Ordre> orders;
-    for (const Mesure mesure : kMesures) {
-        Ordre order = OrdreDe(lot, mesure);
-        if (std::find(orders.begin(), orders.end(), order) == orders.end()) {
-            orders.push_back(std::move(order));
+/// By length, but not quite; the same on every machine.
+Ordre OrdreMelange(const Lot &lot, unsigned numero) {
+    std::mt19937 dice(numero);
+    return OrdreSelon(lot, [&](const FormeDePiece &forme) {
+        const double part = static_cast<double>(dice()) / static_cast<double>(std::mt19937::max());
+        return kMesures[0](forme) * (1 - kMelange * part);
+    });
+}
+
+struct Essai {
+    Ordre ordre;
+    bool demi_tour = false;
+};
+
+/// What is tried. Pieces that may be turned now and then lie closer when none is. Orders that
+/// differ in equal pieces only are one.
+std::vector<Essai> EssaisDe(const Lot &lot, bool demi_tour) {
+    std::vector<Essai> tries;
+    const auto same = [&](const Essai &one, const Essai &other) {
+        const auto form = [&](std::size_t a, std::size_t b) {
+            return lot.formes[a] == lot.formes[b];
+        };
+        return one.demi_tour == other.demi_tour &&
+               std::equal(one.ordre.begin(), one.ordre.end(), other.ordre.begin(), form);
+    };
+    const auto add = [&](const Essai &each) {
+        if (std::none_of(tries.begin(), tries.end(),
+                         [&](const Essai &other) { return same(each, other); })) {
+            tries.push_back(each);
         }
+    };
+    for (const Mesure mesure : kMesures) {
+        add({OrdreSelon(lot, mesure), demi_tour});
     }
-    orders.resize(lot.formes.size() > kPeu ? 1 : orders.size());
-    return orders;
+    add({tries.front().ordre, false});
+    for (unsigned i = 0; i < kMelanges && lot.formes.size() <= kTresPeu; ++i) {
+        add({OrdreMelange(lot, i), demi_tour});
+    }
+    tries.resize(lot.formes.size() > kPeu ? 1 : tries.size());
+    return tries;
 }
 
 std::optional<RefusPlanche> Refusee(const std::vector<PieceNommee> &pieces, const Lot &lot,
@@ -227,17 +268,17 @@ std::variant<Imbrication, RefusPlanche> Imbrique(const std::vector<PieceNommee> 
     if (const auto refusal = Refusee(pieces, lot, reglage)) {
         return *refusal;
     }
-    const std::vector<Ordre> orders = OrdresDe(lot);
+    const std::vector<Essai> tries = EssaisDe(lot, reglage.demi_tour);
     std::size_t done = 0;
     const auto go_on = [&] {
-        const auto all = static_cast<double>(orders.size() * pieces.size());
+        const auto all = static_cast<double>(tries.size() * pieces.size());
         return !reglage.avance || reglage.avance(static_cast<double>(done++) / all);
     };
     std::vector<PlancheEnCours> best;
     double least = std::numeric_limits<double>::max();
-    for (const Ordre &order : orders) {
-        Remplissage filling(lot, reglage, go_on);
-        if (!filling.Remplit(order)) {
+    for (const Essai &essai : tries) {
+        Remplissage filling(lot, reglage, essai.demi_tour, go_on);
+        if (!filling.Remplit(essai.ordre)) {
             return RefusPlanche{RefusDePlanche::abandonnee};
         }
         filling.ReduitDerniere();
