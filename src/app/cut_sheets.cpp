@@ -64,7 +64,11 @@ std::optional<std::vector<PieceNommee>> PiecesOfFile(const Arguments &arguments,
     for (const Piece &piece : *pieces) {
         report.Tell(messages, piece);
         const std::string kind = NomDePiece(messages, piece.genre);
-        named.push_back({kind.empty() ? file : file + ", " + kind, piece});
+        std::string name = file;
+        if (!kind.empty()) {
+            name.append(", ").append(kind);
+        }
+        named.push_back({std::move(name), piece});
     }
     return named;
 }
