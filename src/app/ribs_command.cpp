@@ -3,8 +3,7 @@
 #include "app/command_line.h"
 #include "app/console_program.h"
 #include "app/typed_value.h"
-#include "utilities/ribevol.h"
-#include "utilities/ribevol2.h"
+#include "utilities/rib_set_typed.h"
 #include "utilities/tool_files.h"
 
 #include <array>
@@ -15,7 +14,6 @@ namespace loftwing {
 
 namespace {
 
-using DeuxTextes = std::array<std::string, 2>;
 using DeuxProfils = std::array<ProfilJeu, 2>;
 
 /// Shows a refusal; there is nobody to type again.
@@ -38,20 +36,8 @@ DeuxProfils LitProfils(ConsoleProgram &program, const std::vector<std::string> &
     return {ProfilMajeur(LitProfil(program, files[0])), ProfilMineur(LitProfil(program, files[1]))};
 }
 
-DeuxTextes Noms(const DeuxProfils &profils) {
-    return {profils[0].NomProfil, profils[1].NomProfil};
-}
-
 /// What the options say, before any file is read.
-struct Demande {
-    DeuxTextes cordes;
-    std::string nombre;                  ///< equal steps
-    std::vector<std::string> ecarts;     ///< variable spacing: gaps from root to tip
-    std::vector<std::string> epaisseurs; ///< and ribs
-    std::string dossier;
-};
-
-Demande DemandeDe(const Arguments &arguments, const Programme &programme) {
+SaisieJeu DemandeDe(const Arguments &arguments, const Programme &programme) {
     const bool variable = arguments.Has("--gaps");
     if (arguments.Files().size() != 2 || !arguments.Has("--chords") ||
         arguments.Value("--output").empty() || arguments.Value("--output") == "-" ||
@@ -60,7 +46,7 @@ Demande DemandeDe(const Arguments &arguments, const Programme &programme) {
                          "--gaps G1 ... --thickness T0 ...");
     }
     const std::vector<std::string> cordes = TypedLengths(arguments, "--chords", programme);
-    Demande demande{{cordes[0], cordes[1]}, {}, {}, {}, arguments.Value("--output")};
+    SaisieJeu demande{{cordes[0], cordes[1]}, {}, {}, {}, arguments.Value("--output")};
     TermineDossier(demande.dossier);
     if (!variable) {
         demande.nombre = Typed(arguments, "--count", kTouchesPositif);
@@ -73,41 +59,6 @@ Demande DemandeDe(const Arguments &arguments, const Programme &programme) {
                          "--thickness wants one more than gaps");
     }
     return demande;
-}
-
-JeuDeNervures Regulier(const Demande &demande, const DeuxProfils &profils, const Saisie &saisie) {
-    Ribevol set;
-    if (const auto refus =
-            VerifieRibevol({Noms(profils), demande.cordes, demande.nombre}, saisie, set)) {
-        Refuse(saisie.messages, *refus, {"FrmRibevol", "1"});
-    }
-    return ComposeRibevol(set, profils, demande.dossier, saisie);
-}
-
-JeuDeNervures Variable(const Demande &demande, const DeuxProfils &profils, const Saisie &saisie,
-                       JeuNervures &jeu) {
-    const LngKey titre{"FrmRibevol2", "1"};
-    const int N = static_cast<int>(demande.ecarts.size()) - 1;
-    if (N > kNervuresVariables) {
-        Refuse(saisie.messages, {QuestionNombre(N, saisie.messages)}, titre);
-    }
-    jeu.NbNervInter = ToInt16(N);
-    Ribevol2 set;
-    const DeuxTextes ends{demande.epaisseurs.front(), demande.epaisseurs.back()};
-    const auto refus = ValideRibevol2({Noms(profils), demande.cordes, ends}, saisie, jeu, set);
-    if (refus) {
-        Refuse(saisie.messages, *refus, titre);
-    }
-    for (int gap = 1; gap <= N + 1; ++gap) {
-        set.NervCourante = ToInt16(gap);
-        AppliqueEcart(At(demande.epaisseurs, gap - 1), At(demande.ecarts, gap - 1), saisie, jeu,
-                      set);
-    }
-    if (const auto gap = VerifieEcarts(jeu, saisie.messages)) {
-        Refuse(saisie.messages, *gap, titre);
-    }
-    CalculeRibevol2(jeu, set);
-    return ComposeRibevol2(jeu, set, profils, demande.dossier, saisie);
 }
 
 void MakeFolder(const std::string &folder) {
@@ -134,12 +85,13 @@ std::vector<OptionRule> RibsOptions() {
 int RunRibs(const Arguments &arguments) {
     ConsoleProgram program(arguments);
     Programme &programme = program.Owner();
-    const Demande demande = DemandeDe(arguments, programme);
+    const SaisieJeu demande = DemandeDe(arguments, programme);
     const DeuxProfils profils = LitProfils(program, arguments.Files());
-    const Saisie saisie = programme.SaisieEnCours();
-    const JeuDeNervures jeu = demande.ecarts.empty()
-                                  ? Regulier(demande, profils, saisie)
-                                  : Variable(demande, profils, saisie, programme.rib.jeu);
+    const auto made = ComposeJeu(demande, profils, programme.SaisieEnCours(), programme.rib.jeu);
+    if (const auto *refus = std::get_if<RefusJeu>(&made)) {
+        Refuse(programme.messages, *refus, TitreJeu(demande));
+    }
+    const auto &jeu = std::get<JeuDeNervures>(made);
     MakeFolder(demande.dossier);
     for (const std::string &path : SaveProfil(jeu, programme.messages)) {
         std::cout << path << '\n';

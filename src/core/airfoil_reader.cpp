@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string_view>
 
@@ -24,8 +25,8 @@ struct RefusLecture {
 
 /// The whole file with a line feed behind each line. Made in place: a list of lines would take
 /// gigabytes for a large file of line ends.
-std::string TamponDeLignes(const std::string &path) {
-    std::string tampon = ToUtf8(ReadWholeFile(path));
+std::string TamponDeLignes(const std::string &octets) {
+    std::string tampon = ToUtf8(octets);
     if (!tampon.empty() && !tampon.ends_with('\n')) {
         tampon += '\n';
     }
@@ -66,7 +67,7 @@ class LecteurProfil {
     LecteurProfil(RibModel &rib, const Messages &messages) : rib_(rib), messages_(messages) {}
 
     /// Nothing when the airfoil was read.
-    std::optional<RefusLecture> Lit();
+    std::optional<RefusLecture> Lit(const std::string &octets);
 
   private:
     RibModel &rib_;
@@ -195,11 +196,11 @@ std::optional<RefusLecture> LecteurProfil::LitPoints() {
     return std::nullopt;
 }
 
-std::optional<RefusLecture> LecteurProfil::Lit() {
+std::optional<RefusLecture> LecteurProfil::Lit(const std::string &octets) {
     rib_.NbPoints = 0;
     rib_.ProfilX.Clear();
     rib_.ProfilY.Clear();
-    tampon_ = TamponDeLignes(rib_.CheminProfil);
+    tampon_ = TamponDeLignes(octets);
     RemplaceTabulations(tampon_);
     rib_.texte.TexteUtilisateur = false;
     LitEntete();
@@ -219,9 +220,13 @@ std::string RefusTropCourt(const Messages &messages) {
     return messages.Text({"frmopen", "23"}) + "\n" + Cloture(messages);
 }
 
-ResultatLecture EssaieLecture(RibModel &rib, const Messages &messages) {
+namespace {
+
+ResultatLecture Essaie(RibModel &rib, const Messages &messages,
+                       const std::function<std::string()> &octets) {
     try {
-        const std::optional<RefusLecture> refus = LecteurProfil(rib, messages).Lit();
+        LecteurProfil lecteur(rib, messages);
+        const std::optional<RefusLecture> refus = lecteur.Lit(octets());
         if (!refus) {
             return {};
         }
@@ -232,6 +237,16 @@ ResultatLecture EssaieLecture(RibModel &rib, const Messages &messages) {
         rib.NbPoints = 0;
         return {Lecture::echec, {}, messages.TexteEchec(failure)};
     }
+}
+
+} // namespace
+
+ResultatLecture EssaieLecture(RibModel &rib, const Messages &messages) {
+    return Essaie(rib, messages, [&rib] { return ReadWholeFile(rib.CheminProfil); });
+}
+
+ResultatLecture EssaieLecture(RibModel &rib, const std::string &octets, const Messages &messages) {
+    return Essaie(rib, messages, [&octets] { return octets; });
 }
 
 void AnnonceLecture(const ResultatLecture &read, const Messages &messages,

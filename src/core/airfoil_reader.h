@@ -28,6 +28,9 @@ struct ResultatLecture {
 /// is shown.
 ResultatLecture EssaieLecture(RibModel &rib, const Messages &messages);
 
+/// The same of what would stand in such a file.
+ResultatLecture EssaieLecture(RibModel &rib, const std::string &octets, const Messages &messages);
+
 /// Shows the box of a reading that went wrong; that of a refusal has the title `titre`.
 void AnnonceLecture(const ResultatLecture &read, const Messages &messages,
                     const std::string &titre);

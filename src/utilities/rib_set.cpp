@@ -107,8 +107,17 @@ double Ordonnee(const JeuDeNervures &jeu, int number, long k) {
     return major - (major - courbes.MineurY(k)) * Nervure(jeu, number).rapport;
 }
 
-std::string TexteNervure(const JeuDeNervures &jeu, int number, const std::vector<std::string> &xs,
-                         const Messages &messages) {
+/// The stations as every rib's file writes them.
+std::vector<std::string> TextesX(const JeuDeNervures &jeu) {
+    std::vector<std::string> xs;
+    for (long k = 1; k <= jeu.courbes.n; ++k) {
+        xs.push_back(Format(jeu.courbes.MajeurX(k), kPicturePoint));
+    }
+    return xs;
+}
+
+std::string Texte(const JeuDeNervures &jeu, int number, const std::vector<std::string> &xs,
+                  const Messages &messages) {
     const bool between = number > 1 && number < Nombre(jeu);
     const char *gap = between ? "   " : "  ";
     std::vector<std::string> lignes = {Titre(jeu, number, messages)};
@@ -193,16 +202,17 @@ std::string NomResume(const JeuDeNervures &jeu) {
            std::to_string(Nombre(jeu)) + ".txt";
 }
 
+std::string TexteNervure(const JeuDeNervures &jeu, int number, const Messages &messages) {
+    return Texte(jeu, number, TextesX(jeu), messages);
+}
+
 std::vector<std::string> SaveProfil(const JeuDeNervures &jeu, const Messages &messages,
                                     const Avance &avance) {
-    std::vector<std::string> xs;
-    for (long k = 1; k <= jeu.courbes.n; ++k) {
-        xs.push_back(Format(jeu.courbes.MajeurX(k), kPicturePoint));
-    }
+    const std::vector<std::string> xs = TextesX(jeu);
     std::vector<std::string> paths;
     for (int number = 1; number <= Nombre(jeu); ++number) {
         const std::string path = jeu.dossier + NomNervure(jeu, number, messages);
-        EcritFichier(path, TexteNervure(jeu, number, xs, messages));
+        EcritFichier(path, Texte(jeu, number, xs, messages));
         paths.push_back(path);
         if (avance) {
             avance(number, Nombre(jeu));

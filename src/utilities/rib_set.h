@@ -76,6 +76,9 @@ std::string NomNervure(const JeuDeNervures &jeu, int number, const Messages &mes
 /// File name of the summary, without its folder.
 std::string NomResume(const JeuDeNervures &jeu);
 
+/// The bytes of the airfoil file of rib `number`, from 1.
+std::string TexteNervure(const JeuDeNervures &jeu, int number, const Messages &messages);
+
 /// Told after each file: how many are written, and of how many.
 using Avance = std::function<void(int done, int total)>;
 
