@@ -87,13 +87,6 @@ std::optional<std::vector<PieceNommee>> TryFile(const Arguments &arguments,
     }
 }
 
-std::string Plain(const Planche &sheet, std::size_t number, const std::string &Unite) {
-    const std::size_t count = sheet.pieces.size();
-    return "sheet " + std::to_string(number) + ": " + DepuisMm(sheet.format.largeur, Unite) +
-           " x " + DepuisMm(sheet.format.hauteur, Unite) + Unite + ", " + std::to_string(count) +
-           (count == 1 ? " piece, " : " pieces, ") + Format(sheet.Taux(), "##0.0") + " %";
-}
-
 std::string Json(const Planche &sheet, std::size_t number, const std::string &path) {
     JsonLine line;
     line.Add("sheet", static_cast<long>(number));
@@ -113,7 +106,7 @@ void TellSheets(const Arguments &arguments, const SheetTarget &target, const Imb
     for (std::size_t i = 0; i < sheets.size(); ++i) {
         const std::string &path = files.size() == sheets.size() ? files[i].path : files[0].path;
         out << (arguments.Has("--json") ? Json(sheets[i], i + 1, target.on_out ? "-" : path)
-                                        : Plain(sheets[i], i + 1, Unite))
+                                        : LineOfSheet(sheets[i], i + 1, Unite))
             << '\n';
     }
 }
@@ -141,6 +134,13 @@ bool Write(const SheetTarget &target, const std::vector<FileToWrite> &files) {
 }
 
 } // namespace
+
+std::string LineOfSheet(const Planche &sheet, std::size_t number, const std::string &Unite) {
+    const std::size_t count = sheet.pieces.size();
+    return "sheet " + std::to_string(number) + ": " + DepuisMm(sheet.format.largeur, Unite) +
+           " x " + DepuisMm(sheet.format.hauteur, Unite) + Unite + ", " + std::to_string(count) +
+           (count == 1 ? " piece, " : " pieces, ") + Format(sheet.Taux(), "##0.0") + " %";
+}
 
 int CutOnSheets(const Arguments &arguments) {
     const SheetTarget target = TargetOfSheets(arguments);

@@ -7,6 +7,7 @@
 #include "app/draw_command.h"
 #include "app/info_command.h"
 #include "app/modify_command.h"
+#include "app/panel_command.h"
 #include "app/ribs_command.h"
 #include "app/table_command.h"
 #include "app/view_commands.h"
@@ -28,6 +29,8 @@ constexpr std::array kVerbs = {
          RunInfo, Takes::airfoils},
     Verb{"ribs", "ribs ROOT TIP ... -o DIR", "a full set of ribs between two airfoils", RibsOptions,
          RunRibs, Takes::airfoils},
+    Verb{"panel", "panel ROOT.lfw TIP.lfw ... -o DIR", "all ribs of a wing panel, ready to be cut",
+         PanelOptions, RunPanel, Takes::any_files},
     Verb{"plot", "plot FILE -o OUT", "the simple plot of the raw points", PlotOptions, RunPlot,
          Takes::airfoils},
     Verb{"compare", "compare FILE1 FILE2 -o OUT", "two airfoils over each other", CompareOptions,

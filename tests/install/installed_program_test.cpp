@@ -48,7 +48,7 @@ TEST(InstalledProgram, FilesStandWhereTheSystemLooksForThem) {
 }
 
 TEST(InstalledProgram, AllResourcesOfTheSourcesAreThere) {
-    for (const std::string folder : {"airfoils", "lng", "help"}) {
+    for (const std::string folder : {"airfoils", "lng", "help", "samples"}) {
         const std::string source = LOFTWING_SOURCE_DIR "/resources/" + folder;
         if (!fs::exists(source)) {
             continue;

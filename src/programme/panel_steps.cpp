@@ -1,0 +1,301 @@
+#include "programme/panel_steps.h"
+
+#include "core/airfoil_reader.h"
+#include "core/contour.h"
+#include "core/stations.h"
+#include "features/inserted_text.h"
+#include "output/piece_place.h"
+#include "persist/LireEcrire.h"
+#include "programme/piece_words.h"
+#include "programme/rib_trial.h"
+#include "utilities/tool_files.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace loftwing {
+
+namespace {
+
+constexpr std::string_view kAileGauche = " L";
+constexpr std::string_view kAileDroite = " R";
+
+/// The piece of the right wing out of that of the left one.
+Piece DeLAutreAile(Piece piece) {
+    for (TexteMarque &text : piece.textes) {
+        const std::size_t at = text.texte.rfind(kAileGauche);
+        if (text.genre == GenreMarque::etiquette && at != std::string::npos) {
+            text.texte.replace(at, kAileGauche.size(), kAileDroite);
+        }
+    }
+    return Opposee(std::move(piece));
+}
+
+/// The contour without a box for what fails.
+void FaitContour(Profil &rib) {
+    Alocate(rib);
+    MiniX(rib);
+    CalculExtradosMaxi(rib);
+    CalculIntradosMini(rib);
+    SepareIntrados(rib);
+    TableStations(rib);
+    CalculEpMaxi(rib);
+    CalculCambrure(rib);
+}
+
+/// Height of a surface at a station that may lie between two, in fractions of the chord.
+double HauteurEntre(const TableStation &table, double station) {
+    const double at = std::clamp(station, 0.0, static_cast<double>(kLastStation));
+    const auto low = static_cast<std::size_t>(std::min(std::floor(at), kLastStation - 1.0));
+    const double part = at - static_cast<double>(low);
+    return table[low] * (1 - part) + table[low + 1] * part;
+}
+
+class Ouvrage {
+  public:
+    Ouvrage(Programme &programme, const Panneau &panneau, const DemandePanneau &demande)
+        : programme_(programme), messages_(programme.messages), panneau_(panneau),
+          demande_(demande), saisie_(programme.SaisieEnCours()), rib_(programme.rib) {}
+
+    PanneauFait Fait(const AvancePanneau &avance);
+
+  private:
+    Programme &programme_;
+    const Messages &messages_;
+    const Panneau &panneau_;
+    const DemandePanneau &demande_;
+    Saisie saisie_;
+    RibModel &rib_;
+    PanneauFait fait_;
+
+    int Nombre() const { return static_cast<int>(fait_.jeu.nervures.size()); }
+    std::string Nervure(int numero) const {
+        return MotNervure(messages_) + " " + std::to_string(demande_.premier + numero - 1) + ": ";
+    }
+    bool Compose();
+    void Ouvre(int numero, NervureFaite &nervure);
+    void Regarde(int numero, NervureFaite &nervure);
+    void MesureFleches();
+    std::optional<Fleche> FlecheDe(const ElementPanneau &spar, bool upper) const;
+    std::optional<double> HauteurDuLongeron(const ElementPanneau &spar, bool upper,
+                                            int numero) const;
+};
+
+bool Ouvrage::Compose() {
+    auto made = ComposeJeu(panneau_.jeu, ProfilsDesBouts(panneau_), saisie_, rib_.jeu);
+    if (const auto *refus = std::get_if<RefusJeu>(&made)) {
+        fait_.refus.push_back(refus->text);
+        return false;
+    }
+    fait_.jeu = std::move(std::get<JeuDeNervures>(made));
+    fait_.refus = Desaccords(panneau_, Nombre(), saisie_);
+    fait_.avis = AvisDesBouts(panneau_, messages_);
+    return fait_.refus.empty();
+}
+
+/// Writes the rib's files in memory and opens them, so that what is looked at is what they hold.
+void Ouvrage::Ouvre(int numero, NervureFaite &nervure) {
+    rib_.Partie<PartiesRib>() = NervureDuPanneau(panneau_, fait_.jeu, numero, saisie_);
+    if (!rib_.texte.InsTexte.empty()) {
+        RegenereTexte(rib_, messages_);
+    }
+    nervure.profil = rib_.CheminProfil;
+    nervure.composants = rib_.NomProfil + ".lfw";
+    nervure.octets_profil = TexteNervure(fait_.jeu, numero, messages_);
+    nervure.octets_composants = EcritComposants(rib_, saisie_.Unite);
+    const bool users = rib_.texte.TexteUtilisateur;
+    rib_.Partie<PartiesRib>() = {};
+    ValeursDefautRib(rib_);
+    std::string name;
+    LitComposants(nervure.octets_composants, rib_, saisie_, name);
+    rib_.CheminProfil = fait_.jeu.dossier + nervure.profil;
+    const ResultatLecture read = EssaieLecture(rib_, nervure.octets_profil, messages_);
+    if (read.issue != Lecture::lu || rib_.NbPoints < kPointsMini) {
+        throw Failure{0, read.boite};
+    }
+    rib_.ProfilCharge = true;
+    rib_.texte.TexteUtilisateur = users;
+    FaitContour(rib_);
+}
+
+void Ouvrage::Regarde(int numero, NervureFaite &nervure) {
+    if (const auto failure = EchecDuTrace(programme_)) {
+        throw *failure;
+    }
+    DemandePiece demande = AvecNoms(messages_, demande_.piece);
+    demande.texte = EtiquetteNumerotee(rib_, demande_.premier + numero - 1, saisie_.Unite);
+    if (demande_.deux_ailes) {
+        demande.texte += kAileGauche;
+    }
+    auto made = FaitPieces(rib_, demande, saisie_);
+    if (const auto *refusal = std::get_if<RefusPiece>(&made)) {
+        fait_.refus.push_back(Nervure(numero) + TexteRefus(messages_, *refusal));
+        return;
+    }
+    nervure.pieces = std::move(std::get<std::vector<Piece>>(made));
+    for (const Piece &piece : nervure.pieces) {
+        for (const std::string &warning : TextesAvis(messages_, piece)) {
+            fait_.avis.push_back(Nervure(numero) + warning);
+        }
+    }
+}
+
+/// Height of the surface in which the spar is notched, mm over the rib's reference line.
+std::optional<double> Ouvrage::HauteurDuLongeron(const ElementPanneau &spar, bool upper,
+                                                 int numero) const {
+    const auto slot = SlotDe(panneau_, spar, numero, saisie_);
+    if (!slot) {
+        return std::nullopt;
+    }
+    const PartiesRib &rib = At(fait_.nervures, numero - 1).rib;
+    const Longeron &record = At(rib.longeron, *slot);
+    if ((upper ? record.OptLongExt : record.OptLongInt) == 0) {
+        return std::nullopt;
+    }
+    const double x =
+        Wide(record.RefLong == 1 ? PosDepuisBF(record.PosLongAfich, rib.corde, saisie_)
+                                 : PosDepuisBA(record.PosLongAfich, rib.corde, saisie_));
+    const double corde = Wide(rib.corde);
+    return HauteurEntre(upper ? rib.TabExtrados : rib.TabIntrados,
+                        kLastStation * (1 - Quotient(x, corde))) *
+           corde;
+}
+
+std::optional<Fleche> Ouvrage::FlecheDe(const ElementPanneau &spar, bool upper) const {
+    struct Lieu {
+        int numero;
+        double rapport, hauteur;
+    };
+    std::vector<Lieu> places;
+    for (int numero = 1; numero <= Nombre(); ++numero) {
+        if (const auto height = HauteurDuLongeron(spar, upper, numero)) {
+            places.push_back({numero, At(fait_.jeu.nervures, numero - 1).rapport, *height});
+        }
+    }
+    if (places.empty()) {
+        return std::nullopt;
+    }
+    const Lieu &first = places.front();
+    const Lieu &last = places.back();
+    Fleche greatest{spar, upper, 0, first.numero};
+    for (const Lieu &place : places) {
+        const double run = last.rapport - first.rapport;
+        const double part = run == 0 ? 0 : (place.rapport - first.rapport) / run;
+        const double line = first.hauteur + (last.hauteur - first.hauteur) * part;
+        if (std::abs(place.hauteur - line) > greatest.mm) {
+            greatest.mm = std::abs(place.hauteur - line);
+            greatest.nervure = place.numero;
+        }
+    }
+    return greatest;
+}
+
+void Ouvrage::MesureFleches() {
+    for (const ElementPanneau &element : Elements(panneau_, saisie_)) {
+        if (element.genre != GenreElement::longeron) {
+            continue;
+        }
+        for (const bool upper : {true, false}) {
+            const auto bow = FlecheDe(element, upper);
+            if (!bow) {
+                continue;
+            }
+            fait_.fleches.push_back(*bow);
+            if (bow->mm > kFlecheMaxi) {
+                fait_.avis.push_back(TexteFleche(messages_, *bow, saisie_.Unite));
+            }
+        }
+    }
+}
+
+PanneauFait Ouvrage::Fait(const AvancePanneau &avance) {
+    const PartieGardee<PartiesRib> kept(rib_);
+    const JeuNervures set = rib_.jeu;
+    try {
+        if (!Compose()) {
+            return std::move(fait_);
+        }
+        for (int numero = 1; numero <= Nombre(); ++numero) {
+            NervureFaite nervure;
+            try {
+                Ouvre(numero, nervure);
+                Regarde(numero, nervure);
+            } catch (const Failure &failure) {
+                fait_.refus.push_back(Nervure(numero) + messages_.Description(failure));
+            }
+            nervure.rib = rib_.Partie<PartiesRib>();
+            fait_.nervures.push_back(std::move(nervure));
+            if (avance && !avance(numero, Nombre())) {
+                return std::move(fait_);
+            }
+        }
+        if (fait_.refus.empty()) {
+            MesureFleches();
+        }
+    } catch (const Failure &failure) {
+        fait_.refus.push_back(messages_.Description(failure));
+    }
+    rib_.jeu = set;
+    return std::move(fait_);
+}
+
+} // namespace
+
+PanneauFait FaitPanneau(Programme &programme, const Panneau &panneau, const DemandePanneau &demande,
+                        const AvancePanneau &avance) {
+    return Ouvrage(programme, panneau, demande).Fait(avance);
+}
+
+std::string EtiquetteNumerotee(const RibModel &rib, int numero, const std::string &Unite) {
+    return EtiquetteDuRib(rib, Unite) + "  " + std::to_string(numero);
+}
+
+std::string TexteFleche(const Messages &messages, const Fleche &fleche, const std::string &Unite) {
+    constexpr double kParts = 100;
+    const bool mm = Unite == kUniteMm;
+    const std::string length =
+        mm ? NumberText(std::round(fleche.mm * kParts) / kParts) : DepuisMm(fleche.mm, Unite);
+    return messages.Text({"Panel", "9"}) + " " + std::to_string(fleche.longeron.numero) + " " +
+           messages.Text({"Panel", "30"}) + " " + length + Unite + ", " +
+           (fleche.dessus ? messages.Text({"Panel", "31"}) : messages.Text({"Panel", "32"})) + " " +
+           std::to_string(fleche.nervure) + ".";
+}
+
+std::vector<FileToWrite> FichiersAEcrire(const PanneauFait &fait) {
+    const std::string &folder = fait.jeu.dossier;
+    std::vector<FileToWrite> files;
+    for (const NervureFaite &nervure : fait.nervures) {
+        files.push_back({folder + nervure.profil, nervure.octets_profil});
+        files.push_back({folder + nervure.composants, nervure.octets_composants});
+    }
+    files.push_back({folder + NomResume(fait.jeu), TexteDeLignes(fait.jeu.resume)});
+    return files;
+}
+
+std::vector<std::string> FichiersDuPanneau(const PanneauFait &fait) {
+    std::vector<std::string> paths;
+    for (const FileToWrite &file : FichiersAEcrire(fait)) {
+        paths.push_back(file.path);
+    }
+    return paths;
+}
+
+std::vector<std::string> EcritPanneau(const PanneauFait &fait) {
+    WriteWholeFiles(FichiersAEcrire(fait));
+    return FichiersDuPanneau(fait);
+}
+
+std::vector<PieceNommee> PiecesDuPanneau(const PanneauFait &fait, int copies, bool opposees) {
+    std::vector<PieceNommee> all;
+    for (int copy = 0; copy < copies; ++copy) {
+        for (const NervureFaite &nervure : fait.nervures) {
+            for (const Piece &piece : nervure.pieces) {
+                all.push_back(
+                    {nervure.composants, opposees && copy % 2 == 1 ? DeLAutreAile(piece) : piece});
+            }
+        }
+    }
+    return all;
+}
+
+} // namespace loftwing

@@ -1,0 +1,80 @@
+/// A wing panel as its files: each rib made, looked at as the window would open it, and written
+/// only when nothing stands against it.
+#pragma once
+
+#include "base/whole_file.h"
+#include "output/nesting.h"
+#include "output/piece.h"
+#include "programme/programme.h"
+#include "utilities/panneau.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace loftwing {
+
+/// A bow above it is a warning.
+inline constexpr double kFlecheMaxi = 0.3; // mm
+
+/// What is asked of a panel beside its ends.
+struct DemandePanneau {
+    DemandePiece piece;      ///< of its labels only the kerf and marks count; words are made here
+    int premier = 1;         ///< number of the first rib, for labels
+    bool deux_ailes = false; ///< both wings are cut: labels say which
+};
+
+/// One rib, ready to be written.
+struct NervureFaite {
+    std::string profil;     ///< file name of its airfoil
+    std::string composants; ///< and of its rib components
+    std::string octets_profil;
+    std::string octets_composants;
+    PartiesRib rib; ///< as these files open, with its contour
+    std::vector<Piece> pieces;
+};
+
+/// How far the spar leaves a straight line over the ribs in which it stands, in height.
+struct Fleche {
+    ElementPanneau longeron;
+    bool dessus = false; ///< its notches in the upper surface, otherwise in the lower one
+    double mm = 0;
+    int nervure = 0; ///< where that is, from 1
+};
+
+struct PanneauFait {
+    JeuDeNervures jeu;
+    std::vector<NervureFaite> nervures;
+    std::vector<Fleche> fleches;
+    std::vector<std::string> avis;  ///< each a line; a rib's begins with its number
+    std::vector<std::string> refus; ///< likewise; nothing may be written while there is one
+};
+
+/// How far it is; false ends the work, and the ribs so far are what there is.
+using AvancePanneau = std::function<bool(int done, int total)>;
+
+/// Makes all ribs of a panel. Shows no box; the rib of the programme is worked on and put back.
+PanneauFait FaitPanneau(Programme &programme, const Panneau &panneau, const DemandePanneau &demande,
+                        const AvancePanneau &avance = {});
+
+/// A rib's own label with its number, as pieces and drawings of a panel have it.
+std::string EtiquetteNumerotee(const RibModel &rib, int numero, const std::string &Unite);
+
+/// "spar 2 bows by 0.12 mm in the upper surface, at rib 4."
+std::string TexteFleche(const Messages &messages, const Fleche &fleche, const std::string &Unite);
+
+/// Every file that the panel is made of, in its folder: airfoils, rib components, the set's
+/// summary.
+std::vector<FileToWrite> FichiersAEcrire(const PanneauFait &fait);
+/// Their paths.
+std::vector<std::string> FichiersDuPanneau(const PanneauFait &fait);
+/// Writes them, over older ones of their names, all or none, and gives their paths. Failure as
+/// WriteWholeFiles.
+std::vector<std::string> EcritPanneau(const PanneauFait &fait);
+
+/// So many copies of all ribs' pieces, for sheets. With `opposees` every second one is that of the
+/// other wing, and where both wings are cut its label says so.
+std::vector<PieceNommee> PiecesDuPanneau(const PanneauFait &fait, int copies, bool opposees);
+
+} // namespace loftwing

@@ -1,0 +1,48 @@
+#include "programme/panel_words.h"
+
+#include "base/number_text.h"
+#include "utilities/tool_files.h"
+
+namespace loftwing {
+
+namespace {
+
+std::string Numerote(const std::string &mot, int slot) {
+    return ", " + mot + " " + std::to_string(slot + 1) + ": ";
+}
+
+std::string Place(const std::string &afich, std::uint8_t depuis) {
+    return Trim(afich).empty() ? "0" : std::string(Trim(afich)) + (depuis == 1 ? " <" : "");
+}
+
+} // namespace
+
+std::string LongueurDePanneau(double mm, const std::string &Unite) {
+    return TexteFondu(mm, Unite) + Unite;
+}
+
+std::string LigneNervure(const Messages &messages, const NervureFaite &nervure, int numero,
+                         const std::string &Unite) {
+    const PartiesRib &rib = nervure.rib;
+    std::string line = MotNervure(messages) + " " + std::to_string(numero) + ": " +
+                       nervure.composants + ", " + MotCorde(messages) + " : " +
+                       std::string(Trim(rib.cordeAfich)) + Unite;
+    for (int slot = 0; slot < rib.NbLongeron; ++slot) {
+        const Longeron &spar = At(rib.longeron, slot);
+        line += Numerote(messages.Text({"Panel", "9"}), slot) +
+                Place(spar.PosLongAfich, spar.RefLong) + " (" + spar.LargLongAfich + " x " +
+                spar.HautLongAfich + ")";
+    }
+    for (int slot = 0; slot < rib.NbTrou; ++slot) {
+        const Trou &hole = At(rib.trou, slot);
+        line += Numerote(messages.Text({"Panel", "14"}), slot) +
+                Place(hole.PosTrouAfich, hole.RefTrou) + " (" + hole.DiaTrouAfich + ")";
+    }
+    if (rib.vrillage != 0.0F) {
+        line +=
+            ", " + messages.Text({"FrmInsText", "7"}) + " " + NumberText(rib.vrillage) + "\u00B0";
+    }
+    return line;
+}
+
+} // namespace loftwing
