@@ -31,28 +31,34 @@ own_names() {
         }' "$@"
 }
 
-# Files into groups of at most `most`, each into the first one that has none of its names.
+# Files into groups of at most `most`, each into the first one that has none of its names. A file with
+# a name that some header has too stands alone.
 grouped() {
     awk -F '\t' -v most="$1" '
-        FILENAME == ARGV[1] { names[$1] = names[$1] " " $2; next }
+        FILENAME == ARGV[1] { shared[$1]; next }
+        FILENAME == ARGV[2] { names[$1] = names[$1] " " $2; next }
         {
             count = split(names[$0], own, " ")
+            alone = 0
+            for (i = 1; i <= count; ++i) alone = alone || own[i] in shared
             for (group = 1; ; ++group) {
-                if (size[group] >= most) continue
+                if (size[group] >= (alone ? 1 : most)) continue
                 free = 1
                 for (i = 1; i <= count && free; ++i) free = !((group, own[i]) in taken)
                 if (free) break
             }
             for (i = 1; i <= count; ++i) taken[group, own[i]] = 1
-            ++size[group]
+            size[group] += alone ? most : 1
             print group "\t" $0
-        }' "$2" "$3"
+        }' "$2" "$3" "$4"
 }
 
 mapfile -t sources < <(cd "$root" && find src -name '*.cpp' | LC_ALL=C sort)
 (cd "$root" && own_names "${sources[@]}") >"$groups/names"
 printf '%s\n' "${sources[@]}" >"$groups/sources"
-grouped 12 "$groups/names" "$groups/sources" >"$groups/groups"
+find "$root/src" -name '*.h' -exec grep -hoE '^(struct|class|enum class|enum) [A-Za-z_]+' {} + |
+    sed 's/.* //' | sort -u >"$groups/shared"
+grouped 12 "$groups/shared" "$groups/names" "$groups/sources" >"$groups/groups"
 while IFS=$'\t' read -r group file; do
     printf '#include "%s"\n' "$root/$file" >>"$groups/group_$group.cpp"
 done <"$groups/groups"
