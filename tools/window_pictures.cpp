@@ -26,6 +26,7 @@
 #include "mainwindow/frmimport.h"
 #include "mainwindow/frmmain.h"
 #include "mainwindow/frmopen.h"
+#include "mainwindow/frmpanneau.h"
 #include "output/frmPrint.h"
 #include "output/frmcorrection.h"
 #include "output/frmcoul.h"
@@ -106,6 +107,7 @@ class Pictures {
         Save(*window_, "frmmain");
         TakeSheets();
         TakePiece();
+        TakePanel();
         if (programme_.settings.Unite == kUniteMm) {
             TakePrint();
         }
@@ -149,6 +151,24 @@ class Pictures {
         frmdecoupe cut(programme_, window_.get());
         Fill(cut, "txtsaignee", programme_.settings.Unite == kUniteIn ? "0.008" : "0.2");
         Save(cut, "frmdecoupe");
+    }
+
+    /// A panel from the rib of the window to a shorter one with another airfoil.
+    void TakePanel() {
+        RibModel &rib = programme_.rib;
+        const bool inches = programme_.settings.Unite == kUniteIn;
+        frmpanneau panel(programme_, window_.get());
+        const PartieGardee<PartiesRib> kept(rib);
+        Press(panel, "cmdfenetre(0)");
+        const Saisie typed = programme_.SaisieEnCours();
+        StockeLongueur(inches ? "5" : "130", typed, rib.cordeAfich, rib.corde);
+        StockeLongueur(inches ? "1/4" : "6", typed, rib.EpBAAfich, rib.EpBA);
+        Press(panel, "cmdfenetre(1)");
+        Fill(panel, "txt(0)", "7");
+        Fill(panel, "txt(1)", inches ? "3/32" : "2");
+        Fill(panel, "txt(3)", inches ? "24" : "600");
+        WaitForReading();
+        Save(panel, "frmpanneau");
     }
 
     /// The sheet that comes out of the printer: the rib of the tour.

@@ -8,8 +8,8 @@ constexpr std::array kDebut = {kAideVisite, kAideFenetre};
 constexpr std::array kProfils = {kAideOuvrir, kAideImport, kAideComposants};
 constexpr std::array kRib = {kAideValeurs, kAideLongerons, kAideTrous, kAideGabarit, kAideDessin};
 constexpr std::array kSorties = {kAidePage, kAideFeuilles, kAideExport, kAideDecoupe};
-constexpr std::array kOutils = {kAideCalculs,     kAideJeu,  kAideJeuVariable, kAideOblique,
-                                kAideInclinaison, kAideVues, kAideCoord};
+constexpr std::array kOutils = {kAideCalculs, kAideJeu,         kAideJeuVariable, kAidePanneau,
+                                kAideOblique, kAideInclinaison, kAideVues,        kAideCoord};
 constexpr std::array kDivers = {kAideBibliotheque, kAideCommandes, kAideProgramme};
 
 constexpr std::array kChapitres = {

@@ -187,6 +187,8 @@ std::vector<Command> ToolsMenu() {
               &frmmain::mnu_outilevolut_Click),
         Entry("mnu_outilevolut2", menu, {"MenuOutils", "4a"}, kAlways,
               &frmmain::mnu_outilevolut2_Click),
+        Entry("mnu_outilpanneau", menu, {"Panel", "100"}, kAlways,
+              &frmmain::mnu_outilpanneau_Click),
         Entry("mnu_outilEpCourb", menu, {"MenuOutils", "5"}, kAlways,
               &frmmain::mnu_outilEpCourb_Click),
         Entry("mnu_outilAngle", menu, {"MenuOutils", "6"}, kAlways, &frmmain::mnu_outilAngle_Click),

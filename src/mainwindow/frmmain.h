@@ -86,6 +86,7 @@ class frmmain : public MainFrame {
     void mnu_Outilcoord_Click();
     void mnu_outilevolut_Click();
     void mnu_outilevolut2_Click();
+    void mnu_outilpanneau_Click();
     void mnu_outilAngle_Click();
     void mnu_outilInclinaison_Click();
     void mnu_calc_Click();

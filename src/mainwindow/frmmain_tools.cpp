@@ -2,6 +2,7 @@
 
 #include "mainwindow/beside.h"
 #include "mainwindow/frmmain.h"
+#include "mainwindow/frmpanneau.h"
 #include "platform/qt_form.h"
 #include "programme/startup.h"
 #include "programme/tool_steps.h"
@@ -56,6 +57,13 @@ void frmmain::mnu_outilevolut2_Click() {
         FaitPlaceAuJeu(programme_, *this);
         programme_.rib.jeu.NbNervInter = ToInt16(count);
         frmribevol2 dialog(programme_, *this, this);
+        ShowModal(dialog);
+    }
+}
+
+void frmmain::mnu_outilpanneau_Click() {
+    if (ControleSeparateurCommande(programme_, {"Panel", "40"})) {
+        frmpanneau dialog(programme_, this);
         ShowModal(dialog);
     }
 }

@@ -3,6 +3,8 @@
 #include "base/number_text.h"
 #include "utilities/tool_files.h"
 
+#include <algorithm>
+
 namespace loftwing {
 
 namespace {
@@ -43,6 +45,28 @@ std::string LigneNervure(const Messages &messages, const NervureFaite &nervure, 
             ", " + messages.Text({"FrmInsText", "7"}) + " " + NumberText(rib.vrillage) + "\u00B0";
     }
     return line;
+}
+
+std::string MotElement(const Messages &messages, const Panneau &panneau,
+                       const ElementPanneau &element) {
+    switch (element.genre) {
+    case GenreElement::longeron:
+        return messages.Text({"Panel", "9"}) + " " + std::to_string(element.numero);
+    case GenreElement::trou:
+        return messages.Text({"Panel", "14"}) + " " + std::to_string(element.numero);
+    case GenreElement::ba:
+        return messages.Text({"Panel", "116"});
+    case GenreElement::bf:
+        return messages.Text({"Panel", "117"});
+    case GenreElement::carre:
+        return messages.Text({"Panel", "118"});
+    case GenreElement::gabarit:
+        break;
+    }
+    const bool foam =
+        std::any_of(panneau.bouts.begin(), panneau.bouts.end(),
+                    [](const PartiesRib &bout) { return bout.TypeGabarit == kGabaritMousse; });
+    return foam ? messages.Text({"Panel", "120"}) : messages.Text({"Panel", "119"});
 }
 
 } // namespace loftwing

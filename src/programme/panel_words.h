@@ -15,4 +15,8 @@ std::string LongueurDePanneau(double mm, const std::string &Unite);
 std::string LigneNervure(const Messages &messages, const NervureFaite &nervure, int numero,
                          const std::string &Unite);
 
+/// An element in the user's words: "spar 2", "leading edge stock".
+std::string MotElement(const Messages &messages, const Panneau &panneau,
+                       const ElementPanneau &element);
+
 } // namespace loftwing

@@ -13,6 +13,7 @@
 #include "mainwindow/frmaide.h"
 #include "mainwindow/frmimport.h"
 #include "mainwindow/frmopen.h"
+#include "mainwindow/frmpanneau.h"
 #include "output/frmPrint.h"
 #include "output/frmcorrection.h"
 #include "output/frmcoul.h"
@@ -33,6 +34,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QPushButton>
 
 #include <type_traits>
 #include <utility>
@@ -199,6 +201,18 @@ void LookAtPicker(WindowWorld &world, const Look &look) {
     ShowAndLook(picker, look);
 }
 
+/// A panel from the rib to itself, with its tables filled.
+void LookAtPanel(WindowWorld &world, const Look &look) {
+    frmpanneau dialog(world.programme, world.window.get());
+    Seen panel(dialog);
+    panel.Fill({"txt", 0}, "3");
+    panel.Fill({"txt", 1}, "2");
+    panel.Fill({"txt", 3}, world.programme.settings.Unite == kUniteIn ? "24" : "600");
+    panel.Find<QPushButton>({"cmdfenetre", 0}).click();
+    panel.Find<QPushButton>({"cmdfenetre", 1}).click();
+    ShowAndLook(dialog, look);
+}
+
 /// The help of the picker.
 void LookAtHelp(WindowWorld &world, const Look &look) {
     frmaide help(world.programme);
@@ -259,6 +273,8 @@ const std::vector<KnownWindow> &KnownWindows() {
         Plain<frmCoord>("frmCoord"),
         Plain<frmribevol>("frmribevol"),
         {"frmribevol2", &LookAtGaps},
+        Plain<frmpanneau>("frmpanneau-empty"),
+        {"frmpanneau", &LookAtPanel},
         {"frmimport", &LookAtImport},
         {"frmopen", &LookAtPicker},
         Plain<frmAbout>("frmAbout"),

@@ -10,6 +10,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QHelpEvent>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -44,6 +45,9 @@ bool IsControl(const QWidget &widget) {
     }
     if (const auto *field = qobject_cast<const QLineEdit *>(&widget)) {
         return !field->isReadOnly();
+    }
+    if (qobject_cast<const QHeaderView *>(&widget) != nullptr) {
+        return false; // its sections only say what stands below them
     }
     return qobject_cast<const QComboBox *>(&widget) != nullptr ||
            qobject_cast<const QAbstractItemView *>(&widget) != nullptr ||
