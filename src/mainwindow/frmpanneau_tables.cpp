@@ -6,6 +6,7 @@
 #include "utilities/tool_files.h"
 
 #include <QSignalBlocker>
+#include <QTextDocument>
 
 #include <algorithm>
 
@@ -79,7 +80,9 @@ void frmpanneau::MontreRang(int row, const NervureFaite &nervure) {
     PoseCase(Nervures, row, kVrillage, Q(NumberText(nervure.rib.vrillage) + kDegre), false);
     const QString said = Q(AvisDe(numero));
     PoseCase(Nervures, row, kAvis, said, false);
-    Nervures.item(row, kAvis)->setToolTip(said.toHtmlEscaped());
+    // The column may be too narrow for it.
+    Nervures.item(row, kAvis)
+        ->setToolTip(said.isEmpty() ? QString() : Qt::convertFromPlainText(said));
 }
 
 void frmpanneau::MontreNervures() {
@@ -130,12 +133,16 @@ void frmpanneau::MontreAvis() {
     std::vector<std::string> lines = refus_;
     lines.insert(lines.end(), avis_.begin(), avis_.end());
     std::string shown;
-    for (std::size_t i = 0; i < lines.size() && i < kLignesAvis; ++i) {
-        shown += (i == 0 ? "" : "\n") + lines[i];
+    std::string all;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        all += (i == 0 ? "" : "\n") + lines[i];
+        if (i + 1 == kLignesAvis) {
+            shown = all;
+        }
     }
-    if (lines.size() > kLignesAvis) {
-        shown += " ... (" + std::to_string(lines.size()) + ")";
-    }
+    shown =
+        lines.size() > kLignesAvis ? shown + " ... (" + std::to_string(lines.size()) + ")" : all;
+    SetTip(lblavis, lines.size() > kLignesAvis ? all : "");
     lblavis.setText(Q(shown));
     lblavis.setVisible(!shown.empty());
 }

@@ -2,6 +2,7 @@
 
 #include "features/qt_sketch.h"
 #include "mainwindow/import_picture.h"
+#include "mainwindow/plan_picture.h"
 #include "mainwindow/tool_icons.h"
 #include "platform/qt_contrast.h"
 #include "platform/qt_focus_mark.h"
@@ -183,6 +184,17 @@ TEST(Contrast, OfTheImportsCurvesIsEnoughToSeeThem) {
         const QColor ground = desktop.palette.color(QPalette::Base);
         EXPECT_GE(Contraste(picture.PointsColour(), ground), kContrasteTrait) << desktop.name;
         EXPECT_GE(Contraste(picture.ContourColour(), ground), kContrasteTrait) << desktop.name;
+    }
+}
+
+TEST(Contrast, OfTheLinesOfAPlanIsEnoughToSeeThem) {
+    for (const Desktop &desktop : Desktops()) {
+        const DesktopColours colours(desktop.palette);
+        const PlanPicture picture(nullptr);
+        const QColor ground = desktop.palette.color(QPalette::Base);
+        EXPECT_GE(Contraste(picture.ContourColour(), ground), kContrasteTexte) << desktop.name;
+        EXPECT_GE(Contraste(picture.SparColour(), ground), kContrasteTrait) << desktop.name;
+        EXPECT_GE(Contraste(picture.StockColour(), ground), kContrasteTrait) << desktop.name;
     }
 }
 

@@ -3,6 +3,7 @@
 #include "mainwindow/frmpanneau.h"
 
 #include "programme/panel_ends.h"
+#include "support/ordinary_user.h"
 #include "windows/frmmain_files_fixture.h"
 
 #include <gmock/gmock.h>
@@ -13,6 +14,7 @@ namespace loftwing {
 namespace {
 
 using testing::ElementsAre;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
@@ -328,6 +330,22 @@ TEST_F(PanelWindow, FilesOfAnotherSetAreAskedAbout) {
     EXPECT_THAT(world.folder.Bytes("out/naca2412&naca2412R02.lfw"), StartsWith("LFW"));
 }
 
+TEST_F(PanelWindow, AFolderThatCannotBeWrittenIsToldAndTheWindowStays) {
+    fs::permissions(Out(), fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read |
+                               fs::perms::others_exec);
+    Use([this](Seen &dialog) {
+        TakeBoth(dialog);
+        TypeCount(dialog, 1);
+        const OrdinaryUser user;
+        world.platform.Expect(BoxAnswer::ok, {.text = HasSubstr(" # 75 ")});
+        Make(dialog);
+        EXPECT_FALSE(dialog.Shown("lblenregistre"));
+        EXPECT_TRUE(dialog.IsOpen());
+    });
+    EXPECT_TRUE(NothingWritten());
+    EXPECT_EQ(world.platform.pointer, Pointer::normal);
+}
+
 TEST_F(PanelWindow, WarningsAreAskedAboutFirst) {
     tip.sheeting = "2";
     Use([this](Seen &dialog) {
@@ -361,6 +379,20 @@ TEST_F(PanelWindow, AWarningStandsBesideItsRib) {
                                             "Hole 1 leaves the wood and opens its outline.");
         EXPECT_THAT(dialog.Label("lblavis"),
                     HasSubstr("Rib 3: Hole 1 leaves the wood and opens its outline."));
+    });
+}
+
+TEST_F(PanelWindow, OfManyWarningsTheFirstAreShownAndTheToolTipHasAll) {
+    for (ComponentsText *end : {&root, &tip}) {
+        end->holes = {{"50%", "40", "1", "0", "0", "0", "0", "0"}, ComponentsText::BlankHole()};
+    }
+    Use([this](Seen &dialog) {
+        TakeBoth(dialog);
+        TypeCount(dialog, 3); // two warnings for each of five ribs
+        EXPECT_THAT(dialog.Label("lblavis"),
+                    EndsWith("Rib 2: Hole 1 leaves the wood and opens its outline. ... (10)"));
+        EXPECT_THAT(dialog.Tip("lblavis"),
+                    HasSubstr("Rib 5: Hole 1 leaves the wood and opens its outline."));
     });
 }
 
