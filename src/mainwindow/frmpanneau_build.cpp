@@ -91,8 +91,8 @@ void frmpanneau::LayOut() {
         NumericField &field = At(txt, i);
         const bool length = i == kEpaisseur || i == kLongueur;
         const QString widest(length ? kDigits : kNumberDigits, '0');
-        field.setMaximumWidth(field.fontMetrics().horizontalAdvance(widest) +
-                              4 * field.fontMetrics().averageCharWidth());
+        field.setFixedWidth(field.fontMetrics().horizontalAdvance(widest) +
+                            4 * field.fontMetrics().averageCharWidth());
         SetCaption(At(Label2, i), field);
         spacing->addWidget(&At(Label2, i), i / 2, i % 2 * kColumns);
         spacing->addWidget(&field, i / 2, i % 2 * kColumns + 1);
