@@ -24,14 +24,14 @@ std::optional<int> EntierDe(const std::string &text) {
 }
 
 /// Ribs counted from 1 out of the numbers that labels have. An empty text is the end of the panel.
-std::optional<PorteeElement> PorteeEntre(const std::array<std::string, 2> &typed, int premier,
+std::optional<PorteePanneau> PorteeEntre(const std::array<std::string, 2> &typed, int premier,
                                          int nombre) {
     const auto from = typed[0].empty() ? premier : EntierDe(typed[0]);
     const auto to = typed[1].empty() ? premier + nombre - 1 : EntierDe(typed[1]);
     if (!from || !to) {
         return std::nullopt;
     }
-    const PorteeElement range{*from - premier + 1, *to - premier + 1};
+    const PorteePanneau range{*from - premier + 1, *to - premier + 1};
     const bool good = range.de >= 1 && range.de <= range.a && range.a <= nombre;
     return good ? std::optional(range) : std::nullopt;
 }

@@ -60,7 +60,7 @@ Surface Grandie(const Surface &wood, double half) {
     const double more = half + kAllege + kArrondi + kEnPlus;
     const Surface wide = SansTrous(Deplace(wood, more + kPoche, Coins::vifs));
     const Surface closed = SansTrous(Deplace(wide, -kPoche, Coins::ronds, kArrondi));
-    const Surface light = SansTrous(Rempli(Allege(closed, kAllege)));
+    Surface light = SansTrous(Rempli(Allege(closed, kAllege)));
     const Surface wanted = Deplace(wood, half + kEnPlus, Coins::ronds, kEnPlus / 4);
     if (SansMiettes(Moins(wanted, light), kMiette).empty()) {
         return light;

@@ -130,7 +130,7 @@ Surface FaitBloc(const Etabli &etabli, double fil, GenrePiece genre) {
     Anneau ring(path.rbegin(), path.rend());
     ring.push_back(foot.Avant());
     ring.push_back(foot.Arriere());
-    const Surface block = SansMiettes(Rempli({ring}), kMiette);
+    Surface block = SansMiettes(Rempli({ring}), kMiette);
     const bool above = std::all_of(path.begin(), path.end(),
                                    [&](const PointMm &point) { return foot.EstSous(point); });
     // Ends that lean over the path make more than one ring, or one of another size.

@@ -177,14 +177,14 @@ std::optional<Fleche> Ouvrage::FlecheDe(const ElementPanneau &spar, bool upper) 
     }
     const Lieu &first = places.front();
     const Lieu &last = places.back();
-    Fleche greatest{spar, upper, 0, first.numero};
+    Fleche greatest{spar, upper, 0, demande_.premier + first.numero - 1};
     for (const Lieu &place : places) {
         const double run = last.rapport - first.rapport;
         const double part = run == 0 ? 0 : (place.rapport - first.rapport) / run;
         const double line = first.hauteur + (last.hauteur - first.hauteur) * part;
         if (std::abs(place.hauteur - line) > greatest.mm) {
             greatest.mm = std::abs(place.hauteur - line);
-            greatest.nervure = place.numero;
+            greatest.nervure = demande_.premier + place.numero - 1;
         }
     }
     return greatest;

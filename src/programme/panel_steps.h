@@ -40,7 +40,7 @@ struct Fleche {
     ElementPanneau longeron;
     bool dessus = false; ///< its notches in the upper surface, otherwise in the lower one
     double mm = 0;
-    int nervure = 0; ///< where that is, from 1
+    int nervure = 0; ///< the number of the rib where that is
 };
 
 struct PanneauFait {

@@ -8,10 +8,10 @@
 #include "utilities/rib_set_typed.h"
 
 #include <array>
-#include <compare>
 #include <map>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace loftwing {
@@ -30,7 +30,11 @@ struct ElementPanneau {
     GenreElement genre = GenreElement::longeron;
     int numero = 0; ///< of a spar's or hole's slot, from 1; 0 where there is one only
 
-    auto operator<=>(const ElementPanneau &) const = default;
+    bool operator==(const ElementPanneau &) const = default;
+    /// Spars first, each kind by its numbers.
+    bool operator<(const ElementPanneau &other) const {
+        return std::tie(genre, numero) < std::tie(other.genre, other.numero);
+    }
 };
 
 /// Ribs of the panel in which an element stands, counted from 1 at the root, both included.

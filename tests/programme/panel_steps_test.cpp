@@ -325,6 +325,8 @@ TEST_F(PanelSteps, TheBowOfASparIsMeasuredFromTheLineBetweenItsEnds) {
     EXPECT_TRUE(made.fleches[0].dessus);
     EXPECT_NEAR(made.fleches[0].mm, 0.02 * 120 / 4, 0.02);
     EXPECT_EQ(made.fleches[0].nervure, 3);
+    demand.premier = 11;
+    EXPECT_EQ(Made().fleches.at(0).nervure, 13);
     EXPECT_THAT(made.avis, Contains(StartsWith("spar 1 bows by at most 0.6 mm, in the upper")));
     panel.portees[{GenreElement::longeron, 1}] = {1, 2}; // two ribs are always on a line
     EXPECT_EQ(Made().fleches.at(0).mm, 0);
