@@ -28,8 +28,8 @@ DemandePanneau PanelDemandOf(const Arguments &arguments, const Programme &progra
 std::optional<PanelFiles> PanelSheets(const Arguments &arguments, const Programme &programme,
                                       const PanneauFait &made, const std::string &folder);
 
-/// The file of all ribs' drawings where the options ask for it, numbers from `premier`. Nothing when it was refused, which
-/// was told.
+/// The file of all ribs' drawings where the options ask for it, numbers from `premier`. Nothing
+/// when it was refused, which was told.
 std::optional<PanelFiles> PanelDrawings(const Arguments &arguments, Programme &programme,
                                         const PanneauFait &made, int premier);
 
