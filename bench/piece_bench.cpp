@@ -39,20 +39,22 @@ struct PieceBench {
     RibModel rib;
 };
 
-/// The same with twelve spars, twelve holes and a heel.
+/// The same with so many spars and holes, and a heel.
+template <int Count>
 struct LoadedPieceBench : PieceBench {
     LoadedPieceBench() {
-        rib.NbLongeron = rib.NbTrou = 11;
-        for (int slot = 0; slot < kSlots; ++slot) {
+        rib.NbLongeron = rib.NbTrou = Count - 1;
+        for (int slot = 0; slot < Count; ++slot) {
+            constexpr int kStep = 72 / Count; // percent of the chord
             Longeron &spar = At(rib.longeron, slot);
-            spar.PosLongAfich = std::to_string(10 + 6 * slot) + "%";
+            spar.PosLongAfich = std::to_string(10 + kStep * slot) + "%";
             spar.LargLong = 4;
             spar.HautLong = 2;
             spar.DistLong = 1;
             spar.TypeLong = static_cast<std::uint8_t>(slot % 4);
             spar.OptLongExt = spar.OptLongInt = 1;
             Trou &hole = At(rib.trou, slot);
-            hole.PosTrouAfich = std::to_string(13 + 6 * slot) + "%";
+            hole.PosTrouAfich = std::to_string(10 + kStep / 2 + kStep * slot) + "%";
             hole.DiaTrou = 5;
             hole.HautTrou = 4;
             hole.ChkCentre = 1;
@@ -78,7 +80,8 @@ void PieceOfARib(benchmark::State &state) {
     }
 }
 BENCHMARK_TEMPLATE(PieceOfARib, PieceBench)->Unit(benchmark::kMicrosecond);
-BENCHMARK_TEMPLATE(PieceOfARib, LoadedPieceBench)->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(PieceOfARib, LoadedPieceBench<3>)->Unit(benchmark::kMicrosecond);
+BENCHMARK_TEMPLATE(PieceOfARib, LoadedPieceBench<12>)->Unit(benchmark::kMicrosecond);
 
 } // namespace
 } // namespace loftwing

@@ -60,18 +60,18 @@ Anneau JusquauMilieu(const Pied &foot, const std::vector<TrancheContour> &slices
     return ring;
 }
 
-/// The airfoil where the stocks are.
-Surface DansLesBords(const Etabli &etabli) {
+/// The airfoil where the stocks are; nothing where none reaches between `from` and `to`.
+Surface DansLesBords(const Etabli &etabli, double from, double to) {
     const RibModel &rib = etabli.rib;
     const BoitePiece &box = etabli.faces.Boite();
     const double low = box.bas_gauche.y - etabli.loin;
     const double high = box.haut_droite.y + etabli.loin;
     Surface stocks;
-    if (rib.TypeBA == 1 && Wide(rib.EpBA) > box.bas_gauche.x) {
+    if (rib.TypeBA == 1 && Wide(rib.EpBA) > std::max(box.bas_gauche.x, from)) {
         stocks.push_back(Rectangle(box.bas_gauche.x - etabli.loin, low, Wide(rib.EpBA), high));
     }
     const double rear = etabli.corde - Wide(rib.EpBF);
-    if (rear < box.haut_droite.x) {
+    if (rear < std::min(box.haut_droite.x, to)) {
         stocks.push_back(Rectangle(rear, low, box.haut_droite.x + etabli.loin, high));
     }
     return stocks.empty() ? stocks : Commun(etabli.contour, stocks);
@@ -116,7 +116,7 @@ TalonPiece FaitTalon(const Etabli &etabli, const Surface &corps,
     if (!HorsProfil(foot, slices, talon.OptTalon != 0)) {
         throw RefusPiece{RefusDePiece::talon_dans_profil};
     }
-    Surface away = DansLesBords(etabli);
+    Surface away = DansLesBords(etabli, slices.front().x0, slices.back().x1);
     for (const Decoupe &notch : encoches) {
         if (!notch.cercle) {
             away.push_back(notch.aire);

@@ -40,23 +40,30 @@ struct Plage {
     double bas, haut;
 };
 
-std::vector<Plage> PlagesA(const Surface &wood, double x) {
-    std::vector<double> ys;
+/// What lies over each of ascending places.
+std::vector<std::vector<Plage>> Plages(const Surface &wood, const std::vector<double> &xs) {
+    std::vector<std::vector<double>> crossed(xs.size());
     for (const Anneau &ring : wood) {
         for (std::size_t i = 0; i < ring.size(); ++i) {
             const PointMm &a = ring[i];
             const PointMm &b = Suivant(ring, i);
-            if ((a.x > x) != (b.x > x)) {
-                ys.push_back(a.y + (b.y - a.y) * ((x - a.x) / (b.x - a.x)));
+            const auto [left, right] = std::minmax(a.x, b.x);
+            auto at = std::lower_bound(xs.begin(), xs.end(), left);
+            for (; at != xs.end() && *at < right; ++at) {
+                crossed[static_cast<std::size_t>(at - xs.begin())].push_back(
+                    a.y + (b.y - a.y) * ((*at - a.x) / (b.x - a.x)));
             }
         }
     }
-    std::sort(ys.begin(), ys.end());
-    std::vector<Plage> stretches;
-    for (std::size_t i = 0; i + 1 < ys.size(); i += 2) {
-        stretches.push_back({ys[i], ys[i + 1]});
+    std::vector<std::vector<Plage>> all;
+    for (std::vector<double> &ys : crossed) {
+        std::sort(ys.begin(), ys.end());
+        all.emplace_back();
+        for (std::size_t i = 0; i + 1 < ys.size(); i += 2) {
+            all.back().push_back({ys[i], ys[i + 1]});
+        }
     }
-    return stretches;
+    return all;
 }
 
 /// The wood cut into columns, in which a place for a box is quickly found.
@@ -70,9 +77,12 @@ class Colonnes {
         const BoitePiece box = BoiteAutour(all);
         x0_ = box.bas_gauche.x;
         step_ = (box.haut_droite.x - x0_) / kColonnes;
+        std::vector<double> middles;
+        middles.reserve(kColonnes);
         for (int i = 0; i < kColonnes; ++i) {
-            columns_.push_back(PlagesA(wood, x0_ + (i + 0.5) * step_));
+            middles.push_back(x0_ + (i + 0.5) * step_);
         }
+        columns_ = Plages(wood, middles);
     }
 
     /// The place with most room above and below. The line at height 0 is kept clear where that is

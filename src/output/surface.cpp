@@ -6,7 +6,9 @@
 #include <polyclipping/clipper.hpp>
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
+#include <cstdint>
 
 namespace loftwing {
 
@@ -86,12 +88,26 @@ auto Execute(Work work) {
     }
 }
 
-/// Whether a ring comes twice through the same place.
-bool SeTouche(Path path) {
-    std::sort(path.begin(), path.end(), [](const IntPoint &a, const IntPoint &b) {
-        return a.X != b.X ? a.X < b.X : a.Y < b.Y;
-    });
-    return std::adjacent_find(path.begin(), path.end()) != path.end();
+/// Whether a ring comes twice through the same place. Every result is looked at, so that sorting
+/// the points would cost as much as the work itself: a table with open addressing.
+bool SeTouche(const Path &path) {
+    const std::size_t mask = std::bit_ceil(2 * path.size() + 1) - 1;
+    std::vector<std::uint32_t> table(mask + 1, 0); // numbers of points from 1
+    for (std::size_t i = 0; i < path.size(); ++i) {
+        std::uint64_t hash = static_cast<std::uint64_t>(path[i].X) * 0x9E3779B97F4A7C15U +
+                             static_cast<std::uint64_t>(path[i].Y);
+        hash *= 0xC2B2AE3D27D4EB4FU;
+        for (std::size_t at = (hash >> 32) & mask;; at = (at + 1) & mask) {
+            if (table[at] == 0) {
+                table[at] = static_cast<std::uint32_t>(i + 1);
+                break;
+            }
+            if (path[table[at] - 1] == path[i]) {
+                return true;
+            }
+        }
+    }
+    return false;
 }
 
 struct Remplissage {
