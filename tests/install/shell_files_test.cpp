@@ -155,7 +155,7 @@ TEST(Completion, OffersTheOptionsOfACommand) {
         const bool writes = testing::Value(Options(verb), Contains("--output"));
         EXPECT_EQ(testing::Value(Offered({verb, "-"}), Contains("-o")), writes) << verb;
     }
-    EXPECT_THAT(Offered({"draw", "a.dat", "--chord", "200", "--st"}), ElementsAre("--stations"));
+    EXPECT_THAT(Offered({"draw", "a.dat", "--chord", "200", "--stat"}), ElementsAre("--stations"));
 }
 
 TEST(Completion, OffersTheWordsThatAnOptionTakes) {
