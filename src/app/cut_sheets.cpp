@@ -135,6 +135,17 @@ bool Write(const SheetTarget &target, const std::vector<FileToWrite> &files) {
 
 } // namespace
 
+std::optional<Imbrication> ToldIfRefused(const Programme &programme,
+                                         std::variant<Imbrication, RefusPlanche> made) {
+    if (const auto *why = std::get_if<RefusPlanche>(&made)) {
+        programme.messages.Inform(
+            TexteRefusPlanche(programme.messages, *why, programme.settings.Unite),
+            why->nom.empty() ? "--sheet" : why->nom);
+        return std::nullopt;
+    }
+    return std::move(std::get<Imbrication>(made));
+}
+
 std::string LineOfSheet(const Planche &sheet, std::size_t number, const std::string &Unite) {
     const std::size_t count = sheet.pieces.size();
     return "sheet " + std::to_string(number) + ": " + DepuisMm(sheet.format.largeur, Unite) +
@@ -162,20 +173,16 @@ int CutOnSheets(const Arguments &arguments) {
     if (refused) {
         return kRefused;
     }
-    const auto made = Nested(pieces, wish);
-    if (const auto *why = std::get_if<RefusPlanche>(&made)) {
-        programme.messages.Inform(
-            TexteRefusPlanche(programme.messages, *why, programme.settings.Unite),
-            why->nom.empty() ? "--sheet" : why->nom);
+    const auto sheets = ToldIfRefused(programme, Nested(pieces, wish));
+    if (!sheets) {
         return kRefused;
     }
-    const Imbrication &sheets = std::get<Imbrication>(made);
-    const auto files = EcritPlanches(programme, form, sheets, RingsOf(arguments), target.path);
+    const auto files = EcritPlanches(programme, form, *sheets, RingsOf(arguments), target.path);
     if (target.on_out && files.size() != 1) {
         throw UsageError("-o - takes one sheet, and there are " + std::to_string(files.size()));
     }
     const bool written = Write(target, files);
-    TellSheets(arguments, target, sheets, files, programme.settings.Unite);
+    TellSheets(arguments, target, *sheets, files, programme.settings.Unite);
     return written && complete ? kDone : kRefused;
 }
 

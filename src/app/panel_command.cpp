@@ -53,10 +53,9 @@ std::pair<ElementPanneau, PorteePanneau> PorteeDe(const std::string &word) {
 }
 
 int PremierDe(const Arguments &arguments) {
-    constexpr int kMost = 9999;
     const double number = LeadingNumber(Typed(arguments, "--first", kTouchesEntier));
-    if (number < 1 || number > kMost) {
-        throw UsageError("--first takes 1 to 9999");
+    if (number < 1 || number > kPremierMaxi) {
+        throw UsageError("--first takes 1 to " + std::to_string(kPremierMaxi));
     }
     return static_cast<int>(number);
 }
@@ -130,15 +129,15 @@ SaisieJeu JeuDe(const FichierPanneau &wanted, const std::string &folder) {
 }
 
 /// The clear width between two ribs of a panel of that length in equal steps.
-void DitEcart(const FichierPanneau &wanted, const Programme &programme) {
-    if (wanted.longueur.empty() || !wanted.ecarts.empty()) {
+void DitEcart(const FichierPanneau &wanted, const PanneauFait &made, const Programme &programme) {
+    if (wanted.longueur.empty() || !wanted.ecarts.empty() || made.jeu.nervures.empty()) {
         return;
     }
     const Saisie saisie = programme.SaisieEnCours();
-    const double count = LeadingNumber(wanted.nombre);
+    const int count = static_cast<int>(made.jeu.nervures.size()) - 2;
     const double thick =
         wanted.epaisseurs.empty() ? 0 : NombreMm(wanted.epaisseurs.front(), saisie);
-    const double gap = (NombreMm(wanted.longueur, saisie) - (count + 2) * thick) / (count + 1);
+    const double gap = EcartRegulier(NombreMm(wanted.longueur, saisie), count, thick);
     std::cout << programme.Text({"FrmNervure", "3"}) << ": "
               << LongueurDePanneau(gap, programme.settings.Unite) << '\n';
 }
@@ -174,13 +173,11 @@ bool Admis(const PanneauFait &made, const Arguments &arguments, const Messages &
 
 /// Asks about files that are there; the console says No unless all is answered with Yes.
 bool RemplaceSiVoulu(const std::vector<FileToWrite> &files, const Messages &messages) {
-    FichiersEcrits there;
+    std::vector<std::string> paths;
     for (const FileToWrite &file : files) {
-        std::error_code unknown;
-        if (std::filesystem::exists(file.path, unknown)) {
-            there.insert(file.path);
-        }
+        paths.push_back(file.path);
     }
+    const FichiersEcrits there = FichiersDejaLa(paths, {});
     return there.empty() ||
            messages.Confirm(TexteRemplacement(there, messages), messages.Text({"Panel", "40"}));
 }
@@ -265,7 +262,7 @@ int RunPanel(const Arguments &arguments) {
     demand.premier = wanted.premier;
     const PanneauFait made = FaitPanneau(programme, panel, demand);
     if (arguments.Has("--dry-run")) {
-        DitEcart(wanted, programme);
+        DitEcart(wanted, made, programme);
         Dit(made, programme, wanted.premier);
         return Admis(made, arguments, programme.messages) ? kDone : kRefused;
     }

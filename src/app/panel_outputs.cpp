@@ -9,7 +9,6 @@
 #include "features/talon.h"
 #include "programme/export.h"
 #include "programme/qt_stack_pdf.h"
-#include "programme/sheet_words.h"
 
 #include <filesystem>
 #include <memory>
@@ -21,6 +20,17 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char *kDrawings = "--drawings";
+
+std::variant<Imbrication, RefusPlanche> Nested(const PanneauFait &made, const SheetWish &wish) {
+    std::size_t count = 0;
+    for (const NervureFaite &nervure : made.nervures) {
+        count += nervure.pieces.size();
+    }
+    if (count * static_cast<std::size_t>(wish.copies) > kPiecesMaxi) {
+        return RefusPlanche{RefusDePlanche::trop_de_pieces}; // before there are so many
+    }
+    return Imbrique(PiecesDuPanneau(made, wish.copies, wish.mirror), wish.reglage);
+}
 
 } // namespace
 
@@ -56,19 +66,15 @@ std::optional<PanelFiles> PanelSheets(const Arguments &arguments, const Programm
     const FormeDecoupe &form = CutFormOf(arguments.Value("--to", "svg"));
     const Toolkit toolkit(form.needs_toolkit);
     const SheetWish wish = SheetWishOf(arguments, programme);
-    const auto nested = Imbrique(PiecesDuPanneau(made, wish.copies, wish.mirror), wish.reglage);
-    if (const auto *why = std::get_if<RefusPlanche>(&nested)) {
-        programme.messages.Inform(
-            TexteRefusPlanche(programme.messages, *why, programme.settings.Unite),
-            why->nom.empty() ? "--sheet" : why->nom);
+    const auto sheets = ToldIfRefused(programme, Nested(made, wish));
+    if (!sheets) {
         return std::nullopt;
     }
-    const Imbrication &sheets = std::get<Imbrication>(nested);
     PanelFiles out;
-    out.files = EcritPlanches(programme, form, sheets, RingsOf(arguments),
+    out.files = EcritPlanches(programme, form, *sheets, RingsOf(arguments),
                               folder + "sheet." + form.extension);
-    for (std::size_t i = 0; i < sheets.size(); ++i) {
-        out.lines.push_back(LineOfSheet(sheets[i], i + 1, programme.settings.Unite));
+    for (std::size_t i = 0; i < sheets->size(); ++i) {
+        out.lines.push_back(LineOfSheet((*sheets)[i], i + 1, programme.settings.Unite));
     }
     return out;
 }

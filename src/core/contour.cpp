@@ -262,6 +262,30 @@ void CalculCambrure(Profil &rib) {
     }
 }
 
+namespace {
+
+void CherchePointsExtremes(Profil &rib) {
+    MiniX(rib);
+    CalculExtradosMaxi(rib);
+    CalculIntradosMini(rib);
+}
+
+/// What is taken from a contour that has been made.
+void MesureContour(Profil &rib) {
+    SepareIntrados(rib);
+    TableStations(rib);
+    CalculEpMaxi(rib);
+    CalculCambrure(rib);
+}
+
+} // namespace
+
+void FaitContour(Profil &rib) {
+    Alocate(rib);
+    CherchePointsExtremes(rib);
+    MesureContour(rib);
+}
+
 Preparation PrepareContourSeul(RibModel &rib, const Messages &messages) {
     Preparation result = Preparation::complete;
     try {
@@ -271,9 +295,7 @@ Preparation PrepareContourSeul(RibModel &rib, const Messages &messages) {
         result = Preparation::incomplete;
     }
     try {
-        MiniX(rib);
-        CalculExtradosMaxi(rib);
-        CalculIntradosMini(rib);
+        CherchePointsExtremes(rib);
     } catch (const Failure &failure) {
         if (result == Preparation::complete) {
             // Nothing failed before: the few points there are don't make a contour long enough.
@@ -290,10 +312,7 @@ Preparation PrepareContour(RibModel &rib, const Messages &messages) {
     if (result == Preparation::impossible) {
         return result;
     }
-    SepareIntrados(rib);
-    TableStations(rib);
-    CalculEpMaxi(rib);
-    CalculCambrure(rib);
+    MesureContour(rib);
     return result;
 }
 

@@ -34,6 +34,9 @@ void TableStations(Profil &rib);
 void CalculEpMaxi(Profil &rib);
 void CalculCambrure(Profil &rib);
 
+/// Everything from Alocate to CalculCambrure; the first failure passes on.
+void FaitContour(Profil &rib);
+
 /// How the preparation of a contour ended.
 enum class Preparation {
     complete,

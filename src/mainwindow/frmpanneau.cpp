@@ -9,8 +9,6 @@
 
 #include <QScreen>
 
-#include <filesystem>
-
 namespace loftwing {
 
 namespace {
@@ -136,13 +134,7 @@ bool frmpanneau::ConfirmeAvis() const {
 }
 
 bool frmpanneau::ConfirmeRemplacement() const {
-    FichiersEcrits there;
-    for (const std::string &file : FichiersDuPanneau(fait_)) {
-        std::error_code error;
-        if (!ecrits_.contains(file) && std::filesystem::exists(file, error)) {
-            there.insert(file);
-        }
-    }
+    const FichiersEcrits there = FichiersDejaLa(FichiersDuPanneau(fait_), ecrits_);
     return there.empty() ||
            programme_.messages.Confirm(TexteRemplacement(there, programme_.messages), Titre());
 }

@@ -59,7 +59,7 @@ void frmpanneau::Portees_Change(const QTableWidgetItem &item) {
 
 /// What is said of one rib, in one line.
 std::string frmpanneau::AvisDe(int numero) const {
-    const std::string name = MotNervure(programme_.messages) + " " + std::to_string(numero) + ": ";
+    const std::string name = DeLaNervure(programme_.messages, numero);
     std::string text;
     for (const std::vector<std::string> *lines : {&refus_, &avis_}) {
         for (const std::string &line : *lines) {
@@ -122,9 +122,9 @@ void frmpanneau::MontreEcart() {
     if (longueur_ > 0 && inter_ > 0 && fautif_ == nullptr) {
         const std::string thick = S(txt[kEpaisseur].text());
         const double mm = thick.empty() ? 0 : NombreMm(thick, programme_.SaisieEnCours());
-        const double gap = (longueur_ - (inter_ + 2) * mm) / (inter_ + 1);
         text =
-            Mot({"FrmNervure", "3"}) + ": " + Q(LongueurDePanneau(gap, programme_.settings.Unite));
+            Mot({"FrmNervure", "3"}) + ": " +
+            Q(LongueurDePanneau(EcartRegulier(longueur_, inter_, mm), programme_.settings.Unite));
     }
     lblecart.setText(text);
 }

@@ -11,8 +11,6 @@ namespace loftwing {
 
 namespace {
 
-constexpr int kPremierMaxi = 9999;
-
 /// A whole number of up to four digits; nothing for anything else.
 std::optional<int> EntierDe(const std::string &text) {
     constexpr std::size_t kDigits = 4;
@@ -32,8 +30,7 @@ std::optional<PorteePanneau> PorteeEntre(const std::array<std::string, 2> &typed
         return std::nullopt;
     }
     const PorteePanneau range{*from - premier + 1, *to - premier + 1};
-    const bool good = range.de >= 1 && range.de <= range.a && range.a <= nombre;
-    return good ? std::optional(range) : std::nullopt;
+    return range.Dans(nombre) ? std::optional(range) : std::nullopt;
 }
 
 } // namespace

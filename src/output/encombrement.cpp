@@ -42,14 +42,6 @@ std::size_t Sommets(const Surface &surface) {
     return count;
 }
 
-std::vector<PointMm> TousLesPoints(const Surface &surface) {
-    std::vector<PointMm> all;
-    for (const Anneau &ring : surface) {
-        all.insert(all.end(), ring.begin(), ring.end());
-    }
-    return all;
-}
-
 /// The outlines grown by half the gap and a trifle, with few corners. The simplification promises
 /// less than is needed where an outline turns back sharply; so what comes is held against what must
 /// be covered, and one that lacks some of it is taken with all its hollows filled.
@@ -65,7 +57,7 @@ Surface Grandie(const Surface &wood, double half) {
     if (SansMiettes(Moins(wanted, light), kMiette).empty()) {
         return light;
     }
-    return {Enveloppe(TousLesPoints(Deplace(wood, half + kEnPlus, Coins::vifs)))};
+    return {Enveloppe(PointsDe(Deplace(wood, half + kEnPlus, Coins::vifs)))};
 }
 
 double EcartDeLaDroite(const PointMm &a, const PointMm &b, const PointMm &point) {

@@ -70,11 +70,7 @@ std::vector<std::vector<Plage>> Plages(const Surface &wood, const std::vector<do
 class Colonnes {
   public:
     explicit Colonnes(const Surface &wood) : wood_(wood) {
-        std::vector<PointMm> all;
-        for (const Anneau &ring : wood) {
-            all.insert(all.end(), ring.begin(), ring.end());
-        }
-        const BoitePiece box = BoiteAutour(all);
+        const BoitePiece box = BoiteAutour(PointsDe(wood));
         x0_ = box.bas_gauche.x;
         step_ = (box.haut_droite.x - x0_) / kColonnes;
         std::vector<double> middles;

@@ -280,6 +280,14 @@ bool Contient(const Surface &surface, const PointMm &point) {
     return inside;
 }
 
+std::vector<PointMm> PointsDe(const Surface &surface) {
+    std::vector<PointMm> all;
+    for (const Anneau &ring : surface) {
+        all.insert(all.end(), ring.begin(), ring.end());
+    }
+    return all;
+}
+
 double Aire(const Anneau &ring) {
     double twice = 0;
     for (std::size_t i = 0; i < ring.size(); ++i) {

@@ -65,6 +65,9 @@ std::vector<Ligne> Dedans(const Ligne &ligne, const Surface &surface);
 /// Whether a point lies in an area; on its edge either answer may come.
 bool Contient(const Surface &surface, const PointMm &point);
 
+/// All corners of its rings.
+std::vector<PointMm> PointsDe(const Surface &surface);
+
 /// Signed area of a ring, mm2: above 0 where it runs anticlockwise.
 double Aire(const Anneau &ring);
 /// Of an area, holes taken off.

@@ -15,7 +15,6 @@ namespace fs = std::filesystem;
 
 constexpr const char *kSectionPanneau = "Panel";
 constexpr const char *kSectionPortees = "Ranges";
-constexpr int kPremierMaxi = 9999;
 
 std::vector<std::string> Mots(const std::string &line) {
     std::vector<std::string> words;

@@ -1,6 +1,6 @@
 #include "programme/panel_plan.h"
 
-#include "core/stations.h"
+#include "features/slot_rules.h"
 
 #include <functional>
 #include <optional>
@@ -17,7 +17,7 @@ using Lieu = std::function<std::optional<double>(int numero)>;
 class Traceur {
   public:
     Traceur(const Panneau &panneau, const PanneauFait &fait, const Saisie &saisie)
-        : panneau_(panneau), fait_(fait), saisie_(saisie) {}
+        : panneau_(panneau), fait_(fait), saisie_(saisie), elements_(Elements(panneau, saisie)) {}
 
     PlanPanneau plan;
 
@@ -29,6 +29,7 @@ class Traceur {
     const Panneau &panneau_;
     const PanneauFait &fait_;
     const Saisie &saisie_;
+    const std::vector<ElementPanneau> elements_;
 
     int Nombre() const { return static_cast<int>(fait_.nervures.size()); }
     const PartiesRib &Rib(int numero) const { return At(fait_.nervures, numero - 1).rib; }
@@ -57,13 +58,12 @@ void Traceur::Nervures(int premier) {
 
 std::optional<double> Traceur::PlaceDe(const ElementPanneau &spar, int numero) const {
     const PartiesRib &rib = Rib(numero);
-    const auto slot = rib.ProfilCharge ? SlotDe(panneau_, spar, numero, saisie_) : std::nullopt;
+    const auto slot = rib.ProfilCharge ? SlotDe(panneau_, elements_, spar, numero) : std::nullopt;
     if (!slot) {
         return std::nullopt;
     }
     const Longeron &record = At(rib.longeron, *slot);
-    return Wide(record.RefLong == 1 ? PosDepuisBF(record.PosLongAfich, rib.corde, saisie_)
-                                    : PosDepuisBA(record.PosLongAfich, rib.corde, saisie_));
+    return Wide(PlaceDepuis(record.PosLongAfich, record.RefLong, rib.corde, saisie_));
 }
 
 /// A line for each run of ribs that have a place; one rib alone makes none.
@@ -86,7 +86,7 @@ void Traceur::Ligne(std::vector<std::vector<PointMm>> &lines, const Lieu &lieu) 
 }
 
 void Traceur::Longerons() {
-    for (const ElementPanneau &element : Elements(panneau_, saisie_)) {
+    for (const ElementPanneau &element : elements_) {
         if (element.genre == GenreElement::longeron) {
             Ligne(plan.longerons, [&](int numero) { return PlaceDe(element, numero); });
         }

@@ -2,9 +2,8 @@
 
 #include "core/airfoil_reader.h"
 #include "core/contour.h"
-#include "core/stations.h"
 #include "features/inserted_text.h"
-#include "output/piece_place.h"
+#include "features/slot_rules.h"
 #include "persist/LireEcrire.h"
 #include "programme/piece_words.h"
 #include "programme/rib_trial.h"
@@ -12,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
 
 namespace loftwing {
 
@@ -20,27 +20,18 @@ namespace {
 constexpr std::string_view kAileGauche = " L";
 constexpr std::string_view kAileDroite = " R";
 
-/// The piece of the right wing out of that of the left one.
-Piece DeLAutreAile(Piece piece) {
+/// The label of the left wing's piece becomes that of the right one's.
+Piece DeDroite(Piece piece) {
     for (TexteMarque &text : piece.textes) {
-        const std::size_t at = text.texte.rfind(kAileGauche);
+        // At the end, or in front of the name of a template.
+        const std::size_t at = text.texte.ends_with(kAileGauche)
+                                   ? text.texte.size() - kAileGauche.size()
+                                   : text.texte.rfind(std::string(kAileGauche) + ",");
         if (text.genre == GenreMarque::etiquette && at != std::string::npos) {
             text.texte.replace(at, kAileGauche.size(), kAileDroite);
         }
     }
-    return Opposee(std::move(piece));
-}
-
-/// The contour without a box for what fails.
-void FaitContour(Profil &rib) {
-    Alocate(rib);
-    MiniX(rib);
-    CalculExtradosMaxi(rib);
-    CalculIntradosMini(rib);
-    SepareIntrados(rib);
-    TableStations(rib);
-    CalculEpMaxi(rib);
-    CalculCambrure(rib);
+    return piece;
 }
 
 /// Height of a surface at a station that may lie between two, in fractions of the chord.
@@ -67,11 +58,12 @@ class Ouvrage {
     Saisie saisie_;
     RibModel &rib_;
     PanneauFait fait_;
+    std::vector<ElementPanneau> elements_;
+    std::vector<std::string> profils_; ///< the bytes of the airfoils
 
     int Nombre() const { return static_cast<int>(fait_.jeu.nervures.size()); }
-    std::string Nervure(int numero) const {
-        return MotNervure(messages_) + " " + std::to_string(demande_.premier + numero - 1) + ": ";
-    }
+    int Numero(int numero) const { return demande_.premier + numero - 1; }
+    std::string Nervure(int numero) const { return DeLaNervure(messages_, Numero(numero)); }
     bool Compose();
     void Ouvre(int numero, NervureFaite &nervure);
     void Regarde(int numero, NervureFaite &nervure);
@@ -82,7 +74,8 @@ class Ouvrage {
 };
 
 bool Ouvrage::Compose() {
-    auto made = ComposeJeu(panneau_.jeu, ProfilsDesBouts(panneau_), saisie_, rib_.jeu);
+    JeuNervures set;
+    auto made = ComposeJeu(panneau_.jeu, ProfilsDesBouts(panneau_), saisie_, set);
     if (const auto *refus = std::get_if<RefusJeu>(&made)) {
         fait_.refus.push_back(refus->text);
         return false;
@@ -90,6 +83,8 @@ bool Ouvrage::Compose() {
     fait_.jeu = std::move(std::get<JeuDeNervures>(made));
     fait_.refus = Desaccords(panneau_, Nombre(), saisie_);
     fait_.avis = AvisDesBouts(panneau_, messages_);
+    elements_ = Elements(panneau_, saisie_);
+    profils_ = TextesNervures(fait_.jeu, messages_);
     return fait_.refus.empty();
 }
 
@@ -101,7 +96,7 @@ void Ouvrage::Ouvre(int numero, NervureFaite &nervure) {
     }
     nervure.profil = rib_.CheminProfil;
     nervure.composants = rib_.NomProfil + ".lfw";
-    nervure.octets_profil = TexteNervure(fait_.jeu, numero, messages_);
+    nervure.octets_profil = At(profils_, numero - 1);
     nervure.octets_composants = EcritComposants(rib_, saisie_.Unite);
     const bool users = rib_.texte.TexteUtilisateur;
     rib_.Partie<PartiesRib>() = {};
@@ -123,7 +118,7 @@ void Ouvrage::Regarde(int numero, NervureFaite &nervure) {
         throw *failure;
     }
     DemandePiece demande = AvecNoms(messages_, demande_.piece);
-    demande.texte = EtiquetteNumerotee(rib_, demande_.premier + numero - 1, saisie_.Unite);
+    demande.texte = EtiquetteNumerotee(rib_, Numero(numero), saisie_.Unite);
     if (demande_.deux_ailes) {
         demande.texte += kAileGauche;
     }
@@ -143,7 +138,7 @@ void Ouvrage::Regarde(int numero, NervureFaite &nervure) {
 /// Height of the surface in which the spar is notched, mm over the rib's reference line.
 std::optional<double> Ouvrage::HauteurDuLongeron(const ElementPanneau &spar, bool upper,
                                                  int numero) const {
-    const auto slot = SlotDe(panneau_, spar, numero, saisie_);
+    const auto slot = SlotDe(panneau_, elements_, spar, numero);
     if (!slot) {
         return std::nullopt;
     }
@@ -152,9 +147,7 @@ std::optional<double> Ouvrage::HauteurDuLongeron(const ElementPanneau &spar, boo
     if ((upper ? record.OptLongExt : record.OptLongInt) == 0) {
         return std::nullopt;
     }
-    const double x =
-        Wide(record.RefLong == 1 ? PosDepuisBF(record.PosLongAfich, rib.corde, saisie_)
-                                 : PosDepuisBA(record.PosLongAfich, rib.corde, saisie_));
+    const double x = Wide(PlaceDepuis(record.PosLongAfich, record.RefLong, rib.corde, saisie_));
     const double corde = Wide(rib.corde);
     return HauteurEntre(upper ? rib.TabExtrados : rib.TabIntrados,
                         kLastStation * (1 - Quotient(x, corde))) *
@@ -177,21 +170,21 @@ std::optional<Fleche> Ouvrage::FlecheDe(const ElementPanneau &spar, bool upper) 
     }
     const Lieu &first = places.front();
     const Lieu &last = places.back();
-    Fleche greatest{spar, upper, 0, demande_.premier + first.numero - 1};
+    Fleche greatest{spar, upper, 0, Numero(first.numero)};
     for (const Lieu &place : places) {
         const double run = last.rapport - first.rapport;
         const double part = run == 0 ? 0 : (place.rapport - first.rapport) / run;
         const double line = first.hauteur + (last.hauteur - first.hauteur) * part;
         if (std::abs(place.hauteur - line) > greatest.mm) {
             greatest.mm = std::abs(place.hauteur - line);
-            greatest.nervure = demande_.premier + place.numero - 1;
+            greatest.nervure = Numero(place.numero);
         }
     }
     return greatest;
 }
 
 void Ouvrage::MesureFleches() {
-    for (const ElementPanneau &element : Elements(panneau_, saisie_)) {
+    for (const ElementPanneau &element : elements_) {
         if (element.genre != GenreElement::longeron) {
             continue;
         }
@@ -210,7 +203,6 @@ void Ouvrage::MesureFleches() {
 
 PanneauFait Ouvrage::Fait(const AvancePanneau &avance) {
     const PartieGardee<PartiesRib> kept(rib_);
-    const JeuNervures set = rib_.jeu;
     try {
         if (!Compose()) {
             return std::move(fait_);
@@ -235,7 +227,6 @@ PanneauFait Ouvrage::Fait(const AvancePanneau &avance) {
     } catch (const Failure &failure) {
         fait_.refus.push_back(messages_.Description(failure));
     }
-    rib_.jeu = set;
     return std::move(fait_);
 }
 
@@ -244,6 +235,10 @@ PanneauFait Ouvrage::Fait(const AvancePanneau &avance) {
 PanneauFait FaitPanneau(Programme &programme, const Panneau &panneau, const DemandePanneau &demande,
                         const AvancePanneau &avance) {
     return Ouvrage(programme, panneau, demande).Fait(avance);
+}
+
+std::string DeLaNervure(const Messages &messages, int numero) {
+    return MotNervure(messages) + " " + std::to_string(numero) + ": ";
 }
 
 std::string EtiquetteNumerotee(const RibModel &rib, int numero, const std::string &Unite) {
@@ -285,14 +280,28 @@ std::vector<std::string> EcritPanneau(const PanneauFait &fait) {
     return FichiersDuPanneau(fait);
 }
 
+FichiersEcrits FichiersDejaLa(const std::vector<std::string> &paths, const FichiersEcrits &ecrits) {
+    FichiersEcrits there;
+    for (const std::string &path : paths) {
+        std::error_code unknown;
+        if (!ecrits.contains(path) && std::filesystem::exists(path, unknown)) {
+            there.insert(path);
+        }
+    }
+    return there;
+}
+
 std::vector<PieceNommee> PiecesDuPanneau(const PanneauFait &fait, int copies, bool opposees) {
-    std::vector<PieceNommee> all;
-    for (int copy = 0; copy < copies; ++copy) {
-        for (const NervureFaite &nervure : fait.nervures) {
-            for (const Piece &piece : nervure.pieces) {
-                all.push_back(
-                    {nervure.composants, opposees && copy % 2 == 1 ? DeLAutreAile(piece) : piece});
-            }
+    std::vector<PieceNommee> one;
+    for (const NervureFaite &nervure : fait.nervures) {
+        for (const Piece &piece : nervure.pieces) {
+            one.push_back({nervure.composants, piece});
+        }
+    }
+    std::vector<PieceNommee> all = EnCopies(one, copies, opposees);
+    for (std::size_t i = 0; opposees && i < all.size(); ++i) {
+        if (i / one.size() % 2 == 1) {
+            all[i].piece = DeDroite(std::move(all[i].piece));
         }
     }
     return all;

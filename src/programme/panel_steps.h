@@ -7,6 +7,7 @@
 #include "output/piece.h"
 #include "programme/programme.h"
 #include "utilities/panneau.h"
+#include "utilities/rib_set_files.h"
 
 #include <functional>
 #include <optional>
@@ -58,6 +59,9 @@ using AvancePanneau = std::function<bool(int done, int total)>;
 PanneauFait FaitPanneau(Programme &programme, const Panneau &panneau, const DemandePanneau &demande,
                         const AvancePanneau &avance = {});
 
+/// "Rib 3: ", which what is said of one rib begins with.
+std::string DeLaNervure(const Messages &messages, int numero);
+
 /// A rib's own label with its number, as pieces and drawings of a panel have it.
 std::string EtiquetteNumerotee(const RibModel &rib, int numero, const std::string &Unite);
 
@@ -72,6 +76,8 @@ std::vector<std::string> FichiersDuPanneau(const PanneauFait &fait);
 /// Writes them, over older ones of their names, all or none, and gives their paths. Failure as
 /// WriteWholeFiles.
 std::vector<std::string> EcritPanneau(const PanneauFait &fait);
+/// Those of some paths at which something is, but for the user's own of just before.
+FichiersEcrits FichiersDejaLa(const std::vector<std::string> &paths, const FichiersEcrits &ecrits);
 
 /// So many copies of all ribs' pieces, for sheets. With `opposees` every second one is that of the
 /// other wing, and where both wings are cut its label says so.

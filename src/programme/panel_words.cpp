@@ -26,9 +26,8 @@ std::string LongueurDePanneau(double mm, const std::string &Unite) {
 std::string LigneNervure(const Messages &messages, const NervureFaite &nervure, int numero,
                          const std::string &Unite) {
     const PartiesRib &rib = nervure.rib;
-    std::string line = MotNervure(messages) + " " + std::to_string(numero) + ": " +
-                       nervure.composants + ", " + MotCorde(messages) + " : " +
-                       std::string(Trim(rib.cordeAfich)) + Unite;
+    std::string line = DeLaNervure(messages, numero) + nervure.composants + ", " +
+                       MotCorde(messages) + " : " + std::string(Trim(rib.cordeAfich)) + Unite;
     for (int slot = 0; slot < rib.NbLongeron; ++slot) {
         const Longeron &spar = At(rib.longeron, slot);
         line += Numerote(messages.Text({"Panel", "9"}), slot) +
@@ -41,8 +40,7 @@ std::string LigneNervure(const Messages &messages, const NervureFaite &nervure, 
                 Place(hole.PosTrouAfich, hole.RefTrou) + " (" + hole.DiaTrouAfich + ")";
     }
     if (rib.vrillage != 0.0F) {
-        line +=
-            ", " + messages.Text({"FrmInsText", "7"}) + " " + NumberText(rib.vrillage) + "\u00B0";
+        line += ", " + messages.Text({"FrmInsText", "7"}) + " " + NumberText(rib.vrillage) + kDegre;
     }
     return line;
 }

@@ -96,8 +96,7 @@ std::string FautePortee(const Panneau &panneau, const ElementPanneau &element, i
     if (range == panneau.portees.end()) {
         return des_deux ? "" : NomElement(element) + ": " + messages.Text({"Panel", "16"});
     }
-    const PorteePanneau &portee = range->second;
-    return portee.de >= 1 && portee.de <= portee.a && portee.a <= nombre
+    return range->second.Dans(nombre)
                ? ""
                : NomElement(element) + ": " + messages.Text({"Panel", "17"}) + " " +
                      std::to_string(nombre) + ".";
@@ -171,13 +170,16 @@ std::vector<ElementPanneau> Elements(const Panneau &panneau, const Saisie &saisi
     return found;
 }
 
-std::optional<int> SlotDe(const Panneau &panneau, const ElementPanneau &element, int numero,
-                          const Saisie &saisie) {
+bool DansSaPortee(const Panneau &panneau, const ElementPanneau &element, int numero) {
+    const auto range = panneau.portees.find(element);
+    return range == panneau.portees.end() || range->second.Contient(numero);
+}
+
+std::optional<int> SlotDe(const Panneau &panneau, const std::vector<ElementPanneau> &elements,
+                          const ElementPanneau &element, int numero) {
     int slot = 0;
-    for (const ElementPanneau &each : Elements(panneau, saisie)) {
-        const auto range = panneau.portees.find(each);
-        if (each.genre != element.genre ||
-            (range != panneau.portees.end() && !range->second.Contient(numero))) {
+    for (const ElementPanneau &each : elements) {
+        if (each.genre != element.genre || !DansSaPortee(panneau, each, numero)) {
             continue;
         }
         if (each == element) {
@@ -226,6 +228,10 @@ std::vector<std::string> AvisDesBouts(const Panneau &panneau, const Messages &me
     return {messages.Text({"Panel", "19"}) + " " + root.EpCoffrageAfich + " " +
             messages.Text({"Panel", "1"}) + " " + tip.EpCoffrageAfich + " " +
             messages.Text({"Panel", "2"}) + ": " + messages.Text({"Panel", "20"})};
+}
+
+double EcartRegulier(double longueur, int inter, double epaisseur) {
+    return (longueur - (inter + 2) * epaisseur) / (inter + 1);
 }
 
 std::array<ProfilJeu, 2> ProfilsDesBouts(const Panneau &panneau) {

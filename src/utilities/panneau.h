@@ -16,6 +16,9 @@
 
 namespace loftwing {
 
+/// The greatest number that a panel's first rib may have.
+inline constexpr int kPremierMaxi = 9999;
+
 /// What may stand in some of the ribs only.
 enum class GenreElement {
     longeron,
@@ -43,6 +46,8 @@ struct PorteePanneau {
     int a = 1;
 
     bool Contient(int rib) const { return rib >= de && rib <= a; }
+    /// Whether a panel of so many ribs has all of it.
+    bool Dans(int nombre) const { return de >= 1 && de <= a && a <= nombre; }
     bool operator==(const PorteePanneau &) const = default;
 };
 
@@ -65,10 +70,14 @@ bool Present(const PartiesRib &bout, const ElementPanneau &element, const Saisie
 /// All elements that stand in one end at least, spars first.
 std::vector<ElementPanneau> Elements(const Panneau &panneau, const Saisie &saisie);
 
-/// The slot in which a spar or hole stands in rib `numero`, from 1, elements before it that don't
-/// having closed up; nothing where it doesn't stand there.
-std::optional<int> SlotDe(const Panneau &panneau, const ElementPanneau &element, int numero,
-                          const Saisie &saisie);
+/// Whether rib `numero`, from 1, is one of those in which the element may stand.
+bool DansSaPortee(const Panneau &panneau, const ElementPanneau &element, int numero);
+
+/// The slot in which a spar or hole of `elements`, which are all of the panel's, stands in rib
+/// `numero`, from 1, elements before it that don't having closed up; nothing where it doesn't stand
+/// there.
+std::optional<int> SlotDe(const Panneau &panneau, const std::vector<ElementPanneau> &elements,
+                          const ElementPanneau &element, int numero);
 
 /// Why the two ends make no panel of `nombre` ribs: values that must agree and don't, with both of
 /// them, elements of one end without a range, ranges that can't be. Empty where they do.
@@ -79,6 +88,10 @@ std::vector<std::string> AvisDesBouts(const Panneau &panneau, const Messages &me
 /// A computed length as files have it: three decimals in mm, five in inches, zeros at the end left
 /// off.
 std::string TexteFondu(double mm, const std::string &Unite);
+
+/// The clear width between two ribs of a panel of that length, all in mm: `inter` ribs stand
+/// between the ends in equal steps.
+double EcartRegulier(double longueur, int inter, double epaisseur);
 
 /// The two airfoils of a set, as the ends hold them.
 std::array<ProfilJeu, 2> ProfilsDesBouts(const Panneau &panneau);

@@ -88,7 +88,6 @@ class Fondu {
         const double to = ValeurPourcent(tip.empty() ? "0" : tip, tip_.corde, saisie_);
         return TexteFondu(Entre(from, to), saisie_.Unite);
     }
-    double CordeEnMm() const { return Wide(rib_.corde); }
 
     void Dimensionne();
     void PoseTalon();
@@ -99,15 +98,16 @@ class Fondu {
     /// Whether an element of slot `slot` stands in this rib, and which end's record it has.
     enum class Origine { rien, racine, saumon, deux };
     Origine OrigineDe(const ElementPanneau &element) const;
-    Longeron LongeronDe(int slot, Origine from) const;
-    Trou TrouDe(int slot, Origine from) const;
-    void PoseLongerons();
-    void PoseTrous();
+    template <class Record, class Pairs>
+    Record ElementDe(const Record &root, const Record &tip, std::string Record::*place,
+                     const Pairs &pairs, Origine from) const;
+    template <class Record, class Pairs>
+    void PoseElements(GenreElement genre, std::array<Record, kSlots> Ajouts::*slots,
+                      std::uint8_t Ajouts::*count, std::string Record::*place, const Pairs &pairs);
 };
 
 Fondu::Origine Fondu::OrigineDe(const ElementPanneau &element) const {
-    const auto range = panneau_.portees.find(element);
-    if (range != panneau_.portees.end() && !range->second.Contient(numero_)) {
+    if (!DansSaPortee(panneau_, element, numero_)) {
         return Origine::rien;
     }
     const bool root = Present(root_, element, saisie_);
@@ -118,28 +118,16 @@ Fondu::Origine Fondu::OrigineDe(const ElementPanneau &element) const {
                        : Origine::rien;
 }
 
-Longeron Fondu::LongeronDe(int slot, Origine from) const {
-    const Longeron &a = At(root_.longeron, slot);
-    const Longeron &b = At(tip_.longeron, slot);
+template <class Record, class Pairs>
+Record Fondu::ElementDe(const Record &root, const Record &tip, std::string Record::*place,
+                        const Pairs &pairs, Origine from) const {
     if (from != Origine::deux || !Entre()) {
-        return from == Origine::saumon || (from == Origine::deux && numero_ > 1) ? b : a;
+        return from == Origine::saumon || (from == Origine::deux && numero_ > 1) ? tip : root;
     }
-    Longeron spar = a;
-    spar.PosLongAfich = PlaceFondue(a.PosLongAfich, b.PosLongAfich);
-    Paires(a, b, kLongeron, spar);
-    return spar;
-}
-
-Trou Fondu::TrouDe(int slot, Origine from) const {
-    const Trou &a = At(root_.trou, slot);
-    const Trou &b = At(tip_.trou, slot);
-    if (from != Origine::deux || !Entre()) {
-        return from == Origine::saumon || (from == Origine::deux && numero_ > 1) ? b : a;
-    }
-    Trou hole = a;
-    hole.PosTrouAfich = PlaceFondue(a.PosTrouAfich, b.PosTrouAfich);
-    Paires(a, b, kTrou, hole);
-    return hole;
+    Record blended = root;
+    blended.*place = PlaceFondue(root.*place, tip.*place);
+    Paires(root, tip, pairs, blended);
+    return blended;
 }
 
 /// Elements close up; the slot being edited, which files hold too, is empty but for a full list.
@@ -154,26 +142,19 @@ void Range(const std::vector<Record> &standing, std::array<Record, Slots> &slots
     count = static_cast<std::uint8_t>(std::min(standing.size(), kDernier));
 }
 
-void Fondu::PoseLongerons() {
-    std::vector<Longeron> standing;
+template <class Record, class Pairs>
+void Fondu::PoseElements(GenreElement genre, std::array<Record, kSlots> Ajouts::*slots,
+                         std::uint8_t Ajouts::*count, std::string Record::*place,
+                         const Pairs &pairs) {
+    std::vector<Record> standing;
     for (int slot = 0; slot < kSlots; ++slot) {
-        const Origine from = OrigineDe({GenreElement::longeron, slot + 1});
+        const Origine from = OrigineDe({genre, slot + 1});
         if (from != Origine::rien) {
-            standing.push_back(LongeronDe(slot, from));
+            standing.push_back(
+                ElementDe(At(root_.*slots, slot), At(tip_.*slots, slot), place, pairs, from));
         }
     }
-    Range(standing, rib_.longeron, rib_.NbLongeron);
-}
-
-void Fondu::PoseTrous() {
-    std::vector<Trou> standing;
-    for (int slot = 0; slot < kSlots; ++slot) {
-        const Origine from = OrigineDe({GenreElement::trou, slot + 1});
-        if (from != Origine::rien) {
-            standing.push_back(TrouDe(slot, from));
-        }
-    }
-    Range(standing, rib_.trou, rib_.NbTrou);
+    Range(standing, rib_.*slots, rib_.*count);
 }
 
 void Fondu::Dimensionne() {
@@ -204,7 +185,7 @@ void Fondu::PoseVrillage() {
     const auto drop = [](const PartiesRib &end) {
         return Wide(end.corde) * std::sin(EnRadians(Wide(end.vrillage)));
     };
-    const double sine = Quotient(Entre(drop(root_), drop(tip_)), CordeEnMm());
+    const double sine = Quotient(Entre(drop(root_), drop(tip_)), Wide(rib_.corde));
     if (std::abs(sine) > 1) {
         throw MakeFailure(kInvalidProcedureCall);
     }
@@ -225,8 +206,7 @@ const PartiesRib *Fondu::BoutDe(GenreElement genre) const {
 /// Takes off what doesn't stand in this rib, and gives it what stands at one end only.
 void Fondu::SuitPortees() {
     const auto away = [this](GenreElement genre) {
-        const auto range = panneau_.portees.find({genre, 0});
-        return range != panneau_.portees.end() && !range->second.Contient(numero_);
+        return !DansSaPortee(panneau_, {genre, 0}, numero_);
     };
     const auto follow = [&](GenreElement genre, const auto &copy, const auto &clear) {
         if (away(genre)) {
@@ -263,8 +243,9 @@ PartiesRib Fondu::Rib(const std::string &nom, const std::string &corde) {
         StockeLongueur(corde, saisie_, rib_.cordeAfich, rib_.corde);
         Dimensionne();
     }
-    PoseLongerons();
-    PoseTrous();
+    PoseElements(GenreElement::longeron, &Ajouts::longeron, &Ajouts::NbLongeron,
+                 &Longeron::PosLongAfich, kLongeron);
+    PoseElements(GenreElement::trou, &Ajouts::trou, &Ajouts::NbTrou, &Trou::PosTrouAfich, kTrou);
     SuitPortees();
     return rib_;
 }

@@ -107,17 +107,8 @@ double Ordonnee(const JeuDeNervures &jeu, int number, long k) {
     return major - (major - courbes.MineurY(k)) * Nervure(jeu, number).rapport;
 }
 
-/// The stations as every rib's file writes them.
-std::vector<std::string> TextesX(const JeuDeNervures &jeu) {
-    std::vector<std::string> xs;
-    for (long k = 1; k <= jeu.courbes.n; ++k) {
-        xs.push_back(Format(jeu.courbes.MajeurX(k), kPicturePoint));
-    }
-    return xs;
-}
-
-std::string Texte(const JeuDeNervures &jeu, int number, const std::vector<std::string> &xs,
-                  const Messages &messages) {
+std::string TexteNervure(const JeuDeNervures &jeu, int number, const std::vector<std::string> &xs,
+                         const Messages &messages) {
     const bool between = number > 1 && number < Nombre(jeu);
     const char *gap = between ? "   " : "  ";
     std::vector<std::string> lignes = {Titre(jeu, number, messages)};
@@ -202,17 +193,25 @@ std::string NomResume(const JeuDeNervures &jeu) {
            std::to_string(Nombre(jeu)) + ".txt";
 }
 
-std::string TexteNervure(const JeuDeNervures &jeu, int number, const Messages &messages) {
-    return Texte(jeu, number, TextesX(jeu), messages);
+std::vector<std::string> TextesNervures(const JeuDeNervures &jeu, const Messages &messages) {
+    std::vector<std::string> xs;
+    for (long k = 1; k <= jeu.courbes.n; ++k) {
+        xs.push_back(Format(jeu.courbes.MajeurX(k), kPicturePoint));
+    }
+    std::vector<std::string> texts;
+    for (int number = 1; number <= Nombre(jeu); ++number) {
+        texts.push_back(TexteNervure(jeu, number, xs, messages));
+    }
+    return texts;
 }
 
 std::vector<std::string> SaveProfil(const JeuDeNervures &jeu, const Messages &messages,
                                     const Avance &avance) {
-    const std::vector<std::string> xs = TextesX(jeu);
+    const std::vector<std::string> texts = TextesNervures(jeu, messages);
     std::vector<std::string> paths;
     for (int number = 1; number <= Nombre(jeu); ++number) {
         const std::string path = jeu.dossier + NomNervure(jeu, number, messages);
-        EcritFichier(path, Texte(jeu, number, xs, messages));
+        EcritFichier(path, At(texts, number - 1));
         paths.push_back(path);
         if (avance) {
             avance(number, Nombre(jeu));

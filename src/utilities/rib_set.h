@@ -76,8 +76,8 @@ std::string NomNervure(const JeuDeNervures &jeu, int number, const Messages &mes
 /// File name of the summary, without its folder.
 std::string NomResume(const JeuDeNervures &jeu);
 
-/// The bytes of the airfoil file of rib `number`, from 1.
-std::string TexteNervure(const JeuDeNervures &jeu, int number, const Messages &messages);
+/// The bytes of all airfoil files, from the root to the tip.
+std::vector<std::string> TextesNervures(const JeuDeNervures &jeu, const Messages &messages);
 
 /// Told after each file: how many are written, and of how many.
 using Avance = std::function<void(int done, int total)>;

@@ -167,6 +167,9 @@ TEST_F(PanelVerb, APieceWithoutRoomKeepsEverythingFromBeingWritten) {
     EXPECT_EQ(ran.status, 1);
     EXPECT_THAT(ran.err, HasSubstr("naca0012&naca0012R01.lfw"));
     EXPECT_FALSE(fs::exists(out));
+    // 92 ribs a thousand times are more than are nested.
+    EXPECT_EQ(Panel({"--count", "90", "-o", out, "--sheet", "100x1000", "--copies", "1000"}).status,
+              1);
     EXPECT_EQ(Panel({"--count", "2", "-o", out, "--gap", "2"}).status, 2);
     EXPECT_EQ(Panel({"--count", "2", "-o", out, "--sheet", "100"}).status, 2);
 }

@@ -209,8 +209,9 @@ TEST_F(PanelSteps, SlotsCloseUpWhereAnElementDoesNotStand) {
     EXPECT_EQ(ribs[0].NbTrou, 1);
     EXPECT_EQ(ribs[0].trou[0].DiaTrouAfich, "6");
     EXPECT_EQ(ribs[2].NbTrou, 2);
-    EXPECT_EQ(SlotDe(panel, {GenreElement::longeron, 3}, 3, Typing()), 1);
-    EXPECT_EQ(SlotDe(panel, {GenreElement::longeron, 2}, 3, Typing()), std::nullopt);
+    const std::vector<ElementPanneau> all = Elements(panel, Typing());
+    EXPECT_EQ(SlotDe(panel, all, {GenreElement::longeron, 3}, 3), 1);
+    EXPECT_EQ(SlotDe(panel, all, {GenreElement::longeron, 2}, 3), std::nullopt);
 }
 
 TEST_F(PanelSteps, TheSlotBeingEditedCountsAndAListMayBeFull) {
@@ -304,6 +305,25 @@ TEST_F(PanelSteps, EveryPieceHasItsNumber) {
     ASSERT_EQ(made.nervures[1].pieces.size(), 1U);
     ASSERT_EQ(made.nervures[1].pieces[0].textes.size(), 1U);
     EXPECT_EQ(made.nervures[1].pieces[0].textes[0].texte, "naca2412&naca0012R02  210.00 mm  8");
+}
+
+TEST_F(PanelSteps, LabelsOfBothWingsSayWhich) {
+    demand.deux_ailes = true;
+    for (PartiesRib &end : panel.bouts) {
+        end.TypeGabarit = kGabaritMousse;
+        Set("40", end.bloc.HTbasblocAfich, end.bloc.HTbasbloc);
+    }
+    const auto pieces = PiecesDuPanneau(Made(), 2, true);
+    ASSERT_EQ(pieces.size(), 20U); // two templates a rib
+    const auto label = [&](std::size_t i) { return pieces[i].piece.textes.back().texte; };
+    EXPECT_EQ(label(1), "naca2412&naca0012R01 240 mm  1 L, Lower template");
+    EXPECT_EQ(label(11), "naca2412&naca0012R01 240 mm  1 R, Lower template");
+    for (PartiesRib &end : panel.bouts) {
+        end.TypeGabarit = kSansGabarit;
+    }
+    const auto ribs = PiecesDuPanneau(Made(), 2, true);
+    ASSERT_EQ(ribs.size(), 10U);
+    EXPECT_EQ(ribs[5].piece.textes.back().texte, "naca2412&naca0012R01 240 mm  1 R");
 }
 
 TEST_F(PanelSteps, SheetingThatDiffersIsTold) {
