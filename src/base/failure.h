@@ -89,6 +89,8 @@ class PointList {
     bool Holds(long index) const { return index >= 1 && index <= Count(); }
     const std::vector<double> &Values() const { return values_; }
 
+    bool operator==(const PointList &) const = default;
+
   private:
     std::vector<double> values_;
 };

@@ -24,6 +24,8 @@ struct Comparaison {
     bool Complete() const { return CompareNb1 > 0 && CompareNb2 > 0; }
     /// Makes the comparison incomplete; airfoil 1 stays.
     void OublieProfil2() { CompareNb2 = 0; }
+
+    bool operator==(const Comparaison &) const = default;
 };
 
 } // namespace loftwing

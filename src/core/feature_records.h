@@ -26,6 +26,8 @@ struct Longeron {
     std::uint8_t TypeLong = 0;   ///< 0 along the surface, 1 square, 2 round, 3 square at a distance
     std::uint8_t RefLong = 0;    ///< PosLongAfich counts from 0 the leading, 1 the trailing edge
     std::string ResLong;         ///< spare; only the rib components file knows it
+
+    bool operator==(const Longeron &) const = default;
 };
 
 struct Trou {
@@ -41,6 +43,8 @@ struct Trou {
     std::uint8_t RefTrou = 0;  ///< PosTrouAfich counts from 0 the leading, 1 the trailing edge
     std::uint8_t TypeTrou = 0; ///< 0 circle, 1 rectangle
     std::string ResTrou;       ///< spare; only the rib components file knows it
+
+    bool operator==(const Trou &) const = default;
 };
 
 /// Square stick on its corner in a V-notch at the leading edge.
@@ -51,6 +55,8 @@ struct CarreBord {
     float CarreBAX = 0; ///< axis from the leading edge, mm
     std::string CarreBAYAfich = "0";
     float CarreBAY = 0; ///< axis above the reference line, mm
+
+    bool operator==(const CarreBord &) const = default;
 };
 
 /// What a levelling heel loses when another airfoil takes over the rib.
@@ -60,6 +66,8 @@ struct HauteursTalon {
     double TalonIntra = 0; ///< height under the lower surface, mm
     std::string TalonExtraAfich = "0";
     double TalonExtra = 0; ///< height on the upper surface, mm, negated
+
+    bool operator==(const HauteursTalon &) const = default;
 };
 
 /// Levelling heel.
@@ -69,6 +77,8 @@ struct Talon : HauteursTalon {
     std::string TalonBFAfich = "0";
     double TalonBF = 0;   ///< margin at the trailing edge, mm
     double TalonLong = 0; ///< both margins together, mm
+
+    bool operator==(const Talon &) const = default;
 };
 
 /// Template for cutting foam.
@@ -85,6 +95,8 @@ struct Bloc {
     float HTbloc = 0;          ///< total height, mm
     float LongBloc = 0;        ///< chord and both ramps, mm
     std::uint8_t Optquebf = 0; ///< the tail starts from 0 the upper, 1 the lower surface
+
+    bool operator==(const Bloc &) const = default;
 };
 
 /// The line of text on a rib.
@@ -96,6 +108,8 @@ struct TexteInsere {
     float InsTextY = 0;            ///< mm above the reference line
     float TailleFont = 9;          ///< points
     bool TexteUtilisateur = false; ///< the user's own words, never made anew
+
+    bool operator==(const TexteInsere &) const = default;
 };
 
 /// Slot of the rib at the tip in a set with variable spacing, whatever the number of ribs.

@@ -17,7 +17,8 @@ std::string FailureText(const std::string &opening, const std::string &middle, i
 void Messages::PoseMotsDesBoutons() const {
     platform.SetButtonWords({Text({"TextButton", "1"}), Text({"TextButton", "2"}),
                              Text({"TextButton", "30"}), Text({"TextButton", "31"}),
-                             Text({"TextButton", "32"}), Text({"TextButton", "180"})});
+                             Text({"TextButton", "32"}), Text({"TextButton", "180"}),
+                             Text({"Undo", "30"}), Text({"Undo", "31"})});
 }
 
 void Messages::Inform(const std::string &text, const std::string &title) const {
@@ -31,6 +32,13 @@ void Messages::Tell(const std::string &text, const std::string &title, BoxIcon i
 bool Messages::Confirm(const std::string &text, const std::string &title) const {
     return platform.Show(MessageBox{text, title, BoxIcon::question, BoxButtons::yes_no,
                                     BoxAnswer::no}) == BoxAnswer::yes;
+}
+
+bool Messages::ConfirmLoss(const std::string &text, const std::string &title,
+                           const std::function<bool()> &save) const {
+    const BoxAnswer answer = platform.Show(
+        MessageBox{text, title, BoxIcon::question, BoxButtons::save_yes_no, BoxAnswer::no});
+    return answer == BoxAnswer::yes || (answer == BoxAnswer::save && save());
 }
 
 std::string Messages::TexteEchec(const Failure &failure) const {

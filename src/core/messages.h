@@ -6,6 +6,7 @@
 #include "lang/failure_words.h"
 #include "platform/platform.h"
 
+#include <functional>
 #include <string>
 
 namespace loftwing {
@@ -27,6 +28,10 @@ struct Messages {
     void Tell(const std::string &text, const std::string &title, BoxIcon icon) const;
     /// A question with Yes and No, No as default; true for Yes.
     bool Confirm(const std::string &text, const std::string &title) const;
+    /// The same where something would be lost: it may be saved instead. True for Yes, and when
+    /// `save`, which tells what goes wrong, has saved it.
+    bool ConfirmLoss(const std::string &text, const std::string &title,
+                     const std::function<bool()> &save) const;
 
     /// What happened, in the user's language; see lang/failure_words.h.
     std::string Description(const Failure &failure) const {

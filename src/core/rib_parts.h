@@ -31,6 +31,8 @@ struct IdentiteProfil {
     std::string ExtProfil;    ///< last three characters of the file name
     std::string EnteteProfil; ///< first line of the file, trimmed
     bool ProfilCharge = false;
+
+    bool operator==(const IdentiteProfil &) const = default;
 };
 
 /// What ties the rib to a rib components file.
@@ -39,6 +41,8 @@ struct FichierRib {
     std::string LigneReserve;  ///< spare line of that file; nothing else knows it
     bool Modifie = false;
     bool FichierRibOuvert = false; ///< the rib came from a rib components file
+
+    bool operator==(const FichierRib &) const = default;
 };
 
 /// The rib components file that the rib was read from or saved to last.
@@ -46,6 +50,8 @@ struct FichierConnu {
     std::string CheminRib;       ///< its full path; empty without such a file
     bool ProfilAilleurs = false; ///< it was saved while its airfoil lay outside the airfoil folders
     bool UniteDouteuse = false;  ///< as it was read its lengths look like those of the other unit
+
+    bool operator==(const FichierConnu &) const = default;
 };
 
 /// The airfoil as read, in fractions of the chord, from the trailing edge over the upper surface to
@@ -54,6 +60,8 @@ struct PointsLus {
     PointList ProfilX;
     PointList ProfilY;
     std::int16_t NbPoints = 0; ///< 0 after a failed reading
+
+    bool operator==(const PointsLus &) const = default;
 };
 
 /// Why the making of a contour ended before its end.
@@ -72,6 +80,8 @@ struct FauteContour {
     long premier = 0;
     long second = 0; ///< where there are two
     long jusque = 0; ///< the contour comes to this point of the file
+
+    bool operator==(const FauteContour &) const = default;
 };
 
 /// What contour preparation makes of the points, in fractions of the chord.
@@ -94,6 +104,8 @@ struct ContourPrepare {
     double MiniX = 0;
     double ExtradosMaxi = 0; ///< top of the upper surface, never below 0
     double IntradosMini = 0; ///< bottom of the lower surface, never above 0
+
+    bool operator==(const ContourPrepare &) const = default;
 };
 
 /// An airfoil with its contour: all that contour preparation reads and makes.
@@ -105,6 +117,8 @@ struct NouvelleSection {
     TableStation NouvIntrados{};
     double NouvEpaisseur = 0; ///< 0 while none has been applied
     double NouvCambrure = 0;
+
+    bool operator==(const NouvelleSection &) const = default;
 };
 
 /// What the user gave: lengths in mm with the texts as typed.
@@ -120,6 +134,8 @@ struct Dimensions {
     float vrillage = 0;      ///< washout, degrees
     std::uint8_t NbRep = 0;  ///< inner station lines
     std::uint8_t TypeBA = 1; ///< 1 stock, 0 V-notch square
+
+    bool operator==(const Dimensions &) const = default;
 };
 
 /// What is added to the rib.
@@ -133,6 +149,8 @@ struct Ajouts {
     Talon talon;
     Bloc bloc;
     TexteInsere texte;
+
+    bool operator==(const Ajouts &) const = default;
 };
 
 /// How the rib is shown.

@@ -43,11 +43,20 @@ void frmInstxt::PoseTextes() {
     AdmetLongueurSignee(infotxt[kPositionY]);
 }
 
+TexteTape frmInstxt::Tape() const {
+    return {S(infotxt[kTexte].text()), S(infotxt[kPositionX].text()),
+            S(infotxt[kPositionY].text())};
+}
+
+EssaiDuRib frmInstxt::Essai() {
+    return [this](RibModel &rib, const Saisie &saisie) {
+        PrendTexteInsere(rib, Tape(), saisie);
+        return true;
+    };
+}
+
 void frmInstxt::Applique() {
-    PrendTexteInsere(
-        programme_.rib,
-        {S(infotxt[kTexte].text()), S(infotxt[kPositionX].text()), S(infotxt[kPositionY].text())},
-        programme_.SaisieEnCours());
+    PrendTexteInsere(programme_.rib, Tape(), programme_.SaisieEnCours());
     infotxt[kTexte].setText(Q(programme_.rib.texte.InsTexte));
     taille_avant_ = programme_.rib.texte.TailleFont;
     Redessine();

@@ -20,6 +20,8 @@ class frmInstxt : public Dialogue {
   public:
     frmInstxt(Programme &programme, MainView &view, QWidget *parent);
 
+    EssaiDuRib Essai() override;
+
   private:
     // The fields by their index.
     static constexpr int kTexte = 0;
@@ -45,6 +47,7 @@ class frmInstxt : public Dialogue {
     void cmdannuler_Click() override;
     void ComboTaille_Click();
 
+    TexteTape Tape() const;
     void Applique();
     void Redessine();
 };

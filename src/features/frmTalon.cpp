@@ -92,6 +92,12 @@ void frmTalon::txt_Change(int index) {
     });
 }
 
+EssaiDuRib frmTalon::Essai() {
+    return [this](RibModel &rib, const Saisie &saisie) {
+        return ValideTalon(rib, FieldTexts(txt), saisie, Titre());
+    };
+}
+
 /// Puts the heel on the rib; false when it was refused.
 bool frmTalon::Applique() {
     Echec = !ValideTalon(programme_.rib, FieldTexts(txt), programme_.SaisieEnCours(), Titre());

@@ -25,6 +25,8 @@ class frmTalon : public Dialogue {
   public:
     frmTalon(Programme &programme, MainView &view, QWidget *parent);
 
+    EssaiDuRib Essai() override;
+
   private:
     MainView &view_;
     bool Echec = false;            ///< the last Apply was refused

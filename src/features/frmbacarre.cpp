@@ -23,6 +23,14 @@ void frmbacarre::Form_Load() {
     ShowTexts(infotxt, TextesDuCarre(programme_.rib));
 }
 
+EssaiDuRib frmbacarre::Essai() {
+    return [this](RibModel &rib, const Saisie &saisie) {
+        TextesCarre typed = FieldTexts(infotxt);
+        ValideCarre(rib, typed, saisie, Titre());
+        return true;
+    };
+}
+
 /// Puts the square on the rib; false after a failure, which has been told.
 bool frmbacarre::Applique() {
     bool applied = false;

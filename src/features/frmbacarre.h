@@ -19,6 +19,8 @@ class frmbacarre : public Dialogue {
   public:
     frmbacarre(Programme &programme, MainView &view, QWidget *parent);
 
+    EssaiDuRib Essai() override;
+
   private:
     MainView &view_;
 

@@ -89,6 +89,16 @@ void frmbloc::txt_Change(int index) {
     });
 }
 
+EssaiDuRib frmbloc::Essai() {
+    return [this](RibModel &rib, const Saisie &saisie) {
+        if (RefuseRampe(rib, saisie, Titre())) {
+            return false;
+        }
+        ValideBloc(rib, FieldTexts(txt), saisie, Titre());
+        return true;
+    };
+}
+
 /// Puts the template on the rib.
 void frmbloc::Applique() {
     ValideBloc(programme_.rib, FieldTexts(txt), programme_.SaisieEnCours(), Titre());

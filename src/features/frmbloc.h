@@ -25,6 +25,8 @@ class frmbloc : public Dialogue {
   public:
     frmbloc(Programme &programme, MainView &view, QWidget *parent);
 
+    EssaiDuRib Essai() override;
+
   private:
     MainView &view_;
     std::function<void()> retour_; ///< Cancel's way back to the rib as found or last applied

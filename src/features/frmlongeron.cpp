@@ -90,16 +90,15 @@ ChampsLongeron frmlongeron::Champs() const {
     return champs;
 }
 
-bool frmlongeron::StockeLongeron(int slot) {
-    RibModel &rib = programme_.rib;
-    return loftwing::StockeLongeron(At(rib.longeron, slot), Champs(), rib.corde, SaisieEnCours(),
-                                    MessageValeur());
+bool frmlongeron::Stocke(int slot, const Cible &cible) {
+    RibModel &rib = cible.rib;
+    return StockeLongeron(At(rib.longeron, slot), Champs(), rib.corde, cible.saisie, cible.refus);
 }
 
-bool frmlongeron::ControleLongeron(int slot) {
-    const RibModel &rib = programme_.rib;
+bool frmlongeron::Controle(int slot, const Cible &cible) {
+    const RibModel &rib = cible.rib;
     const CasLongeron cas{rib.corde, ListeVideChoisie(), !Text1[2].isHidden()};
-    return loftwing::ControleLongeron(At(rib.longeron, slot), cas, MessageValeur());
+    return ControleLongeron(At(rib.longeron, slot), cas, cible.refus);
 }
 
 void frmlongeron::AfficheLongeron(int slot) {

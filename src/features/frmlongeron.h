@@ -38,8 +38,9 @@ class frmlongeron : public SlotsDialog {
     void PoseTextes();
     void OptLong_Click(int index);
 
-    bool Stocke(int slot) override { return StockeLongeron(slot); }
-    bool Controle(int slot) override { return ControleLongeron(slot); }
+    bool Stocke(int slot, const Cible &cible) override;
+    bool Controle(int slot, const Cible &cible) override;
+    std::uint8_t &Compte(RibModel &rib) const override { return rib.NbLongeron; }
     void Affiche(int slot) override { AfficheLongeron(slot); }
     void AfficheOptions(int slot) override;
     bool EstFini(int slot) const override;
@@ -48,8 +49,6 @@ class frmlongeron : public SlotsDialog {
     std::string Remarques(int slot) const override;
     std::function<void()> Retour(int slot) override;
 
-    bool StockeLongeron(int slot);
-    bool ControleLongeron(int slot);
     void AfficheLongeron(int slot);
     void PoseGenre(std::uint8_t kind);
     ChampsLongeron Champs() const;

@@ -81,15 +81,14 @@ ChampsTrou frmtrou::Champs() const {
     return champs;
 }
 
-bool frmtrou::StockeTrou(int slot) {
-    RibModel &rib = programme_.rib;
-    return loftwing::StockeTrou(At(rib.trou, slot), Champs(), rib.corde, SaisieEnCours(),
-                                MessageValeur());
+bool frmtrou::Stocke(int slot, const Cible &cible) {
+    RibModel &rib = cible.rib;
+    return StockeTrou(At(rib.trou, slot), Champs(), rib.corde, cible.saisie, cible.refus);
 }
 
-bool frmtrou::ControleTrou(int slot) {
+bool frmtrou::Controle(int slot, const Cible &cible) {
     const CasTrou cas{ListeVideChoisie(), !Text1[2].isHidden()};
-    return loftwing::ControleTrou(At(programme_.rib.trou, slot), cas, MessageValeur());
+    return ControleTrou(At(cible.rib.trou, slot), cas, cible.refus);
 }
 
 void frmtrou::AfficheTrou(int slot) {

@@ -38,8 +38,9 @@ class frmtrou : public SlotsDialog {
     void Chkcentr_Click();
     void OptTrouRec_Click(int index);
 
-    bool Stocke(int slot) override { return StockeTrou(slot); }
-    bool Controle(int slot) override { return ControleTrou(slot); }
+    bool Stocke(int slot, const Cible &cible) override;
+    bool Controle(int slot, const Cible &cible) override;
+    std::uint8_t &Compte(RibModel &rib) const override { return rib.NbTrou; }
     void Affiche(int slot) override { AfficheTrou(slot); }
     void AfficheOptions(int slot) override;
     bool EstFini(int slot) const override;
@@ -48,8 +49,6 @@ class frmtrou : public SlotsDialog {
     std::string Remarques(int slot) const override;
     std::function<void()> Retour(int slot) override;
 
-    bool StockeTrou(int slot);
-    bool ControleTrou(int slot);
     void AfficheTrou(int slot);
     void PoseGenre(std::uint8_t kind);
     ChampsTrou Champs() const;

@@ -132,15 +132,33 @@ bool SlotsDialog::Verifie(bool passes) {
 
 bool SlotsDialog::StockeEtControle(int slot, const std::function<void()> &montre) {
     refuses_.try_emplace(slot, Retour(slot));
-    if (!Verifie(Stocke(slot))) {
+    if (!Verifie(Stocke(slot, CibleDuRib()))) {
         return false;
     }
     montre();
-    if (!Verifie(Controle(slot))) {
+    if (!Verifie(Controle(slot, CibleDuRib()))) {
         return false;
     }
     refuses_.erase(slot);
     return true;
+}
+
+EssaiDuRib SlotsDialog::Essai() {
+    return [this](RibModel &rib, const Saisie &saisie) {
+        const int slot = selection_ ? choisi_ : Travail();
+        if (slot == Travail() && Tape() == montre_) {
+            return true; // passed over
+        }
+        bool refused = false;
+        const Cible cible{rib, saisie, [&refused](Regle, float) { refused = true; }};
+        if (!Stocke(slot, cible) || !Controle(slot, cible) || refused) {
+            return false;
+        }
+        if (slot == Travail()) {
+            Compte(rib) = static_cast<std::uint8_t>(slot);
+        }
+        return true;
+    };
 }
 
 void SlotsDialog::RemetRefuses() {

@@ -53,6 +53,9 @@ void Choisit(Group &group, std::uint8_t index) {
 class SlotsDialog : public Dialogue {
     Q_OBJECT
 
+  public:
+    EssaiDuRib Essai() override;
+
   protected:
     /// Where the words come from that both windows have.
     struct Mots {
@@ -94,9 +97,19 @@ class SlotsDialog : public Dialogue {
     QPushButton Cmdmodif;
     QPushButton Cmdeffac;
 
+    /// The rib that an entry is for, and who hears of a value that is refused.
+    struct Cible {
+        RibModel &rib;
+        Saisie saisie;
+        Refus refus;
+    };
+    Cible CibleDuRib() { return {programme_.rib, SaisieEnCours(), MessageValeur()}; }
+
     // What a window does with one slot. Stocke and Controle tell whether the entry passes.
-    virtual bool Stocke(int slot) = 0;
-    virtual bool Controle(int slot) = 0;
+    virtual bool Stocke(int slot, const Cible &cible) = 0;
+    virtual bool Controle(int slot, const Cible &cible) = 0;
+    /// Where a rib counts its finished entries.
+    virtual std::uint8_t &Compte(RibModel &rib) const = 0;
     /// Whether a slot holds an entry that passes as it is.
     virtual bool EstFini(int slot) const = 0;
     virtual void Affiche(int slot) = 0;

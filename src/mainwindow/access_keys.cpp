@@ -41,6 +41,11 @@ std::vector<QChar> LettersOf(const std::vector<QAbstractButton *> &buttons, cons
     return letters;
 }
 
+/// The words of an icon all of whose letters are taken, with a digit behind them.
+QString WithDigit(const QString &word, int digit) {
+    return word + QStringLiteral(" (&%1)").arg(digit);
+}
+
 void SetKey(QAbstractButton &button, QChar letter) {
     button.setText(WithAccessLetter(button.text(), letter));
     if (button.shortcut().isEmpty() && !letter.isNull()) {
@@ -72,9 +77,12 @@ void AccessKeys::Give(const std::vector<QAbstractButton *> &buttons, QToolBar &b
         words += icon->text();
     }
     const std::vector<QChar> further = AccessLetters(words, menus + Joined(letters));
+    int digit = 0;
     for (std::size_t i = 0; i < icons.size(); ++i) {
         // The button takes its words, and with them its key, from here.
-        icons[i]->setIconText(WithAccessLetter(words[static_cast<qsizetype>(i)], further[i]));
+        const QString &word = words[static_cast<qsizetype>(i)];
+        icons[i]->setIconText(further[i].isNull() ? WithDigit(word, ++digit)
+                                                  : WithAccessLetter(word, further[i]));
         bar.widgetForAction(icons[i])->installEventFilter(this);
     }
 }

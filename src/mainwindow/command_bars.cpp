@@ -1,5 +1,6 @@
 #include "mainwindow/command_bars.h"
 
+#include "base/text_encoding.h"
 #include "mainwindow/tool_icons.h"
 #include "output/screen_plot.h"
 #include "platform/qt_text.h"
@@ -13,6 +14,8 @@ namespace loftwing {
 namespace {
 
 constexpr int kZoomTool = 8; // the zoom list's place in the tool bar
+constexpr int kUndoTool = 9;
+constexpr int kRedoTool = 10;
 
 /// Brings a control to life or not, as a state has it.
 template <class Control>
@@ -183,6 +186,35 @@ void CommandBars::Met(EtatCommandes state) {
     for (const ToolButton &button : ToolButtons()) {
         Enable(state, button.groups, *tools_.at(button.index));
     }
+}
+
+void CommandBars::MontrePas(const LngIni &language, const std::string &annulable,
+                            const std::string &retablissable) {
+    const auto show = [](QAction &action, const std::string &words, const std::string &step) {
+        QString text = Q(words);
+        if (!step.empty()) {
+            text += ": " + Q(ToUtf8(step));
+        }
+        action.setEnabled(!step.empty());
+        return text;
+    };
+    const auto menu = [&](const char *name, LngKey key, const std::string &step) {
+        QAction &action = Entree(name);
+        std::string shown = step; // an "&" in a name is no access letter
+        for (std::size_t at = shown.find('&'); at != std::string::npos;
+             at = shown.find('&', at + 2)) {
+            shown.insert(at, 1, '&');
+        }
+        action.setText(show(action, language.LngText(key), shown));
+    };
+    const auto tool = [&](int index, LngKey key, const std::string &step) {
+        QAction &action = *tools_.at(index);
+        action.setToolTip(show(action, language.LngText(key), step));
+    };
+    menu("mnu_editannule", {"Undo", "2"}, annulable);
+    menu("mnu_editretablit", {"Undo", "7"}, retablissable);
+    tool(kUndoTool, {"Undo", "8"}, annulable);
+    tool(kRedoTool, {"Undo", "9"}, retablissable);
 }
 
 void CommandBars::MontreCoches(const RibModel &rib) {

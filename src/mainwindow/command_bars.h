@@ -44,6 +44,9 @@ class CommandBars {
 
     /// Enables and disables what changes with a state.
     void Met(EtatCommandes state);
+    /// Makes the commands that go back and forth say which step they take; without one they die.
+    void MontrePas(const LngIni &language, const std::string &annulable,
+                   const std::string &retablissable);
     /// Makes the checks of the view menu show what the rib has.
     void MontreCoches(const RibModel &rib);
     void MontreFichiersRecents(const FichiersRecents &profils, const FichiersRecents &ribs);

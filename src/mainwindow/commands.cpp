@@ -105,6 +105,18 @@ std::vector<Command> FileMenu() {
     return commands;
 }
 
+/// Alive as long as there is a step to take; see CommandBars::MontrePas.
+std::vector<Command> EditMenu() {
+    const char *menu = "mnu_edition";
+    return {
+        Menu(menu, {"Undo", "1"}),
+        Entry("mnu_editannule", menu, {"Undo", "2"}, kAlways, &frmmain::mnu_editannule_Click,
+              "Ctrl+Z"),
+        Entry("mnu_editretablit", menu, {"Undo", "7"}, kAlways, &frmmain::mnu_editretablit_Click,
+              "Ctrl+Shift+Z; Ctrl+Y"),
+    };
+}
+
 std::vector<Command> ViewMenu() {
     const char *menu = "mnu_aff";
     const char *zoom = "mnu_affzoom";
@@ -128,6 +140,9 @@ std::vector<Command> ViewMenu() {
         Conseille(
             Check("mnu_affpiece", menu, {"Piece", "101"}, kOneRib, &frmmain::mnu_affpiece_Click),
             {"Piece", "102"}),
+        Conseille(
+            Check("mnu_affessai", menu, {"Undo", "21"}, kAlways, &frmmain::mnu_affessai_Click),
+            {"Undo", "22"}),
         Below(SubMenu(zoom, menu, {"MenuAffich", "210"}, kAlways)),
         Entry("mnu_affzoomplus", zoom, {"MenuAffich", "211"}, kAlways,
               &frmmain::mnu_affzoomplus_Click, "Ctrl++; Ctrl+="),
@@ -221,7 +236,7 @@ std::vector<Command> HelpMenu() {
 std::vector<Command> AllMenus() {
     std::vector<Command> all;
     for (const auto &menu :
-         {FileMenu(), ViewMenu(), RibMenu(), LayoutMenu(), ToolsMenu(), HelpMenu()}) {
+         {FileMenu(), EditMenu(), ViewMenu(), RibMenu(), LayoutMenu(), ToolsMenu(), HelpMenu()}) {
         Ajoute(all, menu);
     }
     return all;
@@ -268,6 +283,9 @@ const std::vector<ToolButton> &ToolButtons() {
         {2, {"MainTolbar", "2"}, kAlways, &frmmain::mnu_fileopen_Click},
         {3, {"MainTolbar", "3"}, kFile, &frmmain::mnu_filesaveas_Click},
         {4, {"MainTolbar", "4"}, kAlways, nullptr},
+        {9, {"Undo", "8"}, kAlways, &frmmain::mnu_editannule_Click},
+        {10, {"Undo", "9"}, kAlways, &frmmain::mnu_editretablit_Click},
+        {11, {"MainTolbar", "4"}, kAlways, nullptr},
         // Stays alive when the rib is cleared: only its menu entry dies then.
         {5, {"MainTolbar", "5"}, kWithRib | kAliveInView, &frmmain::mnu_filepage_Click},
         {6, {"MainTolbar", "6"}, kAlways, nullptr},

@@ -28,6 +28,18 @@ void frmInput::Form_Load() {
     SelectField(infotxt);
 }
 
+EssaiDuRib frmInput::Essai() {
+    return [this](RibModel &rib, const Saisie &saisie) {
+        if (ValideSaisie(mode_, rib, S(infotxt.text()), saisie) != FinSaisie::prise) {
+            return false;
+        }
+        if (mode_.ModeSaisie == "corde") {
+            MajGabarit(rib, saisie); // follows when the window has closed
+        }
+        return true;
+    };
+}
+
 void frmInput::cmdok_Click() {
     const auto back = RetourDuRib(programme_.rib);
     const FinSaisie fin =

@@ -22,6 +22,8 @@ class frmInput : public Dialogue {
   public:
     frmInput(Programme &programme, std::string_view ModeSaisie, QWidget *parent);
 
+    EssaiDuRib Essai() override;
+
   private:
     const ModeEntree &mode_;
     const std::function<void()> retour_; ///< to the rib that the window found

@@ -1,6 +1,7 @@
 #include "mainwindow/frmmain.h"
 
 #include "base/version.h"
+#include "lang/ini_file.h"
 #include "mainwindow/beside.h"
 #include "mainwindow/window_place.h"
 #include "platform/qt_text.h"
@@ -53,9 +54,12 @@ void frmmain::Form_Load() {
     AfficheUnite();
     Titre(kTitre);
     MontreCoches();
+    commands_.Entree("mnu_affessai")
+        .setChecked(GetINIFile("Apercu", "Saisie", programme_.paths.fichier) != "0");
     AppliqueLangue();
     AfficheFichiersRecents();
     commands_.Met(EtatCommandes::depart);
+    NotePas();
 }
 
 void frmmain::ActiveCommandes() {
@@ -83,7 +87,7 @@ void frmmain::ActiveCommandesVides() {
 
 void frmmain::closeEvent(QCloseEvent *event) {
     // The program's own question first: a No to it leaves everything open.
-    if (!ConfirmeFin(programme_) || !FermeCoordonnees(*this)) {
+    if (!ConfirmeFin(programme_, *this) || !FermeCoordonnees(*this)) {
         event->ignore();
         return;
     }

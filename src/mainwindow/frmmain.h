@@ -43,7 +43,7 @@ class frmmain : public MainFrame {
     void mnu_fileprecedent_Click();
     void mnu_fileimport_Click();
     void mnu_fileopen_Click();
-    void mnu_filesaveas_Click();
+    void mnu_filesaveas_Click() override;
     void mnu_filedecoupe_Click();
     void mnu_filepage_Click();
     void mnu_fileprinterconfig_Click();
@@ -51,6 +51,8 @@ class frmmain : public MainFrame {
     void mnu_fileexit_Click();
     void mnuFileMRU_Click(const std::string &path) override;
     void mnuRibMRU_Click(const std::string &path);
+    void mnu_editannule_Click();
+    void mnu_editretablit_Click();
     void mnu_affinver_Click();
     void mnu_affdefaut_Click();
     void mnu_affcouleur_Click();
@@ -62,6 +64,7 @@ class frmmain : public MainFrame {
     void mnu_afflignRef_Click();
     void mnu_afffeuilles_Click();
     void mnu_affpiece_Click();
+    void mnu_affessai_Click();
     void mnu_affzoomplus_Click();
     void mnu_affzoommoins_Click();
     void mnu_affzoom100_Click();

@@ -18,6 +18,7 @@
 #include "programme/library_setup.h"
 #include "programme/rib_steps.h"
 #include "programme/tool_steps.h"
+#include "programme/undo_steps.h"
 
 namespace loftwing {
 
@@ -58,6 +59,14 @@ void frmmain::mnu_fileprint_Click() {
 
 void frmmain::mnu_fileexit_Click() {
     close();
+}
+
+void frmmain::mnu_editannule_Click() {
+    AnnulePas(programme_, *this);
+}
+
+void frmmain::mnu_editretablit_Click() {
+    RetablitPas(programme_, *this);
 }
 
 void frmmain::mnu_affinver_Click() {
@@ -113,7 +122,7 @@ void frmmain::mnu_affclear_Click() {
 
 void frmmain::mnu_affLang_Click() {
     // The window clears the rib, whose texts are in the language that goes.
-    if (!ConfirmePerte(programme_, {"FrmMainMessage", "102"}, {"LANGUAGE", "2"})) {
+    if (!ConfirmePerte(programme_, *this, {"FrmMainMessage", "102"}, {"LANGUAGE", "2"})) {
         return;
     }
     lang dialog(programme_, *this, this);

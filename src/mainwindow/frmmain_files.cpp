@@ -49,7 +49,7 @@ void frmmain::mnu_fileopen_Click() {
 }
 
 void frmmain::mnu_filesaveas_Click() {
-    Garde(" Main/Mnu_SaveAs", [this] { EnregistreRib(programme_, *this); });
+    Garde(kEtiquetteEnregistre, [this] { EnregistreRib(programme_, *this); });
 }
 
 void frmmain::Exporte(const EntreeExport &entree) {

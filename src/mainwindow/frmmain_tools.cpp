@@ -40,7 +40,8 @@ void frmmain::mnu_Outilcoord_Click() {
 }
 
 void frmmain::mnu_outilevolut_Click() {
-    if (ControleSeparateurCommande(programme_, {"MenuOutils", "4t"}) && ConfirmeJeu(programme_)) {
+    if (ControleSeparateurCommande(programme_, {"MenuOutils", "4t"}) &&
+        ConfirmeJeu(programme_, *this)) {
         FaitPlaceAuJeu(programme_, *this);
         frmribevol dialog(programme_, *this, this);
         ShowModal(dialog);
@@ -49,7 +50,7 @@ void frmmain::mnu_outilevolut_Click() {
 
 void frmmain::mnu_outilevolut2_Click() {
     if (!ControleSeparateurCommande(programme_, {"MenuOutils", "4at"}) ||
-        !ConfirmeJeu(programme_)) {
+        !ConfirmeJeu(programme_, *this)) {
         return;
     }
     // Whoever calls off the number has no set, and still has his rib.

@@ -1,5 +1,6 @@
 // The picture of the main window: redraw, zoom, scroll and size.
 
+#include "lang/ini_file.h"
 #include "mainwindow/beside.h"
 #include "mainwindow/frmmain.h"
 #include "output/view_screen.h"
@@ -29,6 +30,7 @@ void frmmain::affiche() {
     Dessine([](const Trace &trace) { return afficheRib(trace); },
             [this] {
                 Panneau(2, TexteEtat(programme_.rib, programme_.settings, programme_.messages));
+                NotePas(); // each Apply of a dialog that stays open is a step
             });
 }
 
@@ -72,7 +74,7 @@ void frmmain::ViewReset() {
 }
 
 void frmmain::affclear() {
-    VideTout(programme_, *this);
+    Garde(" Main/AffichClear", [this] { VideTout(programme_, *this); });
 }
 
 void frmmain::ZoomSur(int steps, const PicturePlace &place) {
@@ -120,6 +122,11 @@ void frmmain::mnu_afffeuilles_Click() {
 void frmmain::mnu_affpiece_Click() {
     piece_.Montre(commands_.Entree("mnu_affpiece").isChecked());
     MontreAvis();
+}
+
+void frmmain::mnu_affessai_Click() {
+    const bool on = commands_.Entree("mnu_affessai").isChecked();
+    WriteINIFile("Apercu", "Saisie", on ? "1" : "0", programme_.paths.fichier);
 }
 
 void frmmain::Form_Resize() {

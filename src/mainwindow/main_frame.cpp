@@ -6,9 +6,11 @@
 #include "mainwindow/frmimport.h"
 #include "mainwindow/frmopen.h"
 #include "mainwindow/pane_keys.h"
+#include "mainwindow/rib_preview.h"
 #include "platform/qt_form.h"
 #include "platform/qt_plot_device.h"
 #include "programme/load.h"
+#include "programme/undo_steps.h"
 #include "utilities/frmEpCourb.h"
 
 #include <QMenuBar>
@@ -34,8 +36,9 @@ MainFrame::MainFrame(Programme &programme, CommandBars::Demandes demandes)
 }
 
 void MainFrame::ConnectNotices() {
-    connect(&picture_->Avis(), &NoticeBar::Demande, this,
-            [this](NoticeAct act) { DoNotice(programme_, *this, act); });
+    connect(&picture_->Avis(), &NoticeBar::Demande, this, [this](NoticeAct act) {
+        Garde(" Main/Notice", [this, act] { DoNotice(programme_, *this, act); });
+    });
     connect(&picture_->Avis(), &NoticeBar::Ferme, this, [this](NoticeSubject subject) {
         notices_.Close(subject);
         MontreAvis();
@@ -43,12 +46,27 @@ void MainFrame::ConnectNotices() {
 }
 
 void MainFrame::Garde(const std::string &label, const std::function<void()> &action) {
+    ++commandes_;
     try {
         action();
     } catch (const Failure &failure) {
         programme_.platform.SetPointer(Pointer::normal);
         programme_.messages.Report(failure, label);
     }
+    --commandes_;
+    if (commandes_ == 0) {
+        NotePas();
+    }
+}
+
+void MainFrame::NotePas() {
+    NoteEtat(programme_);
+    MontrePas();
+}
+
+void MainFrame::MontrePas() {
+    commands_.MontrePas(programme_.language, PasAnnulable(programme_),
+                        PasRetablissable(programme_));
 }
 
 void MainFrame::Titre(const std::string &caption) {
@@ -83,12 +101,18 @@ void MainFrame::AppliqueLangue() {
     menuBar()->setAccessibleName(Q(programme_.Text({"MainTolbar", "244"})));
     statusBar()->setAccessibleName(Q(programme_.Text({"MainTolbar", "245"})));
     programme_.messages.PoseMotsDesBoutons();
+    MontrePas();
     toolkit_words_.Follow(programme_.language.LangueCourante);
     AppliqueLangueOutils(*this);
     MontreAvis();
 }
 
 int MainFrame::ShowModal(QDialog &dialog) const {
+    std::optional<RibPreview> preview;
+    if (auto *own = qobject_cast<Dialogue *>(&dialog);
+        own != nullptr && commands_.Entree("mnu_affessai").isChecked()) {
+        preview.emplace(*own, programme_, *picture_);
+    }
     return loftwing::ShowModal(dialog, picture_->PlaceDuDessin());
 }
 

@@ -53,7 +53,8 @@ class MainFrame : public QMainWindow, public CommandView {
     PieceOverlay piece_;
     bool dessine_ = false; ///< something has been drawn since the start
 
-    /// Runs what an event asks for: no failure may pass into the toolkit's event loop.
+    /// Runs what an event asks for: no failure may pass into the toolkit's event loop. What has
+    /// become of the rib when all is over is a step.
     void Garde(const std::string &label, const std::function<void()> &action);
     /// Draws on a new recording and shows that; `tell` then puts it into words. After a failure,
     /// which has been reported, the rib is cleared. Nothing happens while a redraw is under way.
@@ -62,15 +63,20 @@ class MainFrame : public QMainWindow, public CommandView {
     /// Shows a dialog of this window beside the drawing, where the screen has room. The commands
     /// mean this one by the name.
     int ShowModal(QDialog &dialog) const;
+    /// Takes in what is on the screen as a step to go back to, where it isn't what it was, and
+    /// makes the commands show which step they would take.
+    void NotePas();
     /// Takes a check of the view menu into the rib.
     void PrendCoche(const char *name);
 
   private:
     void ConnectNotices();
+    void MontrePas();
 
     ToolkitWords toolkit_words_;
     StatusPanels panels_;
     Notices notices_;
+    int commandes_ = 0;    ///< that run at present, one inside the other
     bool drawing_ = false; ///< a redraw is under way, perhaps waiting in a box
 };
 

@@ -21,7 +21,26 @@ void PicView::Montre(std::unique_ptr<Recording> drawing) {
     drawing_ = std::move(drawing);
     wood_.clear();
     overlay_.reset();
+    trial_.reset();
     update();
+}
+
+void PicView::MontreEssai(std::unique_ptr<Recording> trial) {
+    trial_ = std::move(trial);
+    update();
+}
+
+/// The drawing, and a label in the upper left corner.
+void PicView::PeintEssai(QPainter &painter) const {
+    Replay(*trial_, painter, ScreenSurface());
+    const QFontMetrics metrics(font());
+    const int gap = metrics.averageCharWidth();
+    const QRect label = metrics.boundingRect(trial_words_).adjusted(-gap, -gap / 2, gap, gap / 2);
+    painter.setFont(font());
+    painter.translate(gap - label.left(), gap - label.top());
+    painter.fillRect(label, QColor(255, 236, 150));
+    painter.setPen(Qt::black);
+    painter.drawText(label, Qt::AlignCenter, trial_words_);
 }
 
 void PicView::MontreDessous(std::vector<QPainterPath> wood) {
@@ -37,6 +56,10 @@ void PicView::MontreDessus(std::unique_ptr<Recording> overlay) {
 void PicView::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
+    if (trial_) {
+        PeintEssai(painter);
+        return;
+    }
     PeintBois(painter, wood_);
     if (drawing_) {
         Replay(*drawing_, painter, ScreenSurface());

@@ -30,6 +30,11 @@ class PicView : public QWidget {
     /// What lies over the drawing, null for nothing; a new drawing starts without.
     void MontreDessus(std::unique_ptr<Recording> overlay);
     const Recording *Dessus() const { return overlay_.get(); }
+    /// A drawing that stands in for all of that and is marked by these words, null for none; a new
+    /// drawing starts without.
+    void MontreEssai(std::unique_ptr<Recording> trial);
+    const Recording *Essai() const { return trial_.get(); }
+    void PoseMotEssai(const QString &words) { trial_words_ = words; }
 
   Q_SIGNALS:
     void MenuDemande(const QPoint &global);
@@ -50,9 +55,13 @@ class PicView : public QWidget {
     void mouseReleaseEvent(QMouseEvent *event) override;
 
   private:
+    void PeintEssai(QPainter &painter) const;
+
     std::unique_ptr<Recording> drawing_;
     std::vector<QPainterPath> wood_;
     std::unique_ptr<Recording> overlay_;
+    std::unique_ptr<Recording> trial_;
+    QString trial_words_;
     QPoint dragged_from_;
     bool dragging_ = false;
     ZoomWheel zoom_wheel_;

@@ -83,6 +83,7 @@ void PictureArea::Connect() {
 void PictureArea::PoseTextes(const LngIni &language) {
     hint_.PoseTextes(language);
     Pic_.setAccessibleName(Q(language.LngText({"MainTolbar", "241"})));
+    Pic_.PoseMotEssai(Q(language.LngText({"Undo", "20"})));
     Hsbpic_.setAccessibleName(Q(language.LngText({"MainTolbar", "242"})));
     Vsbpic_.setAccessibleName(Q(language.LngText({"MainTolbar", "243"})));
 }

@@ -35,10 +35,15 @@ class PictureArea : public QWidget {
     void MontreFeuilles(std::unique_ptr<Recording> sheets);
     /// Lays the wood of pieces under the drawing, in logical pixels. An empty picture takes none.
     void MontrePiece(std::vector<QPainterPath> wood);
+    /// Shows a drawing in place of the present one and what lies over and under it, marked as a
+    /// preview; null shows the present one again. The bars stay.
+    void MontreEssai(std::unique_ptr<Recording> trial) { Pic_.MontreEssai(std::move(trial)); }
     /// Gives the bars their ranges over the present drawing and the sheets.
     void RegleDefilement();
     /// The strips above the picture.
     NoticeBar &Avis() { return notices_; }
+    /// The picture itself.
+    PicView &Image() { return Pic_; }
     /// What stands in the empty picture.
     EmptyHint &Accueil() { return hint_; }
     /// Scrolls to these values of the bars, or back, without a redraw. What the next drawing has no

@@ -1,6 +1,7 @@
 #include "mainwindow/tool_icons.h"
 
 #include <QPainter>
+#include <QPainterPath>
 #include <QPixmap>
 
 #include <functional>
@@ -52,6 +53,22 @@ void DrawPrinter(QPainter &painter) {
     painter.drawRect(QRectF(7, 14, 10, 7));
 }
 
+/// An arrow that turns back.
+void DrawUndo(QPainter &painter) {
+    QPainterPath arrow({4, 10});
+    arrow.lineTo(14, 10);
+    arrow.arcTo(QRectF(9, 10, 10, 10), 90, -180);
+    arrow.lineTo(9, 20);
+    painter.drawPath(arrow);
+    painter.drawPolyline(QPolygonF({{9, 5}, {4, 10}, {9, 15}}));
+}
+
+void DrawRedo(QPainter &painter) {
+    painter.translate(kGrid, 0);
+    painter.scale(-1, 1);
+    DrawUndo(painter);
+}
+
 } // namespace
 
 QIcon ToolIcon(int index, const QPalette &palette) {
@@ -71,6 +88,10 @@ QIcon ToolIcon(int index, const QPalette &palette) {
         return pictured(DrawPage);
     case 7:
         return pictured(DrawPrinter);
+    case 9:
+        return pictured(DrawUndo);
+    case 10:
+        return pictured(DrawRedo);
     default:
         return {};
     }

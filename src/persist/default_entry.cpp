@@ -132,10 +132,16 @@ TextesDefaut ChoisitUnite(AppSettings &settings, std::string_view Unite, const M
     return set.lengths;
 }
 
+std::string QuestionUnite(const Messages &messages) {
+    return messages.Text({"FrmDefaut", "17"}) + "\n" + messages.Text({"FrmDefaut", "18"});
+}
+
 bool ConfirmeUnite(const Messages &messages) {
-    return messages.Confirm(messages.Text({"FrmDefaut", "17"}) + "\n" +
-                                messages.Text({"FrmDefaut", "18"}),
-                            messages.Text({"FrmDefaut", "1"}));
+    return messages.Confirm(QuestionUnite(messages), messages.Text({"FrmDefaut", "1"}));
+}
+
+std::string UniteSurFichier(const std::string &fichier) {
+    return std::string(Trim(GetINIFile("Defaut", "unit", fichier)));
 }
 
 FinDefauts PrendDefauts(RibModel &rib, const TextesDefaut &typed, const Saisie &saisie) {

@@ -34,7 +34,9 @@ TextesDefaut TextesDefautConnus(const AppSettings &settings, const std::string &
 /// lengths that go with the unit.
 TextesDefaut ChoisitUnite(AppSettings &settings, std::string_view Unite, const Messages &messages);
 
-/// Asks whether the unit shall change and the rib be cleared for it; true for Yes.
+/// Says that the rib goes for another unit, and asks whether it shall.
+std::string QuestionUnite(const Messages &messages);
+/// Asks so; true for Yes.
 bool ConfirmeUnite(const Messages &messages);
 
 /// What became of the typed defaults.
@@ -43,6 +45,9 @@ enum class FinDefauts {
     inchangee, ///< what the rib has already; nothing was touched
     sans_corde ///< a chord of 0: a box told so and the rib is what it was
 };
+
+/// The user's own unit, which the settings file has: "mm" or "in".
+std::string UniteSurFichier(const std::string &fichier);
 
 /// Puts the typed lengths into the current rib. The template's length and a label that is the
 /// program's own follow; a loaded rib that they change counts as changed. Failures as VersMm, and 6

@@ -106,11 +106,25 @@ void frmdefaut::RemetUnite() {
     MontreFichier();
 }
 
+/// Whether the rib may go for another unit; one with changes can be saved in its own before.
+bool frmdefaut::ConfirmeUnite() {
+    const RibModel &rib = programme_.rib;
+    if (!rib.ProfilCharge || !rib.Modifie) {
+        return loftwing::ConfirmeUnite(programme_.messages);
+    }
+    return programme_.messages.ConfirmLoss(
+        QuestionUnite(programme_.messages), programme_.Text({"FrmDefaut", "1"}), [this, &rib] {
+            const QScopedValueRollback<std::string> unit(programme_.settings.Unite, unite_avant_);
+            view_.mnu_filesaveas_Click();
+            return !rib.Modifie;
+        });
+}
+
 /// Whether the unit that is chosen may stay. A Yes holds for as long as that choice stands, so that
 /// a chord that has to be typed again doesn't bring the question back.
 bool frmdefaut::AccepteUnite() {
     const bool changed = programme_.settings.Unite != unite_avant_;
-    if (changed && !unite_acceptee_ && !ConfirmeUnite(programme_.messages)) {
+    if (changed && !unite_acceptee_ && !ConfirmeUnite()) {
         return false;
     }
     unite_acceptee_ = changed;
@@ -119,8 +133,7 @@ bool frmdefaut::AccepteUnite() {
 
 /// Whether the settings file has the unit that was chosen: clearing the rib reads it from there.
 bool frmdefaut::UniteGardee() const {
-    const std::string kept = GetINIFile("Defaut", "unit", programme_.paths.fichier);
-    return Trim(kept) == Trim(programme_.settings.Unite);
+    return UniteSurFichier(programme_.paths.fichier) == Trim(programme_.settings.Unite);
 }
 
 /// Whether the rib that is there takes the defaults, which are for the next one: only when the user

@@ -67,6 +67,7 @@ class frmdefaut : public Dialogue {
     void RemetUnite();
     void RemetReglages();
     bool AccepteUnite();
+    bool ConfirmeUnite();
     bool UniteGardee() const;
     bool PrendDansLaNervure();
     void Enregistre();

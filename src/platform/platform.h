@@ -12,8 +12,16 @@ namespace loftwing {
 class Printer;
 
 enum class BoxIcon { none, information, question, warning, stop };
-enum class BoxButtons { ok, ok_cancel, yes_no, retry_cancel, locate_cancel };
-enum class BoxAnswer { ok, cancel, yes, no, retry, locate };
+enum class BoxButtons {
+    ok,
+    ok_cancel,
+    yes_no,
+    retry_cancel,
+    locate_cancel,
+    save_yes_no,
+    save_discard_cancel
+};
+enum class BoxAnswer { ok, cancel, yes, no, retry, locate, save, discard };
 
 /// A message box. `text` is plain text, its lines end with a line feed; a carriage return is
 /// not shown.
@@ -71,6 +79,8 @@ enum class Pointer { normal, busy };
 struct ButtonWords {
     std::string ok, cancel, yes, no, retry;
     std::string locate = {};
+    std::string save = {};
+    std::string discard = {};
 };
 
 /// The seam to the world. Texts are UTF-8; an empty answer of a chooser is the cancel.

@@ -61,6 +61,8 @@ const BoxButton kYes = {BoxAnswer::yes, QMessageBox::Yes, &ButtonWords::yes};
 const BoxButton kNo = {BoxAnswer::no, QMessageBox::No, &ButtonWords::no};
 const BoxButton kRetry = {BoxAnswer::retry, QMessageBox::Retry, &ButtonWords::retry};
 const BoxButton kLocate = {BoxAnswer::locate, QMessageBox::Open, &ButtonWords::locate};
+const BoxButton kSave = {BoxAnswer::save, QMessageBox::Save, &ButtonWords::save};
+const BoxButton kDiscard = {BoxAnswer::discard, QMessageBox::Discard, &ButtonWords::discard};
 
 /// The buttons of a box; the last is what closing it means.
 std::vector<BoxButton> ButtonsOf(BoxButtons buttons) {
@@ -73,6 +75,10 @@ std::vector<BoxButton> ButtonsOf(BoxButtons buttons) {
         return {kRetry, kCancelButton};
     case BoxButtons::locate_cancel:
         return {kLocate, kCancelButton};
+    case BoxButtons::save_yes_no:
+        return {kSave, kYes, kNo};
+    case BoxButtons::save_discard_cancel:
+        return {kSave, kDiscard, kCancelButton};
     case BoxButtons::ok:
         break;
     }

@@ -19,7 +19,9 @@ std::string OnOneLine(std::string text) {
 BoxAnswer ConsolePlatform::Show(const MessageBox &box) {
     last_text_ = OnOneLine(box.text);
     lines_ << OnOneLine(box.title) << ": " << last_text_ << '\n';
-    return box.buttons == BoxButtons::yes_no && says_yes_ ? BoxAnswer::yes : box.fallback;
+    const bool has_yes =
+        box.buttons == BoxButtons::yes_no || box.buttons == BoxButtons::save_yes_no;
+    return has_yes && says_yes_ ? BoxAnswer::yes : box.fallback;
 }
 
 std::optional<std::string> ConsolePlatform::Ask(const std::string &, const std::string &,

@@ -137,7 +137,7 @@ bool OuvreProfil(Programme &programme, CommandView &view) {
 
 void OuvreRib(Programme &programme, CommandView &view) {
     if (programme.rib.ProfilCharge &&
-        !ConfirmePerte(programme, {"fileopen", "1"}, {"fileopen", "2"})) {
+        !ConfirmePerte(programme, view, {"fileopen", "1"}, {"fileopen", "2"})) {
         return;
     }
     const std::string path = programme.platform.ChooseOpenFile(
@@ -150,13 +150,13 @@ void OuvreRib(Programme &programme, CommandView &view) {
 void OuvreFichier(Programme &programme, CommandView &view, const std::string &path) {
     if (!EstComposants(path)) {
         LitEtReprend(programme, view, path, SurEchec::vide);
-    } else if (ConfirmePerte(programme, {"fileopen", "1"}, {"fileopen", "2"})) {
+    } else if (ConfirmePerte(programme, view, {"fileopen", "1"}, {"fileopen", "2"})) {
         newLfw(programme, view, path);
     }
 }
 
 void OuvreAutreUnite(Programme &programme, CommandView &view) {
-    if (ConfirmePerte(programme, {"fileopen", "1"}, {"fileopen", "2"})) {
+    if (ConfirmePerte(programme, view, {"fileopen", "1"}, {"fileopen", "2"})) {
         const std::string path = programme.rib.CheminRib; // goes with the rib
         newLfw(programme, view, path, AutreUnite(programme.settings.Unite));
     }
@@ -210,6 +210,7 @@ void EnregistreRib(Programme &programme, CommandView &view) {
     view.AfficheFichiersRecents();
     const Repertoires &folders = programme.settings.repertoires;
     rib.ProfilAilleurs = !EstDans(rib.CheminProfil, {folders.RepProfil, folders.RepProfilevol});
+    programme.histoire.Enregistre(rib);
     view.MontreAvis();
     view.Titre(TitreComposants(programme, "  "));
 }

@@ -35,6 +35,9 @@ std::string EtiquetteOuverture(const std::string &path);
 /// comes back when the rib is cleared.
 void OuvreAutreUnite(Programme &programme, CommandView &view);
 
+/// Under which a failure of saving is reported.
+inline constexpr const char *kEtiquetteEnregistre = " Main/Mnu_SaveAs";
+
 /// Saves the rib as a rib components file that the user names.
 void EnregistreRib(Programme &programme, CommandView &view);
 

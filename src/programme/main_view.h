@@ -24,6 +24,8 @@ class MainView {
     virtual void afficheEpcourb() = 0;
     /// Prints the view that is up, as the user's command, which asks before.
     virtual void mnu_fileprint_Click() = 0;
+    /// Saves the rib in a file that the user names, as the user's command.
+    virtual void mnu_filesaveas_Click() = 0;
     /// Clears everything: rib, view and commands.
     virtual void affclear() = 0;
     /// The same as the user's command, which asks before changes are lost.

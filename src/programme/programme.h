@@ -10,6 +10,7 @@
 #include "output/trace.h"
 #include "persist/settings.h"
 #include "platform/platform.h"
+#include "programme/rib_history.h"
 
 #include <string>
 
@@ -44,6 +45,7 @@ struct Programme {
     Messages messages{platform, language};
     std::string DernierProfil; ///< the airfoil file that was opened last in this run
     VoisinEssaye voisin;
+    RibHistory histoire;           ///< of the main window
     std::string AvisDePiece;       ///< what there is to say of the piece that the window shows
     bool PremierDemarrage = false; ///< no settings file was there
     bool SeparateurDit = false;    ///< this run has told of a decimal separator that is no point

@@ -3,6 +3,7 @@
 
 #include "lang/aide.h"
 #include "platform/qt_form.h"
+#include "programme/essai_rib.h"
 #include "programme/programme.h"
 
 #include <QDialog>
@@ -29,6 +30,9 @@ class Dialogue : public QDialog {
     Q_OBJECT
 
   public:
+    /// What the rib would be with what is typed, for a preview; nothing for a window that changes
+    /// no rib. Called anew whenever something was typed.
+    virtual EssaiDuRib Essai() { return {}; }
     /// Escape and the window's own close button do what Cancel or Close does.
     void reject() override;
 

@@ -1,5 +1,6 @@
 #include "programme/rib_steps.h"
 
+#include "base/text_encoding.h"
 #include "base/version.h"
 #include "core/airfoil_import.h"
 #include "core/contour.h"
@@ -10,6 +11,7 @@
 #include "output/screen_plot.h"
 #include "output/view_plots.h"
 #include "platform/busy_pointer.h"
+#include "programme/file_steps.h"
 #include "programme/load.h"
 #include "programme/sans_place.h"
 
@@ -19,6 +21,17 @@ namespace {
 
 bool PeutPerdre(const Programme &programme) {
     return programme.rib.Modifie && !CompareEnVue(programme.rib, programme.compare);
+}
+
+/// Bare points have no rib components file.
+bool PeutEnregistrer(const RibModel &rib) {
+    return rib.ProfilCharge && !rib.ModeCouple;
+}
+
+/// Saves the rib before it goes; false where it is still unsaved.
+bool EnregistreAvant(Programme &programme, CommandView &view) {
+    programme.messages.Garde(kEtiquetteEnregistre, [&] { EnregistreRib(programme, view); });
+    return !programme.rib.Modifie;
 }
 
 /// The user's defaults. They bring the user's unit back where the cleared rib was shown in the
@@ -92,16 +105,33 @@ bool EssaieProfil(Programme &programme) {
 
 } // namespace
 
-bool ConfirmePerte(const Programme &programme, LngKey text, LngKey title) {
-    return !PeutPerdre(programme) ||
-           programme.messages.Confirm(programme.Text(text), programme.Text(title));
+bool ConfirmePerte(Programme &programme, CommandView &view, LngKey text, LngKey title) {
+    const Messages &messages = programme.messages;
+    if (!PeutPerdre(programme)) {
+        return true;
+    }
+    if (!PeutEnregistrer(programme.rib)) {
+        return messages.Confirm(messages.Text(text), messages.Text(title));
+    }
+    return messages.ConfirmLoss(messages.Text(text), messages.Text(title),
+                                [&] { return EnregistreAvant(programme, view); });
 }
 
-bool ConfirmeFin(const Programme &programme) {
-    const std::string text = PeutPerdre(programme)
-                                 ? programme.Text({"FrmMainMessage", "4"})
-                                 : programme.Text({"TextButton", "17"}) + " " + kTitre + " ? ";
-    return programme.messages.Confirm(text, kTitre);
+bool ConfirmeFin(Programme &programme, CommandView &view) {
+    const Messages &messages = programme.messages;
+    if (!PeutPerdre(programme)) {
+        return messages.Confirm(messages.Text({"TextButton", "17"}) + " " + kTitre + " ? ", kTitre);
+    }
+    const RibModel &rib = programme.rib;
+    if (!PeutEnregistrer(rib)) {
+        return messages.Confirm(messages.Text({"FrmMainMessage", "4"}), kTitre);
+    }
+    const std::string name = ToUtf8(rib.NomFichierRib.empty() ? rib.NomProfil : rib.NomFichierRib);
+    const BoxAnswer answer = programme.platform.Show(
+        {messages.Text({"Undo", "32"}) + "\n" + name + "\n\n" + messages.Text({"Undo", "33"}),
+         kTitre, BoxIcon::question, BoxButtons::save_discard_cancel, BoxAnswer::save});
+    return answer == BoxAnswer::discard ||
+           (answer == BoxAnswer::save && EnregistreAvant(programme, view));
 }
 
 bool RepriseProfil(Programme &programme, CommandView &view, const RibAvant &before) {
@@ -152,7 +182,7 @@ void VideTout(Programme &programme, CommandView &view) {
 }
 
 void DemandeVide(Programme &programme, CommandView &view) {
-    if (ConfirmePerte(programme, {"FrmMainMessage", "5"}, {"FrmMainMessage", "6"})) {
+    if (ConfirmePerte(programme, view, {"FrmMainMessage", "5"}, {"FrmMainMessage", "6"})) {
         view.affclear();
     }
 }

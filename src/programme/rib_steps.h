@@ -8,11 +8,13 @@
 namespace loftwing {
 
 /// Whether to go on where changes of the rib could be lost. Without any, and while two airfoils are
-/// compared, nothing is asked.
-bool ConfirmePerte(const Programme &programme, LngKey text, LngKey title);
+/// compared, nothing is asked. The user may save the rib instead; a save that is cancelled or fails
+/// keeps all as it is.
+bool ConfirmePerte(Programme &programme, CommandView &view, LngKey text, LngKey title);
 
-/// Whether the user wants to leave the program. A rib with changes is asked about in other words.
-bool ConfirmeFin(const Programme &programme);
+/// Whether the user wants to leave the program. A rib with changes can be saved before, thrown away
+/// or kept on the screen.
+bool ConfirmeFin(Programme &programme, CommandView &view);
 
 /// The airfoil that was read takes over the rib, which was `before` until then, and brings its
 /// chord along. A label of the airfoil before becomes the label of this one. Where something on the

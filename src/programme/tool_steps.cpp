@@ -26,9 +26,9 @@ constexpr std::string_view PageVersion(char lettre) {
 
 } // namespace
 
-bool ConfirmeJeu(const Programme &programme) {
+bool ConfirmeJeu(Programme &programme, CommandView &view) {
     return !programme.rib.ProfilCharge ||
-           ConfirmePerte(programme, {"FrmMainMessage", "11"}, {"FrmMainMessage", "12"});
+           ConfirmePerte(programme, view, {"FrmMainMessage", "11"}, {"FrmMainMessage", "12"});
 }
 
 void FaitPlaceAuJeu(const Programme &programme, CommandView &view) {

@@ -10,7 +10,7 @@
 namespace loftwing {
 
 /// Whether a set of ribs may take the place of the rib. Where changes could be lost the user says.
-bool ConfirmeJeu(const Programme &programme);
+bool ConfirmeJeu(Programme &programme, CommandView &view);
 /// Clears the rib for it.
 void FaitPlaceAuJeu(const Programme &programme, CommandView &view);
 

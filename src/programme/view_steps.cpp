@@ -94,7 +94,7 @@ void CompareProfils(Programme &programme, CommandView &view) {
     }
     RibModel &rib = programme.rib;
     if (rib.ProfilCharge &&
-        !ConfirmePerte(programme, {"OutilCompare", "1"}, {"OutilCompare", "2"})) {
+        !ConfirmePerte(programme, view, {"OutilCompare", "1"}, {"OutilCompare", "2"})) {
         return;
     }
     const VueAvant before{rib, rib.ModeCompare, rib.ModeCouple, RetourDuRib(rib)};
@@ -117,7 +117,7 @@ void ModifieEpCourb(Programme &programme, CommandView &view) {
     }
     RibModel &rib = programme.rib;
     if (rib.ProfilCharge &&
-        !ConfirmePerte(programme, {"FrmMainMessage", "9"}, {"FrmMainMessage", "10"})) {
+        !ConfirmePerte(programme, view, {"FrmMainMessage", "9"}, {"FrmMainMessage", "10"})) {
         return;
     }
     if (!OuvreProfil(programme, view) || !rib.ProfilCharge) {

@@ -144,8 +144,17 @@ void frmCoord::VideSaisie() {
     txt[kTitreFichier].clear();
 }
 
+/// Whether to go on where lines would be lost.
+bool frmCoord::ConfirmePerte(const std::string &question) {
+    return programme_.messages.ConfirmLoss(question, Titre(), [this] {
+        cmdsave_Click();
+        return Sauve;
+    });
+}
+
 void frmCoord::cmdeffacetout_Click() {
-    if (!programme_.messages.Confirm(programme_.Text({"Frmcoord", "16"}), Titre())) {
+    const std::string question = programme_.Text({"Frmcoord", "16"});
+    if (APerdre() ? !ConfirmePerte(question) : !programme_.messages.Confirm(question, Titre())) {
         return;
     }
     VideSaisie();
@@ -189,7 +198,7 @@ void frmCoord::cmdsave_Click() {
 
 void frmCoord::Ouvre() {
     const Messages &messages = programme_.messages;
-    if (APerdre() && !messages.Confirm(messages.Text({"Frmcoord", "13"}), Titre())) {
+    if (APerdre() && !ConfirmePerte(messages.Text({"Frmcoord", "13"}))) {
         return;
     }
     FileQuestion question;
@@ -222,7 +231,7 @@ void frmCoord::cmdouvrir_Click() {
 
 /// Whether the window may close.
 bool frmCoord::Form_Unload() {
-    return !APerdre() || programme_.messages.Confirm(programme_.Text({"Frmcoord", "17"}), Titre());
+    return !APerdre() || ConfirmePerte(programme_.Text({"Frmcoord", "17"}));
 }
 
 void frmCoord::cmdannuler_Click() {

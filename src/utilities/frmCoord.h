@@ -74,6 +74,7 @@ class frmCoord : public Dialogue {
     void Ajoute();
     void Modifie();
     void Ouvre();
+    bool ConfirmePerte(const std::string &question);
     void Enregistre();
     void VideSaisie();
     std::vector<int> LignesChoisies() const;

@@ -57,6 +57,13 @@ ChampsEpCourb frmEpCourb::Champs() const {
     return {S(txtEpR.text()), S(txtCourbure.text())};
 }
 
+EssaiDuRib frmEpCourb::Essai() {
+    return [this](RibModel &rib, const Saisie &saisie) {
+        ChampsEpCourb champs = Champs();
+        return AppliqueEpCourb(rib, champs, saisie.messages, Titre());
+    };
+}
+
 void frmEpCourb::Avertit(const std::string &text) const {
     programme_.messages.Tell(text, Titre(), BoxIcon::warning);
 }

@@ -26,6 +26,8 @@ class frmEpCourb : public Dialogue {
     /// Path of the file that was saved.
     const std::string &Fichier() const { return FichierEpCourb; }
 
+    EssaiDuRib Essai() override;
+
   private:
     MainView &view_;
     ChampsEpCourb appliques_;  ///< what the new airfoil was computed from

@@ -3,6 +3,7 @@
 #include "persist/default_entry.h"
 #include "support/steps_world.h"
 
+#include <filesystem>
 #include <functional>
 
 namespace loftwing {
@@ -13,7 +14,7 @@ using testing::IsEmpty;
 
 class RibSteps : public StepsWorld {
   protected:
-    bool Confirm() const { return ConfirmePerte(programme, {"fileopen", "1"}, {"fileopen", "2"}); }
+    bool Confirm() { return ConfirmePerte(programme, view, {"fileopen", "1"}, {"fileopen", "2"}); }
     /// Another airfoil is read and takes over the rib.
     void TakeOver(const std::string &path) {
         const RibAvant before = RibAvantLecture(Rib(), programme.messages);
@@ -56,15 +57,64 @@ TEST_F(RibSteps, AComparisonThatWasCalledOffIsNone) {
 
 TEST_F(RibSteps, TheEndIsAskedAboutInWordsThatNameChanges) {
     ExpectBox(BoxAnswer::no, "Do you want to quit Loftwing ? ", "Loftwing");
-    EXPECT_FALSE(ConfirmeFin(programme));
+    EXPECT_FALSE(ConfirmeFin(programme, view));
     Rib().Modifie = true;
     ExpectBox(BoxAnswer::yes,
               "The rib has changes that are not saved. Do you want to quit all the same?",
               "Loftwing");
-    EXPECT_TRUE(ConfirmeFin(programme));
+    EXPECT_TRUE(ConfirmeFin(programme, view));
     Comparing();
     ExpectBox(BoxAnswer::yes, "Do you want to quit Loftwing ? ", "Loftwing");
-    EXPECT_TRUE(ConfirmeFin(programme));
+    EXPECT_TRUE(ConfirmeFin(programme, view));
+}
+
+TEST_F(RibSteps, ARibWithChangesCanBeSavedBeforeTheEndOrThrownAway) {
+    TakeOver(Sample("naca2412.dat"));
+    const auto expect = [this](BoxAnswer answer) {
+        platform.Expect(answer,
+                        {.text = "The rib has changes that are not saved :\nnaca2412\n\nSave it "
+                                 "before you quit?",
+                         .title = "Loftwing",
+                         .buttons = BoxButtons::save_discard_cancel});
+    };
+    expect(BoxAnswer::cancel);
+    EXPECT_FALSE(ConfirmeFin(programme, view));
+    expect(BoxAnswer::discard);
+    EXPECT_TRUE(ConfirmeFin(programme, view));
+    expect(BoxAnswer::save);
+    platform.files_expected.emplace_back(); // the chooser is cancelled
+    EXPECT_FALSE(ConfirmeFin(programme, view));
+    expect(BoxAnswer::save);
+    platform.files_expected.push_back(folder.Path("nowhere/rib.lfw"));
+    ExpectReport(" Main/Mnu_SaveAs");
+    EXPECT_FALSE(ConfirmeFin(programme, view));
+    EXPECT_TRUE(Rib().Modifie);
+    expect(BoxAnswer::save);
+    platform.files_expected.push_back(folder.Path("rib.lfw"));
+    EXPECT_TRUE(ConfirmeFin(programme, view));
+    EXPECT_TRUE(std::filesystem::exists(folder.Path("rib.lfw")));
+    EXPECT_FALSE(Rib().Modifie);
+}
+
+TEST_F(RibSteps, WhereALossIsConfirmedTheRibCanBeSaved) {
+    TakeOver(Sample("naca2412.dat"));
+    platform.Expect(BoxAnswer::save, {.buttons = BoxButtons::save_yes_no});
+    platform.files_expected.emplace_back(); // cancelled
+    EXPECT_FALSE(Confirm());
+    platform.Expect(BoxAnswer::save, {.buttons = BoxButtons::save_yes_no});
+    platform.files_expected.push_back(folder.Path("rib.lfw"));
+    EXPECT_TRUE(Confirm());
+    EXPECT_TRUE(std::filesystem::exists(folder.Path("rib.lfw")));
+    EXPECT_TRUE(Confirm()); // nothing is asked any more
+}
+
+TEST_F(RibSteps, BarePointsAreNotOfferedToBeSaved) {
+    TakeOver(Sample("naca2412.dat"));
+    Rib().ModeCouple = true;
+    platform.Expect(BoxAnswer::no, {.buttons = BoxButtons::yes_no});
+    EXPECT_FALSE(Confirm());
+    platform.Expect(BoxAnswer::no, {.buttons = BoxButtons::yes_no});
+    EXPECT_FALSE(ConfirmeFin(programme, view));
 }
 
 TEST_F(RibSteps, AnAirfoilIsNamedNotedAndShown) {

@@ -35,7 +35,7 @@ class ToolSteps : public StepsWorld {
 
 TEST_F(ToolSteps, ASetOfRibsFindsRoomWhereThereIsNoRib) {
     Rib().Modifie = true;
-    EXPECT_TRUE(ConfirmeJeu(programme));
+    EXPECT_TRUE(ConfirmeJeu(programme, view));
     FaitPlaceAuJeu(programme, view);
     EXPECT_THAT(view.asked, IsEmpty());
 }
@@ -46,10 +46,10 @@ TEST_F(ToolSteps, ASetOfRibsClearsTheRibUnlessTheUserKeepsIt) {
     const std::string question = "The rib has changes that are not saved. Generate a set of ribs "
                                  "all the same?";
     ExpectBox(BoxAnswer::no, question, "Full set of ribs");
-    EXPECT_FALSE(ConfirmeJeu(programme));
+    EXPECT_FALSE(ConfirmeJeu(programme, view));
     EXPECT_THAT(view.asked, IsEmpty());
     ExpectBox(BoxAnswer::yes, question, "Full set of ribs");
-    EXPECT_TRUE(ConfirmeJeu(programme));
+    EXPECT_TRUE(ConfirmeJeu(programme, view));
     FaitPlaceAuJeu(programme, view);
     EXPECT_THAT(view.asked, ElementsAre("affclear"));
 }

@@ -27,6 +27,13 @@ class Noted : public View {
     void RetraceVues() override { asked.emplace_back("RetraceVues"); }
     void afficheEpcourb() override { asked.emplace_back("afficheEpcourb"); }
     void mnu_fileprint_Click() override { asked.emplace_back("mnu_fileprint_Click"); }
+    std::function<void()> on_save;
+    void mnu_filesaveas_Click() override {
+        asked.emplace_back("mnu_filesaveas_Click");
+        if (on_save) {
+            on_save();
+        }
+    }
     void affclear() override {
         asked.emplace_back("affclear");
         if (on_clear) {

@@ -157,7 +157,7 @@ TEST_F(CompareView, WithoutAComparisonOnTheScreenChangesAreStillAskedFor) {
     world.platform.Expect(BoxAnswer::no, {.text = world.programme.Text({"FrmMainMessage", "5"})});
     world.Action("mnu_affclear")->trigger();
     EXPECT_TRUE(Rib().ProfilCharge);
-    world.platform.Expect(BoxAnswer::no, {.text = world.programme.Text({"FrmMainMessage", "4"})});
+    world.platform.Expect(BoxAnswer::cancel, {.buttons = BoxButtons::save_discard_cancel});
     world.window->close();
     EXPECT_TRUE(world.window->isVisible());
 }

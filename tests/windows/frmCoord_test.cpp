@@ -352,6 +352,23 @@ TEST_F(FrmCoordTest, EveryWayOutAsksForUnsavedLines) {
     }
 }
 
+TEST_F(FrmCoordTest, UnsavedLinesCanBeSavedBeforeTheyGo) {
+    Open();
+    Enter("1", "0");
+    // Without a name there is nothing to save to, and the window stays.
+    ExpectQuestion("The lines are not saved. Close all the same?", BoxAnswer::save);
+    platform.Expect(BoxAnswer::ok, {.text = "Please enter a file name."});
+    Close();
+    EXPECT_TRUE(IsOpen());
+    Type("txt(0)", "mine");
+    Type("txt(1)", "Title");
+    ExpectQuestion("The lines are not saved. Close all the same?", BoxAnswer::save);
+    platform.files_expected.push_back(folder.Path("mine.dat"));
+    Close();
+    EXPECT_FALSE(IsOpen());
+    EXPECT_TRUE(std::filesystem::exists(folder.Path("mine.dat")));
+}
+
 // The count is that of the last entry: whoever has deleted all lines by hand is still asked.
 TEST_F(FrmCoordTest, LinesDeletedOneByOneAreStillAskedFor) {
     Open();

@@ -100,17 +100,17 @@ TEST_F(BesideMainTest, AnotherLanguageReachesWhatIsOpen) {
 TEST_F(BesideMainTest, UnsavedLinesAreAskedForWhenTheProgramEnds) {
     Run("mnu_Outilcoord");
     EnterPoint();
-    world.platform.Expect(BoxAnswer::yes); // quit?
-    world.platform.Expect(BoxAnswer::no);  // the lines
+    world.platform.Expect(BoxAnswer::discard); // quit?
+    world.platform.Expect(BoxAnswer::no);      // the lines
     EXPECT_FALSE(world.window->close());
     EXPECT_TRUE(world.window->isVisible());
     EXPECT_EQ(world.platform.boxes.back().text, "The lines are not saved. Close all the same?");
     EXPECT_EQ(world.platform.help_closed, 0);
-    // A No to the first question asks no second.
-    world.platform.Expect(BoxAnswer::no);
+    // Who stays at the first question is asked no second.
+    world.platform.Expect(BoxAnswer::cancel);
     EXPECT_FALSE(world.window->close());
     EXPECT_EQ(Windows<frmCoord>().size(), 1);
-    world.platform.Expect(BoxAnswer::yes);
+    world.platform.Expect(BoxAnswer::discard);
     world.platform.Expect(BoxAnswer::yes);
     EXPECT_TRUE(world.window->close());
     EXPECT_TRUE(Windows<frmCoord>().isEmpty());

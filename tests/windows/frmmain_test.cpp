@@ -9,6 +9,7 @@
 
 #include <QTest>
 
+#include <filesystem>
 #include <set>
 
 namespace loftwing {
@@ -346,12 +347,18 @@ TEST(MainWindow, ClosingAsksAndNoRefuses) {
     EXPECT_EQ(world.platform.help_closed, 1);
 }
 
-TEST(MainWindow, ClosingWithChangesAsksInOtherWords) {
+TEST(MainWindow, ClosingWithChangesOffersToSaveThem) {
     WindowWorld world;
     world.Open().OuvreFichier(WindowWorld::Sample("naca2412.dat"));
-    world.platform.Expect(BoxAnswer::yes, {.text = world.programme.Text({"FrmMainMessage", "4"})});
+    world.platform.Expect(BoxAnswer::cancel, {.buttons = BoxButtons::save_discard_cancel});
+    world.Action("mnu_fileexit")->trigger();
+    EXPECT_TRUE(world.window->isVisible());
+    world.platform.Expect(BoxAnswer::save, {.buttons = BoxButtons::save_discard_cancel});
+    const std::string file = world.folder.Path("kept.lfw");
+    world.platform.files_expected.push_back(file);
     world.Action("mnu_fileexit")->trigger();
     EXPECT_FALSE(world.window->isVisible());
+    EXPECT_TRUE(std::filesystem::exists(file));
 }
 
 TEST(MainWindow, SeparatorsOfTheToolBarAndThePrintPreviewDoNothing) {

@@ -136,7 +136,7 @@ TEST_F(RibModified, TheLanguageIsChosenOnlyWhereNothingIsLostOrTheUserSaysSo) {
                           {.text = "The rib has changes that are not saved. A choice of language "
                                    "clears it. Choose all the same?",
                            .title = "Language",
-                           .buttons = BoxButtons::yes_no});
+                           .buttons = BoxButtons::save_yes_no});
     Run("mnu_affLang", {});
     EXPECT_TRUE(Rib().ProfilCharge);
     EXPECT_TRUE(Rib().Modifie);
