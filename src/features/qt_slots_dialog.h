@@ -55,6 +55,8 @@ class SlotsDialog : public Dialogue {
 
   public:
     EssaiDuRib Essai() override;
+    /// Shows a finished entry, as a click on its number does.
+    void MontreNumero(int slot) { Numero_Click(slot); }
 
   protected:
     /// Where the words come from that both windows have.

@@ -14,6 +14,7 @@ inline constexpr int kSansAide = 0;
 
 inline constexpr int kAideVisite = 10; ///< the tour, which is the first page
 inline constexpr int kAideFenetre = 20;
+inline constexpr int kAideEdition = 21; ///< undo, preview, the mouse on the drawing
 inline constexpr int kAidePage = 31;
 inline constexpr int kAideFeuilles = 32; ///< the printer's correction, papers of one's own
 inline constexpr int kAideExport = 33;

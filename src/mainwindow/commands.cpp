@@ -30,6 +30,11 @@ Command Check(const char *name, const char *menu, LngKey text, unsigned groups,
     return {name, menu, text, nullptr, groups, true, false, false, handler};
 }
 
+Command Keyed(Command command, const char *keys) {
+    command.keys = keys;
+    return command;
+}
+
 /// An entry whose thing is found elsewhere.
 Command Ailleurs(const char *name, const char *menu, LngKey text, LngKey ailleurs) {
     Command command = Entry(name, menu, text, kAlways, nullptr);
@@ -143,6 +148,10 @@ std::vector<Command> ViewMenu() {
         Conseille(
             Check("mnu_affessai", menu, {"Undo", "21"}, kAlways, &frmmain::mnu_affessai_Click),
             {"Undo", "22"}),
+        Conseille(Keyed(Check("mnu_affmesure", menu, {"Undo", "43"}, kAlways,
+                              &frmmain::mnu_affmesure_Click),
+                        "M"),
+                  {"Undo", "44"}),
         Below(SubMenu(zoom, menu, {"MenuAffich", "210"}, kAlways)),
         Entry("mnu_affzoomplus", zoom, {"MenuAffich", "211"}, kAlways,
               &frmmain::mnu_affzoomplus_Click, "Ctrl++; Ctrl+="),

@@ -37,7 +37,9 @@ frmmain::frmmain(Programme &programme)
                             [this](const EntreeExport &entree) { Exporte(entree); },
                             [this](const std::string &path) { mnuFileMRU_Click(path); },
                             [this](const std::string &path) { mnuRibMRU_Click(path); },
-                            [this](int row) { Combo1_Click(row); }}) {
+                            [this](int row) { Combo1_Click(row); }}),
+      touche_(programme, picture_->Image(), DemandesDuDoigt()),
+      mesure_(programme, picture_->Image(), [this] { FinMesure(); }) {
     setObjectName("frmmain");
     setAcceptDrops(true);
     ConnectPicture();

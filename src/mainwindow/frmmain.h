@@ -2,6 +2,8 @@
 #pragma once
 
 #include "mainwindow/main_frame.h"
+#include "mainwindow/measure_tool.h"
+#include "mainwindow/rib_touch.h"
 
 #include <optional>
 #include <string>
@@ -65,6 +67,7 @@ class frmmain : public MainFrame {
     void mnu_afffeuilles_Click();
     void mnu_affpiece_Click();
     void mnu_affessai_Click();
+    void mnu_affmesure_Click();
     void mnu_affzoomplus_Click();
     void mnu_affzoommoins_Click();
     void mnu_affzoom100_Click();
@@ -112,11 +115,21 @@ class frmmain : public MainFrame {
     /// Draws at the zoom of a row of the list, scrolled so.
     void MetZoom(int row, const ScrollMove &bars);
     void ConnectPicture();
+    RibTouch::Demandes DemandesDuDoigt();
+    /// The windows of spars and holes, at a slot where one is given.
+    void OuvreLongerons(std::optional<int> slot);
+    void OuvreTrous(std::optional<int> slot);
+    /// Opens the dialog of a part of the rib, a spar or hole at its slot.
+    void OuvreSujet(const SujetTrace &sujet);
+    void FinMesure();
     /// Lets the user set up the page; false when that is cancelled.
     bool RegleMiseEnPage();
     /// How a print run reaches that.
     ReglagePage ReglagePageIci();
     void Exporte(const EntreeExport &entree);
+
+    RibTouch touche_;
+    MeasureTool mesure_;
 };
 
 } // namespace loftwing

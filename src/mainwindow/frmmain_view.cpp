@@ -129,6 +129,17 @@ void frmmain::mnu_affessai_Click() {
     WriteINIFile("Apercu", "Saisie", on ? "1" : "0", programme_.paths.fichier);
 }
 
+void frmmain::mnu_affmesure_Click() {
+    const bool on = commands_.Entree("mnu_affmesure").isChecked();
+    touche_.Active(!on);
+    mesure_.Active(on);
+}
+
+void frmmain::FinMesure() {
+    commands_.Entree("mnu_affmesure").setChecked(false);
+    mnu_affmesure_Click();
+}
+
 void frmmain::Form_Resize() {
     // What is typed in a dialog may not fit yet, and a plot that fails costs the rib.
     if (DialogueNervureOuvert(*this)) {

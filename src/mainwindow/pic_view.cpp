@@ -22,7 +22,15 @@ void PicView::Montre(std::unique_ptr<Recording> drawing) {
     wood_.clear();
     overlay_.reset();
     trial_.reset();
+    touched_.reset();
     update();
+}
+
+void PicView::MontreTouche(std::unique_ptr<Recording> touched) {
+    if (touched_ || touched) {
+        touched_ = std::move(touched);
+        update();
+    }
 }
 
 void PicView::MontreEssai(std::unique_ptr<Recording> trial) {
@@ -58,8 +66,16 @@ void PicView::paintEvent(QPaintEvent *) {
     painter.fillRect(rect(), Qt::white);
     if (trial_) {
         PeintEssai(painter);
-        return;
+    } else {
+        PeintDessin(painter);
     }
+    if (touched_) {
+        painter.resetTransform();
+        Replay(*touched_, painter, ScreenSurface());
+    }
+}
+
+void PicView::PeintDessin(QPainter &painter) const {
     PeintBois(painter, wood_);
     if (drawing_) {
         Replay(*drawing_, painter, ScreenSurface());

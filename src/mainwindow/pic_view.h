@@ -34,6 +34,10 @@ class PicView : public QWidget {
     /// drawing starts without.
     void MontreEssai(std::unique_ptr<Recording> trial);
     const Recording *Essai() const { return trial_.get(); }
+    /// What the mouse has taken hold of, over all the rest; null for nothing. A new drawing starts
+    /// without.
+    void MontreTouche(std::unique_ptr<Recording> touched);
+    const Recording *ToucheMontree() const { return touched_.get(); }
     void PoseMotEssai(const QString &words) { trial_words_ = words; }
 
   Q_SIGNALS:
@@ -55,6 +59,7 @@ class PicView : public QWidget {
     void mouseReleaseEvent(QMouseEvent *event) override;
 
   private:
+    void PeintDessin(QPainter &painter) const;
     void PeintEssai(QPainter &painter) const;
 
     std::unique_ptr<Recording> drawing_;
@@ -62,6 +67,7 @@ class PicView : public QWidget {
     std::unique_ptr<Recording> overlay_;
     std::unique_ptr<Recording> trial_;
     QString trial_words_;
+    std::unique_ptr<Recording> touched_;
     QPoint dragged_from_;
     bool dragging_ = false;
     ZoomWheel zoom_wheel_;

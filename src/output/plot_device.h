@@ -1,6 +1,8 @@
 /// The drawing target of all plot routines.
 #pragma once
 
+#include "output/sujet.h"
+
 #include <cstdint>
 #include <string>
 
@@ -50,6 +52,7 @@ class PlotDevice {
     Colour ForeColor = 0;
     int DrawWidth = 1; ///< 1 to 3
     int DrawStyle = 0; ///< 0 to 4: solid, dash, dot, dash-dot, dash-dot-dot
+    SujetTrace sujet;  ///< whose lines are drawn; a device may ignore it
     double CurrentX = 0;
     double CurrentY = 0;
 

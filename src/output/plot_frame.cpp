@@ -87,9 +87,11 @@ void TraceTexteInsere(const Trace &trace, double rampe) {
     }
     const PlotState &plot = trace.plot;
     const double echelle = Wide(plot.Echelle);
-    trace.Ecrit(rampe * echelle + Wide(plot.OrigineX) + Wide(texte.InsTextX) * echelle,
-                Wide(plot.OrigineY) - Wide(texte.InsTextY) * echelle - kTexteAuDessus * echelle,
-                texte.InsTexte);
+    trace.Pour({GenreSujet::texte, 0}, [&] {
+        trace.Ecrit(rampe * echelle + Wide(plot.OrigineX) + Wide(texte.InsTextX) * echelle,
+                    Wide(plot.OrigineY) - Wide(texte.InsTextY) * echelle - kTexteAuDessus * echelle,
+                    texte.InsTexte);
+    });
 }
 
 void TraceContour(const Trace &trace) {

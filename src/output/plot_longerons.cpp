@@ -126,8 +126,10 @@ void TraceLongerons(const Trace &trace) {
         trace.Nomme(
             {"FrmLines", "8"},
             [&] {
-                more = TraceLongeron(trace, At(trace.rib.longeron, slot),
-                                     At(trace.plot.longerons, slot));
+                trace.Pour({GenreSujet::longeron, slot}, [&] {
+                    more = TraceLongeron(trace, At(trace.rib.longeron, slot),
+                                         At(trace.plot.longerons, slot));
+                });
             },
             slot + 1);
     }

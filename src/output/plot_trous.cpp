@@ -80,7 +80,14 @@ void TraceTrous(const Trace &trace) {
     for (int slot = 0; slot <= trace.rib.NbTrou; ++slot) {
         trace.Nomme(
             {"FrmLines", "11"},
-            [&] { TraceTrou(trace, At(trace.rib.trou, slot), At(trace.plot.trous, slot)); },
+            [&] {
+                Trou &hole = At(trace.rib.trou, slot);
+                // The slot that is being edited is drawn even while it is empty.
+                const GenreSujet genre =
+                    hole.DiaTrou == 0.0F ? GenreSujet::aucun : GenreSujet::trou;
+                trace.Pour({genre, slot},
+                           [&] { TraceTrou(trace, hole, At(trace.plot.trous, slot)); });
+            },
             slot + 1);
     }
 }

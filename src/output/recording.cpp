@@ -49,6 +49,8 @@ double MeasuredAdvance(const std::string &text, const TextFont &font) {
 
 void Recording::Clear() {
     operations_.clear();
+    sujets_.clear();
+    sujet = {};
     Font = TextFont{};
     ForeColor = 0;
     DrawWidth = 1;
@@ -76,18 +78,23 @@ Extent Recording::Bounds() const {
     return extent;
 }
 
+void Recording::Add(const Operation &operation) {
+    operations_.push_back(operation);
+    sujets_.push_back(sujet);
+}
+
 void Recording::Segment(double x1, double y1, double x2, double y2, const Pen &pen) {
-    operations_.emplace_back(DrawnSegment{x1, y1, x2, y2, pen});
+    Add(DrawnSegment{x1, y1, x2, y2, pen});
 }
 
 void Recording::CircleOutline(double x, double y, double radius, const Pen &pen) {
-    operations_.emplace_back(DrawnCircle{x, y, radius, pen});
+    Add(DrawnCircle{x, y, radius, pen});
 }
 
 double Recording::Text(double x, double y, const std::string &text, const TextFont &font,
                        Colour colour) {
     const double advance = measure_(text, font);
-    operations_.emplace_back(DrawnText{x, y, text, font, colour, advance});
+    Add(DrawnText{x, y, text, font, colour, advance});
     return advance;
 }
 

@@ -46,6 +46,8 @@ class Recording : public PlotDevice {
     explicit Recording(Measure measure = MeasuredAdvance) : measure_(std::move(measure)) {}
 
     const std::vector<Operation> &Operations() const { return operations_; }
+    /// Whose each of them is, in the same order.
+    const std::vector<SujetTrace> &Sujets() const { return sujets_; }
     void Clear();
     /// Extent of lines, circles and texts.
     Extent Bounds() const;
@@ -59,6 +61,9 @@ class Recording : public PlotDevice {
   private:
     Measure measure_;
     std::vector<Operation> operations_;
+    std::vector<SujetTrace> sujets_;
+
+    void Add(const Operation &operation);
 };
 
 /// Draws a recording again on another device, shifted by (dx, dy) device units. What the device

@@ -9,8 +9,18 @@ namespace {
 using Etape = void (*)(const Trace &);
 
 /// A step of an element, whose name a failure carries.
-void Draw(const Trace &trace, Element element, Etape step) {
-    trace.Nomme(DrawingElements()[static_cast<std::size_t>(element)].label, [&] { step(trace); });
+void Draw(const Trace &trace, Element element, Etape step, GenreSujet genre = GenreSujet::aucun) {
+    trace.Nomme(DrawingElements()[static_cast<std::size_t>(element)].label, [&] {
+        trace.Pour({genre, 0}, [&] { step(trace); });
+    });
+}
+
+/// What the leading edge has. Without stock its line closes the rib.
+GenreSujet SujetBA(const RibModel &rib) {
+    if (rib.TypeBA != 1) {
+        return GenreSujet::carre;
+    }
+    return rib.EpBA == 0.0F ? GenreSujet::aucun : GenreSujet::baguette_ba;
 }
 
 } // namespace
@@ -19,14 +29,17 @@ void DrawRib(const Trace &trace) {
     const RibModel &rib = trace.rib;
     PrepareTrace(trace);
     TraceDemiBF(trace);
-    Draw(trace, Element::bloc, TraceGabarit);
+    Draw(trace, Element::bloc, TraceGabarit, GenreSujet::gabarit);
     PlaceOrigine(trace);
     if (rib.TypeGabarit == kGabaritTalon) {
-        trace.Nomme({"FrmLines", "24"}, [&] { TraceTalon(trace); });
+        trace.Nomme({"FrmLines", "24"}, [&] {
+            trace.Pour({GenreSujet::talon, 0}, [&] { TraceTalon(trace); });
+        });
     }
     TraceTexteEpaisseur(trace);
-    Draw(trace, Element::ba, TraceBordAttaque);
-    Draw(trace, Element::bf, TraceBordFuite);
+    Draw(trace, Element::ba, TraceBordAttaque, SujetBA(rib));
+    Draw(trace, Element::bf, TraceBordFuite,
+         rib.EpBF == 0.0F ? GenreSujet::aucun : GenreSujet::baguette_bf);
     if (rib.TypeGabarit == kSansGabarit) {
         TraceTexteInsere(trace);
     }

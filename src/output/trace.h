@@ -47,6 +47,18 @@ struct Trace {
             throw;
         }
     }
+    /// Runs a step that draws a part of the rib.
+    template <class Step>
+    void Pour(SujetTrace sujet, const Step &step) const {
+        struct Rendu {
+            SujetTrace &present;
+            const SujetTrace before = present;
+            ~Rendu() { present = before; }
+        };
+        const Rendu back{device.sujet};
+        device.sujet = sujet;
+        step();
+    }
     /// Prints a text with its top left corner at a place.
     void Ecrit(double x, double y, const std::string &text) const;
 };
