@@ -8,6 +8,8 @@
 // pictures of the help, in mm: FOLDER/LANGUAGE/pictures/WINDOW.png.
 
 #include "picture_platform.h"
+#include "picture_ribs.h"
+#include "sample_wing.h"
 
 #include "base/whole_file.h"
 #include "features/frmInstxt.h"
@@ -101,13 +103,14 @@ class Pictures {
         rib.EpBA = 8;
         rib.EpBF = 25;
         rib.NbRep = 3;
-        AddFeatures();
+        AddFeatures(programme_);
         rib.AffEpr = rib.AffHautBA = rib.AffHautBF = true;
         window_->affiche();
         Save(*window_, "frmmain");
         TakeSheets();
         TakePiece();
         TakePanel();
+        TakeWing();
         if (programme_.settings.Unite == kUniteMm) {
             TakePrint();
         }
@@ -171,6 +174,19 @@ class Pictures {
         Save(panel, "frmpanneau");
     }
 
+    /// The sample wing as the tour of it shows it.
+    void TakeWing() {
+        if (programme_.settings.Unite != kUniteMm) {
+            return; // its ribs are in mm
+        }
+        frmpanneau panel(programme_, window_.get());
+        OpenSampleWing(panel, programme_, kResources + "/samples/wing");
+        WaitForReading();
+        EndHoleOfSampleWing(panel, programme_);
+        WaitForReading();
+        Save(panel, "wing");
+    }
+
     /// The sheet that comes out of the printer: the rib of the tour.
     void TakePrint() {
         RibModel &rib = programme_.rib;
@@ -179,16 +195,7 @@ class Pictures {
         const PartieGardee<Vue> view(rib);
         rib.NbRep = 0;
         rib.AffEpr = rib.AffHautBA = rib.AffHautBF = false;
-        const Saisie typed = programme_.SaisieEnCours();
-        const Refus nobody = [](Regle, float) {};
-        StockeLongeron(rib.longeron[0], {{"30%", "8", "3", ""}, 1, 1, kLongeronSurface, 0},
-                       rib.corde, typed, nobody);
-        StockeLongeron(rib.longeron[1], {{"60", "5", "3", ""}, 1, 1, kLongeronSurface, 1},
-                       rib.corde, typed, nobody);
-        rib.NbLongeron = 1;
-        StockeTrou(rib.trou[0], {{"50%", "12", "0"}, "0", true, 0, kTrouRond}, rib.corde, typed,
-                   nobody);
-        rib.NbTrou = 0;
+        DressAsInTheTour(programme_);
         ImprimeSurDemande(programme_, ReglageDeFenetre(programme_.messages, [] { return true; }));
         Write(platform_.FirstSheet(), "sheet");
     }
@@ -201,25 +208,6 @@ class Pictures {
         }
         window_->affclear();
         Save(*window_, "frmmain-cleared");
-    }
-
-    void AddFeatures() {
-        const bool inches = programme_.settings.Unite == kUniteIn;
-        const std::string width = inches ? "3/8" : "10";
-        const std::string depth = inches ? "3/16" : "5";
-        RibModel &rib = programme_.rib;
-        const Saisie typed = programme_.SaisieEnCours();
-        const Refus nobody = [](Regle, float) {};
-        StockeLongeron(rib.longeron[0], {{"12%", width, depth, ""}, 2, 2, kLongeronSurface, 0},
-                       rib.corde, typed, nobody);
-        StockeLongeron(rib.longeron[1], {{"30%", depth, "0", depth}, 1, 0, kLongeronRond, 0},
-                       rib.corde, typed, nobody);
-        rib.NbLongeron = 1;
-        StockeTrou(rib.trou[0], {{"50%", width, "0"}, "0", true, 0, kTrouRond}, rib.corde, typed,
-                   nobody);
-        StockeTrou(rib.trou[1], {{"35%", width, depth}, depth, false, 1, kTrouRectangle}, rib.corde,
-                   typed, nobody);
-        rib.NbTrou = 1;
     }
 
     /// Every notice at once.

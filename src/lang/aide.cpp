@@ -4,7 +4,7 @@ namespace loftwing {
 
 namespace {
 
-constexpr std::array kDebut = {kAideVisite, kAideFenetre, kAideEdition};
+constexpr std::array kDebut = {kAideVisite, kAideAile, kAideFenetre, kAideEdition};
 constexpr std::array kProfils = {kAideOuvrir, kAideImport, kAideComposants};
 constexpr std::array kRib = {kAideValeurs, kAideLongerons, kAideTrous, kAideGabarit, kAideDessin};
 constexpr std::array kSorties = {kAidePage, kAideFeuilles, kAideExport, kAideDecoupe};

@@ -13,6 +13,7 @@ namespace loftwing {
 inline constexpr int kSansAide = 0;
 
 inline constexpr int kAideVisite = 10; ///< the tour, which is the first page
+inline constexpr int kAideAile = 15;   ///< the second tour: a wing panel
 inline constexpr int kAideFenetre = 20;
 inline constexpr int kAideEdition = 21; ///< undo, preview, the mouse on the drawing
 inline constexpr int kAidePage = 31;

@@ -51,27 +51,38 @@ bool CopyContent(const QDir &from, const QDir &to) {
     return true;
 }
 
-/// The user's copy of the library. It is made under another name and takes its own when it is
-/// whole. What is there already stays as it is.
-QString AirfoilFolder(const QDir &bundled) {
+/// The user's copy of a folder that comes with the program. It is made under another name and takes
+/// its own when it is whole. What is there already stays as it is.
+QString OwnCopy(const QDir &bundled, const QString &name) {
     const QDir documents(DocumentsFolder());
-    QString folder = documents.filePath("airfoils");
+    QString folder = documents.filePath(name);
     if (QFileInfo(folder).isDir()) {
         return folder;
     }
     if (!bundled.exists() || QFileInfo::exists(folder) || !documents.mkpath(".")) {
         return {};
     }
-    QTemporaryDir copy(documents.filePath("airfoils.XXXXXX"));
+    QTemporaryDir copy(documents.filePath(name + ".XXXXXX"));
     if (!copy.isValid() || !CopyContent(bundled, QDir(copy.path()))) {
         return {};
     }
-    // The temporary folder was for its owner alone; the library is a folder like others.
+    // The temporary folder was for its owner alone; the copy is a folder like others.
     QFile::setPermissions(copy.path(), QFile::permissions(documents.path()));
     if (!QDir().rename(copy.path(), folder)) {
         return {};
     }
     copy.setAutoRemove(false);
+    return folder;
+}
+
+/// With the library come the samples that lie beside it. Later on a user may have thrown them away,
+/// and they stay away.
+QString AirfoilFolder(const QDir &bundled) {
+    const bool fresh = !QFileInfo::exists(QDir(DocumentsFolder()).filePath("airfoils"));
+    QString folder = OwnCopy(bundled, "airfoils");
+    if (fresh && !folder.isEmpty()) {
+        OwnCopy(QDir(bundled.filePath("../samples")), "samples");
+    }
     return folder;
 }
 

@@ -13,8 +13,9 @@ class UserStore {
 
     /// The value of a key. Where nothing is stored, ("Install", "RepAirfoil") gives a copy of the
     /// bundled library in the user's documents and ("Install", "RepEvol") a folder for rib sets
-    /// beside it, made when first asked for; both are empty when they can't be made. All else is
-    /// the empty text.
+    /// beside it, made when first asked for; both are empty when they can't be made. With the
+    /// library comes a copy of the samples that are beside the bundled one. All else is the empty
+    /// text.
     std::string Value(const std::string &section, const std::string &key) const;
     /// Failure 75 when the store can't be written.
     void SetValue(const std::string &section, const std::string &key, const std::string &value);

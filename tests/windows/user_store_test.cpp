@@ -89,6 +89,18 @@ TEST(UserStore, WhatIsThereStaysAsItIs) {
     EXPECT_EQ(EntriesOf(airfoils), 1);
 }
 
+TEST(UserStore, SamplesComeWithTheLibraryAndOnlyThen) {
+    const StoreUser user;
+    fs::create_directories(user.folder.Path("program/samples/wing"));
+    user.folder.File("program/samples/wing/root.lfw", "root");
+    user.store.Value("Install", "RepAirfoil");
+    const std::string samples = user.Documents() + "/Loftwing/samples";
+    EXPECT_EQ(user.folder.Bytes("home/Documents/Loftwing/samples/wing/root.lfw"), "root");
+    fs::remove_all(samples);
+    user.store.Value("Install", "RepAirfoil");
+    EXPECT_FALSE(fs::exists(samples)) << "the user threw them away";
+}
+
 TEST(UserStore, IsEmptyWhereTheDocumentsCannotBeMade) {
     const StoreUser user;
     fs::create_directories(user.folder.Path("home"));
