@@ -29,6 +29,7 @@
 #include "mainwindow/frmmain.h"
 #include "mainwindow/frmopen.h"
 #include "mainwindow/frmpanneau.h"
+#include "mainwindow/frmsecours.h"
 #include "output/frmPrint.h"
 #include "output/frmcorrection.h"
 #include "output/frmcoul.h"
@@ -49,6 +50,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
@@ -263,11 +265,29 @@ class Pictures {
         frmSplash splash(programme_, window_.get());
         Save(splash, "frmSplash");
         TakeImports();
+        TakeRecovery();
         TakePicker();
         TakeViews();
         // Last, since it clears the rib.
         lang language(programme_, *window_, window_.get());
         Save(language, "lang");
+    }
+
+    /// The rib of the window and another one, as a crash would have left them.
+    void TakeRecovery() {
+        std::vector<Orphelin> ribs(2);
+        for (Orphelin &rib : ribs) {
+            rib.chemin = home_.filePath(Q(rib.chemin + "kept")).toStdString();
+            WriteWholeFile(rib.chemin, "");
+            QFile file(Q(rib.chemin));
+            file.open(QIODevice::ReadWrite);
+            file.setFileTime(QDateTime(QDate(2026, 3, 14), QTime(10, 20)),
+                             QFileDevice::FileModificationTime);
+            rib.contenu = {programme_.rib, programme_.settings.Unite};
+        }
+        ribs[0].contenu.parties.CheminRib = "/home/anna/models/swift/wing/ribs/root.lfw";
+        frmsecours recovery(programme_, window_.get(), std::move(ribs));
+        Save(recovery, "frmsecours");
     }
 
     /// Imports of a coarse file and of one that opening refuses.

@@ -10,6 +10,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// Where snapshots of unsaved work stand; empty where the user has no folder of his own.
+std::string RecoveryFolder() {
+    const fs::path data = DataFolder();
+    return data.is_absolute() ? (data / "loftwing" / "recovery").string() : std::string();
+}
+
 Paths PathsWith(const std::string &settings) {
     const std::string folder = ResourceFolder();
     return {folder, (fs::path(folder) / "lng").string(), settings,
@@ -33,6 +39,7 @@ std::string ResourceFolder() {
 
 Paths WindowPaths(const std::string &settings) {
     Paths paths = PathsWith(settings);
+    paths.secours = RecoveryFolder();
     if (!settings.empty()) {
         return paths;
     }

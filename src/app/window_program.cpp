@@ -65,12 +65,16 @@ int Show(Programme &programme, const std::vector<std::string> &files) {
         }
         FinPremierDemarrage(programme);
     }
-    if (!files.empty()) {
-        // Among the recent files it must be found from everywhere.
-        std::error_code error;
-        const std::string path = std::filesystem::absolute(files.front(), error).string();
-        QTimer::singleShot(0, window.get(), [&window, path] { window->OuvreFichier(path); });
-    }
+    // Among the recent files it must be found from everywhere.
+    std::error_code error;
+    const std::string path =
+        files.empty() ? "" : std::filesystem::absolute(files.front(), error).string();
+    QTimer::singleShot(0, window.get(), [&window, path] {
+        // A rib that the user wanted back isn't lost to a file that was asked for before.
+        if (!window->OffreSecours() && !path.empty()) {
+            window->OuvreFichier(path);
+        }
+    });
     return QApplication::exec();
 }
 

@@ -167,6 +167,8 @@ struct Vue {
     bool ModeCompare = false;
     bool ModeEpCourb = false;
     bool ModeCouple = false;
+
+    bool operator==(const Vue &) const = default;
 };
 
 } // namespace loftwing

@@ -5,7 +5,7 @@ namespace loftwing {
 namespace {
 
 constexpr std::array kDebut = {kAideVisite, kAideAile, kAideFenetre, kAideEdition};
-constexpr std::array kProfils = {kAideOuvrir, kAideImport, kAideComposants};
+constexpr std::array kProfils = {kAideOuvrir, kAideImport, kAideComposants, kAideSecours};
 constexpr std::array kRib = {kAideValeurs, kAideLongerons, kAideTrous, kAideGabarit, kAideDessin};
 constexpr std::array kSorties = {kAidePage, kAideFeuilles, kAideExport, kAideDecoupe};
 constexpr std::array kOutils = {kAideCalculs, kAideJeu,         kAideJeuVariable, kAidePanneau,

@@ -26,6 +26,7 @@ inline constexpr int kAideLongerons = 42;
 inline constexpr int kAideTrous = 43;
 inline constexpr int kAideImport = 44;
 inline constexpr int kAideComposants = 45;
+inline constexpr int kAideSecours = 46; ///< what is kept for the case of a crash
 inline constexpr int kAideGabarit = 50; ///< and station lines
 inline constexpr int kAideCalculs = 60; ///< list of a set, thickness and camber, dihedral
 inline constexpr int kAideJeu = 61;

@@ -96,6 +96,7 @@ void frmmain::closeEvent(QCloseEvent *event) {
     EcritPlace(*this);
     programme_.platform.CloseHelp();
     FermeDialogues();
+    secours_.Finit();
     event->accept();
 }
 

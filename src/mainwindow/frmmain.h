@@ -25,6 +25,10 @@ class frmmain : public MainFrame {
     /// files.
     void OuvreFichier(const std::string &path);
 
+    /// Offers the unsaved work of windows that ended badly; says whether one of their ribs is now
+    /// in this window.
+    bool OffreSecours();
+
     void affiche() override;
     void RetraceVues() override;
     void afficheCompare() override;

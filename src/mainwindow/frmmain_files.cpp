@@ -1,13 +1,16 @@
 // The commands of the main window that read and write files of the rib.
 
+#include "mainwindow/frmSplash.h"
 #include "mainwindow/frmdecoupe.h"
 #include "mainwindow/frmmain.h"
+#include "mainwindow/frmsecours.h"
 #include "output/sheeting.h"
 #include "programme/export.h"
 #include "programme/file_steps.h"
 #include "programme/heel_steps.h"
 #include "programme/import_steps.h"
 #include "programme/qt_export_command.h"
+#include "programme/secours_steps.h"
 
 #include <filesystem>
 
@@ -15,6 +18,24 @@ namespace loftwing {
 
 void frmmain::OuvreFichier(const std::string &path) {
     Garde(EtiquetteOuverture(path), [&] { loftwing::OuvreFichier(programme_, *this, path); });
+}
+
+bool frmmain::OffreSecours() {
+    bool restored = false;
+    Garde(" Main/Secours", [this, &restored] {
+        std::vector<Orphelin> ribs = ChercheSecours(programme_);
+        if (ribs.empty()) {
+            return;
+        }
+        for (frmSplash *splash : findChildren<frmSplash *>()) {
+            splash->close(); // both stand in the middle of the screen
+        }
+        frmsecours dialog(programme_, this, std::move(ribs));
+        if (ShowModal(dialog) == QDialog::Accepted) {
+            restored = RestaureRib(programme_, *this, dialog.Voulu());
+        }
+    });
+    return restored;
 }
 
 void frmmain::mnuFileMRU_Click(const std::string &path) {

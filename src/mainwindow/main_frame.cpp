@@ -29,7 +29,7 @@ constexpr int kPanneauDit = 2; // the panel that says what is shown
 MainFrame::MainFrame(Programme &programme, CommandBars::Demandes demandes)
     : programme_(programme), commands_(*this, std::move(demandes)),
       picture_(new PictureArea(programme.rib, this)), sheets_(programme, *picture_),
-      piece_(programme, *picture_), panels_(*this) {
+      piece_(programme, *picture_), secours_(programme, [this] { MontreAvis(); }), panels_(*this) {
     setCentralWidget(picture_);
     ConnectNotices();
     LeadThroughPanes(*this, {&commands_.Barre(), &picture_->Avis(), picture_->focusProxy()});
@@ -62,6 +62,7 @@ void MainFrame::Garde(const std::string &label, const std::function<void()> &act
 void MainFrame::NotePas() {
     NoteEtat(programme_);
     MontrePas();
+    secours_.Suit();
 }
 
 void MainFrame::MontrePas() {

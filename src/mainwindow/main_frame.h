@@ -2,6 +2,7 @@
 #pragma once
 
 #include "mainwindow/command_bars.h"
+#include "mainwindow/garde_secours.h"
 #include "mainwindow/picture_area.h"
 #include "mainwindow/piece_overlay.h"
 #include "mainwindow/sheet_overlay.h"
@@ -51,6 +52,7 @@ class MainFrame : public QMainWindow, public CommandView {
     PictureArea *picture_;
     SheetOverlay sheets_;
     PieceOverlay piece_;
+    GardeSecours secours_;
     bool dessine_ = false; ///< something has been drawn since the start
 
     /// Runs what an event asks for: no failure may pass into the toolkit's event loop. What has

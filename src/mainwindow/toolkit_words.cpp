@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
-#include <QLocale>
 
 namespace loftwing {
 
@@ -21,6 +20,12 @@ QLocale::Language LanguageNamed(const QString &name) {
 }
 
 } // namespace
+
+QLocale LocaleOf(const std::string &language) {
+    const QLocale::Language named = LanguageNamed(Q(language));
+    const QLocale desktop;
+    return desktop.language() == named ? desktop : QLocale(named);
+}
 
 void ToolkitWords::Follow(const std::string &language) {
     QCoreApplication::removeTranslator(&translator_);

@@ -1,11 +1,16 @@
 /// The toolkit's own words: file choosers, print dialog, context menus of fields.
 #pragma once
 
+#include <QLocale>
 #include <QTranslator>
 
 #include <string>
 
 namespace loftwing {
+
+/// How dates are written in the language of this name, as the language files have it ("French");
+/// where the desktop speaks it, the desktop's own way.
+QLocale LocaleOf(const std::string &language);
 
 /// Keeps these words in one language.
 class ToolkitWords {

@@ -83,6 +83,17 @@ struct ButtonWords {
     std::string discard = {};
 };
 
+/// A file that is there for as long as this process holds it, and says so to other processes. One
+/// that was left behind by a process which ended without letting go holds nothing any more.
+class FileLock {
+  public:
+    FileLock() = default;
+    FileLock(const FileLock &) = delete;
+    FileLock &operator=(const FileLock &) = delete;
+    /// Lets go and takes the file away.
+    virtual ~FileLock() = default;
+};
+
 /// The seam to the world. Texts are UTF-8; an empty answer of a chooser is the cancel.
 class Platform {
   public:
@@ -121,6 +132,10 @@ class Platform {
     virtual std::string StoredValue(const std::string &section, const std::string &key) = 0;
     virtual void StoreValue(const std::string &section, const std::string &key,
                             const std::string &value) = 0;
+
+    /// Makes a file that this process holds; null where somebody holds it already or it can't be
+    /// made. Its folder must be there.
+    virtual std::unique_ptr<FileLock> LockFile(const std::string &path) = 0;
 
     /// Opens a page or file with the program that the desktop has for it.
     virtual void OpenPage(const std::string &url) = 0;

@@ -2,6 +2,7 @@
 
 #include "platform/qt_access_letters.h"
 #include "platform/qt_desktop.h"
+#include "platform/qt_lock.h"
 #include "platform/qt_pointer.h"
 #include "platform/qt_text.h"
 #include "platform/save_form.h"
@@ -310,6 +311,10 @@ std::string QtPlatform::StoredValue(const std::string &section, const std::strin
 void QtPlatform::StoreValue(const std::string &section, const std::string &key,
                             const std::string &value) {
     store_.SetValue(section, key, value);
+}
+
+std::unique_ptr<FileLock> QtPlatform::LockFile(const std::string &path) {
+    return HoldFile(path);
 }
 
 void QtPlatform::OpenPage(const std::string &url) {

@@ -38,6 +38,7 @@ class QtPlatform : public Platform {
     std::string StoredValue(const std::string &section, const std::string &key) override;
     void StoreValue(const std::string &section, const std::string &key,
                     const std::string &value) override;
+    std::unique_ptr<FileLock> LockFile(const std::string &path) override;
     void OpenPage(const std::string &url) override;
     bool StartProgram(const std::string &program) override;
     void ShowHelp(int context) override;

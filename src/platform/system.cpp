@@ -51,6 +51,10 @@ fs::path ConfigFolder() {
     return own.empty() ? HomeFolder() / "AppData" / "Local" : own;
 }
 
+fs::path DataFolder() {
+    return ConfigFolder();
+}
+
 bool HasDisplay() {
     return true;
 }
@@ -97,6 +101,10 @@ fs::path ConfigFolder() {
     return HomeFolder() / "Library" / "Preferences";
 }
 
+fs::path DataFolder() {
+    return HomeFolder() / "Library" / "Application Support";
+}
+
 bool HasDisplay() {
     return true;
 }
@@ -117,6 +125,11 @@ fs::path HomeFolder() {
 fs::path ConfigFolder() {
     const fs::path config = Variable("XDG_CONFIG_HOME");
     return config.empty() ? HomeFolder() / ".config" : config;
+}
+
+fs::path DataFolder() {
+    const fs::path data = Variable("XDG_DATA_HOME");
+    return data.empty() ? HomeFolder() / ".local" / "share" : data;
 }
 
 bool HasDisplay() {

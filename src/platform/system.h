@@ -15,6 +15,9 @@ std::filesystem::path HomeFolder();
 /// Where programs keep the user's settings, each in a folder of its own.
 std::filesystem::path ConfigFolder();
 
+/// Where programs keep what the user has made without naming a file, each in a folder of its own.
+std::filesystem::path DataFolder();
+
 /// Whether a window can be shown as far as the surroundings tell.
 bool HasDisplay();
 

@@ -35,6 +35,8 @@ class ConsolePlatform : public Platform {
     std::string SystemLanguage() override { return {}; }
     std::string StoredValue(const std::string &section, const std::string &key) override;
     void StoreValue(const std::string &, const std::string &, const std::string &) override {}
+    /// A run of the command line has nothing to hold.
+    std::unique_ptr<FileLock> LockFile(const std::string &) override { return nullptr; }
     void OpenPage(const std::string &) override {}
     bool StartProgram(const std::string &) override { return false; }
     void ShowHelp(int) override {}

@@ -88,11 +88,16 @@ std::string PieceText(const Programme &programme) {
     return programme.Text({"Piece", "124"}) + " " + programme.AvisDePiece;
 }
 
+/// Work goes on, but without a net.
+std::string RecoveryText(const Programme &programme) {
+    return programme.Text({"Recovery", "13"}) + " " + programme.paths.secours;
+}
+
 std::vector<NoticeButton> NoButtons(const Programme & /*programme*/) {
     return {};
 }
 
-const std::array<Row, 6> kRows = {{
+const std::array<Row, 7> kRows = {{
     {NoticeSubject::contour, "contour",
      [](const Programme &programme) { return programme.rib.faute.cause != CauseContour::aucune; },
      ContourText, NoButtons},
@@ -111,6 +116,9 @@ const std::array<Row, 6> kRows = {{
      HeelButtons},
     {NoticeSubject::airfoil_elsewhere, "airfoil_elsewhere",
      [](const Programme &programme) { return programme.rib.ProfilAilleurs; }, ElsewhereText,
+     NoButtons},
+    {NoticeSubject::recovery, "recovery",
+     [](const Programme &programme) { return programme.secours.Echoue(); }, RecoveryText,
      NoButtons},
     {NoticeSubject::piece, "piece",
      [](const Programme &programme) { return !programme.AvisDePiece.empty(); }, PieceText,

@@ -13,7 +13,15 @@ namespace loftwing {
 
 /// What a notice is about; a rib has one of each at most. Another kind of notice is one more name
 /// here and one more row of the table in notices.cpp.
-enum class NoticeSubject { contour, import_offered, unit, heel_margins, airfoil_elsewhere, piece };
+enum class NoticeSubject {
+    contour,
+    import_offered,
+    unit,
+    heel_margins,
+    airfoil_elsewhere,
+    recovery,
+    piece
+};
 
 /// What a button of a notice asks for.
 enum class NoticeAct { take_heel_margins, open_in_other_unit, import_airfoil };

@@ -11,6 +11,7 @@
 #include "persist/settings.h"
 #include "platform/platform.h"
 #include "programme/rib_history.h"
+#include "programme/secours.h"
 
 #include <string>
 
@@ -18,10 +19,11 @@ namespace loftwing {
 
 /// Where the program's files are.
 struct Paths {
-    std::string programme; ///< the program's resources
-    std::string langues;   ///< language files
-    std::string fichier;   ///< settings file
-    std::string aide;      ///< help
+    std::string programme;    ///< the program's resources
+    std::string langues;      ///< language files
+    std::string fichier;      ///< settings file
+    std::string aide;         ///< help
+    std::string secours = {}; ///< snapshots of unsaved work; empty where none are made
 };
 
 /// The neighbour of an airfoil that was tried last and not taken; none while it is empty.
@@ -45,7 +47,8 @@ struct Programme {
     Messages messages{platform, language};
     std::string DernierProfil; ///< the airfoil file that was opened last in this run
     VoisinEssaye voisin;
-    RibHistory histoire;           ///< of the main window
+    RibHistory histoire; ///< of the main window
+    Secours secours{paths.secours, platform};
     std::string AvisDePiece;       ///< what there is to say of the piece that the window shows
     bool PremierDemarrage = false; ///< no settings file was there
     bool SeparateurDit = false;    ///< this run has told of a decimal separator that is no point

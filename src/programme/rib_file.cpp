@@ -4,6 +4,7 @@
 #include "base/version.h"
 #include "base/whole_file.h"
 #include "features/inserted_text.h"
+#include "output/screen_plot.h"
 #include "persist/LireEcrire.h"
 #include "programme/dossiers.h"
 
@@ -167,6 +168,11 @@ std::string TitreComposants(const Programme &programme, const std::string &ecart
     return std::string(kTitre) + " " + messages.Text({"MainTolbar", "25"}) + " : " +
            programme.rib.NomFichierRib + ecart + messages.Text({"MainTolbar", "11"}) + " : " +
            programme.rib.NomProfil;
+}
+
+std::string TitreDuRib(const Programme &programme) {
+    return programme.rib.CheminRib.empty() ? TitreFenetre(programme.rib, programme.messages)
+                                           : TitreComposants(programme, " ");
 }
 
 } // namespace loftwing

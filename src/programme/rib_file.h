@@ -43,5 +43,7 @@ bool OuvreSansProfil(Programme &programme, const std::string &path);
 /// The caption of the main window with a rib components file: title, file, airfoil. `ecart` stands
 /// between file and airfoil.
 std::string TitreComposants(const Programme &programme, const std::string &ecart);
+/// The caption with the rib that is there, be it of such a file or not.
+std::string TitreDuRib(const Programme &programme);
 
 } // namespace loftwing

@@ -28,25 +28,6 @@ class Gel {
     Programme &programme_;
 };
 
-/// The unit that the texts are in, with the page that goes with it: the user's own where it is the
-/// user's unit.
-void PrendUnite(Programme &programme, CommandView &view, const std::string &Unite) {
-    if (programme.settings.Unite == Unite) {
-        return;
-    }
-    ChoisitUnite(programme.settings, Unite, programme.messages);
-    if (UniteSurFichier(programme.paths.fichier) == Trim(Unite)) {
-        LitMarges(programme.ReglagesEnCours());
-        ReplaceYdprint(programme.settings.page, Unite);
-    }
-    view.AfficheUnite();
-}
-
-std::string TitreDuRib(const Programme &programme) {
-    return programme.rib.CheminRib.empty() ? TitreFenetre(programme.rib, programme.messages)
-                                           : TitreComposants(programme, " ");
-}
-
 /// Another airfoil or another view: commands and caption are what they were then.
 void MontreAutre(Programme &programme, CommandView &view, VueMontree vue) {
     switch (vue) {
@@ -101,6 +82,18 @@ void Revient(Programme &programme, CommandView &view, const EtatRib &from, const
 }
 
 } // namespace
+
+void PrendUnite(Programme &programme, CommandView &view, const std::string &Unite) {
+    if (programme.settings.Unite == Unite) {
+        return;
+    }
+    ChoisitUnite(programme.settings, Unite, programme.messages);
+    if (UniteSurFichier(programme.paths.fichier) == Trim(Unite)) {
+        LitMarges(programme.ReglagesEnCours());
+        ReplaceYdprint(programme.settings.page, Unite);
+    }
+    view.AfficheUnite();
+}
 
 void NoteEtat(Programme &programme) {
     programme.histoire.Note(programme.rib, programme.compare, programme.settings.Unite);

@@ -8,6 +8,10 @@
 
 namespace loftwing {
 
+/// Takes the unit that a rib's texts are in, with the page that goes with it: the user's own where
+/// it is the user's unit.
+void PrendUnite(Programme &programme, CommandView &view, const std::string &Unite);
+
 /// Takes in what is on the screen. Called after whatever could have changed the rib.
 void NoteEtat(Programme &programme);
 

@@ -14,6 +14,7 @@
 #include "mainwindow/frmimport.h"
 #include "mainwindow/frmopen.h"
 #include "mainwindow/frmpanneau.h"
+#include "mainwindow/frmsecours.h"
 #include "output/frmPrint.h"
 #include "output/frmcorrection.h"
 #include "output/frmcoul.h"
@@ -36,6 +37,7 @@
 #include <QApplication>
 #include <QPushButton>
 
+#include <filesystem>
 #include <type_traits>
 #include <utility>
 
@@ -162,8 +164,12 @@ void LookAtNotices(WindowWorld &world, const Look &look) {
     rib.ProfilAilleurs = rib.UniteDouteuse = true;
     rib.faute = {CauseContour::meme_hauteur, 30, 31, 28};
     rib.EcartContour = 0.0318;
+    const std::string in_the_way = world.folder.File("recovery", "");
+    world.programme.secours.Ecrit(rib, world.programme.settings.Unite);
     world.window->MontreAvis();
     LookAtMain(world, look);
+    std::filesystem::remove(in_the_way);
+    world.programme.secours.Retire();
     rib.faute = {};
     rib.EcartContour = 0;
 }
@@ -191,6 +197,18 @@ void LookAtImport(WindowWorld &world, const Look &look) {
     const auto airfoil = EssaieImport(path);
     ASSERT_TRUE(airfoil);
     frmimport dialog(world.programme, world.window.get(), path, *airfoil);
+    ShowAndLook(dialog, look);
+}
+
+/// Two ribs that weren't saved.
+void LookAtRecovery(WindowWorld &world, const Look &look) {
+    std::vector<Orphelin> ribs(2);
+    for (Orphelin &rib : ribs) {
+        rib.chemin = world.folder.File("1.rib", "");
+        rib.contenu = {world.programme.rib, world.programme.settings.Unite};
+    }
+    ribs[1].contenu.parties.CheminRib = "/ribs/the root of the large wing, left.lfw";
+    frmsecours dialog(world.programme, world.window.get(), std::move(ribs));
     ShowAndLook(dialog, look);
 }
 
@@ -276,6 +294,7 @@ const std::vector<KnownWindow> &KnownWindows() {
         Plain<frmpanneau>("frmpanneau-empty"),
         {"frmpanneau", &LookAtPanel},
         {"frmimport", &LookAtImport},
+        {"frmsecours", &LookAtRecovery},
         {"frmopen", &LookAtPicker},
         Plain<frmAbout>("frmAbout"),
         Plain<frmSplash>("frmSplash"),

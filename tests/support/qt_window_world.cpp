@@ -19,7 +19,8 @@ namespace {
 
 Paths TestPaths(const TempFolder &folder) {
     const std::string resources = LOFTWING_SOURCE_DIR "/resources";
-    return {resources, resources + "/lng", folder.Path("Loftwing.ini"), resources + "/help"};
+    return {resources, resources + "/lng", folder.Path("Loftwing.ini"), resources + "/help",
+            folder.Path("recovery")};
 }
 
 std::string SettingsText(const TempFolder &folder, const std::string &language,

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <utility>
 
 namespace loftwing {
@@ -120,6 +122,32 @@ std::string ScriptedPlatform::StoredValue(const std::string &section, const std:
 void ScriptedPlatform::StoreValue(const std::string &section, const std::string &key,
                                   const std::string &value) {
     store[{section, key}] = value;
+}
+
+std::unique_ptr<FileLock> ScriptedPlatform::LockFile(const std::string &path) {
+    class Held : public FileLock {
+      public:
+        Held(std::set<std::string> &all, std::string path) : all_(all), path_(std::move(path)) {
+            all_.insert(path_);
+        }
+        bool Made() const { return std::ofstream(path_).good(); }
+        Held(const Held &) = delete;
+        Held &operator=(const Held &) = delete;
+        ~Held() override {
+            all_.erase(path_);
+            std::error_code ignored;
+            std::filesystem::remove(path_, ignored);
+        }
+
+      private:
+        std::set<std::string> &all_;
+        std::string path_;
+    };
+    if (locked.contains(path)) {
+        return nullptr;
+    }
+    auto held = std::make_unique<Held>(locked, path);
+    return held->Made() ? std::move(held) : nullptr;
 }
 
 bool ScriptedPlatform::StartProgram(const std::string &program) {

@@ -11,6 +11,7 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <set>
 #include <source_location>
 #include <string>
 #include <vector>
@@ -66,6 +67,7 @@ class ScriptedPlatform : public Platform {
     std::string system_language;
     bool leaves_ticks = true;               ///< as boxes have them at first
     std::vector<std::string> ticks_offered; ///< by boxes with one
+    std::set<std::string> locked; ///< files that are held, by the program or by somebody else
     bool programs_start = true;
     std::string printer_name = "Test printer";
     /// Makes the printer of a job; by default the user cancels.
@@ -89,6 +91,7 @@ class ScriptedPlatform : public Platform {
     std::string StoredValue(const std::string &section, const std::string &key) override;
     void StoreValue(const std::string &section, const std::string &key,
                     const std::string &value) override;
+    std::unique_ptr<FileLock> LockFile(const std::string &path) override;
     void OpenPage(const std::string &url) override { pages_opened.push_back(url); }
     bool StartProgram(const std::string &program) override;
     void ShowHelp(int context) override { help_contexts.push_back(context); }

@@ -89,7 +89,8 @@ class StepsWorld : public testing::Test {
     Programme programme{Paths{LOFTWING_SOURCE_DIR "/resources",
                               LOFTWING_SOURCE_DIR "/resources/lng",
                               folder.Path("Loftwing.ini"),
-                              {}},
+                              {},
+                              folder.Path("recovery")},
                         platform};
     NotedWindow view;
 };
