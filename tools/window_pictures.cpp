@@ -29,6 +29,7 @@
 #include "mainwindow/frmmain.h"
 #include "mainwindow/frmopen.h"
 #include "mainwindow/frmpanneau.h"
+#include "mainwindow/frmplanches.h"
 #include "mainwindow/frmsecours.h"
 #include "output/frmPrint.h"
 #include "output/frmcorrection.h"
@@ -164,6 +165,8 @@ class Pictures {
         const bool inches = programme_.settings.Unite == kUniteIn;
         frmpanneau panel(programme_, window_.get());
         const PartieGardee<PartiesRib> kept(rib);
+        Panneau kept_panel;
+        kept_panel.bouts[0] = rib.Partie<PartiesRib>();
         Press(panel, "cmdfenetre(0)");
         const Saisie typed = programme_.SaisieEnCours();
         StockeLongueur(inches ? "5" : "130", typed, rib.cordeAfich, rib.corde);
@@ -174,6 +177,24 @@ class Pictures {
         Fill(panel, "txt(3)", inches ? "24" : "600");
         WaitForReading();
         Save(panel, "frmpanneau");
+        kept_panel.bouts[1] = rib.Partie<PartiesRib>();
+        TakePanelSheets(kept_panel);
+    }
+
+    /// The ribs of that panel on sheets, for both wings.
+    void TakePanelSheets(Panneau &panel) {
+        const std::string &unit = programme_.settings.Unite;
+        panel.jeu.nombre = "7";
+        panel.jeu.cordes = CordesDesBouts(panel, unit);
+        SaisiePlanches choice = PlanchesUsuelles(unit);
+        choice.deux_ailes = choice.demi_tour = true;
+        choice.formats = unit == kUniteIn ? "3x24 2x12" : "80x600 60x300";
+        frmplanches sheets(programme_, panel, 1, choice, "wing", window_.get());
+        const auto *save = sheets.findChild<QPushButton *>("cmdenregistrer");
+        while (!save->isEnabled()) {
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+        Save(sheets, "frmplanches");
     }
 
     /// The sample wing as the tour of it shows it.

@@ -156,9 +156,9 @@ void Dit(const PanneauFait &made, const Programme &programme, int first) {
 /// Says all that stands against the panel; whether it may be written.
 bool Admis(const PanneauFait &made, const Arguments &arguments, const Messages &messages) {
     const std::string title = messages.Text({"Panel", "40"});
-    for (const std::vector<std::string> *lines : {&made.refus, &made.avis}) {
-        for (const std::string &line : *lines) {
-            messages.Inform(line, title);
+    for (const std::vector<AvisPanneau> *all : {&made.refus, &made.avis}) {
+        for (const AvisPanneau &each : *all) {
+            messages.Inform(LigneAvis(messages, each), title);
         }
     }
     if (!made.refus.empty()) {

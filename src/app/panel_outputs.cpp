@@ -6,12 +6,11 @@
 #include "app/toolkit.h"
 #include "app/typed_value.h"
 #include "base/text_encoding.h"
-#include "features/talon.h"
-#include "programme/export.h"
+#include "programme/panel_drawings.h"
+#include "programme/panel_sheets.h"
 #include "programme/qt_stack_pdf.h"
 
 #include <filesystem>
-#include <memory>
 
 namespace loftwing {
 
@@ -22,14 +21,11 @@ namespace fs = std::filesystem;
 constexpr const char *kDrawings = "--drawings";
 
 std::variant<Imbrication, RefusPlanche> Nested(const PanneauFait &made, const SheetWish &wish) {
-    std::size_t count = 0;
-    for (const NervureFaite &nervure : made.nervures) {
-        count += nervure.pieces.size();
+    const auto pieces = PiecesALaPlanche(made, wish.copies, wish.mirror);
+    if (const auto *why = std::get_if<RefusPlanche>(&pieces)) {
+        return *why;
     }
-    if (count * static_cast<std::size_t>(wish.copies) > kPiecesMaxi) {
-        return RefusPlanche{RefusDePlanche::trop_de_pieces}; // before there are so many
-    }
-    return Imbrique(PiecesDuPanneau(made, wish.copies, wish.mirror), wish.reglage);
+    return Imbrique(std::get<std::vector<PieceNommee>>(pieces), wish.reglage);
 }
 
 } // namespace
@@ -86,24 +82,9 @@ std::optional<PanelFiles> PanelDrawings(const Arguments &arguments, Programme &p
     }
     const std::string path = arguments.Value(kDrawings);
     const Toolkit toolkit(true);
-    const ReglagePage page = PageAsTyped(programme);
-    DemandePile demand{{},
-                       programme.settings,
-                       programme.messages,
-                       ToUtf8(fs::path(path).stem().string()),
-                       DateDuJour(),
-                       page.regle,
-                       page.noms};
-    std::vector<std::unique_ptr<RibModel>> ribs;
-    for (const NervureFaite &nervure : made.nervures) {
-        ribs.push_back(std::make_unique<RibModel>());
-        ribs.back()->Partie<PartiesRib>() = nervure.rib;
-        PrendMarges(*ribs.back(), programme.SaisieEnCours());
-        demand.nervures.push_back(
-            {*ribs.back(), EtiquetteNumerotee(*ribs.back(), premier++, programme.settings.Unite)});
-    }
-    Pile pile(demand);
-    const auto bytes = PdfDePile(pile);
+    DessinsPanneau drawings(programme, made, premier, PageAsTyped(programme),
+                            ToUtf8(fs::path(path).stem().string()));
+    const auto bytes = PdfDePile(drawings.EnPile());
     if (!bytes) {
         return std::nullopt;
     }

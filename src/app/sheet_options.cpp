@@ -1,8 +1,8 @@
 #include "app/sheet_options.h"
 
 #include "app/typed_value.h"
-
-#include <charconv>
+#include "programme/longueur_lue.h"
+#include "programme/panel_sheets.h"
 
 namespace loftwing {
 
@@ -10,10 +10,10 @@ namespace {
 
 constexpr const char *kSheet = "--sheet";
 
-std::vector<std::string> Split(const std::string &text, std::string_view separators) {
+std::vector<std::string> AtCommas(const std::string &text) {
     std::vector<std::string> words(1);
     for (const char letter : text) {
-        if (separators.find(letter) != std::string_view::npos) {
+        if (letter == ',') {
             words.emplace_back();
         } else {
             words.back() += letter;
@@ -23,11 +23,10 @@ std::vector<std::string> Split(const std::string &text, std::string_view separat
 }
 
 FormatPlanche FormatOf(const std::string &typed, const Programme &programme) {
-    const std::vector<std::string> sides = Split(typed, "xX");
-    if (sides.size() == 2) {
-        const FormatPlanche format{LengthMm(sides[0], kSheet, programme),
-                                   LengthMm(sides[1], kSheet, programme)};
-        if (format.Travers() > 0 && format.Longueur() <= kPlancheMaxi) {
+    if (const auto sides = CotesDe(typed)) {
+        const FormatPlanche format{LengthMm((*sides)[0], kSheet, programme),
+                                   LengthMm((*sides)[1], kSheet, programme)};
+        if (EstFormat(format)) {
             return format;
         }
     }
@@ -52,14 +51,11 @@ int CopiesOf(const Arguments &arguments) {
     if (!arguments.Has("--copies")) {
         return 1;
     }
-    const std::string typed = Typed(arguments, "--copies", kTouchesEntier);
-    int copies = 0;
-    const auto end = typed.data() + typed.size();
-    const auto read = std::from_chars(typed.data(), end, copies);
-    if (read.ec != std::errc() || read.ptr != end || copies < 1 || copies > kCopiesMaxi) {
+    const auto copies = NombreLu(Typed(arguments, "--copies", kTouchesEntier), kCopiesMaxi);
+    if (!copies) {
         throw UsageError("--copies takes 1 to " + std::to_string(kCopiesMaxi));
     }
-    return copies;
+    return *copies;
 }
 
 } // namespace
@@ -95,7 +91,7 @@ bool WantsSheets(const Arguments &arguments) {
 SheetWish SheetWishOf(const Arguments &arguments, const Programme &programme) {
     SheetWish wish;
     for (const std::string &value : arguments.Values(kSheet)) {
-        for (const std::string &typed : Split(value, ",")) {
+        for (const std::string &typed : AtCommas(value)) {
             wish.reglage.formats.push_back(FormatOf(typed, programme));
         }
     }

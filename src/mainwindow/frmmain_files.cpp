@@ -9,6 +9,7 @@
 #include "programme/file_steps.h"
 #include "programme/heel_steps.h"
 #include "programme/import_steps.h"
+#include "programme/panel_file.h"
 #include "programme/qt_export_command.h"
 #include "programme/secours_steps.h"
 
@@ -17,7 +18,13 @@
 namespace loftwing {
 
 void frmmain::OuvreFichier(const std::string &path) {
-    Garde(EtiquetteOuverture(path), [&] { loftwing::OuvreFichier(programme_, *this, path); });
+    Garde(EtiquetteOuverture(path), [&] {
+        if (EstPanneau(path)) {
+            MontrePanneau(path);
+        } else {
+            loftwing::OuvreFichier(programme_, *this, path);
+        }
+    });
 }
 
 bool frmmain::OffreSecours() {
@@ -46,6 +53,11 @@ void frmmain::mnuFileMRU_Click(const std::string &path) {
 }
 
 void frmmain::mnuRibMRU_Click(const std::string &path) {
+    std::error_code error;
+    if (EstPanneau(path) && std::filesystem::exists(path, error)) {
+        OuvreFichier(path);
+        return;
+    }
     Garde(EtiquetteOuverture(path), [&] { OuvreRibRecent(programme_, *this, path); });
 }
 

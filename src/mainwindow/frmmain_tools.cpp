@@ -63,9 +63,18 @@ void frmmain::mnu_outilevolut2_Click() {
 }
 
 void frmmain::mnu_outilpanneau_Click() {
-    if (ControleSeparateurCommande(programme_, {"Panel", "40"})) {
-        frmpanneau dialog(programme_, this);
+    MontrePanneau({});
+}
+
+void frmmain::MontrePanneau(const std::string &path) {
+    if (!ControleSeparateurCommande(programme_, {"Panel", "40"})) {
+        return;
+    }
+    frmpanneau dialog(programme_, this);
+    if (path.empty() || dialog.Ouvre(path)) {
+        AfficheFichiersRecents();
         ShowModal(dialog);
+        AfficheFichiersRecents();
     }
 }
 

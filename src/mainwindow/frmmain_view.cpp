@@ -5,6 +5,7 @@
 #include "mainwindow/frmmain.h"
 #include "output/view_screen.h"
 #include "platform/qt_text.h"
+#include "programme/panel_file.h"
 #include "programme/rib_file.h"
 #include "programme/rib_steps.h"
 
@@ -22,7 +23,7 @@ void frmmain::ConnectPicture() {
     const EmptyHint &hint = picture_->Accueil();
     connect(&hint, &EmptyHint::Ouvre, &commands_.Entree("mnu_fileprofilopen"), &QAction::trigger);
     connect(&hint, &EmptyHint::OuvreRecent, this, [this](const std::string &path) {
-        EstComposants(path) ? mnuRibMRU_Click(path) : mnuFileMRU_Click(path);
+        EstComposants(path) || EstPanneau(path) ? mnuRibMRU_Click(path) : mnuFileMRU_Click(path);
     });
 }
 

@@ -3,9 +3,8 @@
 #include "base/text_encoding.h"
 #include "lang/aide.h"
 #include "persist/default_entry.h"
-#include "platform/busy_pointer.h"
 #include "programme/panel_ends.h"
-#include "utilities/tool_files.h"
+#include "programme/panel_sheets.h"
 
 #include <QScreen>
 
@@ -13,27 +12,14 @@ namespace loftwing {
 
 namespace {
 
-constexpr const char *kEtiquette = " frmpanneau/cmdnervures";
 constexpr double kShareOfScreen = 0.9;
-/// More lines would fill the screen.
-constexpr std::size_t kLignesBoite = 12;
-
-std::string EnLignes(const std::vector<std::string> &lines) {
-    std::string text;
-    for (std::size_t i = 0; i < lines.size() && i < kLignesBoite; ++i) {
-        text += lines[i] + "\n";
-    }
-    if (lines.size() > kLignesBoite) {
-        text += "... (" + std::to_string(lines.size()) + ")\n";
-    }
-    return text;
-}
 
 } // namespace
 
 frmpanneau::frmpanneau(Programme &programme, QWidget *parent)
     : Dialogue(programme, "frmpanneau", kAidePanneau, parent),
-      dossier_(programme.settings.repertoires.RepProfilevol), Plan(this), Picture1(this) {
+      dossier_(programme.settings.repertoires.RepProfilevol),
+      planches_(PlanchesRetenues(programme)), travail_(programme), Plan(this), Picture1(this) {
     NameAll();
     PrepareTables(); // whose headers are words
     PoseTextes();
@@ -42,6 +28,7 @@ frmpanneau::frmpanneau(Programme &programme, QWidget *parent)
     Refait();
     resize(sizeHint().boundedTo(screen()->availableSize() * kShareOfScreen));
     Connect();
+    etat_ = Etat();
 }
 
 void frmpanneau::PoseTextes() {
@@ -56,6 +43,13 @@ void frmpanneau::PoseTextes() {
         }
         At(cmdfenetre, i).setEnabled(RibDeFenetre(programme_.rib));
     }
+    Label5.setText(Mot({"Panel", "133"}));
+    cmdouvrir.setText(Mot({"Panel", "134"}));
+    cmdenregistrer.setText(Mot({"Panel", "135"}));
+    optecart[0].setText(Mot({"Panel", "138"}));
+    optecart[kVariable].setText(Mot({"Panel", "139"}));
+    Label4[0].setText(Mot({"Panel", "140"}));
+    Label4[1].setText(Mot({"Panel", "141"}));
     Label2[kNombre].setText(Mot({"FrmNervure", "7"}));
     Label2[kEpaisseur].setText(Mot({"FrmNervure", "8"}));
     Label2[kPremier].setText(Mot({"Panel", "107"}));
@@ -77,7 +71,11 @@ void frmpanneau::PoseTextes() {
     Portees.setHorizontalHeaderLabels(
         {Mot({"Panel", "113"}), Mot({"Panel", "114"}), Mot({"Panel", "115"})});
     Picture1.setAccessibleName(Mot({"Piece", "125"}));
+    Avancement.setAccessibleName(Mot({"Panel", "186"}));
     cmdnervures.setText(Mot({"Panel", "121"}));
+    cmdplanches.setText(Mot({"Panel", "147"}));
+    cmddessins.setText(Mot({"Panel", "149"}));
+    cmdimprimer.setText(Mot({"Panel", "151"}));
 }
 
 void frmpanneau::PoseBulles() {
@@ -89,6 +87,13 @@ void frmpanneau::PoseBulles() {
     SetTip(txt[kLongueur], programme_.Text({"Panel", "131"}));
     SetTip(Portees, programme_.Text({"Panel", "132"}));
     SetTip(cmdnervures, programme_.Text({"Panel", "122"}));
+    SetTip(cmdouvrir, programme_.Text({"Panel", "136"}));
+    SetTip(cmdenregistrer, programme_.Text({"Panel", "137"}));
+    SetTip(txtliste[0], programme_.Text({"Panel", "142"}));
+    SetTip(txtliste[1], programme_.Text({"Panel", "143"}));
+    SetTip(cmdplanches, programme_.Text({"Panel", "148"}));
+    SetTip(cmddessins, programme_.Text({"Panel", "150"}));
+    SetTip(cmdimprimer, programme_.Text({"Panel", "152"}));
 }
 
 void frmpanneau::cmdchoisir_Click(int index) {
@@ -118,63 +123,33 @@ void frmpanneau::PrendBout(int index, const PartiesRib &bout) {
 /// Makes the panel as the fields have it, and shows it.
 void frmpanneau::Refait() {
     attente_.stop();
-    Compose();
+    travail_.Abandonne();
+    lblenregistre.hide(); // that was another panel
+    if (Compose()) {
+        travail_.Commence(panneau_, demande_);
+    } else {
+        Montre();
+    }
+}
+
+void frmpanneau::PrendFait(const PanneauFait &fait) {
+    fait_ = fait;
+    refus_.insert(refus_.end(), fait_.refus.begin(), fait_.refus.end());
+    avis_.insert(avis_.end(), fait_.avis.begin(), fait_.avis.end());
+    Montre();
+}
+
+void frmpanneau::Montre() {
+    Avancement.hide();
     MontreEcart();
     MontrePlan();
     MontreNervures();
     MontreAvis();
-    lblenregistre.hide(); // that was another panel
 }
 
-bool frmpanneau::ConfirmeAvis() const {
-    return avis_.empty() || programme_.messages.Confirm(programme_.Text({"Panel", "127"}) + "\n\n" +
-                                                            EnLignes(avis_) + "\n" +
-                                                            programme_.Text({"Panel", "128"}),
-                                                        Titre());
-}
-
-bool frmpanneau::ConfirmeRemplacement() const {
-    const FichiersEcrits there = FichiersDejaLa(FichiersDuPanneau(fait_), ecrits_);
-    return there.empty() ||
-           programme_.messages.Confirm(TexteRemplacement(there, programme_.messages), Titre());
-}
-
-void frmpanneau::EcritFichiers() {
-    try {
-        const Sablier sablier(programme_.platform);
-        for (const std::string &path : EcritPanneau(fait_)) {
-            ecrits_.insert(path);
-        }
-    } catch (const Failure &failure) {
-        programme_.platform.SetPointer(Pointer::normal);
-        RapporteEcriture(programme_.messages, failure, kEtiquette);
-        return;
-    }
-    lblenregistre.setText(Mot({"Panel", "129"}) + " " + Q(ToUtf8(dossier_)));
+void frmpanneau::MontreEnregistre(LngKey mots, const std::string &path) {
+    lblenregistre.setText(Mot(mots) + " " + Q(ToUtf8(path)));
     lblenregistre.show();
-}
-
-void frmpanneau::cmdnervures_Click() {
-    Refait(); // what was typed last may not have rested yet
-    if (!refus_.empty()) {
-        programme_.messages.Inform(EnLignes(refus_), Titre());
-        if (fautif_ != nullptr) {
-            SelectField(*fautif_);
-        }
-        return;
-    }
-    if (!ConfirmeAvis()) {
-        return;
-    }
-    const std::string chosen = ChoisitDossier(dossier_, programme_.messages);
-    if (chosen.empty()) {
-        return;
-    }
-    dossier_ = chosen;
-    Refait();
-    if (ConfirmeRemplacement()) {
-        EcritFichiers();
-    }
 }
 
 } // namespace loftwing

@@ -47,7 +47,19 @@ void frmpanneau::NameAll() {
                   {&Picture1, "Picture1"},
                   {&lblavis, "lblavis"},
                   {&lblenregistre, "lblenregistre"},
-                  {&cmdnervures, "cmdnervures"}});
+                  {&Label5, "Label5"},
+                  {&txtfichier, "txtfichier"},
+                  {&cmdouvrir, "cmdouvrir"},
+                  {&cmdenregistrer, "cmdenregistrer"},
+                  {&Ecarts, "Ecarts"},
+                  {&Avancement, "Avancement"},
+                  {&cmdnervures, "cmdnervures"},
+                  {&cmdplanches, "cmdplanches"},
+                  {&cmddessins, "cmddessins"},
+                  {&cmdimprimer, "cmdimprimer"}});
+    NameControls(optecart, "optecart");
+    NameControls(Label4, "Label4");
+    NameControls(txtliste, "txtliste");
     NameControls(Label1, "Label1");
     NameControls(txtbout, "txtbout");
     NameControls(cmdchoisir, "cmdchoisir");
@@ -68,25 +80,42 @@ void frmpanneau::PrepareTables() {
                             ~QAbstractItemView::EditTriggers(QAbstractItemView::CurrentChanged));
 }
 
-void frmpanneau::LayOut() {
-    PlainText({&Label1[0], &Label1[1], &lblecart, &lblavis, &lblenregistre});
-    for (QLabel *label : {&lblavis, &lblenregistre}) {
-        // Words that come and go, and long paths, break rather than widen the window.
-        label->setWordWrap(true);
-        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
-    }
+QLayout *frmpanneau::LayOutEnds() {
     auto *ends = new QGridLayout;
+    MakeNameDisplay(txtfichier, kNameLetters);
+    SetCaption(Label5, txtfichier);
+    ends->addWidget(&Label5, 0, 0);
+    ends->addWidget(&txtfichier, 0, 1);
+    ends->addWidget(&cmdouvrir, 0, 2);
+    ends->addWidget(&cmdenregistrer, 0, 3);
     for (int i = 0; i < kBouts; ++i) {
         MakeNameDisplay(At(txtbout, i), kNameLetters);
         SetCaption(At(Label1, i), At(txtbout, i));
-        ends->addWidget(&At(Label1, i), i, 0);
-        ends->addWidget(&At(txtbout, i), i, 1);
-        ends->addWidget(&At(cmdchoisir, i), i, 2);
-        ends->addWidget(&At(cmdfenetre, i), i, 3);
+        ends->addWidget(&At(Label1, i), i + 1, 0);
+        ends->addWidget(&At(txtbout, i), i + 1, 1);
+        ends->addWidget(&At(cmdchoisir, i), i + 1, 2);
+        ends->addWidget(&At(cmdfenetre, i), i + 1, 3);
     }
     ends->setColumnStretch(1, 1);
-    auto *spacing = new QGridLayout;
-    constexpr int kColumns = 3; // of caption, field and unit
+    return ends;
+}
+
+/// What holds for both kinds of spacing, and which one it is.
+QLayout *frmpanneau::LayOutChoice() {
+    auto *choice = new QHBoxLayout;
+    choice->addWidget(&Label2[kPremier]);
+    choice->addWidget(&txt[kPremier]);
+    for (QRadioButton &option : optecart) {
+        choice->addSpacing(2 * fontMetrics().averageCharWidth());
+        choice->addWidget(&option);
+    }
+    optecart[0].setChecked(true);
+    choice->addStretch();
+    choice->addWidget(&lblecart);
+    return choice;
+}
+
+void frmpanneau::LayOutSpacing() {
     for (int i = 0; i < kChamps; ++i) {
         NumericField &field = At(txt, i);
         const bool length = i == kEpaisseur || i == kLongueur;
@@ -94,29 +123,60 @@ void frmpanneau::LayOut() {
         field.setFixedWidth(field.fontMetrics().horizontalAdvance(widest) +
                             4 * field.fontMetrics().averageCharWidth());
         SetCaption(At(Label2, i), field);
-        spacing->addWidget(&At(Label2, i), i / 2, i % 2 * kColumns);
-        spacing->addWidget(&field, i / 2, i % 2 * kColumns + 1);
-        if (length) {
-            spacing->addWidget(&At(Label3, i / 2), i / 2, i % 2 * kColumns + 2);
-        } else {
+        if (!length) {
             field.setMaxLength(kNumberDigits);
         }
     }
-    spacing->setHorizontalSpacing(2 * fontMetrics().averageCharWidth());
-    spacing->addWidget(&lblecart, 1, 2 * kColumns);
-    spacing->setColumnStretch(2 * kColumns, 1);
+    auto *even = new QWidget;
+    auto *row = new QHBoxLayout(even);
+    row->setContentsMargins({});
+    for (const int i : {kNombre, kEpaisseur, kLongueur}) {
+        row->addWidget(&At(Label2, i));
+        row->addWidget(&At(txt, i));
+        if (i != kNombre) {
+            row->addWidget(&At(Label3, i / 2));
+        }
+        row->addSpacing(2 * fontMetrics().averageCharWidth());
+    }
+    row->addStretch();
+    auto *variable = new QWidget;
+    auto *lists = new QGridLayout(variable);
+    lists->setContentsMargins({});
+    for (int i = 0; i < kListes; ++i) {
+        SetCaption(At(Label4, i), At(txtliste, i));
+        lists->addWidget(&At(Label4, i), i, 0);
+        lists->addWidget(&At(txtliste, i), i, 1);
+    }
+    lists->setColumnStretch(1, 1);
+    Ecarts.addWidget(even);
+    Ecarts.addWidget(variable);
+    Ecarts.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+}
+
+void frmpanneau::LayOut() {
+    LayOutSpacing();
+    PlainText({&Label1[0], &Label1[1], &lblecart, &lblavis, &lblenregistre});
+    for (QLabel *label : {&lblavis, &lblenregistre}) {
+        // Words that come and go, and long paths, break rather than widen the window.
+        label->setWordWrap(true);
+        label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
+    }
     auto *tables = new QHBoxLayout;
     tables->addWidget(&Nervures, 3);
     tables->addWidget(&Portees, 2);
     auto *rows = new QVBoxLayout(this);
-    rows->addLayout(ends);
-    rows->addLayout(spacing);
+    rows->addLayout(LayOutEnds());
+    rows->addLayout(LayOutChoice());
+    rows->addWidget(&Ecarts);
     rows->addWidget(&Plan, 2);
     rows->addLayout(tables, 2);
     rows->addWidget(&Picture1, 1);
     rows->addWidget(&lblavis);
     rows->addWidget(&lblenregistre);
-    PoseBoutons(*rows, {&cmdnervures, SharedWord::close, SharedWord::help});
+    rows->addWidget(&Avancement);
+    Avancement.hide();
+    PoseBoutons(*rows, {&cmdnervures, &cmdplanches, &cmddessins, &cmdimprimer, SharedWord::close,
+                        SharedWord::help});
     // Return in a field must not write files.
     for (QPushButton *button : findChildren<QPushButton *>()) {
         button->setAutoDefault(false);
@@ -132,6 +192,21 @@ void frmpanneau::Connect() {
     for (NumericField &field : txt) {
         connect(&field, &QLineEdit::textChanged, this, [this] { attente_.start(); });
     }
+    for (QLineEdit &list : txtliste) {
+        connect(&list, &QLineEdit::textChanged, this, [this] { attente_.start(); });
+    }
+    connect(&optecart[kVariable], &QRadioButton::toggled, this, [this](bool variable) {
+        Ecarts.setCurrentIndex(variable ? 1 : 0);
+        attente_.start();
+    });
+    connect(&travail_, &PanneauEnCours::Avance, this, [this](int done, int total) {
+        Avancement.setMaximum(total);
+        Avancement.setValue(done);
+        Avancement.show();
+    });
+    connect(&travail_, &PanneauEnCours::Fini, this, [this](const PanneauFait &fait) {
+        Garde(" frmpanneau/PrendFait", [&] { PrendFait(fait); });
+    });
     ConnectEach(cmdchoisir, &QPushButton::clicked, this, &frmpanneau::cmdchoisir_Click);
     ConnectEach(cmdfenetre, &QPushButton::clicked, this, &frmpanneau::cmdfenetre_Click);
     connect(&Nervures, &QTableWidget::currentCellChanged, this, [this](int row) {
@@ -142,8 +217,17 @@ void frmpanneau::Connect() {
     });
     connect(&Portees, &QTableWidget::itemChanged, this,
             [this](QTableWidgetItem *item) { Portees_Change(*item); });
-    connect(&cmdnervures, &QPushButton::clicked, this,
-            [this] { Garde(" frmpanneau/cmdnervures", [this] { cmdnervures_Click(); }); });
+    const auto click = [this](QPushButton &button, const char *label,
+                              void (frmpanneau::*handler)()) {
+        connect(&button, &QPushButton::clicked, this,
+                [this, label, handler] { Garde(label, [this, handler] { (this->*handler)(); }); });
+    };
+    click(cmdouvrir, " frmpanneau/cmdouvrir", &frmpanneau::cmdouvrir_Click);
+    click(cmdenregistrer, " frmpanneau/cmdenregistrer", &frmpanneau::cmdenregistrer_Click);
+    click(cmdnervures, " frmpanneau/cmdnervures", &frmpanneau::cmdnervures_Click);
+    click(cmdplanches, " frmpanneau/cmdplanches", &frmpanneau::cmdplanches_Click);
+    click(cmddessins, " frmpanneau/cmddessins", &frmpanneau::cmddessins_Click);
+    click(cmdimprimer, " frmpanneau/cmdimprimer", &frmpanneau::cmdimprimer_Click);
 }
 
 } // namespace loftwing

@@ -59,12 +59,11 @@ void frmpanneau::Portees_Change(const QTableWidgetItem &item) {
 
 /// What is said of one rib, in one line.
 std::string frmpanneau::AvisDe(int numero) const {
-    const std::string name = DeLaNervure(programme_.messages, numero);
     std::string text;
-    for (const std::vector<std::string> *lines : {&refus_, &avis_}) {
-        for (const std::string &line : *lines) {
-            if (line.starts_with(name)) {
-                text += (text.empty() ? "" : " ") + line.substr(name.size());
+    for (const std::vector<AvisPanneau> *all : {&refus_, &avis_}) {
+        for (const AvisPanneau &each : *all) {
+            if (each.nervure == numero) {
+                text += (text.empty() ? "" : " ") + each.texte;
             }
         }
     }
@@ -116,22 +115,25 @@ void frmpanneau::MontrePlan() {
                                            : PlanPanneau());
 }
 
-/// The clear width between two ribs, as the table of a set computes it.
+/// The clear width between two ribs in equal steps, as the table of a set computes it; how long the
+/// panel is otherwise.
 void frmpanneau::MontreEcart() {
+    const std::string &Unite = programme_.settings.Unite;
     QString text;
     if (longueur_ > 0 && inter_ > 0 && fautif_ == nullptr) {
         const std::string thick = S(txt[kEpaisseur].text());
         const double mm = thick.empty() ? 0 : NombreMm(thick, programme_.SaisieEnCours());
-        text =
-            Mot({"FrmNervure", "3"}) + ": " +
-            Q(LongueurDePanneau(EcartRegulier(longueur_, inter_, mm), programme_.settings.Unite));
+        text = Variable() ? Mot({"FrmNervure", "6"}) + ": " + Q(LongueurDePanneau(longueur_, Unite))
+                          : Mot({"FrmNervure", "3"}) + ": " +
+                                Q(LongueurDePanneau(EcartRegulier(longueur_, inter_, mm), Unite));
     }
     lblecart.setText(text);
 }
 
 void frmpanneau::MontreAvis() {
-    std::vector<std::string> lines = refus_;
-    lines.insert(lines.end(), avis_.begin(), avis_.end());
+    std::vector<std::string> lines = EnLignes(refus_);
+    const std::vector<std::string> warnings = EnLignes(avis_);
+    lines.insert(lines.end(), warnings.begin(), warnings.end());
     std::string shown;
     std::string all;
     for (std::size_t i = 0; i < lines.size(); ++i) {

@@ -50,8 +50,10 @@ PiecePicture::PiecePicture(QWidget *parent) : QWidget(parent) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void PiecePicture::Montre(std::vector<Piece> pieces, const CouleursDecoupe &couleurs) {
+void PiecePicture::Montre(std::vector<Piece> pieces, const CouleursDecoupe &couleurs,
+                          std::optional<PointMm> planche) {
     pieces_ = std::move(pieces);
+    planche_ = planche;
     couleurs_ = couleurs;
     update();
 }
@@ -91,7 +93,11 @@ void PiecePicture::paintEvent(QPaintEvent *) {
         return;
     }
     painter.setRenderHint(QPainter::Antialiasing);
-    const QTransform to = Fit(EtendueDe(pieces_), place);
+    const BoitePiece sheet{{0, 0}, planche_.value_or(PointMm{})};
+    const QTransform to = Fit(planche_ ? sheet : EtendueDe(pieces_), place);
+    if (planche_) {
+        painter.drawRect(to.mapRect(QRectF(0, 0, sheet.haut_droite.x, sheet.haut_droite.y)));
+    }
     PeintBois(painter, BoisDe(pieces_, to));
     PeintMarques(painter, to);
 }

@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+#include <optional>
 #include <vector>
 
 namespace loftwing {
@@ -17,8 +18,10 @@ class PiecePicture : public QWidget {
   public:
     explicit PiecePicture(QWidget *parent);
 
-    /// Pieces as they lie in the drawing; none for an empty sheet.
-    void Montre(std::vector<Piece> pieces, const CouleursDecoupe &couleurs);
+    /// Pieces as they lie in the drawing; none for an empty picture. On a sheet of stock, whose
+    /// upper right corner is given, all of that is shown.
+    void Montre(std::vector<Piece> pieces, const CouleursDecoupe &couleurs,
+                std::optional<PointMm> planche = std::nullopt);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -29,6 +32,7 @@ class PiecePicture : public QWidget {
   private:
     std::vector<Piece> pieces_;
     CouleursDecoupe couleurs_;
+    std::optional<PointMm> planche_;
 
     void PeintMarques(QPainter &painter, const QTransform &to) const;
 };

@@ -213,10 +213,6 @@ std::optional<RefusPlanche> Refusee(const std::vector<PieceNommee> &pieces, cons
     return std::nullopt;
 }
 
-bool EstFormat(const FormatPlanche &format) {
-    return format.Travers() > 0 && format.Longueur() <= kPlancheMaxi;
-}
-
 Imbrication Faite(const std::vector<PieceNommee> &pieces,
                   const std::vector<PlancheEnCours> &planches) {
     Imbrication made;
@@ -240,6 +236,10 @@ Imbrication Faite(const std::vector<PieceNommee> &pieces,
 }
 
 } // namespace
+
+bool EstFormat(const FormatPlanche &format) {
+    return format.Travers() > 0 && format.Longueur() <= kPlancheMaxi;
+}
 
 std::vector<PieceNommee> EnCopies(const std::vector<PieceNommee> &pieces, int copies,
                                   bool opposees) {

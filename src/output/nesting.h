@@ -23,6 +23,9 @@ struct FormatPlanche {
     bool operator==(const FormatPlanche &) const = default;
 };
 
+/// Whether there can be such a sheet.
+bool EstFormat(const FormatPlanche &format);
+
 struct PieceNommee {
     std::string nom; ///< for whoever is told of it
     Piece piece;

@@ -124,6 +124,7 @@ FichierPanneau LitPanneau(const std::string &path) {
         read.premier = *number;
     }
     LitPortees(file, path, read.portees);
+    read.planches = LitPlanches(file, read.planches);
     return read;
 }
 
@@ -155,6 +156,9 @@ void EnregistrePanneau(const std::string &path, const FichierPanneau &fichier) {
     }
     for (const auto &[element, range] : fichier.portees) {
         file.SetValue(kSectionPortees, NomElement(element), TextePortee(range));
+    }
+    if (!fichier.planches.formats.empty()) {
+        PosePlanches(file, fichier.planches);
     }
     if (!file.Save(path)) {
         throw MakeFailure(kPathFileAccess, path);

@@ -2,6 +2,7 @@
 /// spacing, and which elements stand in which ribs.
 #pragma once
 
+#include "programme/sheet_choice.h"
 #include "utilities/panneau.h"
 
 #include <array>
@@ -19,6 +20,7 @@ struct FichierPanneau {
     std::string longueur;
     int premier = 1; ///< number of the first rib
     PorteesPanneau portees;
+    SaisiePlanches planches = {}; ///< without sizes where nothing was chosen for sheets
 
     bool operator==(const FichierPanneau &) const = default;
 };

@@ -42,28 +42,33 @@ double HauteurEntre(const TableStation &table, double station) {
     return table[low] * (1 - part) + table[low + 1] * part;
 }
 
-class Ouvrage {
-  public:
-    Ouvrage(Programme &programme, const Panneau &panneau, const DemandePanneau &demande)
-        : programme_(programme), messages_(programme.messages), panneau_(panneau),
-          demande_(demande), saisie_(programme.SaisieEnCours()), rib_(programme.rib) {}
+} // namespace
 
-    PanneauFait Fait(const AvancePanneau &avance);
+class OuvragePanneau::Travail {
+  public:
+    Travail(Programme &programme, Panneau panneau, DemandePanneau demande)
+        : programme_(programme), messages_(programme.messages), panneau_(std::move(panneau)),
+          demande_(std::move(demande)), saisie_(programme.SaisieEnCours()), rib_(programme.rib) {}
+
+    void Commence();
+    int Nombre() const { return composee_ ? static_cast<int>(fait_.jeu.nervures.size()) : 0; }
+    int Faites() const { return static_cast<int>(fait_.nervures.size()); }
+    void Avance();
+    PanneauFait Rend() { return std::move(fait_); }
 
   private:
     Programme &programme_;
     const Messages &messages_;
-    const Panneau &panneau_;
-    const DemandePanneau &demande_;
+    const Panneau panneau_;
+    const DemandePanneau demande_;
     Saisie saisie_;
     RibModel &rib_;
     PanneauFait fait_;
+    bool composee_ = false;
     std::vector<ElementPanneau> elements_;
     std::vector<std::string> profils_; ///< the bytes of the airfoils
 
-    int Nombre() const { return static_cast<int>(fait_.jeu.nervures.size()); }
     int Numero(int numero) const { return demande_.premier + numero - 1; }
-    std::string Nervure(int numero) const { return DeLaNervure(messages_, Numero(numero)); }
     bool Compose();
     void Ouvre(int numero, NervureFaite &nervure);
     void Regarde(int numero, NervureFaite &nervure);
@@ -73,15 +78,15 @@ class Ouvrage {
                                             int numero) const;
 };
 
-bool Ouvrage::Compose() {
+bool OuvragePanneau::Travail::Compose() {
     JeuNervures set;
     auto made = ComposeJeu(panneau_.jeu, ProfilsDesBouts(panneau_), saisie_, set);
     if (const auto *refus = std::get_if<RefusJeu>(&made)) {
-        fait_.refus.push_back(refus->text);
+        fait_.refus.push_back({refus->text});
         return false;
     }
     fait_.jeu = std::move(std::get<JeuDeNervures>(made));
-    fait_.refus = Desaccords(panneau_, Nombre(), saisie_);
+    fait_.refus = Desaccords(panneau_, static_cast<int>(fait_.jeu.nervures.size()), saisie_);
     fait_.avis = AvisDesBouts(panneau_, messages_);
     elements_ = Elements(panneau_, saisie_);
     profils_ = TextesNervures(fait_.jeu, messages_);
@@ -89,7 +94,7 @@ bool Ouvrage::Compose() {
 }
 
 /// Writes the rib's files in memory and opens them, so that what is looked at is what they hold.
-void Ouvrage::Ouvre(int numero, NervureFaite &nervure) {
+void OuvragePanneau::Travail::Ouvre(int numero, NervureFaite &nervure) {
     rib_.Partie<PartiesRib>() = NervureDuPanneau(panneau_, fait_.jeu, numero, saisie_);
     if (!rib_.texte.InsTexte.empty()) {
         RegenereTexte(rib_, messages_);
@@ -113,7 +118,7 @@ void Ouvrage::Ouvre(int numero, NervureFaite &nervure) {
     FaitContour(rib_);
 }
 
-void Ouvrage::Regarde(int numero, NervureFaite &nervure) {
+void OuvragePanneau::Travail::Regarde(int numero, NervureFaite &nervure) {
     if (const auto failure = EchecDuTrace(programme_)) {
         throw *failure;
     }
@@ -124,20 +129,20 @@ void Ouvrage::Regarde(int numero, NervureFaite &nervure) {
     }
     auto made = FaitPieces(rib_, demande, saisie_);
     if (const auto *refusal = std::get_if<RefusPiece>(&made)) {
-        fait_.refus.push_back(Nervure(numero) + TexteRefus(messages_, *refusal));
+        fait_.refus.push_back({TexteRefus(messages_, *refusal), Numero(numero)});
         return;
     }
     nervure.pieces = std::move(std::get<std::vector<Piece>>(made));
     for (const Piece &piece : nervure.pieces) {
         for (const std::string &warning : TextesAvis(messages_, piece)) {
-            fait_.avis.push_back(Nervure(numero) + warning);
+            fait_.avis.push_back({warning, Numero(numero)});
         }
     }
 }
 
 /// Height of the surface in which the spar is notched, mm over the rib's reference line.
-std::optional<double> Ouvrage::HauteurDuLongeron(const ElementPanneau &spar, bool upper,
-                                                 int numero) const {
+std::optional<double> OuvragePanneau::Travail::HauteurDuLongeron(const ElementPanneau &spar,
+                                                                 bool upper, int numero) const {
     const auto slot = SlotDe(panneau_, elements_, spar, numero);
     if (!slot) {
         return std::nullopt;
@@ -154,7 +159,8 @@ std::optional<double> Ouvrage::HauteurDuLongeron(const ElementPanneau &spar, boo
            corde;
 }
 
-std::optional<Fleche> Ouvrage::FlecheDe(const ElementPanneau &spar, bool upper) const {
+std::optional<Fleche> OuvragePanneau::Travail::FlecheDe(const ElementPanneau &spar,
+                                                        bool upper) const {
     struct Lieu {
         int numero;
         double rapport, hauteur;
@@ -183,7 +189,7 @@ std::optional<Fleche> Ouvrage::FlecheDe(const ElementPanneau &spar, bool upper) 
     return greatest;
 }
 
-void Ouvrage::MesureFleches() {
+void OuvragePanneau::Travail::MesureFleches() {
     for (const ElementPanneau &element : elements_) {
         if (element.genre != GenreElement::longeron) {
             continue;
@@ -195,46 +201,80 @@ void Ouvrage::MesureFleches() {
             }
             fait_.fleches.push_back(*bow);
             if (bow->mm > kFlecheMaxi) {
-                fait_.avis.push_back(TexteFleche(messages_, *bow, saisie_.Unite));
+                fait_.avis.push_back({TexteFleche(messages_, *bow, saisie_.Unite)});
             }
         }
     }
 }
 
-PanneauFait Ouvrage::Fait(const AvancePanneau &avance) {
-    const PartieGardee<PartiesRib> kept(rib_);
+void OuvragePanneau::Travail::Commence() {
     try {
-        if (!Compose()) {
-            return std::move(fait_);
-        }
-        for (int numero = 1; numero <= Nombre(); ++numero) {
-            NervureFaite nervure;
-            try {
-                Ouvre(numero, nervure);
-                Regarde(numero, nervure);
-            } catch (const Failure &failure) {
-                fait_.refus.push_back(Nervure(numero) + messages_.Description(failure));
-            }
-            nervure.rib = rib_.Partie<PartiesRib>();
-            fait_.nervures.push_back(std::move(nervure));
-            if (avance && !avance(numero, Nombre())) {
-                return std::move(fait_);
-            }
-        }
-        if (fait_.refus.empty()) {
-            MesureFleches();
-        }
+        composee_ = Compose();
     } catch (const Failure &failure) {
-        fait_.refus.push_back(messages_.Description(failure));
+        fait_.refus.push_back({messages_.Description(failure)});
     }
-    return std::move(fait_);
 }
 
-} // namespace
+void OuvragePanneau::Travail::Avance() {
+    const PartieGardee<PartiesRib> kept(rib_);
+    const int numero = Faites() + 1;
+    NervureFaite nervure;
+    try {
+        Ouvre(numero, nervure);
+        Regarde(numero, nervure);
+    } catch (const Failure &failure) {
+        fait_.refus.push_back({messages_.Description(failure), Numero(numero)});
+    }
+    nervure.rib = rib_.Partie<PartiesRib>();
+    fait_.nervures.push_back(std::move(nervure));
+    if (Faites() < Nombre() || !fait_.refus.empty()) {
+        return;
+    }
+    try {
+        MesureFleches();
+    } catch (const Failure &failure) {
+        fait_.refus.push_back({messages_.Description(failure)});
+    }
+}
+
+OuvragePanneau::OuvragePanneau(Programme &programme, Panneau panneau, const DemandePanneau &demande)
+    : travail_(std::make_unique<Travail>(programme, std::move(panneau), demande)) {
+    travail_->Commence();
+}
+
+OuvragePanneau::~OuvragePanneau() = default;
+
+int OuvragePanneau::Nombre() const {
+    return travail_->Nombre();
+}
+
+int OuvragePanneau::Faites() const {
+    return travail_->Faites();
+}
+
+void OuvragePanneau::Avance() {
+    travail_->Avance();
+}
+
+PanneauFait OuvragePanneau::Rend() {
+    return travail_->Rend();
+}
 
 PanneauFait FaitPanneau(Programme &programme, const Panneau &panneau, const DemandePanneau &demande,
                         const AvancePanneau &avance) {
-    return Ouvrage(programme, panneau, demande).Fait(avance);
+    OuvragePanneau work(programme, panneau, demande);
+    while (!work.Fini()) {
+        work.Avance();
+        if (avance && !avance(work.Faites(), work.Nombre())) {
+            break;
+        }
+    }
+    return work.Rend();
+}
+
+std::string LigneAvis(const Messages &messages, const AvisPanneau &avis) {
+    return (avis.nervure == 0 ? "" : DeLaNervure(messages, avis.nervure)) +
+           (avis.element ? NomElement(*avis.element) + ": " : "") + avis.texte;
 }
 
 std::string DeLaNervure(const Messages &messages, int numero) {

@@ -10,6 +10,7 @@
 #include "utilities/rib_set_files.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -24,6 +25,8 @@ struct DemandePanneau {
     DemandePiece piece;      ///< of its labels only the kerf and marks count; words are made here
     int premier = 1;         ///< number of the first rib, for labels
     bool deux_ailes = false; ///< both wings are cut: labels say which
+
+    bool operator==(const DemandePanneau &) const = default;
 };
 
 /// One rib, ready to be written.
@@ -48,19 +51,45 @@ struct PanneauFait {
     JeuDeNervures jeu;
     std::vector<NervureFaite> nervures;
     std::vector<Fleche> fleches;
-    std::vector<std::string> avis;  ///< each a line; a rib's begins with its number
-    std::vector<std::string> refus; ///< likewise; nothing may be written while there is one
+    std::vector<AvisPanneau> avis;
+    std::vector<AvisPanneau> refus; ///< nothing may be written while there is one
+};
+
+/// The making of a panel rib by rib, for those who have other things to do between two ribs. Shows
+/// no box; the rib of the programme is worked on in each step and put back.
+class OuvragePanneau {
+  public:
+    OuvragePanneau(Programme &programme, Panneau panneau, const DemandePanneau &demande);
+    OuvragePanneau(const OuvragePanneau &) = delete;
+    OuvragePanneau &operator=(const OuvragePanneau &) = delete;
+    ~OuvragePanneau();
+
+    int Nombre() const; ///< of ribs; 0 where the ends make no panel
+    int Faites() const;
+    bool Fini() const { return Faites() == Nombre(); }
+    /// Makes the next rib.
+    void Avance();
+    /// What was made. After the last rib that is all of it.
+    PanneauFait Rend();
+
+  private:
+    class Travail;
+    std::unique_ptr<Travail> travail_;
 };
 
 /// How far it is; false ends the work, and the ribs so far are what there is.
 using AvancePanneau = std::function<bool(int done, int total)>;
 
-/// Makes all ribs of a panel. Shows no box; the rib of the programme is worked on and put back.
+/// Makes all ribs of a panel, as OuvragePanneau.
 PanneauFait FaitPanneau(Programme &programme, const Panneau &panneau, const DemandePanneau &demande,
                         const AvancePanneau &avance = {});
 
 /// "Rib 3: ", which what is said of one rib begins with.
 std::string DeLaNervure(const Messages &messages, int numero);
+
+/// One line of what there is to say: "Rib 3: The piece falls apart.", "spar2: ...", an element
+/// being called as files do.
+std::string LigneAvis(const Messages &messages, const AvisPanneau &avis);
 
 /// A rib's own label with its number, as pieces and drawings of a panel have it.
 std::string EtiquetteNumerotee(const RibModel &rib, int numero, const std::string &Unite);

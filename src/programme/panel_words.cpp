@@ -67,4 +67,21 @@ std::string MotElement(const Messages &messages, const Panneau &panneau,
     return foam ? messages.Text({"Panel", "120"}) : messages.Text({"Panel", "119"});
 }
 
+std::string LigneEnMots(const Messages &messages, const Panneau &panneau, const AvisPanneau &avis) {
+    return (avis.nervure == 0 ? "" : DeLaNervure(messages, avis.nervure)) +
+           (avis.element ? MotElement(messages, panneau, *avis.element) + ": " : "") + avis.texte;
+}
+
+std::string LignesDeBoite(const std::vector<std::string> &lines) {
+    constexpr std::size_t kMost = 12; // more would fill the screen
+    std::string text;
+    for (std::size_t i = 0; i < lines.size() && i < kMost; ++i) {
+        text += lines[i] + "\n";
+    }
+    if (lines.size() > kMost) {
+        text += "... (" + std::to_string(lines.size()) + ")\n";
+    }
+    return text;
+}
+
 } // namespace loftwing

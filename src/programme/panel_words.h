@@ -4,6 +4,7 @@
 #include "programme/panel_steps.h"
 
 #include <string>
+#include <vector>
 
 namespace loftwing {
 
@@ -18,5 +19,11 @@ std::string LigneNervure(const Messages &messages, const NervureFaite &nervure, 
 /// An element in the user's words: "spar 2", "leading edge stock".
 std::string MotElement(const Messages &messages, const Panneau &panneau,
                        const ElementPanneau &element);
+
+/// The same line as LigneAvis with the element's own words.
+std::string LigneEnMots(const Messages &messages, const Panneau &panneau, const AvisPanneau &avis);
+
+/// The lines of a box; of many the first ones and how many there are.
+std::string LignesDeBoite(const std::vector<std::string> &lines);
 
 } // namespace loftwing

@@ -19,14 +19,14 @@ int PlaceDe(const std::string &forme) {
     return form == nullptr ? 0 : static_cast<int>(form - FormesDecoupe().data());
 }
 
-FormAnswer DemandeFichier(const Programme &programme, const ChoixDecoupe &choix) {
+/// `question` has what the box is called, where it opens and what it proposes.
+FormAnswer DemandeFichier(const Programme &programme, FileQuestion question,
+                          const std::string &forme) {
     const std::vector<FormeDecoupe> &forms = FormesDecoupe();
-    FileQuestion question;
-    question.title = programme.Text({"Piece", "103"});
     question.filter_text = FiltreDe(forms.front());
-    question.form = PlaceDe(choix.forme);
+    question.form = PlaceDe(forme);
     question.default_extension = At(forms, question.form).extension;
-    question.name = NomPropose(programme) + "." + question.default_extension;
+    question.name += "." + question.default_extension;
     std::vector<std::string> more;
     for (std::size_t i = 1; i < forms.size(); ++i) {
         more.push_back(FiltreDe(forms[i]));
@@ -38,7 +38,10 @@ FormAnswer DemandeFichier(const Programme &programme, const ChoixDecoupe &choix)
 
 std::string EnregistreDecoupe(const Programme &programme, const std::vector<Piece> &pieces,
                               ChoixDecoupe &choix) {
-    const FormAnswer answer = DemandeFichier(programme, choix);
+    FileQuestion question;
+    question.title = programme.Text({"Piece", "103"});
+    question.name = NomPropose(programme);
+    const FormAnswer answer = DemandeFichier(programme, question, choix.forme);
     if (answer.path.empty()) {
         return {};
     }
@@ -50,6 +53,36 @@ std::string EnregistreDecoupe(const Programme &programme, const std::vector<Piec
     choix.forme = form.extension;
     RetientChoixDecoupe(programme, choix);
     return answer.path;
+}
+
+std::vector<std::string> EnregistrePlanches(const Programme &programme, const Imbrication &planches,
+                                            FileQuestion question, SaisiePlanches &choix,
+                                            FichiersEcrits &ecrits) {
+    const FormAnswer answer = DemandeFichier(programme, std::move(question), choix.forme);
+    if (answer.path.empty()) {
+        return {};
+    }
+    const FormeDecoupe &form = At(FormesDecoupe(), answer.form);
+    const std::vector<FileToWrite> files =
+        EcritPlanches(programme, form, planches,
+                      choix.polylignes ? AnneauxDxf::polylignes : AnneauxDxf::lignes, answer.path);
+    std::vector<std::string> paths;
+    for (const FileToWrite &file : files) {
+        paths.push_back(file.path);
+    }
+    FichiersEcrits asked = ecrits;
+    asked.insert(answer.path); // by the box of the name
+    const FichiersEcrits there = FichiersDejaLa(paths, asked);
+    if (!there.empty() && !programme.messages.Confirm(TexteRemplacement(there, programme.messages),
+                                                      programme.Text({"Panel", "155"}))) {
+        return {};
+    }
+    const Sablier sablier(programme.platform);
+    WriteWholeFiles(files);
+    ecrits.insert(paths.begin(), paths.end());
+    choix.forme = form.extension;
+    RetientPlanches(programme, choix);
+    return paths;
 }
 
 } // namespace loftwing

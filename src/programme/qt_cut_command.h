@@ -2,6 +2,7 @@
 #pragma once
 
 #include "programme/cut_steps.h"
+#include "programme/panel_sheets.h"
 
 namespace loftwing {
 
@@ -10,5 +11,13 @@ namespace loftwing {
 /// Failure 75 where the file can't be written; nothing is left of it or remembered then.
 std::string EnregistreDecoupe(const Programme &programme, const std::vector<Piece> &pieces,
                               ChoixDecoupe &choix);
+
+/// The same for pieces on sheets; `question` has what the box of the name is called, where it opens
+/// and what it proposes. All files are written or none. What is there under the names of sheets is
+/// asked about first, but for the user's own of just before, `ecrits`. The paths, none where the
+/// user gave up. Failure 75 where a file can't be written.
+std::vector<std::string> EnregistrePlanches(const Programme &programme, const Imbrication &planches,
+                                            FileQuestion question, SaisiePlanches &choix,
+                                            FichiersEcrits &ecrits);
 
 } // namespace loftwing

@@ -13,4 +13,10 @@ namespace loftwing {
 std::string TexteRefusPlanche(const Messages &messages, const RefusPlanche &refus,
                               const std::string &Unite);
 
+/// "Sheet 1 : 100 x 1000 mm, 12 pieces, 63.4 %".
+std::string LignePlanche(const Messages &messages, const Planche &planche, std::size_t numero,
+                         const std::string &Unite);
+/// How many pieces lie on how many sheets, and how much of these is used.
+std::string ResumePlanches(const Messages &messages, const Imbrication &planches);
+
 } // namespace loftwing

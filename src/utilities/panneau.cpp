@@ -41,15 +41,15 @@ class Accords {
     Accords(const Panneau &panneau, const Saisie &saisie)
         : root_(panneau.bouts[0]), tip_(panneau.bouts[1]), messages_(saisie.messages) {}
 
-    std::vector<std::string> refus;
+    std::vector<AvisPanneau> refus;
 
     template <class Value>
     void Doit(const std::string &nom, const Value &root, const Value &tip) {
         if (root != tip) {
-            refus.push_back(nom + ": " + NumberText(static_cast<double>(root)) + " " +
-                            messages_.Text({"Panel", "1"}) + " " +
-                            NumberText(static_cast<double>(tip)) + " " +
-                            messages_.Text({"Panel", "2"}));
+            refus.push_back({nom + ": " + NumberText(static_cast<double>(root)) + " " +
+                             messages_.Text({"Panel", "1"}) + " " +
+                             NumberText(static_cast<double>(tip)) + " " +
+                             messages_.Text({"Panel", "2"})});
         }
     }
 
@@ -94,12 +94,11 @@ std::string FautePortee(const Panneau &panneau, const ElementPanneau &element, i
                         bool des_deux, const Messages &messages) {
     const auto range = panneau.portees.find(element);
     if (range == panneau.portees.end()) {
-        return des_deux ? "" : NomElement(element) + ": " + messages.Text({"Panel", "16"});
+        return des_deux ? "" : messages.Text({"Panel", "16"});
     }
     return range->second.Dans(nombre)
                ? ""
-               : NomElement(element) + ": " + messages.Text({"Panel", "17"}) + " " +
-                     std::to_string(nombre) + ".";
+               : messages.Text({"Panel", "17"}) + " " + std::to_string(nombre) + ".";
 }
 
 } // namespace
@@ -190,7 +189,7 @@ std::optional<int> SlotDe(const Panneau &panneau, const std::vector<ElementPanne
     return std::nullopt;
 }
 
-std::vector<std::string> Desaccords(const Panneau &panneau, int nombre, const Saisie &saisie) {
+std::vector<AvisPanneau> Desaccords(const Panneau &panneau, int nombre, const Saisie &saisie) {
     Accords accords(panneau, saisie);
     accords.Ensemble();
     const std::vector<ElementPanneau> elements = Elements(panneau, saisie);
@@ -207,27 +206,26 @@ std::vector<std::string> Desaccords(const Panneau &panneau, int nombre, const Sa
         const std::string fault =
             FautePortee(panneau, element, nombre, both || !numbered, saisie.messages);
         if (!fault.empty()) {
-            accords.refus.push_back(fault);
+            accords.refus.push_back({fault, 0, element});
         }
     }
     for (const auto &[element, range] : panneau.portees) {
         if (std::find(elements.begin(), elements.end(), element) == elements.end()) {
-            accords.refus.push_back(NomElement(element) + ": " +
-                                    saisie.messages.Text({"Panel", "18"}));
+            accords.refus.push_back({saisie.messages.Text({"Panel", "18"}), 0, element});
         }
     }
     return accords.refus;
 }
 
-std::vector<std::string> AvisDesBouts(const Panneau &panneau, const Messages &messages) {
+std::vector<AvisPanneau> AvisDesBouts(const Panneau &panneau, const Messages &messages) {
     const PartiesRib &root = panneau.bouts[0];
     const PartiesRib &tip = panneau.bouts[1];
     if (root.EpCoffrage == tip.EpCoffrage) {
         return {};
     }
-    return {messages.Text({"Panel", "19"}) + " " + root.EpCoffrageAfich + " " +
-            messages.Text({"Panel", "1"}) + " " + tip.EpCoffrageAfich + " " +
-            messages.Text({"Panel", "2"}) + ": " + messages.Text({"Panel", "20"})};
+    return {{messages.Text({"Panel", "19"}) + " " + root.EpCoffrageAfich + " " +
+             messages.Text({"Panel", "1"}) + " " + tip.EpCoffrageAfich + " " +
+             messages.Text({"Panel", "2"}) + ": " + messages.Text({"Panel", "20"})}};
 }
 
 double EcartRegulier(double longueur, int inter, double epaisseur) {

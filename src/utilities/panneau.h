@@ -53,6 +53,13 @@ struct PorteePanneau {
 
 using PorteesPanneau = std::map<ElementPanneau, PorteePanneau>;
 
+/// What there is to say of a panel: of one of its ribs, of an element, or of the whole.
+struct AvisPanneau {
+    std::string texte;
+    int nervure = 0; ///< the rib's number as labels have it; 0: it isn't about one rib
+    std::optional<ElementPanneau> element = std::nullopt;
+};
+
 /// What a panel is made from. The spacing's chords are those of the ends.
 struct Panneau {
     std::array<PartiesRib, 2> bouts; ///< root and tip, their airfoils as read
@@ -81,9 +88,9 @@ std::optional<int> SlotDe(const Panneau &panneau, const std::vector<ElementPanne
 
 /// Why the two ends make no panel of `nombre` ribs: values that must agree and don't, with both of
 /// them, elements of one end without a range, ranges that can't be. Empty where they do.
-std::vector<std::string> Desaccords(const Panneau &panneau, int nombre, const Saisie &saisie);
+std::vector<AvisPanneau> Desaccords(const Panneau &panneau, int nombre, const Saisie &saisie);
 /// What should be known of the ends all the same: sheeting that differs.
-std::vector<std::string> AvisDesBouts(const Panneau &panneau, const Messages &messages);
+std::vector<AvisPanneau> AvisDesBouts(const Panneau &panneau, const Messages &messages);
 
 /// A computed length as files have it: three decimals in mm, five in inches, zeros at the end left
 /// off.

@@ -80,6 +80,16 @@ TEST_F(PanelFile, UnknownKeysAreKeptAndRangesThatAreGoneStayGone) {
     EXPECT_EQ(LitPanneau(path), Wing());
 }
 
+TEST_F(PanelFile, WhatWasChosenForSheetsIsKept) {
+    FichierPanneau wing = Wing();
+    EnregistrePanneau(folder.Path("wing.lfp"), wing);
+    EXPECT_THAT(folder.Bytes("wing.lfp"), Not(HasSubstr("[Sheets]"))); // nothing was
+    wing.planches = {"90x500 60x400", "1", "0", "2", "0.1", true, true, false, true, "pdf"};
+    EnregistrePanneau(folder.Path("wing.lfp"), wing);
+    EXPECT_THAT(folder.Bytes("wing.lfp"), HasSubstr("Sizes=90x500 60x400\r\n"));
+    EXPECT_EQ(LitPanneau(folder.Path("wing.lfp")), wing);
+}
+
 TEST_F(PanelFile, WhatIsNoPanelIsRefused) {
     EXPECT_EQ(Refused(""), kInvalidProcedureCall);
     EXPECT_EQ(Refused("[Panel]\nRoot=a.lfw\nUnit=mm\n"), kInvalidProcedureCall);

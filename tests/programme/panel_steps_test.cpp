@@ -70,6 +70,14 @@ class PanelSteps : public StepsWorld {
         panel.jeu.cordes = CordesDesBouts(panel, programme.settings.Unite);
         return FaitPanneau(programme, panel, demand);
     }
+    std::vector<std::string> Lines(const std::vector<AvisPanneau> &all) const {
+        std::vector<std::string> lines;
+        for (const AvisPanneau &each : all) {
+            lines.push_back(LigneAvis(programme.messages, each));
+        }
+        return lines;
+    }
+    std::vector<std::string> Refused() { return Lines(Made().refus); }
     /// The ribs of a panel that nothing stands against.
     std::vector<PartiesRib> Ribs() {
         const PanneauFait made = Made();
@@ -180,7 +188,7 @@ TEST_F(PanelSteps, AllFeetStandOnOneBoard) {
 
 TEST_F(PanelSteps, AnElementOfOneEndNeedsItsRibsAndKeepsItsValues) {
     Spar(0, 0, "30%", "6");
-    EXPECT_THAT(Made().refus,
+    EXPECT_THAT(Refused(),
                 ElementsAre("spar1: it stands at one end only and needs the range of its ribs."));
     panel.portees[{GenreElement::longeron, 1}] = {1, 3};
     const auto ribs = Ribs();
@@ -242,7 +250,7 @@ TEST_F(PanelSteps, DifferencesAreRefusedWithSlotAndBothValues) {
     panel.bouts[0].NbRep = 4;
     panel.bouts[1].AffHaut = true;
     EXPECT_THAT(
-        Made().refus,
+        Refused(),
         ElementsAre("station lines: 4 at the root, 0 at the tip",
                     "upside down: 0 at the root, 1 at the tip",
                     "spar 1, kind: 1 at the root, 3 at the tip",
@@ -256,7 +264,7 @@ TEST_F(PanelSteps, RangesThatCannotBeAreRefused) {
     for (const PorteePanneau range :
          {PorteePanneau{0, 2}, PorteePanneau{3, 2}, PorteePanneau{2, 6}}) {
         panel.portees[{GenreElement::longeron, 1}] = range;
-        EXPECT_THAT(Made().refus,
+        EXPECT_THAT(Refused(),
                     ElementsAre("spar1: its range of ribs must go from a lower to a higher number "
                                 "between 1 and 5.",
                                 "hole4: no such element stands in the root or the tip rib."));
@@ -329,7 +337,7 @@ TEST_F(PanelSteps, LabelsOfBothWingsSayWhich) {
 TEST_F(PanelSteps, SheetingThatDiffersIsTold) {
     Set("2", panel.bouts[0].EpCoffrageAfich, panel.bouts[0].EpCoffrage);
     const PanneauFait made = Made();
-    EXPECT_THAT(made.avis, ElementsAre(HasSubstr("2 at the root, 1.5 at the tip")));
+    EXPECT_THAT(Lines(made.avis), ElementsAre(HasSubstr("2 at the root, 1.5 at the tip")));
     EXPECT_THAT(made.refus, IsEmpty());
     EXPECT_EQ(made.nervures.at(2).rib.EpCoffrageAfich, "1.75");
 }
@@ -347,7 +355,8 @@ TEST_F(PanelSteps, TheBowOfASparIsMeasuredFromTheLineBetweenItsEnds) {
     EXPECT_EQ(made.fleches[0].nervure, 3);
     demand.premier = 11;
     EXPECT_EQ(Made().fleches.at(0).nervure, 13);
-    EXPECT_THAT(made.avis, Contains(StartsWith("spar 1 bows by at most 0.6 mm, in the upper")));
+    EXPECT_THAT(Lines(made.avis),
+                Contains(StartsWith("spar 1 bows by at most 0.6 mm, in the upper")));
     panel.portees[{GenreElement::longeron, 1}] = {1, 2}; // two ribs are always on a line
     EXPECT_EQ(Made().fleches.at(0).mm, 0);
 }
@@ -356,16 +365,50 @@ TEST_F(PanelSteps, WarningsAndRefusalsNameTheRib) {
     Hole(0, 0, "30%", "20");
     Hole(1, 0, "30%", "20"); // thicker than the airfoil at the tip
     const PanneauFait made = Made();
-    EXPECT_THAT(made.avis, Contains("Rib 5: Hole 1 leaves the wood and opens its outline."));
+    EXPECT_THAT(Lines(made.avis), Contains("Rib 5: Hole 1 leaves the wood and opens its outline."));
     EXPECT_THAT(made.refus, IsEmpty());
     for (PartiesRib &end : panel.bouts) {
         end.TypeGabarit = kGabaritTalon;
         end.talon.TalonIntraAfich = "0"; // a foot in the airfoil
         end.talon.TalonBAAfich = end.talon.TalonBFAfich = "20";
     }
-    const PanneauFait refused = Made();
-    EXPECT_THAT(refused.refus, Contains(StartsWith("Rib 1: No piece can be made: ")));
+    EXPECT_THAT(Refused(), Contains(StartsWith("Rib 1: No piece can be made: ")));
     EXPECT_TRUE(platform.boxes.empty());
+}
+
+TEST_F(PanelSteps, WhatIsSaidKnowsItsRibAndItsElement) {
+    demand.premier = 11;
+    Hole(0, 0, "30%", "20");
+    Hole(1, 0, "30%", "20"); // thicker than the airfoil at the tip
+    const PanneauFait made = Made();
+    ASSERT_FALSE(made.avis.empty());
+    EXPECT_EQ(made.avis.back().nervure, 15);
+    EXPECT_EQ(made.avis.back().element, std::nullopt);
+    Spar(0, 3, "60", "6");
+    const PanneauFait refused = Made();
+    ASSERT_EQ(refused.refus.size(), 1U);
+    EXPECT_EQ(refused.refus[0].nervure, 0);
+    EXPECT_EQ(refused.refus[0].element, (ElementPanneau{GenreElement::longeron, 4}));
+    EXPECT_THAT(refused.refus[0].texte, StartsWith("it stands at one end only"));
+}
+
+TEST_F(PanelSteps, APanelIsMadeRibByRibAndTheRibOfTheProgrammeStaysBetween) {
+    panel.jeu.cordes = CordesDesBouts(panel, programme.settings.Unite);
+    Rib().corde = 77;
+    OuvragePanneau work(programme, panel, demand);
+    EXPECT_EQ(work.Nombre(), 5);
+    for (int done = 1; done <= 5; ++done) {
+        EXPECT_FALSE(work.Fini());
+        work.Avance();
+        EXPECT_EQ(work.Faites(), done);
+        EXPECT_EQ(Rib().corde, 77);
+    }
+    EXPECT_TRUE(work.Fini());
+    EXPECT_EQ(work.Rend().nervures.size(), 5U);
+    panel.bouts[1].AffHaut = true; // ends that disagree
+    OuvragePanneau none(programme, panel, demand);
+    EXPECT_TRUE(none.Fini());
+    EXPECT_EQ(none.Rend().refus.size(), 1U);
 }
 
 TEST_F(PanelSteps, TheRibOfTheProgrammeStaysWhatItWas) {

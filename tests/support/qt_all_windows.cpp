@@ -14,6 +14,7 @@
 #include "mainwindow/frmimport.h"
 #include "mainwindow/frmopen.h"
 #include "mainwindow/frmpanneau.h"
+#include "mainwindow/frmplanches.h"
 #include "mainwindow/frmsecours.h"
 #include "output/frmPrint.h"
 #include "output/frmcorrection.h"
@@ -36,6 +37,7 @@
 
 #include <QApplication>
 #include <QPushButton>
+#include <QRadioButton>
 
 #include <filesystem>
 #include <type_traits>
@@ -231,6 +233,32 @@ void LookAtPanel(WindowWorld &world, const Look &look) {
     ShowAndLook(dialog, look);
 }
 
+/// The same with the spacing typed rib by rib.
+void LookAtVariablePanel(WindowWorld &world, const Look &look) {
+    frmpanneau dialog(world.programme, world.window.get());
+    Seen panel(dialog);
+    panel.Find<QRadioButton>({"optecart", 1}).setChecked(true);
+    panel.Fill({"txtliste", 0}, "60 60 55");
+    panel.Fill({"txtliste", 1}, "2");
+    panel.Find<QPushButton>({"cmdfenetre", 0}).click();
+    panel.Find<QPushButton>({"cmdfenetre", 1}).click();
+    ShowAndLook(dialog, look);
+}
+
+/// The pieces of both wings, laid on sheets.
+void LookAtSheets(WindowWorld &world, const Look &look) {
+    Programme &programme = world.programme;
+    Panneau panel;
+    panel.bouts.fill(programme.rib.Partie<PartiesRib>());
+    panel.jeu.nombre = "3";
+    panel.jeu.cordes = CordesDesBouts(panel, programme.settings.Unite);
+    SaisiePlanches choice = PlanchesUsuelles(programme.settings.Unite);
+    choice.deux_ailes = true;
+    frmplanches dialog(programme, panel, 1, choice, "wing", world.window.get());
+    EXPECT_TRUE(Eventually([&] { return Seen(dialog).Enabled("cmdenregistrer"); }));
+    ShowAndLook(dialog, look);
+}
+
 /// The help of the picker.
 void LookAtHelp(WindowWorld &world, const Look &look) {
     frmaide help(world.programme);
@@ -293,6 +321,8 @@ const std::vector<KnownWindow> &KnownWindows() {
         {"frmribevol2", &LookAtGaps},
         Plain<frmpanneau>("frmpanneau-empty"),
         {"frmpanneau", &LookAtPanel},
+        {"frmpanneau-variable", &LookAtVariablePanel},
+        {"frmplanches", &LookAtSheets},
         {"frmimport", &LookAtImport},
         {"frmsecours", &LookAtRecovery},
         {"frmopen", &LookAtPicker},

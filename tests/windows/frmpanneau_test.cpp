@@ -4,9 +4,7 @@
 
 #include "programme/panel_ends.h"
 #include "support/ordinary_user.h"
-#include "windows/frmmain_files_fixture.h"
-
-#include <gmock/gmock.h>
+#include "windows/frmpanneau_fixture.h"
 
 #include <QImage>
 
@@ -20,69 +18,6 @@ using testing::IsEmpty;
 using testing::StartsWith;
 
 namespace fs = std::filesystem;
-
-/// A root of 240 and a tip of 120 mm, each with a spar at 30 % of its chord.
-class PanelWindow : public RibFiles {
-  protected:
-    PanelWindow() {
-        fs::create_directories(world.folder.Path("out"));
-        root.chord = "240";
-        root.spars = {SparAt("72"), ComponentsText::BlankSpar()};
-        tip.chord = "120";
-        tip.spars = {SparAt("36"), ComponentsText::BlankSpar()};
-    }
-
-    ComponentsText root, tip;
-
-    static ComponentsText::Lines SparAt(const char *place) {
-        return {place, "4", "3", "1", "0", "1", "0", "0", "0"};
-    }
-    std::string Written(const ComponentsText &rib, const char *name) {
-        return world.folder.File(std::string("ribs/") + name, rib.Current());
-    }
-    std::string Out() const { return world.folder.Path("out"); }
-    bool NothingWritten() const { return fs::is_empty(Out()); }
-    void Use(const User &user) { world.Run("mnu_outilpanneau", {user}); }
-
-    void Take(const Seen &dialog, int end, const std::string &path) {
-        world.platform.files_expected.push_back(path);
-        dialog.Click({"cmdchoisir", end});
-    }
-    void TakeBoth(const Seen &dialog) {
-        Take(dialog, 0, Written(root, "root.lfw"));
-        Take(dialog, 1, Written(tip, "tip.lfw"));
-    }
-    static QTableWidget &Ribs(const Seen &dialog) { return dialog.Find<QTableWidget>("Nervures"); }
-    static QTableWidget &Ranges(const Seen &dialog) { return dialog.Find<QTableWidget>("Portees"); }
-    static std::string Cell(const QTableWidget &table, int row, int column) {
-        const QTableWidgetItem *item = table.item(row, column);
-        return item == nullptr ? "none" : S(item->text());
-    }
-    static std::vector<std::string> Column(const QTableWidget &table, int column) {
-        std::vector<std::string> texts;
-        for (int row = 0; row < table.rowCount(); ++row) {
-            texts.push_back(Cell(table, row, column));
-        }
-        return texts;
-    }
-    static const PlanPanneau &Plan(const Seen &dialog) {
-        return dialog.Find<PlanPicture>("Plan").Plan();
-    }
-    /// Types the number of ribs between the ends and lets the panel be computed.
-    static void TypeCount(const Seen &dialog, int count) {
-        dialog.Type({"txt", 0}, std::to_string(count));
-        EXPECT_TRUE(Eventually([&] { return Ribs(dialog).rowCount() == count + 2; }));
-    }
-    static void ExpectSaid(const Seen &dialog, const std::string &text) {
-        EXPECT_TRUE(Eventually([&] { return dialog.Label("lblavis") == text; }))
-            << dialog.Label("lblavis");
-    }
-    /// The button for the files, with a folder chosen.
-    void Make(const Seen &dialog) {
-        world.platform.folders_expected.push_back(Out());
-        dialog.Click("cmdnervures");
-    }
-};
 
 TEST_F(PanelWindow, TwoFilesMakeAllRibsAndTheRibOfTheWindowStays) {
     const std::string mine = OpenBytes("mine.lfw", ComponentsText{}.Current());
@@ -405,6 +340,14 @@ TEST_F(PanelWindow, CancelWritesNothing) {
         EXPECT_FALSE(dialog.Shown("lblenregistre"));
         dialog.Key({"txt", 0}, Qt::Key_Return); // nobody writes by Return in a field
         EXPECT_EQ(world.platform.folder_questions.size(), 1U);
+        const BoxLook asks{.text =
+                               "The panel has changes that no panel file has. Go on all the same ?",
+                           .title = "Wing panel",
+                           .buttons = BoxButtons::yes_no};
+        world.platform.Expect(BoxAnswer::no, asks);
+        dialog.Key(Qt::Key_Escape);
+        EXPECT_TRUE(dialog.IsOpen());
+        world.platform.Expect(BoxAnswer::yes, asks);
         dialog.Key(Qt::Key_Escape);
         EXPECT_FALSE(dialog.IsOpen());
     });
@@ -426,6 +369,75 @@ TEST_F(PanelWindow, WhatIsNoNumberIsToldWithoutABox) {
         EXPECT_TRUE(Eventually([&] { return Ribs(dialog).rowCount() == 3; }));
         dialog.Keys({"txt", 0}, "-"); // no key of this field
         EXPECT_EQ(dialog.Text({"txt", 0}), "1");
+    });
+}
+
+TEST_F(PanelWindow, WhoHasChosenNothingIsAskedNothing) {
+    Use([](Seen &dialog) {
+        dialog.Type({"txt", 0}, "3");
+        dialog.Key(Qt::Key_Escape);
+        EXPECT_FALSE(dialog.IsOpen());
+    });
+    EXPECT_THAT(world.platform.boxes, IsEmpty());
+}
+
+TEST_F(PanelWindow, ManyRibsAreMadeWhileTheWindowGoesOn) {
+    Use([this](Seen &dialog) {
+        TakeBoth(dialog);
+        TypeCount(dialog, 3);
+        dialog.Type({"txt", 0}, "40");
+        EXPECT_TRUE(Eventually([&] { return dialog.Shown("Avancement"); }));
+        EXPECT_EQ(Ribs(dialog).rowCount(), 5); // what was there stays until the new one is whole
+        dialog.Type({"txt", 0}, "30");         // in the middle of it
+        EXPECT_TRUE(Eventually([&] { return Ribs(dialog).rowCount() != 5; }));
+        EXPECT_EQ(Ribs(dialog).rowCount(), 32);
+        EXPECT_FALSE(dialog.Shown("Avancement"));
+    });
+    EXPECT_THAT(world.platform.boxes, IsEmpty());
+}
+
+TEST_F(PanelWindow, AButtonFinishesWhatIsUnderWay) {
+    Use([this](Seen &dialog) {
+        TakeBoth(dialog);
+        dialog.Type({"txt", 0}, "25");
+        Make(dialog);
+        EXPECT_TRUE(dialog.Shown("lblenregistre"));
+    });
+    EXPECT_EQ(std::distance(fs::directory_iterator(Out()), {}), 27 * 2 + 1);
+}
+
+TEST_F(PanelWindow, VariableSpacingIsTypedAsTwoLists) {
+    root.spars = {SparAt("80"), ComponentsText::BlankSpar()};
+    tip.spars = {SparAt("40"), ComponentsText::BlankSpar()};
+    Use([this](Seen &dialog) {
+        TakeBoth(dialog);
+        dialog.Click({"optecart", 1});
+        EXPECT_TRUE(dialog.Shown({"txtliste", 0}));
+        EXPECT_FALSE(dialog.Shown({"txt", 0}));
+        ExpectSaid(dialog, "Gaps between the ribs: two gaps at least, with blanks between.");
+        dialog.Fill({"txtliste", 0}, "98\t48\n48");
+        ExpectSaid(dialog, "Thickness of the ribs: one thickness for all ribs, or as many as there "
+                           "are ribs: 4");
+        dialog.Type({"txtliste", 1}, "2");
+        EXPECT_TRUE(Eventually([&] { return Ribs(dialog).rowCount() == 4; }));
+        // Centre lines at 0, 100, 150, 200; the length has both end ribs.
+        EXPECT_THAT(Column(Ribs(dialog), 1), ElementsAre("240", "180.00", "150.00", "120"));
+        EXPECT_EQ(dialog.Label("lblecart"), "Panel length: 202 mm");
+        EXPECT_EQ(Plan(dialog).longueur, 202);
+        EXPECT_EQ(Plan(dialog).nervures[1].x, 101);
+        EXPECT_THAT(Plan(dialog).longerons[0][1], (PointMm{101, 60}));
+        dialog.Type({"txtliste", 1}, "4 2 2 4");
+        // Now at 0, 98 + 3 = 101, 151, 202, of 194 + 12 in all.
+        EXPECT_TRUE(Eventually([&] { return Plan(dialog).longueur == 206; }));
+        EXPECT_THAT(Column(Ribs(dialog), 1), ElementsAre("240", "180.00", "150.30", "120"));
+        dialog.Type({"txtliste", 0}, "98 48 x");
+        ExpectSaid(dialog, "Gaps between the ribs: this is no length above 0: x");
+        world.platform.Expect(BoxAnswer::ok);
+        dialog.Click("cmdnervures");
+        EXPECT_TRUE(dialog.FocusedAndSelected({"txtliste", 0}));
+        dialog.Click({"optecart", 0});
+        TypeCount(dialog, 1);
+        EXPECT_THAT(Column(Ribs(dialog), 1), ElementsAre("240", "180.00", "120"));
     });
 }
 
