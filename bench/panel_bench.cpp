@@ -19,6 +19,7 @@ namespace {
 class BenchPanel {
   public:
     BenchPanel(int inter, int spars, int holes) {
+        programme_.settings.Unite = kUniteMm;
         for (const std::size_t end : {0U, 1U}) {
             panel_.bouts[end] = End(end == 0 ? 300 : 160, spars, holes);
         }

@@ -9,6 +9,7 @@
 
 #include "picture_platform.h"
 #include "picture_ribs.h"
+#include "picture_steps.h"
 #include "sample_wing.h"
 
 #include "base/whole_file.h"
@@ -29,8 +30,8 @@
 #include "mainwindow/frmmain.h"
 #include "mainwindow/frmopen.h"
 #include "mainwindow/frmpanneau.h"
-#include "mainwindow/frmplanches.h"
 #include "mainwindow/frmsecours.h"
+#include "mainwindow/rib_preview.h"
 #include "output/frmPrint.h"
 #include "output/frmcorrection.h"
 #include "output/frmcoul.h"
@@ -53,13 +54,11 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDir>
-#include <QEventLoop>
 #include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTemporaryDir>
-#include <QTimer>
 
 #include <iostream>
 #include <stdexcept>
@@ -67,7 +66,6 @@
 namespace {
 
 using namespace loftwing;
-
 const std::string kResources = std::string(LOFTWING_SOURCE_DIR) + "/resources";
 const std::string kLanguages = kResources + "/lng";
 
@@ -117,6 +115,7 @@ class Pictures {
         if (programme_.settings.Unite == kUniteMm) {
             TakePrint();
         }
+        TakePreview();
         TakeNotices();
         for (const char *mode : {"corde", "epcof", "ba", "bf", "rep"}) {
             frmInput entry(programme_, mode, window_.get());
@@ -178,23 +177,24 @@ class Pictures {
         WaitForReading();
         Save(panel, "frmpanneau");
         kept_panel.bouts[1] = rib.Partie<PartiesRib>();
-        TakePanelSheets(kept_panel);
+        kept_panel.jeu.nombre = "7";
+        Save(*SheetsOf(programme_, kept_panel, inches ? "3x24 2x12" : "80x600 60x300",
+                       window_.get()),
+             "frmplanches");
     }
 
-    /// The ribs of that panel on sheets, for both wings.
-    void TakePanelSheets(Panneau &panel) {
-        const std::string &unit = programme_.settings.Unite;
-        panel.jeu.nombre = "7";
-        panel.jeu.cordes = CordesDesBouts(panel, unit);
-        SaisiePlanches choice = PlanchesUsuelles(unit);
-        choice.deux_ailes = choice.demi_tour = true;
-        choice.formats = unit == kUniteIn ? "3x24 2x12" : "80x600 60x300";
-        frmplanches sheets(programme_, panel, 1, choice, "wing", window_.get());
-        const auto *save = sheets.findChild<QPushButton *>("cmdenregistrer");
-        while (!save->isEnabled()) {
-            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    /// The main window while a trailing edge stock is typed.
+    void TakePreview() {
+        frmInput stock(programme_, "bf", window_.get());
+        stock.show();
+        {
+            const RibPreview preview(stock, programme_, *window_->findChild<PictureArea *>());
+            Fill(stock, "infotxt", programme_.settings.Unite == kUniteIn ? "2.1/2" : "60");
+            WaitForReading();
+            Save(*window_, "frmmain-preview");
         }
-        Save(sheets, "frmplanches");
+        stock.reject();
+        programme_.rib.Annule = false;
     }
 
     /// The sample wing as the tour of it shows it.
@@ -208,6 +208,8 @@ class Pictures {
         EndHoleOfSampleWing(panel, programme_);
         WaitForReading();
         Save(panel, "wing");
+        Panneau wing = SampleWing(programme_, kResources + "/samples/wing");
+        Save(*SheetsOf(programme_, wing, "100x1000", window_.get()), "wing-sheets");
     }
 
     /// The sheet that comes out of the printer: the rib of the tour.
@@ -335,11 +337,7 @@ class Pictures {
         picker.show();
         WaitForReading();
         Save(picker, "frmopen");
-        QFile refused(home_.filePath("refused.dat"));
-        if (refused.open(QIODevice::WriteOnly)) {
-            refused.write("REFUSED\n1 0\n0.5 0.1\n0 0\n0.5 -0.1\n0.99 0\n");
-            refused.close();
-        }
+        WriteRefusedAirfoil(home_.filePath("refused.dat"));
         if (auto *path = picker.findChild<QLineEdit *>("txtchemin")) {
             path->setText(home_.path());
         }
@@ -353,14 +351,6 @@ class Pictures {
         Save(picker, "frmopen-refused");
         picker.reject();
         programme_.settings.repertoires.LastOpenProfil = folder;
-    }
-
-    /// A selected file is read when the selection rests.
-    static void WaitForReading() {
-        constexpr int kLongEnough = 300; // milliseconds
-        QEventLoop loop;
-        QTimer::singleShot(kLongEnough, &loop, &QEventLoop::quit);
-        loop.exec();
     }
 
     void TakeSets() {
@@ -410,13 +400,6 @@ class Pictures {
             frmbloc foam(programme_, *window_, window_.get());
             Save(foam, lower ? "frmbloc-lower" : "frmbloc-upper");
         }
-    }
-
-    static void Fill(QDialog &window, const char *name, const char *text) {
-        window.findChild<QLineEdit *>(name)->setText(text);
-    }
-    static void Press(QDialog &window, const char *name) {
-        window.findChild<QPushButton *>(name)->click();
     }
 
     void TakeCalculators() {

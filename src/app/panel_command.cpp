@@ -6,6 +6,7 @@
 #include "app/sheet_options.h"
 #include "app/typed_value.h"
 #include "base/number_text.h"
+#include "programme/longueur_lue.h"
 #include "programme/panel_file.h"
 #include "programme/panel_steps.h"
 #include "programme/panel_words.h"
@@ -13,6 +14,7 @@
 #include "utilities/rib_set_files.h"
 #include "utilities/tool_files.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <iostream>
 
@@ -128,6 +130,29 @@ SaisieJeu JeuDe(const FichierPanneau &wanted, const std::string &folder) {
     return typed;
 }
 
+/// Whether all that counts or measures does: a panel file may come out of an editor. What doesn't
+/// is told.
+bool NombresLisibles(const FichierPanneau &wanted, const Programme &programme) {
+    constexpr int kMost = 9999; // what is too many for a set is told by its number
+    const Saisie saisie = programme.SaisieEnCours();
+    std::vector<std::string> lengths = wanted.epaisseurs;
+    lengths.insert(lengths.end(), wanted.ecarts.begin(), wanted.ecarts.end());
+    if (!wanted.longueur.empty()) {
+        lengths.push_back(wanted.longueur);
+    }
+    auto bad = std::find_if(lengths.begin(), lengths.end(), [&saisie](const std::string &text) {
+        return !LongueurLue(text, saisie);
+    });
+    if (wanted.ecarts.empty() && !NombreLu(wanted.nombre, kMost)) {
+        bad = lengths.insert(lengths.end(), wanted.nombre);
+    }
+    if (bad != lengths.end()) {
+        programme.messages.Inform(programme.Text({"Panel", "184"}) + " " + *bad,
+                                  programme.Text({"Panel", "40"}));
+    }
+    return bad == lengths.end();
+}
+
 /// The clear width between two ribs of a panel of that length in equal steps.
 void DitEcart(const FichierPanneau &wanted, const PanneauFait &made, const Programme &programme) {
     if (wanted.longueur.empty() || !wanted.ecarts.empty() || made.jeu.nervures.empty()) {
@@ -138,6 +163,11 @@ void DitEcart(const FichierPanneau &wanted, const PanneauFait &made, const Progr
     const double thick =
         wanted.epaisseurs.empty() ? 0 : NombreMm(wanted.epaisseurs.front(), saisie);
     const double gap = EcartRegulier(NombreMm(wanted.longueur, saisie), count, thick);
+    if (gap < 0) {
+        programme.messages.Inform(programme.Text({"Panel", "130"}),
+                                  programme.Text({"Panel", "40"}));
+        return;
+    }
     std::cout << programme.Text({"FrmNervure", "3"}) << ": "
               << LongueurDePanneau(gap, programme.settings.Unite) << '\n';
 }
@@ -173,11 +203,7 @@ bool Admis(const PanneauFait &made, const Arguments &arguments, const Messages &
 
 /// Asks about files that are there; the console says No unless all is answered with Yes.
 bool RemplaceSiVoulu(const std::vector<FileToWrite> &files, const Messages &messages) {
-    std::vector<std::string> paths;
-    for (const FileToWrite &file : files) {
-        paths.push_back(file.path);
-    }
-    const FichiersEcrits there = FichiersDejaLa(paths, {});
+    const FichiersEcrits there = FichiersDejaLa(PathsOf(files), {});
     return there.empty() ||
            messages.Confirm(TexteRemplacement(there, messages), messages.Text({"Panel", "40"}));
 }
@@ -251,6 +277,9 @@ int RunPanel(const Arguments &arguments) {
     ConsoleProgram program(arguments);
     Programme &programme = program.Owner();
     const FichierPanneau wanted = DemandeDe(arguments, programme);
+    if (!NombresLisibles(wanted, programme)) {
+        return kRefused;
+    }
     Panneau panel;
     panel.portees = wanted.portees;
     panel.jeu = JeuDe(wanted, arguments.Value("--output", "."));

@@ -185,6 +185,15 @@ void WriteWholeFile(const std::string &path, std::string_view bytes) {
     }
 }
 
+std::vector<std::string> PathsOf(const std::vector<FileToWrite> &files) {
+    std::vector<std::string> paths;
+    paths.reserve(files.size());
+    for (const FileToWrite &file : files) {
+        paths.push_back(file.path);
+    }
+    return paths;
+}
+
 void WriteWholeFiles(const std::vector<FileToWrite> &files) {
     std::vector<NewFile> written;
     written.reserve(files.size());

@@ -32,5 +32,6 @@ struct FileToWrite {
 /// Files that belong together: all are written beside their places before the first one is renamed,
 /// so that a refused one leaves everything as it was. Failure 75 names it.
 void WriteWholeFiles(const std::vector<FileToWrite> &files);
+std::vector<std::string> PathsOf(const std::vector<FileToWrite> &files);
 
 } // namespace loftwing

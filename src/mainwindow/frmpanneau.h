@@ -67,7 +67,7 @@ class frmpanneau : public Dialogue {
     /// Kept also for elements that the ends of the moment don't have.
     std::map<ElementPanneau, PorteeTapee> portees_;
     std::string dossier_;
-    FichiersEcrits ecrits_; ///< by this window, so that making them again asks nothing
+    FichiersEcritsIci ecrits_; ///< by this window, so that making them again asks nothing
     QLineEdit *fautif_ = nullptr;
     double longueur_ = 0; ///< of the panel in mm, 0 without one
     int inter_ = 0;       ///< intermediate ribs as typed

@@ -56,7 +56,11 @@ std::vector<std::string> frmpanneau::Etat() const {
 }
 
 bool frmpanneau::ConfirmePerte() {
-    return !Modifie() || programme_.messages.Confirm(programme_.Text({"Panel", "181"}), Titre());
+    return !Modifie() ||
+           programme_.messages.ConfirmLoss(programme_.Text({"Panel", "181"}), Titre(), [this] {
+               Garde(" frmpanneau/cmdenregistrer", [this] { cmdenregistrer_Click(); });
+               return !Modifie();
+           });
 }
 
 void frmpanneau::cmdannuler_Click() {

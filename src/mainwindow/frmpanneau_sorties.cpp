@@ -77,9 +77,7 @@ bool frmpanneau::ConfirmeRemplacement() const {
 void frmpanneau::EcritFichiers() {
     try {
         const Sablier sablier(programme_.platform);
-        for (const std::string &path : EcritPanneau(fait_)) {
-            ecrits_.insert(path);
-        }
+        ecrits_.Note(EcritPanneau(fait_));
     } catch (const Failure &failure) {
         programme_.platform.SetPointer(Pointer::normal);
         RapporteEcriture(programme_.messages, failure, kEtiquette);

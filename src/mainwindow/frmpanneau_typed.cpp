@@ -132,6 +132,7 @@ void frmpanneau::PrendPortees() {
 
 std::vector<std::string> frmpanneau::EnLignes(const std::vector<AvisPanneau> &all) const {
     std::vector<std::string> lines;
+    lines.reserve(all.size());
     for (const AvisPanneau &each : all) {
         lines.push_back(LigneEnMots(programme_.messages, panneau_, each));
     }

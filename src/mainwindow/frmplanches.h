@@ -54,7 +54,7 @@ class frmplanches : public Dialogue {
     std::optional<VoeuPlanches> fait_pour_;
     PanneauFait fait_;
     Imbrication planches_;
-    FichiersEcrits ecrits_;
+    FichiersEcritsIci ecrits_;
     PanneauEnCours panneau_en_cours_;
     ImbricationEnCours imbrication_;
 

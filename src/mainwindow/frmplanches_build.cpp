@@ -56,7 +56,10 @@ void frmplanches::LayOut() {
         choices->addWidget(&At(Label2, i), i / 2, i % 2 * kColumns);
         choices->addWidget(&field, i / 2, i % 2 * kColumns + 1);
         choices->addWidget(&At(Label3, i), i / 2, i % 2 * kColumns + 2);
-        choices->addWidget(&At(chk, i), i / 2, 2 * kColumns + i % 2);
+        if (i % 2 == 1) { // the row's boxes behind its fields
+            choices->addWidget(&At(chk, i - 1), i / 2, 2 * kColumns);
+            choices->addWidget(&At(chk, i), i / 2, 2 * kColumns + 1);
+        }
     }
     choices->setHorizontalSpacing(2 * fontMetrics().averageCharWidth());
     choices->setColumnStretch(2 * kColumns + 2, 1);

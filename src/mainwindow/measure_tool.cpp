@@ -1,6 +1,7 @@
 #include "mainwindow/measure_tool.h"
 
 #include "mainwindow/picture_reach.h"
+#include "output/view_screen.h"
 #include "platform/qt_plot_device.h"
 #include "programme/touch_steps.h"
 
@@ -30,22 +31,32 @@ MeasureTool::MeasureTool(const Programme &programme, PicView &picture, std::func
 void MeasureTool::Active(bool active) {
     active_ = active;
     from_.reset();
-    finished_ = false;
+    to_.reset();
     picture_.MontreTouche(nullptr);
     active ? picture_.setCursor(Qt::CrossCursor) : picture_.unsetCursor();
 }
 
 LieuTrace MeasureTool::Lieu(const QPointF &pixel) const {
     const LieuTrace place = PictureReach::Place(pixel);
-    return Accroche(*picture_.Dessin(), place, PictureReach::kReach).value_or(place);
+    const LieuTrace caught =
+        Accroche(*picture_.Dessin(), place, PictureReach::kReach).value_or(place);
+    const PlaceEcran origin = PlaceProfil(programme_.rib, programme_.compare);
+    const double mm = kUnitsPerMm * origin.zoom;
+    return {(caught.x - origin.x) / mm, (caught.y - origin.y) / mm};
+}
+
+LieuTrace MeasureTool::DansLeDessin(const LieuTrace &mm) const {
+    const PlaceEcran origin = PlaceProfil(programme_.rib, programme_.compare);
+    const double scale = kUnitsPerMm * origin.zoom;
+    return {origin.x + mm.x * scale, origin.y + mm.y * scale};
 }
 
 void MeasureTool::Clique(const LieuTrace &place) {
-    if (!from_ || finished_) {
+    if (!from_ || to_) {
         from_ = place;
-        finished_ = false;
+        to_.reset();
     } else {
-        finished_ = true;
+        to_ = place;
     }
     Montre(place);
 }
@@ -54,16 +65,16 @@ void MeasureTool::Clique(const LieuTrace &place) {
 void MeasureTool::Montre(const LieuTrace &to) const {
     auto lines = std::make_unique<Recording>(ScreenAdvance);
     lines->DrawWidth = 2;
-    Marque(*lines, to);
+    const LieuTrace end = DansLeDessin(to);
+    Marque(*lines, end);
     if (from_ && !(*from_ == to)) {
-        Marque(*lines, *from_);
-        lines->Line(from_->x, from_->y, to.x, to.y, PictureReach::kColour);
-        const double mm = std::hypot(to.x - from_->x, to.y - from_->y) /
-                          (kUnitsPerMm * Wide(programme_.rib.Zoom));
+        const LieuTrace start = DansLeDessin(*from_);
+        Marque(*lines, start);
+        lines->Line(start.x, start.y, end.x, end.y, PictureReach::kColour);
         lines->ForeColor = PictureReach::kColour;
-        lines->CurrentX = (from_->x + to.x) / 2 + kCroix;
-        lines->CurrentY = (from_->y + to.y) / 2 + kCroix;
-        lines->Print(DitDistance(mm));
+        lines->CurrentX = (start.x + end.x) / 2 + kCroix;
+        lines->CurrentY = (start.y + end.y) / 2 + kCroix;
+        lines->Print(DitDistance(std::hypot(to.x - from_->x, to.y - from_->y)));
     }
     picture_.MontreTouche(std::move(lines));
 }
@@ -85,8 +96,8 @@ bool MeasureTool::eventFilter(QObject *watched, QEvent *event) {
         Clique(Lieu(mouse->position()));
         return true;
     }
-    if (event->type() == QEvent::MouseMove && mouse->buttons() == Qt::NoButton && !finished_) {
-        Montre(Lieu(mouse->position()));
+    if (event->type() == QEvent::MouseMove && mouse->buttons() == Qt::NoButton) {
+        Montre(to_ ? *to_ : Lieu(mouse->position()));
     }
     return false;
 }

@@ -32,10 +32,12 @@ class MeasureTool : public QObject {
     PicView &picture_;
     std::function<void()> fin_;
     bool active_ = false;
+    // In mm from the drawing's origin, downwards, so that they stay where they are at another zoom.
     std::optional<LieuTrace> from_;
-    bool finished_ = false; ///< the second point is taken
+    std::optional<LieuTrace> to_; ///< once the second point is taken
 
     LieuTrace Lieu(const QPointF &pixel) const;
+    LieuTrace DansLeDessin(const LieuTrace &mm) const;
     void Clique(const LieuTrace &place);
     void Montre(const LieuTrace &to) const;
 };

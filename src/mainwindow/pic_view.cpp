@@ -19,6 +19,7 @@ PicView::PicView(QWidget *parent) : QWidget(parent) {
 
 void PicView::Montre(std::unique_ptr<Recording> drawing) {
     drawing_ = std::move(drawing);
+    ++number_;
     wood_.clear();
     overlay_.reset();
     trial_.reset();
@@ -38,14 +39,14 @@ void PicView::MontreEssai(std::unique_ptr<Recording> trial) {
     update();
 }
 
-/// The drawing, and a label in the upper left corner.
+/// The drawing, and a label in the lower left corner, where drawings reach last.
 void PicView::PeintEssai(QPainter &painter) const {
     Replay(*trial_, painter, ScreenSurface());
     const QFontMetrics metrics(font());
     const int gap = metrics.averageCharWidth();
     const QRect label = metrics.boundingRect(trial_words_).adjusted(-gap, -gap / 2, gap, gap / 2);
     painter.setFont(font());
-    painter.translate(gap - label.left(), gap - label.top());
+    painter.translate(gap - label.left(), height() - gap - label.bottom());
     painter.fillRect(label, QColor(255, 236, 150));
     painter.setPen(Qt::black);
     painter.drawText(label, Qt::AlignCenter, trial_words_);
@@ -69,8 +70,7 @@ void PicView::paintEvent(QPaintEvent *) {
     } else {
         PeintDessin(painter);
     }
-    if (touched_) {
-        painter.resetTransform();
+    if (touched_ && !trial_) { // what it marks is where the drawing has it
         Replay(*touched_, painter, ScreenSurface());
     }
 }

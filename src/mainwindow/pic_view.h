@@ -24,6 +24,8 @@ class PicView : public QWidget {
     /// Takes a new drawing, null for an empty picture.
     void Montre(std::unique_ptr<Recording> drawing);
     const Recording *Dessin() const { return drawing_.get(); }
+    /// Another number for each drawing.
+    unsigned NumeroDuDessin() const { return number_; }
     /// Pieces of wood that lie under the drawing, in logical pixels; a new drawing starts without.
     void MontreDessous(std::vector<QPainterPath> wood);
     const std::vector<QPainterPath> &Dessous() const { return wood_; }
@@ -63,6 +65,7 @@ class PicView : public QWidget {
     void PeintEssai(QPainter &painter) const;
 
     std::unique_ptr<Recording> drawing_;
+    unsigned number_ = 0;
     std::vector<QPainterPath> wood_;
     std::unique_ptr<Recording> overlay_;
     std::unique_ptr<Recording> trial_;

@@ -81,7 +81,7 @@ void RibTouch::Prend(const QMouseEvent &mouse) {
     survole_ = choisi_;
     Souligne();
     if (const auto place = LieuDuSujet(programme_.rib, choisi_)) {
-        tire_ = {choisi_, mouse.position(), *place, false};
+        tire_ = {choisi_, mouse.position(), *place, picture_.NumeroDuDessin(), false};
     }
 }
 
@@ -95,6 +95,10 @@ LieuRib RibTouch::LieuVoulu(const QPointF &place) const {
 }
 
 void RibTouch::Bouge(const QMouseEvent &mouse) {
+    if (!Tient()) {
+        Renonce();
+        return;
+    }
     const double far = (mouse.position() - tire_->from).manhattanLength();
     if (!tire_->moving && far < QApplication::startDragDistance()) {
         return;
@@ -118,7 +122,7 @@ void RibTouch::Lache(const QMouseEvent &mouse) {
     const Tire pulled = *tire_;
     const LieuRib place = LieuVoulu(mouse.position());
     Renonce();
-    if (pulled.moving) {
+    if (pulled.moving && pulled.dessin == picture_.NumeroDuDessin()) {
         demandes_.depose(pulled.sujet, place, PasDe(mouse));
         survole_ = {};
         Souligne();

@@ -39,8 +39,9 @@ class RibTouch : public QObject {
     /// A part that is being dragged.
     struct Tire {
         SujetTrace sujet;
-        QPointF from;  ///< where the button went down
-        LieuRib start; ///< where the part stood then
+        QPointF from;        ///< where the button went down
+        LieuRib start;       ///< where the part stood then
+        unsigned dessin = 0; ///< the drawing that it was taken from
         bool moving = false;
     };
 
@@ -53,6 +54,8 @@ class RibTouch : public QObject {
     std::optional<Tire> tire_;
 
     SujetTrace Sous(const QPointF &place) const;
+    /// Whether what is dragged is still what was taken: an undo by the keys may have changed it.
+    bool Tient() const { return tire_ && tire_->dessin == picture_.NumeroDuDessin(); }
     bool EncoreLa(const SujetTrace &sujet) const;
     void Souligne();
     void Survole(const QMouseEvent &mouse);

@@ -49,7 +49,7 @@ void RetourneAnneau(Anneau &ring) {
 /// The label, and the piece as the view has it.
 void Acheve(const Etabli &etabli, const DemandePiece &demande, const Surface &wood, Piece &piece) {
     if (demande.etiquette) {
-        PlaceEtiquette(etabli, TexteEtiquette(etabli, demande, piece.genre), wood, piece);
+        PlaceEtiquette(etabli, demande, wood, piece);
     }
     if (etabli.rib.AffHaut) {
         Retourne(piece);

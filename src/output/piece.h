@@ -91,7 +91,8 @@ struct DemandePiece {
     bool axes = true;
     bool etiquette = true;
     bool talon = true;
-    std::string texte; ///< the label; empty: that of EtiquetteDuRib
+    std::string texte;            ///< the label; empty: that of EtiquetteDuRib
+    std::string texte_court = {}; ///< stands in for a label that no wood is left for; may be empty
     /// What the label of a foam template ends with, so that nobody takes one for the other.
     std::string nom_extrados, nom_intrados;
 

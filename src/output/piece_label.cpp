@@ -144,6 +144,34 @@ std::optional<PointMm> PlaceDonnee(const TexteInsere &texte) {
     return PointMm{Wide(texte.InsTextX), Wide(texte.InsTextY) + kTexteAuDessus - kAscent * size};
 }
 
+/// Writes words where the user has put the inserted text, or where there is room; false where there
+/// is none.
+bool EcritMots(const Etabli &etabli, const std::string &words, const Surface &bois, Piece &piece) {
+    const std::size_t letters = CharacterCount(words);
+    const TexteInsere &texte = etabli.rib.texte;
+    const double wanted = Wide(texte.TailleFont) * kMmParPoint * kCapitales;
+    if (letters == 0 || !(wanted > 0)) {
+        return false;
+    }
+    const auto write = [&](const PointMm &place, double height) {
+        piece.textes.push_back({GenreMarque::etiquette, place, height, words});
+        return true;
+    };
+    const auto given = PlaceDonnee(texte);
+    if (given && BoiteDans(bois, Gabarit(wanted, letters).Boite(*given))) {
+        return write(*given, wanted);
+    }
+    const Colonnes columns(bois);
+    const double last = std::min(wanted, kMoins);
+    for (double height = wanted; height >= last;
+         height = height > last ? std::max(height * kPlusPetit, last) : 0) {
+        if (const auto place = columns.Place(Gabarit(height, letters))) {
+            return write(*place, height);
+        }
+    }
+    return false;
+}
+
 } // namespace
 
 std::string EtiquetteDuRib(const RibModel &rib, const std::string &Unite) {
@@ -169,30 +197,10 @@ double LargeurReservee(const TexteMarque &texte) {
     return Gabarit(texte.hauteur, CharacterCount(texte.texte)).largeur;
 }
 
-void PlaceEtiquette(const Etabli &etabli, const std::string &words, const Surface &bois,
+void PlaceEtiquette(const Etabli &etabli, const DemandePiece &demande, const Surface &bois,
                     Piece &piece) {
-    const std::size_t letters = CharacterCount(words);
-    const TexteInsere &texte = etabli.rib.texte;
-    const double wanted = Wide(texte.TailleFont) * kMmParPoint * kCapitales;
-    if (letters == 0 || !(wanted > 0)) {
-        return;
-    }
-    const auto write = [&](const PointMm &place, double height) {
-        piece.textes.push_back({GenreMarque::etiquette, place, height, words});
-    };
-    const auto given = PlaceDonnee(texte);
-    if (given && BoiteDans(bois, Gabarit(wanted, letters).Boite(*given))) {
-        write(*given, wanted);
-        return;
-    }
-    const Colonnes columns(bois);
-    const double last = std::min(wanted, kMoins);
-    for (double height = wanted; height >= last;
-         height = height > last ? std::max(height * kPlusPetit, last) : 0) {
-        if (const auto place = columns.Place(Gabarit(height, letters))) {
-            write(*place, height);
-            return;
-        }
+    if (!EcritMots(etabli, TexteEtiquette(etabli, demande, piece.genre), bois, piece)) {
+        EcritMots(etabli, demande.texte_court, bois, piece);
     }
 }
 

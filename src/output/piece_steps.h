@@ -86,8 +86,9 @@ void TraceMarques(const Etabli &etabli, const DemandePiece &demande, const Boite
 std::vector<double> PlacesStations(const RibModel &rib);
 /// The label of a rib's piece, or of one of its templates.
 std::string TexteEtiquette(const Etabli &etabli, const DemandePiece &demande, GenrePiece genre);
-/// `words` where the user has put the inserted text, or where there is room.
-void PlaceEtiquette(const Etabli &etabli, const std::string &words, const Surface &bois,
+/// The label where the user has put the inserted text, or where there is room; the short one where
+/// there is room for that only.
+void PlaceEtiquette(const Etabli &etabli, const DemandePiece &demande, const Surface &bois,
                     Piece &piece);
 /// Whether words lie in the wood, `place` being the left end of the line that they stand on.
 bool MotsDansBois(const Surface &bois, const PointMm &place, double hauteur,

@@ -52,6 +52,7 @@ class Lecture {
     Saisie saisie_;
 
     std::optional<FormatPlanche> Format(const std::string &word) const;
+    std::string Exemple() const;
     std::string Formats(std::vector<FormatPlanche> &formats) const;
     std::string Longueur(const std::string &text, double most, double &mm) const;
     std::string Copies(VoeuPlanches &voeu) const;
@@ -65,6 +66,17 @@ std::optional<FormatPlanche> Lecture::Format(const std::string &word) const {
     return EstFormat(format) ? std::optional(format) : std::nullopt;
 }
 
+/// How sizes are written, by a board of the trade in the unit in force.
+std::string Lecture::Exemple() const {
+    constexpr std::string_view kMetrique = "100x1000";
+    std::string words = messages_.Text({"Panel", "178"});
+    const std::size_t at = words.find(kMetrique);
+    if (saisie_.Unite == kUniteIn && at != std::string::npos) {
+        words.replace(at, kMetrique.size(), "4x36");
+    }
+    return words;
+}
+
 std::string Lecture::Formats(std::vector<FormatPlanche> &formats) const {
     for (const std::string &word : FormatsDe(typed_.formats)) {
         const auto format = Format(word);
@@ -74,9 +86,9 @@ std::string Lecture::Formats(std::vector<FormatPlanche> &formats) const {
         }
         formats.push_back(*format);
     }
-    return !formats.empty() ? ""
-                            : messages_.Text({"Panel", "178"}) + " " +
-                                  DepuisMm(kPlancheMaxi, saisie_.Unite) + saisie_.Unite + ".";
+    return formats.empty()
+               ? Exemple() + " " + DepuisMm(kPlancheMaxi, saisie_.Unite) + saisie_.Unite + "."
+               : "";
 }
 
 /// An empty text is 0.

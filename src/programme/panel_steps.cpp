@@ -124,8 +124,10 @@ void OuvragePanneau::Travail::Regarde(int numero, NervureFaite &nervure) {
     }
     DemandePiece demande = AvecNoms(messages_, demande_.piece);
     demande.texte = EtiquetteNumerotee(rib_, Numero(numero), saisie_.Unite);
+    demande.texte_court = std::to_string(Numero(numero));
     if (demande_.deux_ailes) {
         demande.texte += kAileGauche;
+        demande.texte_court += kAileGauche;
     }
     auto made = FaitPieces(rib_, demande, saisie_);
     if (const auto *refusal = std::get_if<RefusPiece>(&made)) {
@@ -320,11 +322,12 @@ std::vector<std::string> EcritPanneau(const PanneauFait &fait) {
     return FichiersDuPanneau(fait);
 }
 
-FichiersEcrits FichiersDejaLa(const std::vector<std::string> &paths, const FichiersEcrits &ecrits) {
+FichiersEcrits FichiersDejaLa(const std::vector<std::string> &paths,
+                              const FichiersEcritsIci &ecrits) {
     FichiersEcrits there;
     for (const std::string &path : paths) {
         std::error_code unknown;
-        if (!ecrits.contains(path) && std::filesystem::exists(path, unknown)) {
+        if (!ecrits.Intact(path) && std::filesystem::exists(path, unknown)) {
             there.insert(path);
         }
     }

@@ -5,6 +5,7 @@
 #include "base/whole_file.h"
 #include "output/nesting.h"
 #include "output/piece.h"
+#include "programme/fichiers_ecrits_ici.h"
 #include "programme/programme.h"
 #include "utilities/panneau.h"
 #include "utilities/rib_set_files.h"
@@ -106,7 +107,8 @@ std::vector<std::string> FichiersDuPanneau(const PanneauFait &fait);
 /// WriteWholeFiles.
 std::vector<std::string> EcritPanneau(const PanneauFait &fait);
 /// Those of some paths at which something is, but for the user's own of just before.
-FichiersEcrits FichiersDejaLa(const std::vector<std::string> &paths, const FichiersEcrits &ecrits);
+FichiersEcrits FichiersDejaLa(const std::vector<std::string> &paths,
+                              const FichiersEcritsIci &ecrits);
 
 /// So many copies of all ribs' pieces, for sheets. With `opposees` every second one is that of the
 /// other wing, and where both wings are cut its label says so.

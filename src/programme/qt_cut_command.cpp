@@ -57,7 +57,7 @@ std::string EnregistreDecoupe(const Programme &programme, const std::vector<Piec
 
 std::vector<std::string> EnregistrePlanches(const Programme &programme, const Imbrication &planches,
                                             FileQuestion question, SaisiePlanches &choix,
-                                            FichiersEcrits &ecrits) {
+                                            FichiersEcritsIci &ecrits) {
     const FormAnswer answer = DemandeFichier(programme, std::move(question), choix.forme);
     if (answer.path.empty()) {
         return {};
@@ -66,12 +66,9 @@ std::vector<std::string> EnregistrePlanches(const Programme &programme, const Im
     const std::vector<FileToWrite> files =
         EcritPlanches(programme, form, planches,
                       choix.polylignes ? AnneauxDxf::polylignes : AnneauxDxf::lignes, answer.path);
-    std::vector<std::string> paths;
-    for (const FileToWrite &file : files) {
-        paths.push_back(file.path);
-    }
-    FichiersEcrits asked = ecrits;
-    asked.insert(answer.path); // by the box of the name
+    const std::vector<std::string> paths = PathsOf(files);
+    FichiersEcritsIci asked = ecrits;
+    asked.Note({answer.path}); // by the box of the name
     const FichiersEcrits there = FichiersDejaLa(paths, asked);
     if (!there.empty() && !programme.messages.Confirm(TexteRemplacement(there, programme.messages),
                                                       programme.Text({"Panel", "155"}))) {
@@ -79,7 +76,7 @@ std::vector<std::string> EnregistrePlanches(const Programme &programme, const Im
     }
     const Sablier sablier(programme.platform);
     WriteWholeFiles(files);
-    ecrits.insert(paths.begin(), paths.end());
+    ecrits.Note(paths);
     choix.forme = form.extension;
     RetientPlanches(programme, choix);
     return paths;

@@ -18,6 +18,6 @@ std::string EnregistreDecoupe(const Programme &programme, const std::vector<Piec
 /// user gave up. Failure 75 where a file can't be written.
 std::vector<std::string> EnregistrePlanches(const Programme &programme, const Imbrication &planches,
                                             FileQuestion question, SaisiePlanches &choix,
-                                            FichiersEcrits &ecrits);
+                                            FichiersEcritsIci &ecrits);
 
 } // namespace loftwing

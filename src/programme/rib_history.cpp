@@ -30,6 +30,7 @@ EtatRib EtatDe(const RibModel &rib, const Comparaison &compare, const std::strin
     now.compare = Partage(compare, before.compare);
     now.vue = VueDe(rib, compare);
     now.AffHaut = rib.AffHaut;
+    now.coches = rib.Partie<Vue>();
     now.Unite = Unite;
     return now;
 }
@@ -60,6 +61,14 @@ VueMontree VueDe(const RibModel &rib, const Comparaison &compare) {
         return VueMontree::couple;
     }
     return rib.ModeEpCourb ? VueMontree::epcourb : VueMontree::rib;
+}
+
+void PoseCoches(const EtatRib &etat, RibModel &rib) {
+    rib.AffTrac = etat.coches.AffTrac;
+    rib.AffLignRef = etat.coches.AffLignRef;
+    rib.AffEpr = etat.coches.AffEpr;
+    rib.AffHautBA = etat.coches.AffHautBA;
+    rib.AffHautBF = etat.coches.AffHautBF;
 }
 
 void Pose(const EtatRib &etat, RibModel &rib, Comparaison &compare) {

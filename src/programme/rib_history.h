@@ -40,10 +40,14 @@ struct EtatRib {
     std::shared_ptr<const Comparaison> compare;
     VueMontree vue = VueMontree::vide;
     bool AffHaut = false;
+    Vue coches;        ///< of which the checks of the view menu count
     std::string Unite; ///< in which its texts are
 };
 
-/// Puts what was there into the rib and the comparison. Zoom and scroll stay.
+/// What else of the view menu was checked: a clear takes that off too.
+void PoseCoches(const EtatRib &etat, RibModel &rib);
+
+/// Puts what was there into the rib and the comparison. Zoom, scroll and other checks stay.
 void Pose(const EtatRib &etat, RibModel &rib, Comparaison &compare);
 
 /// All states of one run of the program, at most kPas steps back. A step is what the user sees: a

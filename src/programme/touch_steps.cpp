@@ -133,12 +133,25 @@ std::string DitLongeron(const RibModel &rib, const Longeron &spar, const Saisie 
            saisie.Unite;
 }
 
+/// "3 mm above the reference line"; nothing on the line.
+std::string DitHauteur(const std::string &afich, float mm, const Saisie &saisie) {
+    return mm == 0.0F ? ""
+                      : ", " + afich + saisie.Unite + " " + saisie.messages.Text({"Undo", "45"});
+}
+
+std::string DitTexte(const RibModel &rib, const Saisie &saisie) {
+    const TexteInsere &text = rib.texte;
+    return DitPlace(text.InsTextXAfich, text.InsTextX, 0, rib, saisie) +
+           DitHauteur(text.InsTextYAfich, text.InsTextY, saisie);
+}
+
 std::string DitTrou(const RibModel &rib, const Trou &hole, const Saisie &saisie) {
     const std::string size = hole.TypeTrou == kTrouRectangle
                                  ? hole.DiaTrouAfich + " x " + hole.HautTrouAfich
                                  : "Ø " + hole.DiaTrouAfich;
+    const bool centred = hole.ChkCentre == 1.0F && hole.DecalTrou == 0.0F;
     return DitPlace(hole.PosTrouAfich, hole.PosTrou, hole.RefTrou, rib, saisie) + ", " + size +
-           saisie.Unite;
+           saisie.Unite + (centred ? "" : DitHauteur(hole.DecalTrouAfich, hole.DecalTrou, saisie));
 }
 
 std::string Mesures(const RibModel &rib, const SujetTrace &sujet, const Saisie &saisie) {
@@ -159,7 +172,7 @@ std::string Mesures(const RibModel &rib, const SujetTrace &sujet, const Saisie &
     case GenreSujet::gabarit:
         return rib.bloc.HTbasblocAfich + saisie.Unite;
     case GenreSujet::texte:
-        return rib.texte.InsTexte;
+        return DitTexte(rib, saisie);
     case GenreSujet::aucun:
         break;
     }

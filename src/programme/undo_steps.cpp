@@ -14,20 +14,6 @@ namespace loftwing {
 
 namespace {
 
-/// Keeps the redraws of a state that is put back from being steps.
-class Gel {
-  public:
-    explicit Gel(Programme &programme) : programme_(programme) { programme.histoire.Gele(); }
-    Gel(const Gel &) = delete;
-    Gel &operator=(const Gel &) = delete;
-    ~Gel() {
-        programme_.histoire.Degele(programme_.rib, programme_.compare, programme_.settings.Unite);
-    }
-
-  private:
-    Programme &programme_;
-};
-
 /// Another airfoil or another view: commands and caption are what they were then.
 void MontreAutre(Programme &programme, CommandView &view, VueMontree vue) {
     switch (vue) {
@@ -59,8 +45,7 @@ void MontreAutre(Programme &programme, CommandView &view, VueMontree vue) {
     }
 }
 
-void Revient(Programme &programme, CommandView &view, const EtatRib &from, const EtatRib &to) {
-    const Gel frozen(programme);
+void Remet(Programme &programme, CommandView &view, const EtatRib &from, const EtatRib &to) {
     const bool other = from.vue != to.vue || from.identite != to.identite ||
                        from.points != to.points || from.Unite != to.Unite;
     PrendUnite(programme, view, to.Unite);
@@ -68,6 +53,9 @@ void Revient(Programme &programme, CommandView &view, const EtatRib &from, const
         view.ViewReset();
     }
     Pose(to, programme.rib, programme.compare);
+    if (from.vue == VueMontree::vide || to.vue == VueMontree::vide) {
+        PoseCoches(to, programme.rib);
+    }
     programme.voisin = {};
     view.MontreCoches();
     if (other) {
@@ -79,6 +67,21 @@ void Revient(Programme &programme, CommandView &view, const EtatRib &from, const
     }
     view.RetraceVues();
     view.affiche();
+}
+
+/// The redraws of a state that is put back are no steps.
+void Revient(Programme &programme, CommandView &view, const EtatRib &from, const EtatRib &to) {
+    const auto thaw = [&programme] {
+        programme.histoire.Degele(programme.rib, programme.compare, programme.settings.Unite);
+    };
+    programme.histoire.Gele();
+    try {
+        Remet(programme, view, from, to);
+    } catch (const Failure &) {
+        thaw();
+        throw;
+    }
+    thaw();
 }
 
 } // namespace

@@ -73,8 +73,9 @@ std::string AjoutChange(const Ajouts &a, const Ajouts &b, const Messages &messag
 std::string NomDuPas(const EtatRib &before, const EtatRib &after, const Messages &messages) {
     if (after.vue != before.vue) {
         switch (after.vue) {
-        case VueMontree::vide:
-            return messages.Text({"Undo", "3"});
+        case VueMontree::vide: // which another unit asks for
+            return after.Unite != before.Unite ? messages.Text({"Undo", "19"})
+                                               : messages.Text({"Undo", "3"});
         case VueMontree::compare:
             return messages.Text({"Undo", "4"});
         case VueMontree::epcourb:

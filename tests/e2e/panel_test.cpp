@@ -111,6 +111,33 @@ TEST_F(PanelVerb, FilesThatExistAreAskedAbout) {
     EXPECT_THAT(ReadWholeFile(out + "/naca0012&naca0012R02.lfw"), StartsWith("LFW V3.0"));
 }
 
+TEST_F(PanelVerb, ADamagedNumberOfAPanelFileIsTold) {
+    const std::string file = folder.Path("wing.lfp");
+    ASSERT_EQ(Panel({"--count", "2", "--length", "500", "--thickness", "2", "-o", folder.Path("a"),
+                     "--save", file})
+                  .status,
+              0);
+    const std::string good = ReadWholeFile(file);
+    const auto with = [&](const std::string &line, const std::string &other) {
+        std::string text = good;
+        text.replace(text.find(line), line.size(), other);
+        WriteWholeFile(file, text);
+        return RunLoftwing({"panel", file, "--dry-run"});
+    };
+    for (const auto &[line, other] :
+         {std::pair("Count=2", "Count=xyz"), std::pair("Length=500", "Length=abc"),
+          std::pair("Thickness=2", "Thickness=zz")}) {
+        const Ran ran = with(line, other);
+        EXPECT_EQ(ran.status, 1) << other;
+        EXPECT_THAT(ran.err,
+                    HasSubstr(std::string(other).substr(std::string(other).find('=') + 1)));
+        EXPECT_EQ(ran.out, "");
+    }
+    const Ran thick = with("Length=500", "Length=5");
+    EXPECT_THAT(thick.err, HasSubstr("thicker than the panel is long"));
+    EXPECT_THAT(thick.out, Not(HasSubstr("Rib spacing")));
+}
+
 TEST_F(PanelVerb, ARefusalNamesRibAndElement) {
     root.spars[0][0] = "0";
     Ran ran = Panel({"--count", "2", "--dry-run"});

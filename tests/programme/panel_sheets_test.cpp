@@ -17,7 +17,7 @@ using testing::IsEmpty;
 
 class PanelSheets : public testing::Test {
   protected:
-    Words words{"[Panel]\r\n178=sizes\r\n179=length\r\n180=number\r\n"};
+    Words words{"[Panel]\r\n178=sizes 100x1000 to\r\n179=length\r\n180=number\r\n"};
     std::string Unite{kUniteMm};
     SaisiePlanches typed{"100x1000", "2", "3", "1", "0"};
 
@@ -59,8 +59,10 @@ TEST_F(PanelSheets, SizesAreTakenAsPeopleWriteThem) {
     EXPECT_THAT(Sizes("100\u00D71000"), ElementsAre(large));
     for (const char *text : {"", "x", "100", "100x", "x100", "100x100x2", "0x5", "1x5001", "ax5"}) {
         typed.formats = text;
-        EXPECT_EQ(Refused(), "sizes 5000 mm.") << text;
+        EXPECT_EQ(Refused(), "sizes 100x1000 to 5000 mm.") << text;
     }
+    Unite = kUniteIn; // where that would be refused itself
+    EXPECT_EQ(Refused(), "sizes 4x36 to 196.85 in.");
 }
 
 TEST_F(PanelSheets, BothWingsDoubleTheCopies) {

@@ -315,6 +315,20 @@ TEST_F(PanelSteps, EveryPieceHasItsNumber) {
     EXPECT_EQ(made.nervures[1].pieces[0].textes[0].texte, "naca2412&naca0012R02  210.00 mm  8");
 }
 
+TEST_F(PanelSteps, APieceWithoutRoomForItsLabelHasItsNumber) {
+    demand.deux_ailes = true;
+    for (PartiesRib &end : panel.bouts) {
+        end.texte.InsTexte = std::string(200, 'm'); // more than any rib is long
+        end.texte.TexteUtilisateur = true;
+    }
+    const auto pieces = PiecesDuPanneau(Made(), 2, true);
+    ASSERT_EQ(pieces.size(), 10U);
+    const auto label = [&](std::size_t i) { return pieces[i].piece.textes.back().texte; };
+    EXPECT_EQ(label(0), "1 L");
+    EXPECT_EQ(label(4), "5 L");
+    EXPECT_EQ(label(9), "5 R");
+}
+
 TEST_F(PanelSteps, LabelsOfBothWingsSayWhich) {
     demand.deux_ailes = true;
     for (PartiesRib &end : panel.bouts) {

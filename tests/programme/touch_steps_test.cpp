@@ -48,6 +48,11 @@ TEST_F(TouchSteps, NamesAPartWithItsMeasuresAsTyped) {
     const auto said = [this](const SujetTrace &sujet) { return DitSujet(Rib(), sujet, Typing()); };
     EXPECT_EQ(said(kSpar), "spar 1: 60 mm from the leading edge, 6 x 3 mm");
     EXPECT_EQ(said(kHole), "hole 1: 33% (66 mm) from the leading edge, Ø 8 mm");
+    PlaceSujet(Rib(), kHole, {66, 2}, PasDeTire::entier, Typing());
+    EXPECT_EQ(said(kHole), "hole 1: 33% (66 mm) from the leading edge, Ø 8 mm, 2 mm above the "
+                           "reference line");
+    PlaceSujet(Rib(), kText, {50, 3}, PasDeTire::entier, Typing());
+    EXPECT_EQ(said(kText), "text: 50 mm from the leading edge, 3 mm above the reference line");
     Rib().longeron[0].TypeLong = 2;
     Rib().longeron[0].RefLong = 1;
     EXPECT_EQ(said(kSpar), "spar 1: 60 mm from the trailing edge, Ø 6 mm");

@@ -88,6 +88,24 @@ TEST_F(UndoSteps, AClearIsAStepAlsoAfterAFailure) {
     EXPECT_EQ(Rib().NomProfil, "naca2412");
 }
 
+TEST_F(UndoSteps, AClearThatIsUndoneBringsTheChecksOfTheViewMenuBack) {
+    Open("naca2412.dat");
+    Rib().AffEpr = true;
+    Rib().AffTrac = false;
+    NoteEtat(programme);
+    view.affclear();
+    NoteEtat(programme);
+    EXPECT_FALSE(Rib().AffEpr);
+    Undo();
+    EXPECT_TRUE(Rib().AffEpr);
+    EXPECT_FALSE(Rib().AffTrac);
+    Rib().NbRep = 4;
+    NoteEtat(programme);
+    Rib().AffEpr = false; // no step of its own, and no part of one
+    Undo();
+    EXPECT_FALSE(Rib().AffEpr);
+}
+
 TEST_F(UndoSteps, AnotherAirfoilIsOneStepAndItsRedrawsAreNone) {
     Open("naca2412.dat");
     Open("naca0012.dat");

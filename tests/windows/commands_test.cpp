@@ -115,7 +115,8 @@ TEST(CommandTables, EveryOtherCheckedEntryShowsSomethingOfTheRib) {
         }
     }
     // Of the page, what is made of the rib, and how the window works.
-    std::set<std::string> shown = {"mnu_afffeuilles", "mnu_affpiece", "mnu_affessai"};
+    std::set<std::string> shown = {"mnu_afffeuilles", "mnu_affpiece", "mnu_affessai",
+                                   "mnu_affmesure"};
     for (const CocheVue &coche : kCochesVue) {
         shown.insert(coche.name);
     }

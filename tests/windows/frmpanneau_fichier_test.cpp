@@ -126,6 +126,23 @@ TEST_F(PanelFileWindow, ChangesAreAskedAboutBeforeAnotherIsOpened) {
     });
 }
 
+TEST_F(PanelFileWindow, ChangesCanBeSavedBeforeTheWindowCloses) {
+    const std::string path = File();
+    Use([&](Seen &dialog) {
+        Open(dialog, path);
+        dialog.Type({"txt", 0}, "5");
+        world.platform.Expect(BoxAnswer::save, {.text = HasSubstr("no panel file has")});
+        world.platform.files_expected.emplace_back(); // cancelled
+        dialog.Key(Qt::Key_Escape);
+        EXPECT_TRUE(dialog.IsOpen());
+        world.platform.Expect(BoxAnswer::save, {.text = HasSubstr("no panel file has")});
+        world.platform.files_expected.push_back(path);
+        dialog.Key(Qt::Key_Escape);
+        EXPECT_FALSE(dialog.IsOpen());
+    });
+    EXPECT_THAT(ReadWholeFile(path), HasSubstr("Count=5"));
+}
+
 TEST_F(PanelFileWindow, ComesAmongTheRecentFilesAndOpensFromThereByADropAndAsAnArgument) {
     const std::string path = File();
     int seen = 0;
@@ -185,8 +202,8 @@ TEST_F(PanelFileWindow, WhatNoFileHasCannotBeSaved) {
         dialog.Click({"cmdfenetre", 0});
         Take(dialog, 1, Written(tip, "tip.lfw"));
         TypeCount(dialog, 1);
-        world.platform.Expect(
-            BoxAnswer::ok, {.text = HasSubstr("Root rib: this rib isn't in a file as it is")});
+        world.platform.Expect(BoxAnswer::ok,
+                              {.text = HasSubstr("Root rib: this rib isn't in a file as it is")});
         dialog.Click("cmdenregistrer");
         Take(dialog, 0, world.folder.Path("ribs/mine.lfw"));
         dialog.Type({"txt", 2}, "0");

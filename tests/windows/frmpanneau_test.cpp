@@ -8,6 +8,9 @@
 
 #include <QImage>
 
+#include <chrono>
+#include <filesystem>
+
 namespace loftwing {
 namespace {
 
@@ -238,6 +241,19 @@ TEST_F(PanelWindow, WritesTheFilesOfThePanel) {
         EXPECT_TRUE(Eventually([&] { return !dialog.Shown("lblenregistre"); }));
     });
     EXPECT_THAT(world.platform.boxes, IsEmpty());
+    Use([&](Seen &dialog) {
+        TakeBoth(dialog);
+        TypeCount(dialog, 3);
+        world.platform.Expect(BoxAnswer::yes); // of an earlier window
+        Make(dialog);
+        // What somebody else has written since is that one's.
+        const std::string changed = Out() + "/" + made.nervures[1].composants;
+        std::filesystem::last_write_time(changed, std::filesystem::file_time_type::min() +
+                                                      std::chrono::hours(1));
+        world.platform.Expect(BoxAnswer::yes,
+                              {.text = testing::HasSubstr(made.nervures[1].composants)});
+        Make(dialog);
+    });
     for (const NervureFaite &rib : made.nervures) {
         EXPECT_EQ(world.folder.Bytes("out/" + rib.profil), rib.octets_profil);
         EXPECT_EQ(world.folder.Bytes("out/" + rib.composants), rib.octets_composants);
@@ -343,7 +359,7 @@ TEST_F(PanelWindow, CancelWritesNothing) {
         const BoxLook asks{.text =
                                "The panel has changes that no panel file has. Go on all the same ?",
                            .title = "Wing panel",
-                           .buttons = BoxButtons::yes_no};
+                           .buttons = BoxButtons::save_yes_no};
         world.platform.Expect(BoxAnswer::no, asks);
         dialog.Key(Qt::Key_Escape);
         EXPECT_TRUE(dialog.IsOpen());

@@ -105,7 +105,7 @@ TEST_F(RibPreviewTest, EveryOtherDialogOfTheRibShowsWhatItHolds) {
         {"mnu_profilTalon", {{"txt(0)", "12"}}, "cmdannuler"},
         {"mnu_profilbaC", {{"infotxt(0)", "6"}}, "cmdannuler"},
         {"mnu_parambloc", {{"txt(0)", "40"}}, "cmdannuler"},
-        {"mnu_affInstxt", {{"infotxt(0)", "mine"}}, "cmdannuler"},
+        {"mnu_affInstxt", {{"infotxt(0)", "mine"}, {"infotxt(1)", "50"}}, "cmdannuler"},
     };
     for (const Row &row : rows) {
         world.Run(row.command, {[&](Seen &dialog) {
@@ -127,7 +127,9 @@ TEST_F(RibPreviewTest, IsMarkedInThePicture) {
                   dialog.Type("infotxt", "250");
                   ASSERT_TRUE(Shown());
                   const QImage preview = world.Find<PicView>("Pic")->grab().toImage();
-                  EXPECT_NE(preview.pixelColor(12, 12), before.pixelColor(12, 12));
+                  const int y = preview.height() - 12; // beside the words of the mark
+                  EXPECT_NE(preview.pixelColor(10, y), before.pixelColor(10, y));
+                  EXPECT_EQ(preview.pixelColor(10, 12), before.pixelColor(10, 12));
                   dialog.Click("cmdannuler");
               }});
 }

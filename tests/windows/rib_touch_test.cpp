@@ -1,8 +1,8 @@
 // The mouse on the main window's drawing.
 
 #include "output/screen_plot.h"
-#include "output/scrolling.h"
 #include "output/view_screen.h"
+#include "platform/qt_plot_device.h"
 #include "support/qt_window_world.h"
 
 #include <gmock/gmock.h>
@@ -110,6 +110,25 @@ TEST_F(RibTouchTest, EscapeCallsADragOff) {
     EXPECT_EQ(Rib().trou[0].PosTrouAfich, "60");
 }
 
+TEST_F(RibTouchTest, AnUndoCallsADragOff) {
+    const QPoint from = Hole();
+    const QPoint to = from + QPoint(60, 0);
+    const auto move = [this](const QPoint &place) {
+        QMouseEvent event(QEvent::MouseMove, place, Pic().mapToGlobal(place), Qt::NoButton,
+                          Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&Pic(), &event);
+    };
+    QTest::mousePress(&Pic(), Qt::LeftButton, {}, from);
+    move(to);
+    world.Action("mnu_editannule")->trigger(); // of hole and spar, which are one step here
+    EXPECT_EQ(Rib().trou[0].DiaTrouAfich, "0");
+    move(to + QPoint(10, 0));
+    QTest::mouseRelease(&Pic(), Qt::LeftButton, {}, to);
+    EXPECT_EQ(Pic().Essai(), nullptr);
+    EXPECT_EQ(Rib().trou[0].PosTrouAfich, "0");
+    EXPECT_TRUE(world.Action("mnu_editretablit")->isEnabled());
+}
+
 TEST_F(RibTouchTest, AClickMovesNothing) {
     QTest::mouseClick(&Pic(), Qt::LeftButton, {}, Hole());
     EXPECT_EQ(Rib().trou[0].PosTrouAfich, "60");
@@ -135,13 +154,13 @@ TEST_F(RibTouchTest, UpsideDownAHoleFollowsThePointer) {
     const double scale = kUnitsPerMm * origin.zoom / kUnitsPerPixel;
     const QPoint from =
         (QPointF(origin.x, origin.y) / kUnitsPerPixel + QPointF(60, 3) * scale).toPoint();
-    const QPoint to = from + QPoint(0, qRound(2 * scale));
+    const QPoint to = from + QPoint(0, qRound(5 * scale));
     QTest::mousePress(&Pic(), Qt::LeftButton, {}, from);
     QMouseEvent move(QEvent::MouseMove, to, Pic().mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
                      Qt::NoModifier);
     QApplication::sendEvent(&Pic(), &move);
     QTest::mouseRelease(&Pic(), Qt::LeftButton, {}, to);
-    EXPECT_EQ(Rib().trou[0].DecalTrouAfich, "5");
+    EXPECT_EQ(Rib().trou[0].DecalTrouAfich, "8");
 }
 
 TEST_F(RibTouchTest, MeasuringCatchesCentresAndSaysTheDistance) {
@@ -155,6 +174,12 @@ TEST_F(RibTouchTest, MeasuringCatchesCentresAndSaysTheDistance) {
     ASSERT_NE(text, nullptr);
     EXPECT_THAT(text->text, HasSubstr("140."));
     EXPECT_THAT(text->text, HasSubstr(" in"));
+    const std::string before = text->text;
+    world.Action("mnu_affzoomplus")->trigger();
+    Move(Pic(), Hole() + QPoint(9, 9));
+    const auto *zoomed = std::get_if<DrawnText>(&Pic().ToucheMontree()->Operations().back());
+    ASSERT_NE(zoomed, nullptr);
+    EXPECT_EQ(zoomed->text, before); // the points stay on the rib
     QTest::keyClick(&Pic(), Qt::Key_Escape);
     EXPECT_FALSE(world.Action("mnu_affmesure")->isChecked());
     EXPECT_EQ(Pic().ToucheMontree(), nullptr);
