@@ -66,7 +66,7 @@ std::vector<std::string> EnregistrePlanches(const Programme &programme, const Im
     const std::vector<FileToWrite> files =
         EcritPlanches(programme, form, planches,
                       choix.polylignes ? AnneauxDxf::polylignes : AnneauxDxf::lignes, answer.path);
-    const std::vector<std::string> paths = PathsOf(files);
+    std::vector<std::string> paths = PathsOf(files);
     FichiersEcritsIci asked = ecrits;
     asked.Note({answer.path}); // by the box of the name
     const FichiersEcrits there = FichiersDejaLa(paths, asked);
