@@ -122,7 +122,8 @@ TEST_F(PanelVerb, ADamagedNumberOfAPanelFileIsTold) {
         std::string text = good;
         text.replace(text.find(line), line.size(), other);
         WriteWholeFile(file, text);
-        return RunLoftwing({"panel", file, "--dry-run"});
+        return RunLoftwing(
+            {"panel", file, "--airfoils", LOFTWING_SOURCE_DIR "/resources/airfoils", "--dry-run"});
     };
     for (const auto &[line, other] :
          {std::pair("Count=2", "Count=xyz"), std::pair("Length=500", "Length=abc"),
