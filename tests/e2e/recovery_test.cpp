@@ -10,6 +10,7 @@
 #include <chrono>
 #include <filesystem>
 #include <functional>
+#include <locale>
 #include <memory>
 #include <sstream>
 #include <thread>
@@ -86,6 +87,7 @@ class RecoveryHome {
 /// The points of the airfoil as anybody reads them.
 void ExpectPoints(const PartiesRib &rib) {
     std::istringstream text(ReadWholeFile(Sample("naca2412.dat")));
+    text.imbue(std::locale::classic());
     std::string title;
     std::getline(text, title);
     double x = 0;
