@@ -5,15 +5,15 @@
 namespace loftwing {
 namespace {
 
-constexpr SujetTrace kSpar{GenreSujet::longeron, 1};
+constexpr SujetTrace kTouchedSpar{GenreSujet::longeron, 1};
 constexpr SujetTrace kHole{GenreSujet::trou, 0};
 
 /// A spar's notch of 20 x 10 at (100, 100), a hole of radius 50 around (300, 100), and a contour
 /// line at y = 0 that belongs to no part.
-struct Drawn : Recording {
-    Drawn() {
+struct TouchedRib : Recording {
+    TouchedRib() {
         Line(0, 0, 1000, 0, 0);
-        sujet = kSpar;
+        sujet = kTouchedSpar;
         Line(100, 100, 120, 100, 0);
         Line(120, 100, 120, 110, 0);
         Line(120, 110, 100, 110, 0);
@@ -24,22 +24,22 @@ struct Drawn : Recording {
 };
 
 TEST(Touche, TheNearestLineOfAPartIsFoundWithinReach) {
-    const Drawn drawing;
-    EXPECT_EQ(SujetAu(drawing, {110, 97}, 4), kSpar);
+    const TouchedRib drawing;
+    EXPECT_EQ(SujetAu(drawing, {110, 97}, 4), kTouchedSpar);
     EXPECT_FALSE(SujetAu(drawing, {110, 95}, 4));
     EXPECT_EQ(SujetAu(drawing, {352, 100}, 4), kHole);
 }
 
 TEST(Touche, TheContourIsNoPart) {
-    EXPECT_FALSE(SujetAu(Drawn(), {500, 0}, 4));
+    EXPECT_FALSE(SujetAu(TouchedRib(), {500, 0}, 4));
 }
 
 TEST(Touche, TheInsideOfAHoleIsTheHole) {
-    EXPECT_EQ(SujetAu(Drawn(), {300, 100}, 4), kHole);
+    EXPECT_EQ(SujetAu(TouchedRib(), {300, 100}, 4), kHole);
 }
 
 TEST(Touche, WhereHolesLieInOneAnotherTheSmallerOneIsMeant) {
-    Drawn drawing;
+    TouchedRib drawing;
     drawing.sujet = {GenreSujet::trou, 1};
     drawing.Circle(300, 100, 20, 0);
     EXPECT_EQ(SujetAu(drawing, {300, 110}, 4), (SujetTrace{GenreSujet::trou, 1}));
@@ -55,14 +55,14 @@ TEST(Touche, TheInsideOfATemplateIsNotTheTemplate) {
 }
 
 TEST(Touche, EndsAndCentresCatchThePointer) {
-    const Drawn drawing;
+    const TouchedRib drawing;
     EXPECT_EQ(Accroche(drawing, {121, 99}, 4), (LieuTrace{120, 100}));
     EXPECT_EQ(Accroche(drawing, {302, 98}, 4), (LieuTrace{300, 100}));
     EXPECT_EQ(Accroche(drawing, {200, 50}, 4), std::nullopt);
 }
 
 TEST(Touche, OnePartHasItsLinesUnderlined) {
-    const auto lines = Souligne(Drawn(), kSpar, 0xFF0000);
+    const auto lines = Souligne(TouchedRib(), kTouchedSpar, 0xFF0000);
     ASSERT_EQ(lines->Operations().size(), 3U);
     EXPECT_EQ(std::get<DrawnSegment>(lines->Operations()[1]),
               (DrawnSegment{120, 100, 120, 110, {0xFF0000, 3, LineStyle::solid}}));

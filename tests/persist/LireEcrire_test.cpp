@@ -511,8 +511,8 @@ TEST_F(OlderComponents, ItsUnitIsDoubtedInTheSameWay) {
     Read(Old());
     EXPECT_FALSE(world.rib.UniteDouteuse);
     constexpr std::size_t kChord = 4;
-    constexpr std::size_t kSpar = 13; // its place
-    for (const auto &[line, text] : {std::pair(kChord, "8"), std::pair(kSpar, "100.1/2")}) {
+    constexpr std::size_t kSparLine = 13; // its place
+    for (const auto &[line, text] : {std::pair(kChord, "8"), std::pair(kSparLine, "100.1/2")}) {
         Lines lines = Old();
         lines[line] = text;
         Read(lines);
