@@ -101,11 +101,7 @@ std::string Marque(const TraitMarque &trait, Colour couleur) {
 
 std::string Marque(const TexteMarque &texte, Colour couleur) {
     const PointEcrit place = Ecrit(texte.place);
-    return "<text" + SvgAttribute("x", place.x) + SvgAttribute("y", place.y) +
-           SvgAttribute("font-family", kSvgFaces) +
-           SvgAttribute("font-size", Nombre(texte.hauteur / kCapitales)) +
-           SvgAttribute("fill", SvgColour(couleur)) + SvgAttribute("xml:space", "preserve") + ">" +
-           SvgText(texte.texte) + "</text>\n";
+    return SvgTexte({place.x, place.y, Nombre(texte.hauteur / kCapitales), couleur, texte.texte});
 }
 
 std::string Marques(const DessinDecoupe &decoupe, const CouleursDecoupe &couleurs) {
@@ -131,10 +127,6 @@ DessinDecoupe SurLaPage(DessinDecoupe decoupe) {
     return decoupe;
 }
 
-std::string Groupe(const char *nom, const std::string &contenu) {
-    return "<g" + SvgAttribute("id", nom) + ">\n" + contenu + "</g>\n";
-}
-
 } // namespace
 
 std::string EcritDecoupeSvg(const DessinDecoupe &decoupe, const CouleursDecoupe &couleurs) {
@@ -144,12 +136,9 @@ std::string EcritDecoupeSvg(const DessinDecoupe &decoupe, const CouleursDecoupe 
     const PointEcrit coin =
         decoupe.planche ? PointEcrit{"0", "0"} : Ecrit({page.bas_gauche.x, page.haut_droite.y});
     const DessinDecoupe posee = SurLaPage(decoupe);
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-           "<svg xmlns=\"http://www.w3.org/2000/svg\"" +
-           SvgAttribute("width", largeur + "mm") + SvgAttribute("height", hauteur + "mm") +
-           SvgAttribute("viewBox", Place(coin) + " " + largeur + " " + hauteur) + ">\n<title>" +
-           SvgText(decoupe.titre) + "</title>\n" + Groupe("marks", Marques(posee, couleurs)) +
-           Groupe("cut", Coupe(posee, couleurs.coupe)) + "</svg>\n";
+    return SvgFichier({Place(coin), largeur, hauteur, decoupe.titre},
+                      SvgGroupe("marks", Marques(posee, couleurs)) +
+                          SvgGroupe("cut", Coupe(posee, couleurs.coupe)));
 }
 
 } // namespace loftwing

@@ -1,5 +1,6 @@
 #include "output/dxf_r12.h"
 
+#include "base/number_text.h"
 #include "base/text_encoding.h"
 
 #include <array>
@@ -57,7 +58,7 @@ void Entete(DxfText &dxf, const CadreR12 &cadre) {
     dxf.Reel(30, 0.0);
     if (cadre.limites) {
         dxf.Texte(9, "$LIMMIN");
-        dxf.Point(10, 0.0, 0.0);
+        dxf.Point(10, cadre.limites_bas.x, cadre.limites_bas.y);
         dxf.Texte(9, "$LIMMAX");
         dxf.Point(10, cadre.limites->x, cadre.limites->y);
     }
@@ -116,6 +117,48 @@ std::string FichierR12(const CadreR12 &cadre, const std::function<void(DxfText &
     return out;
 }
 
+// A file in inches has two more decimals.
+EchelleR12::EchelleR12(const std::string &Unite)
+    : diviseur_(DiviseurDxf(Unite)), image_(diviseur_ == 1.0 ? "##0.0#####" : "##0.0#######") {}
+
+std::string EchelleR12::Ecrit(double mm) const {
+    std::string text = Format(Longueur(mm), image_);
+    return text == "-0.0" ? "0.0" : text;
+}
+
+void PointR12(DxfText &dxf, int code, const PointEcrit &point) {
+    constexpr int kNextAxis = 10;
+    dxf.Texte(code, point.x);
+    dxf.Texte(code + kNextAxis, point.y);
+    dxf.Reel(code + 2 * kNextAxis, 0.0);
+}
+
+void LigneR12(DxfText &dxf, std::string_view calque, const PointEcrit &de, const PointEcrit &a) {
+    if (de == a) {
+        return;
+    }
+    dxf.Texte(0, "LINE");
+    dxf.Texte(8, calque);
+    PointR12(dxf, 10, de);
+    PointR12(dxf, 11, a);
+}
+
+void PolyligneR12(DxfText &dxf, std::string_view calque, const std::vector<PointEcrit> &points,
+                  bool fermee) {
+    dxf.Texte(0, "POLYLINE");
+    dxf.Texte(8, calque);
+    dxf.Entier(66, 1); // vertices follow
+    PointR12(dxf, 10, {"0.0", "0.0"});
+    dxf.Entier(70, fermee ? 1 : 0);
+    for (const PointEcrit &point : points) {
+        dxf.Texte(0, "VERTEX");
+        dxf.Texte(8, calque);
+        PointR12(dxf, 10, point);
+    }
+    dxf.Texte(0, "SEQEND");
+    dxf.Texte(8, calque);
+}
+
 void TexteR12(DxfText &dxf, std::string_view calque, const TexteDxf &texte) {
     dxf.Texte(0, "TEXT");
     dxf.Texte(8, calque);
@@ -123,6 +166,11 @@ void TexteR12(DxfText &dxf, std::string_view calque, const TexteDxf &texte) {
     dxf.Reel(30, 0.0);
     dxf.Reel(40, texte.hauteur);
     dxf.Texte(1, EnPageDeCode(texte.mots));
+    if (texte.genre != AppuiDxf::gauche) {
+        dxf.Entier(72, static_cast<int>(texte.genre));
+        dxf.Point(11, texte.appui.x, texte.appui.y);
+        dxf.Reel(31, 0.0);
+    }
 }
 
 } // namespace loftwing

@@ -3,6 +3,7 @@
 
 #include "output/dxf_entities.h"
 #include "output/dxf_text.h"
+#include "output/written_ring.h"
 
 #include <algorithm>
 #include <functional>
@@ -10,6 +11,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace loftwing {
 
@@ -37,18 +39,47 @@ struct CadreR12 {
     std::string Unite;
     EtendueDxf etendue;
     std::span<const CalqueR12> calques;
-    /// Upper right corner of the sheet that is drawn on, whose lower left one is 0,0.
+    /// Upper right corner of the sheet that is drawn on, and its lower left one.
     std::optional<DxfPoint> limites = std::nullopt;
+    DxfPoint limites_bas = {0, 0};
 };
 
 /// A whole file: header with unit and extent, line types, layers, no blocks, and what `entites`
 /// writes.
 std::string FichierR12(const CadreR12 &cadre, const std::function<void(DxfText &)> &entites);
 
+/// Lengths in mm in the unit of a file, with digits for a millionth of a millimetre: less, and a
+/// ring could come to cross itself.
+class EchelleR12 {
+  public:
+    explicit EchelleR12(const std::string &Unite);
+
+    double Longueur(double mm) const { return mm / diviseur_; }
+    DxfPoint Place(const PointMm &mm) const { return {Longueur(mm.x), Longueur(mm.y)}; }
+    std::string Ecrit(double mm) const;
+    PointEcrit Ecrit(const PointMm &mm) const { return {Ecrit(mm.x), Ecrit(mm.y)}; }
+
+  private:
+    double diviseur_;
+    std::string_view image_;
+};
+
+/// Groups `code`, `code` + 10 and `code` + 20.
+void PointR12(DxfText &dxf, int code, const PointEcrit &point);
+/// Nothing for a line without length.
+void LigneR12(DxfText &dxf, std::string_view calque, const PointEcrit &de, const PointEcrit &a);
+void PolyligneR12(DxfText &dxf, std::string_view calque, const std::vector<PointEcrit> &points,
+                  bool fermee);
+
+/// Which part of a text stands at its `appui`, by the numbers of the format.
+enum class AppuiDxf { gauche = 0, milieu = 1, droite = 2 };
+
 struct TexteDxf {
     DxfPoint place; ///< start of the base line
     double hauteur; ///< of its capitals
     std::string mots;
+    AppuiDxf genre = AppuiDxf::gauche;
+    DxfPoint appui = {0, 0}; ///< of a text that isn't placed by its start
 };
 void TexteR12(DxfText &dxf, std::string_view calque, const TexteDxf &texte);
 

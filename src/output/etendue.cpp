@@ -1,6 +1,7 @@
 #include "output/etendue.h"
 
 #include "output/recording.h"
+#include "output/rib_measures.h"
 
 #include <algorithm>
 #include <cmath>
@@ -64,9 +65,8 @@ void Metre::CircleOutline(double x, double y, double radius, const Pen & /*pen*/
 
 double Metre::Text(double x, double y, const std::string &text, const TextFont &font,
                    Colour /*colour*/) {
-    constexpr double kLigne = 1.2; // height of a line, in sizes of its font
     const double advance = MeasuredAdvance(text, font);
-    encres.push_back(Boite(x, y, x + advance, y + kLigne * font.size * kUnitsPerPoint));
+    encres.push_back(Boite(x, y, x + advance, y + kLigneDeTexte * font.size * kUnitsPerPoint));
     (!insere_.empty() && text == insere_ ? texte : dessin).Prend(encres.back());
     return advance;
 }

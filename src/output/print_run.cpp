@@ -16,7 +16,6 @@ namespace loftwing {
 
 namespace {
 
-constexpr double kBras = 5.0; // arms of a cross, mm
 constexpr double kTailleTexte = 10.0;
 
 void MetEchelle(const Impression &run) {
@@ -74,13 +73,6 @@ FinImpression Conduit(const Impression &run, Printer &printer, Job job) {
 Feuille FeuilleNumero(const Impression &run, int i) {
     const int columns = run.settings.page.NbPages;
     return {i % columns, i / columns};
-}
-
-/// One cross around (x, y), all in device units.
-void Croix(PlotDevice &device, double x, double y, Colour colour) {
-    const double arm = kBras * kUnitsPerMm;
-    device.Line(x, y - arm, x, y + arm, colour);
-    device.Line(x - arm, y, x + arm, y, colour);
 }
 
 } // namespace
@@ -352,10 +344,10 @@ void tracerepere(const Impression &run, PlotDevice &device) {
     const Croisees at = page.rangees.nombre > 1 ? CroiseesDeRangee(page) : CroiseesDeBande(run);
     const Colour colour = CouleurDe(run.settings, Element::axe);
     PrendStyleSeul(device, run.settings, Element::axe);
-    Croix(device, at.droite, at.haut, colour);
-    Croix(device, at.droite, at.bas, colour);
-    Croix(device, at.gauche, at.haut, colour);
-    Croix(device, at.gauche, at.bas, colour);
+    TraceCroisee(device, at.droite, at.haut, colour);
+    TraceCroisee(device, at.droite, at.bas, colour);
+    TraceCroisee(device, at.gauche, at.haut, colour);
+    TraceCroisee(device, at.gauche, at.bas, colour);
     RendStyle(device);
 }
 

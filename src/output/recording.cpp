@@ -1,5 +1,7 @@
 #include "output/recording.h"
 
+#include "output/rib_measures.h"
+
 #include <algorithm>
 #include <array>
 
@@ -72,7 +74,7 @@ Extent Recording::Bounds() const {
         } else if (const auto *text = std::get_if<DrawnText>(&operation)) {
             Include(extent, first, text->x, text->y);
             Include(extent, first, text->x + text->advance,
-                    text->y + 1.2 * text->font.size * kUnitsPerPoint);
+                    text->y + kLigneDeTexte * text->font.size * kUnitsPerPoint);
         }
     }
     return extent;

@@ -15,4 +15,7 @@ inline constexpr double kAscent = 0.905;
 /// Height of its capitals, in the same.
 inline constexpr double kCapitales = 0.716;
 
+/// Height of a line of text, in the same: no letter leaves it.
+inline constexpr double kLigneDeTexte = 1.2;
+
 } // namespace loftwing

@@ -169,6 +169,12 @@ void TraceBras(Crayon &pen, const PlaceTemoin &place, double step) {
 
 } // namespace
 
+void TraceCroisee(PlotDevice &device, double x, double y, Colour colour) {
+    const double arm = kBras * kUnitsPerMm;
+    device.Line(x, y - arm, x, y + arm, colour);
+    device.Line(x - arm, y, x + arm, y, colour);
+}
+
 std::string Raccourci(const std::string &text, double width) {
     if (LargeurTexte(text) <= width) {
         return text;

@@ -1,4 +1,5 @@
-/// The check line of a sheet: what shows on paper whether it was printed at true scale.
+/// What stands on a sheet beside its drawing: crosses to lay it on the next one, and the check
+/// line, which shows on paper whether it was printed at true scale.
 #pragma once
 
 #include "output/etendue.h"
@@ -8,6 +9,11 @@
 #include <vector>
 
 namespace loftwing {
+
+/// Arms of the crosses by which sheets are laid together, mm.
+inline constexpr double kBras = 5.0;
+/// One cross around a point, in device units, with the pen that is set.
+void TraceCroisee(PlotDevice &device, double x, double y, Colour colour);
 
 /// A sheet as its check line sees it, mm from the upper left corner.
 struct FeuilleTemoin {

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <optional>
-#include <string>
 
 namespace loftwing {
 
@@ -43,6 +42,8 @@ Etendue PlaceNumero(const Etendue &room, double width, const std::vector<Etendue
     return corners.front();
 }
 
+} // namespace
+
 void EcritNumero(Recording &sheet, const std::string &number, const Etendue &room) {
     Metre metre;
     Redraw(sheet, metre);
@@ -55,8 +56,6 @@ void EcritNumero(Recording &sheet, const std::string &number, const Etendue &roo
     sheet.CurrentY = place.haut * kUnitsPerMm;
     sheet.Print(number);
 }
-
-} // namespace
 
 Etendue PlaceDesDessins(const MiseEnPage &page) {
     const Papier paper = PapierDe(page);

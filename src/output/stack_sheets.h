@@ -7,6 +7,7 @@
 #include "output/page_setup.h"
 #include "output/sheet_marks.h"
 
+#include <string>
 #include <vector>
 
 namespace loftwing {
@@ -19,8 +20,10 @@ Etendue PlaceDesDessins(const MiseEnPage &page);
 /// that stretches.
 FeuilleTemoin FeuilleDePile(const MiseEnPage &page, const SheetSize &size);
 
-/// Writes "2/5" on every sheet, where nothing is drawn: in a corner, otherwise as near to the lower
-/// right one as there is room.
+/// Writes a sheet's number on it, where nothing is drawn: in a corner of its room, otherwise as
+/// near to the lower right one as there is a place.
+void EcritNumero(Recording &sheet, const std::string &number, const Etendue &room);
+/// Writes "2/5" on every sheet.
 void EcritNumeros(KeptSheets &sheets, const FeuilleTemoin &feuille);
 
 } // namespace loftwing

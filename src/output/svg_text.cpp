@@ -1,6 +1,7 @@
 #include "output/svg_text.h"
 
 #include "base/text_encoding.h"
+#include "output/line_look.h"
 
 #include <array>
 #include <charconv>
@@ -32,6 +33,19 @@ std::string SvgAttribute(const std::string &name, const std::string &value) {
     return " " + name + "=\"" + value + "\"";
 }
 
+std::string SvgStroke(const Pen &pen) {
+    constexpr int kDecimals = 4;
+    const auto width = static_cast<std::size_t>(pen.width - 1);
+    std::string text = SvgAttribute("fill", "none") +
+                       SvgAttribute("stroke", SvgColour(pen.colour)) +
+                       SvgAttribute("stroke-width", SvgNumber(kPenWidthsMm[width], kDecimals));
+    std::string dashes;
+    for (const double mm : DashesMm(pen.style)) {
+        dashes += (dashes.empty() ? "" : " ") + SvgNumber(mm, kDecimals);
+    }
+    return dashes.empty() ? text : text + SvgAttribute("stroke-dasharray", dashes);
+}
+
 std::string SvgText(const std::string &text) {
     std::string escaped;
     for (const char character : ToUtf8(text)) {
@@ -50,6 +64,27 @@ std::string SvgText(const std::string &text) {
         }
     }
     return escaped;
+}
+
+std::string SvgTexte(const SvgLettres &lettres) {
+    return "<text" + SvgAttribute("x", lettres.x) + SvgAttribute("y", lettres.y) +
+           (lettres.appui.empty() ? "" : SvgAttribute("text-anchor", lettres.appui)) +
+           SvgAttribute("font-family", kSvgFaces) + SvgAttribute("font-size", lettres.taille) +
+           SvgAttribute("fill", SvgColour(lettres.couleur)) +
+           SvgAttribute("xml:space", "preserve") + ">" + SvgText(lettres.texte) + "</text>\n";
+}
+
+std::string SvgGroupe(const std::string &nom, const std::string &elements) {
+    return "<g" + SvgAttribute("id", nom) + ">\n" + elements + "</g>\n";
+}
+
+std::string SvgFichier(const SvgPage &page, const std::string &elements) {
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+           "<svg xmlns=\"http://www.w3.org/2000/svg\"" +
+           SvgAttribute("width", page.largeur + "mm") +
+           SvgAttribute("height", page.hauteur + "mm") +
+           SvgAttribute("viewBox", page.coin + " " + page.largeur + " " + page.hauteur) +
+           ">\n<title>" + SvgText(page.titre) + "</title>\n" + elements + "</svg>\n";
 }
 
 } // namespace loftwing
