@@ -23,12 +23,17 @@ QTransform TransformOf(const QString &attribute) {
             n[3].toDouble(), n[4].toDouble(), n[5].toDouble()};
 }
 
-/// Points of "M x y L x y ..."; none for anything else, such as curves.
+/// Points of "M x y L x y ..."; of a closed one, "... Z M x y", the first again at the end. None
+/// for anything else, such as curves.
 QPolygonF PointsOf(const QString &path) {
     static const QRegularExpression kBlanks("\\s+");
     const QStringList words = path.split(kBlanks, Qt::SkipEmptyParts);
     QPolygonF points;
     for (qsizetype i = 0; i + 2 < words.size(); i += 3) {
+        if (words[i] == "Z" && i > 0 && i + 4 == words.size()) {
+            points.append(points.front());
+            return points;
+        }
         if (words[i] != (i == 0 ? "M" : "L")) {
             return {};
         }
