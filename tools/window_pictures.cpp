@@ -7,10 +7,10 @@
 // named WINDOW-LANGUAGE-UNIT.png; SCALE is that of the font, 1 if left out. The second makes the
 // pictures of the help, in mm: FOLDER/LANGUAGE/pictures/WINDOW.png.
 
+#include "picture_panels.h"
 #include "picture_platform.h"
 #include "picture_ribs.h"
 #include "picture_steps.h"
-#include "sample_wing.h"
 
 #include "base/whole_file.h"
 #include "features/frmInstxt.h"
@@ -29,7 +29,6 @@
 #include "mainwindow/frmimport.h"
 #include "mainwindow/frmmain.h"
 #include "mainwindow/frmopen.h"
-#include "mainwindow/frmpanneau.h"
 #include "mainwindow/frmsecours.h"
 #include "mainwindow/rib_preview.h"
 #include "output/frmPrint.h"
@@ -110,8 +109,8 @@ class Pictures {
         Save(*window_, "frmmain");
         TakeSheets();
         TakePiece();
-        TakePanel();
-        TakeWing();
+        TakePanels(programme_, *window_, kResources + "/samples/wing",
+                   [this](QWidget &window, const std::string &name) { Save(window, name); });
         if (programme_.settings.Unite == kUniteMm) {
             TakePrint();
         }
@@ -158,31 +157,6 @@ class Pictures {
         Save(cut, "frmdecoupe");
     }
 
-    /// A panel from the rib of the window to a shorter one with another airfoil.
-    void TakePanel() {
-        RibModel &rib = programme_.rib;
-        const bool inches = programme_.settings.Unite == kUniteIn;
-        frmpanneau panel(programme_, window_.get());
-        const PartieGardee<PartiesRib> kept(rib);
-        Panneau kept_panel;
-        kept_panel.bouts[0] = rib.Partie<PartiesRib>();
-        Press(panel, "cmdfenetre(0)");
-        const Saisie typed = programme_.SaisieEnCours();
-        StockeLongueur(inches ? "5" : "130", typed, rib.cordeAfich, rib.corde);
-        StockeLongueur(inches ? "1/4" : "6", typed, rib.EpBAAfich, rib.EpBA);
-        Press(panel, "cmdfenetre(1)");
-        Fill(panel, "txt(0)", "7");
-        Fill(panel, "txt(1)", inches ? "3/32" : "2");
-        Fill(panel, "txt(3)", inches ? "24" : "600");
-        WaitForReading();
-        Save(panel, "frmpanneau");
-        kept_panel.bouts[1] = rib.Partie<PartiesRib>();
-        kept_panel.jeu.nombre = "7";
-        Save(*SheetsOf(programme_, kept_panel, inches ? "3x24 2x12" : "80x600 60x300",
-                       window_.get()),
-             "frmplanches");
-    }
-
     /// The main window while a trailing edge stock is typed.
     void TakePreview() {
         frmInput stock(programme_, "bf", window_.get());
@@ -195,21 +169,6 @@ class Pictures {
         }
         stock.reject();
         programme_.rib.Annule = false;
-    }
-
-    /// The sample wing as the tour of it shows it.
-    void TakeWing() {
-        if (programme_.settings.Unite != kUniteMm) {
-            return; // its ribs are in mm
-        }
-        frmpanneau panel(programme_, window_.get());
-        OpenSampleWing(panel, programme_, kResources + "/samples/wing");
-        WaitForReading();
-        EndHoleOfSampleWing(panel, programme_);
-        WaitForReading();
-        Save(panel, "wing");
-        Panneau wing = SampleWing(programme_, kResources + "/samples/wing");
-        Save(*SheetsOf(programme_, wing, "100x1000", window_.get()), "wing-sheets");
     }
 
     /// The sheet that comes out of the printer: the rib of the tour.
@@ -464,7 +423,8 @@ void TakeAll(const std::string &folder) {
 
 void TakeForHelp(const std::string &folder) {
     for (const std::string &language : LngIni::Languages(kLanguages)) {
-        const std::string pictures = folder + "/" + language + "/pictures";
+        std::string pictures = folder;
+        pictures.append("/").append(language).append("/pictures");
         QDir().mkpath(Q(pictures));
         Pictures({pictures, "", folder}, language, "mm").Take();
     }

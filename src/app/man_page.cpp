@@ -96,7 +96,7 @@ constexpr std::string_view kDescription = R"(.SH DESCRIPTION
 Loftwing turns an airfoil coordinate file into a full\-size rib drawing.
 Without a command it opens its window, with a
 .I FILE
-in it: an airfoil (.dat, .cor) or a rib (.lfw).
+in it: an airfoil (.dat, .cor), a rib (.lfw), a wing panel (.lfp) or a wing (.lfa).
 In the window stand the name of the settings file,
 .BR \-\-settings ,
 and the options of the toolkit.
@@ -126,6 +126,8 @@ In the folder of documents: the user's airfoils and sets of ribs.
 loftwing draw naca2412.dat \-o rib.svg \-\-chord 180 \-\-sheeting 1.5 \-\-le 8 \-\-te 25
 loftwing draw *.dat \-\-to pdf \-o ribs/ \-\-chord 320 \-\-paper A4
 loftwing ribs root.dat tip.dat \-\-chords 220 140 \-\-count 8 \-o wing/
+loftwing panel wing.lfp \-\-plan wing.pdf \-\-parts wing.csv \-\-density 140
+loftwing plan inner.lfp tip.lfp \-o wing.pdf
 loftwing convert lednicer.txt \-o lednicer.dat
 .fi
 )";

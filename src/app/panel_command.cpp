@@ -3,12 +3,14 @@
 #include "app/command_line.h"
 #include "app/console_program.h"
 #include "app/panel_outputs.h"
+#include "app/panel_plan.h"
+#include "app/rib_options.h"
 #include "app/sheet_options.h"
 #include "app/typed_value.h"
 #include "base/number_text.h"
-#include "programme/longueur_lue.h"
 #include "programme/panel_file.h"
 #include "programme/panel_steps.h"
+#include "programme/panel_typed.h"
 #include "programme/panel_words.h"
 #include "programme/rib_file.h"
 #include "utilities/rib_set_files.h"
@@ -26,21 +28,6 @@ const char *const kUsage =
     "panel wants ROOT.lfw TIP.lfw -o DIR and either --count N or --gaps G1 ... --thickness T0 ..., "
     "or a panel file (.lfp)";
 
-PartiesRib LitBout(ConsoleProgram &program, const std::string &file,
-                   const std::vector<std::string> &folders) {
-    if (!EstComposants(file)) {
-        throw UsageError("panel wants rib components files (.lfw), not " + file);
-    }
-    Programme &programme = program.Owner();
-    const PartieGardee<PartiesRib> fresh(programme.rib);
-    if (!program.Ouvre(file, folders)) {
-        NameRefused(file);
-        throw Refused{};
-    }
-    program.WarnOfDeviation();
-    return programme.rib.Partie<PartiesRib>();
-}
-
 /// "spar2=1-5".
 std::pair<ElementPanneau, PorteePanneau> PorteeDe(const std::string &word) {
     const std::size_t equals = word.find('=');
@@ -54,14 +41,6 @@ std::pair<ElementPanneau, PorteePanneau> PorteeDe(const std::string &word) {
     throw UsageError("--range wants an element and its ribs, as spar2=1-5, not " + word);
 }
 
-int PremierDe(const Arguments &arguments) {
-    const double number = LeadingNumber(Typed(arguments, "--first", kTouchesEntier));
-    if (number < 1 || number > kPremierMaxi) {
-        throw UsageError("--first takes 1 to " + std::to_string(kPremierMaxi));
-    }
-    return static_cast<int>(number);
-}
-
 /// What of the words needs no file.
 void VerifieUsage(const Arguments &arguments) {
     const std::vector<std::string> &files = arguments.Files();
@@ -72,7 +51,7 @@ void VerifieUsage(const Arguments &arguments) {
     if ((files.size() != 2 && !saved) || (variable && arguments.Has("--count")) ||
         (!saved && !spaced) || (variable && !arguments.Has("--thickness")) || folder == "-" ||
         (folder.empty() && !arguments.Has("--dry-run") && !arguments.Has("--save") &&
-         !arguments.Has("--drawings"))) {
+         !arguments.Has("--drawings") && !WantsPlan(arguments))) {
         throw UsageError(kUsage);
     }
     if (WantsSheets(arguments) && folder.empty() && !arguments.Has("--dry-run")) {
@@ -109,8 +88,9 @@ FichierPanneau DemandeDe(const Arguments &arguments, const Programme &programme)
         wanted.longueur = TypedLength(arguments, "--length", programme);
     }
     if (arguments.Has("--first")) {
-        wanted.premier = PremierDe(arguments);
+        wanted.premier = FirstRibOf(arguments);
     }
+    TakePlace(arguments, wanted);
     for (const std::string &word : arguments.Values("--range")) {
         const auto [element, range] = PorteeDe(word);
         wanted.portees.insert_or_assign(element, range);
@@ -118,39 +98,15 @@ FichierPanneau DemandeDe(const Arguments &arguments, const Programme &programme)
     return wanted;
 }
 
-SaisieJeu JeuDe(const FichierPanneau &wanted, const std::string &folder) {
-    const std::size_t thick = wanted.epaisseurs.size();
-    if (wanted.ecarts.empty() ? thick > 1
-                              : wanted.ecarts.size() < 2 || thick != wanted.ecarts.size() + 1) {
-        throw UsageError("--gaps wants one more than there are intermediate ribs, two at least; "
-                         "--thickness wants one more than gaps, one value with --count");
-    }
-    SaisieJeu typed{{}, wanted.nombre, wanted.ecarts, wanted.epaisseurs, folder};
-    TermineDossier(typed.dossier);
-    return typed;
-}
-
 /// Whether all that counts or measures does: a panel file may come out of an editor. What doesn't
 /// is told.
 bool NombresLisibles(const FichierPanneau &wanted, const Programme &programme) {
-    constexpr int kMost = 9999; // what is too many for a set is told by its number
-    const Saisie saisie = programme.SaisieEnCours();
-    std::vector<std::string> lengths = wanted.epaisseurs;
-    lengths.insert(lengths.end(), wanted.ecarts.begin(), wanted.ecarts.end());
-    if (!wanted.longueur.empty()) {
-        lengths.push_back(wanted.longueur);
-    }
-    auto bad = std::find_if(lengths.begin(), lengths.end(), [&saisie](const std::string &text) {
-        return !LongueurLue(text, saisie);
-    });
-    if (wanted.ecarts.empty() && !NombreLu(wanted.nombre, kMost)) {
-        bad = lengths.insert(lengths.end(), wanted.nombre);
-    }
-    if (bad != lengths.end()) {
+    const auto bad = TexteIllisible(wanted, programme.SaisieEnCours());
+    if (bad) {
         programme.messages.Inform(programme.Text({"Panel", "184"}) + " " + *bad,
                                   programme.Text({"Panel", "40"}));
     }
-    return bad == lengths.end();
+    return !bad;
 }
 
 /// The clear width between two ribs of a panel of that length in equal steps.
@@ -210,7 +166,8 @@ bool RemplaceSiVoulu(const std::vector<FileToWrite> &files, const Messages &mess
 
 /// All that the words ask for; nothing when a part of it was refused, which was told.
 std::optional<PanelFiles> Sorties(const Arguments &arguments, Programme &programme,
-                                  const PanneauFait &made, int first) {
+                                  const Panneau &panel, const FichierPanneau &wanted,
+                                  const PanneauFait &made) {
     PanelFiles all;
     const auto take = [&all](std::optional<PanelFiles> more) {
         if (!more) {
@@ -220,13 +177,15 @@ std::optional<PanelFiles> Sorties(const Arguments &arguments, Programme &program
         std::move(more->lines.begin(), more->lines.end(), std::back_inserter(all.lines));
         return true;
     };
+    FeuillesPieces laid;
     if (arguments.Has("--output")) {
         all.files = FichiersAEcrire(made);
-        if (!take(PanelSheets(arguments, programme, made, made.jeu.dossier))) {
+        if (!take(PanelSheets(arguments, programme, made, laid))) {
             return std::nullopt;
         }
     }
-    if (!take(PanelDrawings(arguments, programme, made, first))) {
+    if (!take(PanelDrawings(arguments, programme, made, wanted.premier)) ||
+        !take(PlanOfPanel(arguments, programme, {panel, wanted, made, laid}))) {
         return std::nullopt;
     }
     return all;
@@ -266,7 +225,8 @@ std::vector<OptionRule> PanelOptions() {
         {"--airfoils", "DIR",
          "where to search for the ribs' airfoils (may be repeated; default: the file's folder)",
          true}};
-    for (const auto &more : {PanelOutputOptions(), ReadingOptions()}) {
+    for (const auto &more :
+         {PanelOutputOptions(), PlaceOptions(), PlanOptions(), ReadingOptions()}) {
         rules.insert(rules.end(), more.begin(), more.end());
     }
     return rules;
@@ -276,15 +236,20 @@ int RunPanel(const Arguments &arguments) {
     VerifieUsage(arguments);
     ConsoleProgram program(arguments);
     Programme &programme = program.Owner();
+    ApplyPaperOptions(arguments, programme);
     const FichierPanneau wanted = DemandeDe(arguments, programme);
     if (!NombresLisibles(wanted, programme)) {
         return kRefused;
+    }
+    if (!EcartsComplets(wanted)) {
+        throw UsageError("--gaps wants one more than there are intermediate ribs, two at least; "
+                         "--thickness wants one more than gaps, one value with --count");
     }
     Panneau panel;
     panel.portees = wanted.portees;
     panel.jeu = JeuDe(wanted, arguments.Value("--output", "."));
     for (const std::size_t end : {0U, 1U}) {
-        panel.bouts[end] = LitBout(program, wanted.bouts[end], arguments.Values("--airfoils"));
+        panel.bouts[end] = OpenPanelEnd(program, wanted.bouts[end], arguments.Values("--airfoils"));
     }
     panel.jeu.cordes = CordesDesBouts(panel, programme.settings.Unite);
     DemandePanneau demand = PanelDemandOf(arguments, programme);
@@ -298,7 +263,7 @@ int RunPanel(const Arguments &arguments) {
     if (!Admis(made, arguments, programme.messages)) {
         return kRefused;
     }
-    const auto all = Sorties(arguments, programme, made, wanted.premier);
+    const auto all = Sorties(arguments, programme, panel, wanted, made);
     if (!all || !RemplaceSiVoulu(all->files, programme.messages)) {
         return kRefused;
     }

@@ -55,7 +55,7 @@ DemandePanneau PanelDemandOf(const Arguments &arguments, const Programme &progra
 }
 
 std::optional<PanelFiles> PanelSheets(const Arguments &arguments, const Programme &programme,
-                                      const PanneauFait &made, const std::string &folder) {
+                                      const PanneauFait &made, FeuillesPieces &laid) {
     if (!WantsSheets(arguments)) {
         return PanelFiles{};
     }
@@ -68,10 +68,11 @@ std::optional<PanelFiles> PanelSheets(const Arguments &arguments, const Programm
     }
     PanelFiles out;
     out.files = EcritPlanches(programme, form, *sheets, RingsOf(arguments),
-                              folder + "sheet." + form.extension);
+                              made.jeu.dossier + "sheet." + form.extension);
     for (std::size_t i = 0; i < sheets->size(); ++i) {
         out.lines.push_back(LineOfSheet((*sheets)[i], i + 1, programme.settings.Unite));
     }
+    laid = {*sheets, wish.mirror ? 2 : 1};
     return out;
 }
 

@@ -3,6 +3,7 @@
 
 #include "app/arguments.h"
 #include "base/whole_file.h"
+#include "programme/liste_pieces.h"
 #include "programme/panel_steps.h"
 
 #include <optional>
@@ -23,10 +24,10 @@ struct PanelFiles {
 /// What the options ask of the pieces. Throws UsageError for a text that is none of theirs.
 DemandePanneau PanelDemandOf(const Arguments &arguments, const Programme &programme);
 
-/// The sheets that the options ask for, in `folder`; none where they ask for none. Nothing when a
-/// piece has no room, which was told.
+/// The sheets that the options ask for, in the ribs' folder, and what lies on them; none where they
+/// ask for none. Nothing when a piece has no room, which was told.
 std::optional<PanelFiles> PanelSheets(const Arguments &arguments, const Programme &programme,
-                                      const PanneauFait &made, const std::string &folder);
+                                      const PanneauFait &made, FeuillesPieces &laid);
 
 /// The file of all ribs' drawings where the options ask for it, numbers from `premier`. Nothing
 /// when it was refused, which was told.

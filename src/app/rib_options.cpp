@@ -126,14 +126,20 @@ std::vector<OptionRule> RibOptions() {
             {"--heel", nullptr, "put the margins of a rib components file's heel in force"}};
 }
 
-std::vector<OptionRule> PageOptions() {
+std::vector<OptionRule> PaperOptions() {
     return {{"--paper", "NAME",
              "paper of a PDF: A4, Letter, Fanfold, Legal, Executive, B4, "
              "\"US B\", A3, LENGTHxWIDTH of your own, or drawing for one page as large as that",
              false, 1, PaperNames()},
+            {"--overlap", "LENGTH", "overlap of two sheets"}};
+}
+
+std::vector<OptionRule> PageOptions() {
+    const std::vector<OptionRule> paper = PaperOptions();
+    return {paper.front(),
             {"--margin-before", "LENGTH", "margin before the leading edge"},
             {"--margin-after", "LENGTH", "margin behind the trailing edge"},
-            {"--overlap", "LENGTH", "overlap of two sheets"},
+            paper.back(),
             {"--reference-line-at", "LENGTH", "reference line from the top of the sheet"},
             {"--rows", nullptr, "sheets downwards too, for a drawing that is taller than one"},
             {"--check-line", nullptr, "a line to measure and a note on every sheet"}};
@@ -168,15 +174,20 @@ bool ApplyRibOptions(const Arguments &arguments, Programme &programme, HeelMargi
     return true;
 }
 
+void ApplyPaperOptions(const Arguments &arguments, Programme &programme) {
+    MiseEnPage &page = programme.settings.page;
+    SetPageLength(arguments, programme, "--overlap", page.recouvrementAfich, page.recouvrement);
+    if (arguments.Has("--paper")) {
+        TakePaper(arguments.Value("--paper"), programme);
+    }
+}
+
 void ApplyPageOptions(const Arguments &arguments, Programme &programme) {
     MiseEnPage &page = programme.settings.page;
     SetPageLength(arguments, programme, "--margin-before", page.MargeHautAfich, page.MargeHaut);
     SetPageLength(arguments, programme, "--margin-after", page.MargeBasAfich, page.MargeBas);
-    SetPageLength(arguments, programme, "--overlap", page.recouvrementAfich, page.recouvrement);
+    ApplyPaperOptions(arguments, programme);
     SetPageLength(arguments, programme, "--reference-line-at", page.YdprintAfich, page.Ydprint);
-    if (arguments.Has("--paper")) {
-        TakePaper(arguments.Value("--paper"), programme);
-    }
     // What the window's user has chosen for his sheets is asked for here.
     page.temoin = arguments.Has("--check-line");
     page.en_rangees = arguments.Has("--rows");

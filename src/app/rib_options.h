@@ -7,6 +7,9 @@
 namespace loftwing {
 
 std::vector<OptionRule> RibOptions();
+/// --paper and --overlap.
+std::vector<OptionRule> PaperOptions();
+/// These and all others of a page.
 std::vector<OptionRule> PageOptions();
 
 /// The margins of an opened rib's heel come into force by --heel and are told of without it, or
@@ -18,6 +21,9 @@ enum class HeelMargins { as_asked, in_force };
 /// Throws UsageError for a text that the dialogs' fields wouldn't admit.
 bool ApplyRibOptions(const Arguments &arguments, Programme &programme,
                      HeelMargins margins = HeelMargins::as_asked);
+
+/// Puts paper and overlap into the page settings. Throws as ApplyPageOptions.
+void ApplyPaperOptions(const Arguments &arguments, Programme &programme);
 
 /// Puts the page options into the page settings. Throws UsageError for an unknown paper or a text
 /// that isn't a length.

@@ -81,7 +81,9 @@ bool WantsSheets(const Arguments &arguments) {
         return true;
     }
     for (const OptionRule &rule : SheetOptions()) {
-        if (arguments.Has(rule.name)) {
+        // A building plan has a use of its own for both wings.
+        const bool of_plan = std::string_view(rule.name) == "--mirror" && arguments.Has("--plan");
+        if (arguments.Has(rule.name) && !of_plan) {
             throw UsageError(std::string(rule.name) + " wants " + kSheet);
         }
     }

@@ -8,6 +8,7 @@
 #include "app/info_command.h"
 #include "app/modify_command.h"
 #include "app/panel_command.h"
+#include "app/plan_command.h"
 #include "app/ribs_command.h"
 #include "app/table_command.h"
 #include "app/view_commands.h"
@@ -31,6 +32,9 @@ constexpr std::array kVerbs = {
          RunRibs, Takes::airfoils},
     Verb{"panel", "panel ROOT.lfw TIP.lfw ... -o DIR", "all ribs of a wing panel, ready to be cut",
          PanelOptions, RunPanel, Takes::any_files},
+    Verb{"plan", "plan PANEL.lfp... -o OUT", "the building plan of a wing of several panels",
+         PlanVerbOptions, RunPlan, Takes::any_files, "plan WING.lfa -o OUT",
+         "the same of the panels that a wing file names"},
     Verb{"plot", "plot FILE -o OUT", "the simple plot of the raw points", PlotOptions, RunPlot,
          Takes::airfoils},
     Verb{"compare", "compare FILE1 FILE2 -o OUT", "two airfoils over each other", CompareOptions,

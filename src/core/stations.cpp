@@ -2,6 +2,7 @@
 
 #include "base/number_text.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace loftwing {
@@ -26,6 +27,13 @@ float StationDepuisBA(double distance, float corde) {
 
 double Hauteur(const TableStation &table, double station) {
     return At(table, ToInt(station));
+}
+
+double HauteurEntre(const TableStation &table, double station) {
+    const double at = std::clamp(station, 0.0, static_cast<double>(kLastStation));
+    const auto low = static_cast<std::size_t>(std::min(std::floor(at), kLastStation - 1.0));
+    const double part = at - static_cast<double>(low);
+    return table[low] * (1 - part) + table[low + 1] * part;
 }
 
 double ValeurPourcent(const std::string &text, float corde, const Saisie &saisie) {

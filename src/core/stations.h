@@ -22,6 +22,9 @@ float StationDepuisBA(double distance, float corde);
 /// The height in fractions of the chord at `station`, rounded to the nearest (halves to even).
 /// Failure 9 when that is no station.
 double Hauteur(const TableStation &table, double station);
+/// The same between two stations, straight from the one to the other; beyond the chord that of its
+/// end.
+double HauteurEntre(const TableStation &table, double station);
 
 /// The mm of a display text that is a length or, with "%" as last character, a part of the chord.
 /// Failures as VersMm.

@@ -8,8 +8,9 @@ constexpr std::array kDebut = {kAideVisite, kAideAile, kAideFenetre, kAideEditio
 constexpr std::array kProfils = {kAideOuvrir, kAideImport, kAideComposants, kAideSecours};
 constexpr std::array kRib = {kAideValeurs, kAideLongerons, kAideTrous, kAideGabarit, kAideDessin};
 constexpr std::array kSorties = {kAidePage, kAideFeuilles, kAideExport, kAideDecoupe};
-constexpr std::array kOutils = {kAideCalculs, kAideJeu,         kAideJeuVariable, kAidePanneau,
-                                kAideOblique, kAideInclinaison, kAideVues,        kAideCoord};
+constexpr std::array kOutils = {kAideCalculs,     kAideJeu,  kAideJeuVariable,
+                                kAidePanneau,     kAidePlan, kAideOblique,
+                                kAideInclinaison, kAideVues, kAideCoord};
 constexpr std::array kDivers = {kAideBibliotheque, kAideCommandes, kAideProgramme};
 
 constexpr std::array kChapitres = {

@@ -34,6 +34,7 @@ inline constexpr int kAideOblique = 62;
 inline constexpr int kAideInclinaison = 63;
 inline constexpr int kAideVues = 64;    ///< comparison and simple plot
 inline constexpr int kAidePanneau = 65; ///< ribs of a wing panel
+inline constexpr int kAidePlan = 66;    ///< building plan, list of parts, wing of several panels
 inline constexpr int kAideDessin = 70;  ///< colours, defaults, inserted text
 inline constexpr int kAideCoord = 80;
 inline constexpr int kAideBibliotheque = 90;

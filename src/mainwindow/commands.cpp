@@ -213,6 +213,7 @@ std::vector<Command> ToolsMenu() {
               &frmmain::mnu_outilevolut2_Click),
         Entry("mnu_outilpanneau", menu, {"Panel", "100"}, kAlways,
               &frmmain::mnu_outilpanneau_Click),
+        Entry("mnu_outilaile", menu, {"Plan", "140"}, kAlways, &frmmain::mnu_outilaile_Click),
         Entry("mnu_outilEpCourb", menu, {"MenuOutils", "5"}, kAlways,
               &frmmain::mnu_outilEpCourb_Click),
         Entry("mnu_outilAngle", menu, {"MenuOutils", "6"}, kAlways, &frmmain::mnu_outilAngle_Click),

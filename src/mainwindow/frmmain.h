@@ -97,8 +97,10 @@ class frmmain : public MainFrame {
     void mnu_outilevolut_Click();
     void mnu_outilevolut2_Click();
     void mnu_outilpanneau_Click();
+    void mnu_outilaile_Click();
     /// The panel's window, with the panel of a panel file where one is given.
     void MontrePanneau(const std::string &path);
+    void MontreAile(const std::string &path);
     void mnu_outilAngle_Click();
     void mnu_outilInclinaison_Click();
     void mnu_calc_Click();

@@ -12,6 +12,7 @@
 #include "programme/panel_file.h"
 #include "programme/qt_export_command.h"
 #include "programme/secours_steps.h"
+#include "programme/wing_file.h"
 
 #include <filesystem>
 
@@ -21,6 +22,8 @@ void frmmain::OuvreFichier(const std::string &path) {
     Garde(EtiquetteOuverture(path), [&] {
         if (EstPanneau(path)) {
             MontrePanneau(path);
+        } else if (EstAile(path)) {
+            MontreAile(path);
         } else {
             loftwing::OuvreFichier(programme_, *this, path);
         }
@@ -54,7 +57,7 @@ void frmmain::mnuFileMRU_Click(const std::string &path) {
 
 void frmmain::mnuRibMRU_Click(const std::string &path) {
     std::error_code error;
-    if (EstPanneau(path) && std::filesystem::exists(path, error)) {
+    if ((EstPanneau(path) || EstAile(path)) && std::filesystem::exists(path, error)) {
         OuvreFichier(path);
         return;
     }

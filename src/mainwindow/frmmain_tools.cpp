@@ -1,6 +1,7 @@
 // The tools of the main window.
 
 #include "mainwindow/beside.h"
+#include "mainwindow/frmaile.h"
 #include "mainwindow/frmmain.h"
 #include "mainwindow/frmpanneau.h"
 #include "platform/qt_form.h"
@@ -66,15 +67,34 @@ void frmmain::mnu_outilpanneau_Click() {
     MontrePanneau({});
 }
 
-void frmmain::MontrePanneau(const std::string &path) {
-    if (!ControleSeparateurCommande(programme_, {"Panel", "40"})) {
-        return;
-    }
-    frmpanneau dialog(programme_, this);
+void frmmain::mnu_outilaile_Click() {
+    MontreAile({});
+}
+
+namespace {
+
+/// A window for the file, or empty where the path is; nothing where the file was refused.
+template <class Window>
+void MontreFichier(Programme &programme, frmmain &main, const std::string &path) {
+    Window dialog(programme, &main);
     if (path.empty() || dialog.Ouvre(path)) {
-        AfficheFichiersRecents();
+        main.AfficheFichiersRecents();
         ShowModal(dialog);
-        AfficheFichiersRecents();
+        main.AfficheFichiersRecents();
+    }
+}
+
+} // namespace
+
+void frmmain::MontrePanneau(const std::string &path) {
+    if (ControleSeparateurCommande(programme_, {"Panel", "40"})) {
+        MontreFichier<frmpanneau>(programme_, *this, path);
+    }
+}
+
+void frmmain::MontreAile(const std::string &path) {
+    if (ControleSeparateurCommande(programme_, {"Plan", "141"})) {
+        MontreFichier<frmaile>(programme_, *this, path);
     }
 }
 

@@ -8,6 +8,7 @@
 #include "programme/panel_file.h"
 #include "programme/rib_file.h"
 #include "programme/rib_steps.h"
+#include "programme/wing_file.h"
 
 namespace loftwing {
 
@@ -23,7 +24,8 @@ void frmmain::ConnectPicture() {
     const EmptyHint &hint = picture_->Accueil();
     connect(&hint, &EmptyHint::Ouvre, &commands_.Entree("mnu_fileprofilopen"), &QAction::trigger);
     connect(&hint, &EmptyHint::OuvreRecent, this, [this](const std::string &path) {
-        EstComposants(path) || EstPanneau(path) ? mnuRibMRU_Click(path) : mnuFileMRU_Click(path);
+        EstComposants(path) || EstPanneau(path) || EstAile(path) ? mnuRibMRU_Click(path)
+                                                                 : mnuFileMRU_Click(path);
     });
 }
 

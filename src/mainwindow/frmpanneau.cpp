@@ -19,11 +19,13 @@ constexpr double kShareOfScreen = 0.9;
 frmpanneau::frmpanneau(Programme &programme, QWidget *parent)
     : Dialogue(programme, "frmpanneau", kAidePanneau, parent),
       dossier_(programme.settings.repertoires.RepProfilevol),
-      planches_(PlanchesRetenues(programme)), travail_(programme), Plan(this), Picture1(this) {
+      planches_(PlanchesRetenues(programme)), travail_(programme), Onglets(programme), Plan(this),
+      Picture1(this) {
     NameAll();
     PrepareTables(); // whose headers are words
     PoseTextes();
     PoseBulles();
+    PoseTextesPlan();
     LayOut();
     Refait();
     resize(sizeHint().boundedTo(screen()->availableSize() * kShareOfScreen));
@@ -124,6 +126,7 @@ void frmpanneau::PrendBout(int index, const PartiesRib &bout) {
 void frmpanneau::Refait() {
     attente_.stop();
     travail_.Abandonne();
+    feuilles_ = {};
     lblenregistre.hide(); // that was another panel
     if (Compose()) {
         travail_.Commence(panneau_, demande_);
@@ -143,6 +146,7 @@ void frmpanneau::Montre() {
     Avancement.hide();
     MontreEcart();
     MontrePlan();
+    MontreAile();
     MontreNervures();
     MontreAvis();
 }

@@ -3,6 +3,7 @@
 
 #include "mainwindow/piece_picture.h"
 #include "mainwindow/plan_picture.h"
+#include "mainwindow/plan_tabs.h"
 #include "platform/qt_numeric_field.h"
 #include "programme/panel_drawings.h"
 #include "programme/panel_file.h"
@@ -46,11 +47,14 @@ class frmpanneau : public Dialogue {
 
   private:
     static constexpr int kBouts = 2;
-    static constexpr int kChamps = 4;
+    static constexpr int kChamps = 7;
     static constexpr int kNombre = 0;
     static constexpr int kEpaisseur = 1;
     static constexpr int kPremier = 2;
     static constexpr int kLongueur = 3;
+    static constexpr int kRecul = 4;
+    static constexpr int kDiedre = 5;
+    static constexpr int kDensite = 6;
     static constexpr int kListes = 2; ///< of gaps, of thicknesses
     static constexpr int kVariable = 1;
 
@@ -60,6 +64,7 @@ class frmpanneau : public Dialogue {
     Panneau panneau_;
     std::array<bool, kBouts> choisis_{}; ///< which ends are there
     DemandePanneau demande_;
+    ReglageAile reglage_;
     PanneauFait fait_;
     std::vector<AvisPanneau> refus_; ///< of what was typed, then of the panel
     std::vector<AvisPanneau> avis_;
@@ -74,6 +79,7 @@ class frmpanneau : public Dialogue {
     bool tapes_ = false;  ///< all that was typed is what its fields want
     int rang_ = 0;        ///< of the rib that was chosen last
     SaisiePlanches planches_;
+    FeuillesPieces feuilles_;       ///< laid of the panel as it is
     std::string chemin_;            ///< of the panel file, empty without one
     std::vector<std::string> etat_; ///< of what that has, or of the empty window
     PanneauEnCours travail_;
@@ -93,7 +99,9 @@ class frmpanneau : public Dialogue {
     std::array<QLabel, kChamps> Label2;
     std::array<NumericField, kChamps> txt;
     std::array<QLabel, 2> Label3; ///< units
+    std::array<QLabel, 3> Label6; ///< units of sweep, dihedral and density
     QLabel lblecart;
+    PlanTabs Onglets; // before what stands in it
     PlanPicture Plan;
     QTableWidget Nervures;
     QTableWidget Portees;
@@ -105,6 +113,7 @@ class frmpanneau : public Dialogue {
     QPushButton cmdplanches;
     QPushButton cmddessins;
     QPushButton cmdimprimer;
+    QPushButton cmdaile;
     QTimer attente_; ///< until what is typed rests
 
     // frmpanneau_build.cpp
@@ -112,6 +121,7 @@ class frmpanneau : public Dialogue {
     QLayout *LayOutEnds();
     QLayout *LayOutChoice();
     void LayOutSpacing();
+    QLayout *LayOutPlace();
     void LayOut();
     void PrepareTables();
     void Connect();
@@ -150,6 +160,13 @@ class frmpanneau : public Dialogue {
     void Retient(const std::string &path);
     void cmdouvrir_Click();
     void cmdenregistrer_Click();
+
+    // frmpanneau_plan.cpp
+    void PoseTextesPlan();
+    void PrendPlace();
+    bool SansPoids() const;
+    void MontreAile();
+    void cmdaile_Click();
 
     // frmpanneau_typed.cpp
     bool Variable() const { return optecart[kVariable].isChecked(); }

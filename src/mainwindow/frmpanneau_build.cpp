@@ -56,7 +56,8 @@ void frmpanneau::NameAll() {
                   {&cmdnervures, "cmdnervures"},
                   {&cmdplanches, "cmdplanches"},
                   {&cmddessins, "cmddessins"},
-                  {&cmdimprimer, "cmdimprimer"}});
+                  {&cmdimprimer, "cmdimprimer"},
+                  {&cmdaile, "cmdaile"}});
     NameControls(optecart, "optecart");
     NameControls(Label4, "Label4");
     NameControls(txtliste, "txtliste");
@@ -67,6 +68,7 @@ void frmpanneau::NameAll() {
     NameControls(Label2, "Label2");
     NameControls(txt, "txt");
     NameControls(Label3, "Label3");
+    NameControls(Label6, "Label6");
 }
 
 void frmpanneau::PrepareTables() {
@@ -118,12 +120,12 @@ QLayout *frmpanneau::LayOutChoice() {
 void frmpanneau::LayOutSpacing() {
     for (int i = 0; i < kChamps; ++i) {
         NumericField &field = At(txt, i);
-        const bool length = i == kEpaisseur || i == kLongueur;
-        const QString widest(length ? kDigits : kNumberDigits, '0');
+        const bool count = i == kNombre || i == kPremier;
+        const QString widest(count ? kNumberDigits : kDigits, '0');
         field.setFixedWidth(field.fontMetrics().horizontalAdvance(widest) +
                             4 * field.fontMetrics().averageCharWidth());
         SetCaption(At(Label2, i), field);
-        if (!length) {
+        if (count) {
             field.setMaxLength(kNumberDigits);
         }
     }
@@ -153,6 +155,19 @@ void frmpanneau::LayOutSpacing() {
     Ecarts.setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
 }
 
+/// What the panel's place in the wing and its list want, whichever the spacing.
+QLayout *frmpanneau::LayOutPlace() {
+    auto *row = new QHBoxLayout;
+    for (int i = kRecul; i <= kDensite; ++i) {
+        row->addWidget(&At(Label2, i));
+        row->addWidget(&At(txt, i));
+        row->addWidget(&At(Label6, i - kRecul));
+        row->addSpacing(2 * fontMetrics().averageCharWidth());
+    }
+    row->addStretch();
+    return row;
+}
+
 void frmpanneau::LayOut() {
     LayOutSpacing();
     PlainText({&Label1[0], &Label1[1], &lblecart, &lblavis, &lblenregistre});
@@ -168,15 +183,19 @@ void frmpanneau::LayOut() {
     rows->addLayout(LayOutEnds());
     rows->addLayout(LayOutChoice());
     rows->addWidget(&Ecarts);
-    rows->addWidget(&Plan, 2);
+    rows->addLayout(LayOutPlace());
+    rows->addWidget(&Onglets, 3);
+    Onglets.PoseApercu(Plan);
     rows->addLayout(tables, 2);
     rows->addWidget(&Picture1, 1);
     rows->addWidget(&lblavis);
     rows->addWidget(&lblenregistre);
     rows->addWidget(&Avancement);
     Avancement.hide();
-    PoseBoutons(*rows, {&cmdnervures, &cmdplanches, &cmddessins, &cmdimprimer, SharedWord::close,
-                        SharedWord::help});
+    PoseBoutons(*rows,
+                {&cmdnervures, &cmdplanches, &cmddessins, &cmdimprimer, SharedWord::close,
+                 SharedWord::help},
+                &cmdaile);
     // Return in a field must not write files.
     for (QPushButton *button : findChildren<QPushButton *>()) {
         button->setAutoDefault(false);
@@ -222,6 +241,16 @@ void frmpanneau::Connect() {
         connect(&button, &QPushButton::clicked, this,
                 [this, label, handler] { Garde(label, [this, handler] { (this->*handler)(); }); });
     };
+    Onglets.DemandeAvant([this] { return Pret() && ConfirmeAvis(avis_); },
+                         [this] { return NomDesSorties(); });
+    // The room is the plan's while that is looked at.
+    connect(&Onglets, &QTabWidget::currentChanged, &Picture1,
+            [this](int tab) { Picture1.setVisible(tab == 0); });
+    connect(&Onglets, &PlanTabs::Enregistre, this, [this](const QString &words) {
+        lblenregistre.setText(words);
+        lblenregistre.show();
+    });
+    click(cmdaile, " frmpanneau/cmdaile", &frmpanneau::cmdaile_Click);
     click(cmdouvrir, " frmpanneau/cmdouvrir", &frmpanneau::cmdouvrir_Click);
     click(cmdenregistrer, " frmpanneau/cmdenregistrer", &frmpanneau::cmdenregistrer_Click);
     click(cmdnervures, " frmpanneau/cmdnervures", &frmpanneau::cmdnervures_Click);

@@ -120,6 +120,9 @@ void frmpanneau::Prend(const FichierPanneau &fichier) {
                                                                    : Q(fichier.epaisseurs.front()));
     txt[kPremier].setText(QString::number(fichier.premier));
     txt[kLongueur].setText(Q(fichier.longueur));
+    txt[kRecul].setText(Q(fichier.recul));
+    txt[kDiedre].setText(Q(fichier.diedre));
+    txt[kDensite].setText(Q(fichier.densite));
     txtliste[0].setText(Q(EnLigne(fichier.ecarts)));
     txtliste[1].setText(variable ? Q(EnLigne(fichier.epaisseurs)) : QString());
     portees_.clear();
@@ -141,6 +144,7 @@ void frmpanneau::Retient(const std::string &path) {
     txtfichier.setText(Q(ToUtf8(std::filesystem::path(path).filename().string())));
     RetientDossier(programme_, kDossier, path);
     NoteRib(programme_, CheminEntier(path));
+    MontreAile(); // which has the file's name
 }
 
 FichierPanneau frmpanneau::EnFichier() const {
@@ -157,6 +161,9 @@ FichierPanneau frmpanneau::EnFichier() const {
         fichier.epaisseurs = {S(txt[kEpaisseur].text())};
     }
     fichier.longueur = Variable() ? "" : S(txt[kLongueur].text());
+    fichier.recul = S(txt[kRecul].text());
+    fichier.diedre = S(txt[kDiedre].text());
+    fichier.densite = S(txt[kDensite].text());
     fichier.premier = demande_.premier;
     fichier.portees = panneau_.portees;
     fichier.planches = planches_;

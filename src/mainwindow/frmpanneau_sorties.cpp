@@ -115,6 +115,8 @@ void frmpanneau::cmdplanches_Click() {
     dialog.DemandeAvant([this](const PanneauFait &fait) { return ConfirmeAvis(fait.avis); });
     ShowModal(dialog);
     planches_ = dialog.Choix();
+    feuilles_ = dialog.Feuilles();
+    MontreAile();
 }
 
 /// Where a drawing needs several pages and they have no overlap, the user is asked to set one up.

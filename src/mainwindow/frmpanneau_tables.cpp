@@ -16,9 +16,6 @@ namespace {
 
 enum ColonneNervure { kNumero, kCorde, kVrillage, kAvis };
 
-/// More lines would push the tables out of the window.
-constexpr std::size_t kLignesAvis = 4;
-
 void PoseCase(QTableWidget &table, int row, int column, const QString &text, bool editable) {
     QTableWidgetItem *item = table.item(row, column);
     if (item == nullptr) {
@@ -134,19 +131,10 @@ void frmpanneau::MontreAvis() {
     std::vector<std::string> lines = EnLignes(refus_);
     const std::vector<std::string> warnings = EnLignes(avis_);
     lines.insert(lines.end(), warnings.begin(), warnings.end());
-    std::string shown;
-    std::string all;
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        all += (i == 0 ? "" : "\n") + lines[i];
-        if (i + 1 == kLignesAvis) {
-            shown = all;
-        }
+    if (SansPoids()) { // which is nothing to ask about before ribs are written
+        lines.push_back(programme_.Text({"Plan", "33"}));
     }
-    shown =
-        lines.size() > kLignesAvis ? shown + " ... (" + std::to_string(lines.size()) + ")" : all;
-    SetTip(lblavis, lines.size() > kLignesAvis ? all : "");
-    lblavis.setText(Q(shown));
-    lblavis.setVisible(!shown.empty());
+    MontreLignes(lblavis, lines);
 }
 
 } // namespace loftwing

@@ -109,6 +109,7 @@ void frmpanneau::PrendChamps() {
         PrendRegulier();
     }
     PrendPremier();
+    PrendPlace();
 }
 
 void frmpanneau::PrendPortees() {

@@ -3,6 +3,7 @@
 
 #include "mainwindow/piece_picture.h"
 #include "platform/qt_numeric_field.h"
+#include "programme/liste_pieces.h"
 #include "programme/panel_sheets.h"
 #include "programme/qt_dialogue.h"
 #include "programme/qt_panel_work.h"
@@ -36,6 +37,11 @@ class frmplanches : public Dialogue {
 
     /// What was typed and chosen, whichever way the window was left.
     SaisiePlanches Choix() const;
+    /// The sheets that were laid; none where that wasn't done or what was typed has changed since.
+    FeuillesPieces Feuilles() const {
+        return attente_.isActive() || !voeu_ ? FeuillesPieces{}
+                                             : FeuillesPieces{planches_, voeu_->opposees ? 2 : 1};
+    }
     /// Asks before sheets of a panel with warnings are written.
     void DemandeAvant(std::function<bool(const PanneauFait &fait)> confirme) {
         confirme_ = std::move(confirme);

@@ -72,6 +72,22 @@ void SetTip(QWidget &widget, const std::string &tip) {
     widget.setAccessibleDescription(text);
 }
 
+void MontreLignes(QLabel &label, const std::vector<std::string> &lines) {
+    constexpr std::size_t kMost = 4; // more would push other things out of the window
+    std::string shown;
+    std::string all;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        all += (i == 0 ? "" : "\n") + lines[i];
+        if (i + 1 == kMost) {
+            shown = all;
+        }
+    }
+    const bool many = lines.size() > kMost;
+    label.setText(Q(many ? shown + " ... (" + std::to_string(lines.size()) + ")" : all));
+    SetTip(label, many ? all : "");
+    label.setVisible(!lines.empty());
+}
+
 void MakeNameDisplay(QLineEdit &field, int letters) {
     field.setReadOnly(true);
     field.setFocusPolicy(Qt::NoFocus);

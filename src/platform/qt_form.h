@@ -83,6 +83,9 @@ inline void SetTip(NumericField &field, const std::string &tip) {
     field.SetTip(tip);
 }
 
+/// Shows the first lines of what there is to say, the others in the tool tip; nothing hides it.
+void MontreLignes(QLabel &label, const std::vector<std::string> &lines);
+
 /// Room for the names of most airfoils.
 inline constexpr int kNameLetters = 24;
 

@@ -115,6 +115,9 @@ FichierPanneau LitPanneau(const std::string &path) {
     read.ecarts = Mots(value("Gaps"));
     read.epaisseurs = Mots(value("Thickness"));
     read.longueur = value("Length");
+    read.recul = value("Sweep");
+    read.diedre = value("Dihedral");
+    read.densite = value("Density");
     const std::string first = value("First");
     if (!first.empty()) {
         const auto number = NombreEntier(first);
@@ -145,6 +148,15 @@ void EnregistrePanneau(const std::string &path, const FichierPanneau &fichier) {
     set("Gaps", EnLigne(fichier.ecarts));
     set("Thickness", EnLigne(fichier.epaisseurs));
     set("Length", fichier.longueur);
+    // What only a plan asks for isn't in the file of a panel without one.
+    const auto set_where_used = [&](const char *key, const std::string &value) {
+        if (!value.empty() || !file.Value(kSectionPanneau, key).empty()) {
+            set(key, value);
+        }
+    };
+    set_where_used("Sweep", fichier.recul);
+    set_where_used("Dihedral", fichier.diedre);
+    set_where_used("Density", fichier.densite);
     set("First", std::to_string(fichier.premier));
     // A range that is gone must not come back.
     for (const auto &[section, key] : file.Keys()) {

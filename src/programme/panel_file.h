@@ -21,6 +21,9 @@ struct FichierPanneau {
     int premier = 1; ///< number of the first rib
     PorteesPanneau portees;
     SaisiePlanches planches = {}; ///< without sizes where nothing was chosen for sheets
+    std::string recul = {};       ///< sweep
+    std::string diedre = {};      ///< degrees
+    std::string densite = {};     ///< of the ribs' wood, kg/m3 or lb/ft3
 
     bool operator==(const FichierPanneau &) const = default;
 };

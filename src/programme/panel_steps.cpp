@@ -2,6 +2,7 @@
 
 #include "core/airfoil_reader.h"
 #include "core/contour.h"
+#include "core/stations.h"
 #include "features/inserted_text.h"
 #include "features/slot_rules.h"
 #include "persist/LireEcrire.h"
@@ -12,6 +13,7 @@
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
+#include <numeric>
 
 namespace loftwing {
 
@@ -34,12 +36,9 @@ Piece DeDroite(Piece piece) {
     return piece;
 }
 
-/// Height of a surface at a station that may lie between two, in fractions of the chord.
-double HauteurEntre(const TableStation &table, double station) {
-    const double at = std::clamp(station, 0.0, static_cast<double>(kLastStation));
-    const auto low = static_cast<std::size_t>(std::min(std::floor(at), kLastStation - 1.0));
-    const double part = at - static_cast<double>(low);
-    return table[low] * (1 - part) + table[low + 1] * part;
+double AireDesPieces(const std::vector<Piece> &pieces) {
+    return std::accumulate(pieces.begin(), pieces.end(), 0.0,
+                           [](double sum, const Piece &piece) { return sum + AirePiece(piece); });
 }
 
 } // namespace
@@ -72,6 +71,7 @@ class OuvragePanneau::Travail {
     bool Compose();
     void Ouvre(int numero, NervureFaite &nervure);
     void Regarde(int numero, NervureFaite &nervure);
+    double AireSansSaignee() const;
     void MesureFleches();
     std::optional<Fleche> FlecheDe(const ElementPanneau &spar, bool upper) const;
     std::optional<double> HauteurDuLongeron(const ElementPanneau &spar, bool upper,
@@ -135,11 +135,21 @@ void OuvragePanneau::Travail::Regarde(int numero, NervureFaite &nervure) {
         return;
     }
     nervure.pieces = std::move(std::get<std::vector<Piece>>(made));
+    nervure.aire = demande.saignee == 0 ? AireDesPieces(nervure.pieces) : AireSansSaignee();
     for (const Piece &piece : nervure.pieces) {
         for (const std::string &warning : TextesAvis(messages_, piece)) {
             fait_.avis.push_back({warning, Numero(numero)});
         }
     }
+}
+
+/// A kerf makes outlines larger than what is left of the wood.
+double OuvragePanneau::Travail::AireSansSaignee() const {
+    DemandePiece bare;
+    bare.reference = bare.stations = bare.axes = bare.etiquette = bare.talon = false;
+    const auto made = FaitPieces(rib_, bare, saisie_);
+    const auto *pieces = std::get_if<std::vector<Piece>>(&made);
+    return pieces == nullptr ? 0 : AireDesPieces(*pieces);
 }
 
 /// Height of the surface in which the spar is notched, mm over the rib's reference line.

@@ -38,6 +38,7 @@ struct NervureFaite {
     std::string octets_composants;
     PartiesRib rib; ///< as these files open, with its contour
     std::vector<Piece> pieces;
+    double aire = 0; ///< of their wood, whatever the kerf, mm2
 };
 
 /// How far the spar leaves a straight line over the ribs in which it stands, in height.

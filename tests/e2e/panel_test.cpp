@@ -1,9 +1,7 @@
 // A wing panel between two rib files, made by the built program.
 
 #include "base/whole_file.h"
-#include "e2e/program.h"
-#include "support/components_text.h"
-#include "support/temp_folder.h"
+#include "e2e/tapered_panel.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -21,27 +19,7 @@ using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
 
-class PanelVerb : public testing::Test {
-  protected:
-    PanelVerb() {
-        root.chord = "240";
-        tip.chord = "120";
-        tip.airfoil = root.airfoil = "naca0012.dat";
-        root.spars[0] = {"72", "6", "3", "1", "1", "1", "0", "0", "0"};
-        tip.spars[0] = {"36", "4", "3", "1", "1", "1", "0", "0", "0"};
-    }
-
-    TempFolder folder;
-    ComponentsText root, tip;
-
-    Ran Panel(std::vector<std::string> more) {
-        std::vector<std::string> words = {"panel", folder.File("root.lfw", root.Current()),
-                                          folder.File("tip.lfw", tip.Current()), "--airfoils",
-                                          LOFTWING_SOURCE_DIR "/resources/airfoils"};
-        words.insert(words.end(), more.begin(), more.end());
-        return RunLoftwing(words);
-    }
-};
+using PanelVerb = TaperedPanel;
 
 TEST_F(PanelVerb, WritesEveryRibAsAFileThatDraws) {
     const std::string out = folder.Path("wing");

@@ -28,7 +28,7 @@ std::string Lower(std::string text) {
 /// the program can ask for.
 std::set<Key> KeysAskedFor() {
     const std::regex literal(
-        R"re(\{\s*"((?:Frm|frm|Menu|Main|Message|Erreur|TextButton|Language|LANGUAGE|fileopen|filesaveas|filedxf|Outil|Import|Panel|Piece|Sheet|Undo|Recovery)[A-Za-z0-9]*)"\s*,\s*"([^"]+)"\s*\})re");
+        R"re(\{\s*"((?:Frm|frm|Menu|Main|Message|Erreur|TextButton|Language|LANGUAGE|fileopen|filesaveas|filedxf|Outil|Import|Panel|Plan|Piece|Sheet|Undo|Recovery)[A-Za-z0-9]*)"\s*,\s*"([^"]+)"\s*\})re");
     std::set<Key> keys;
     for (const auto &entry : fs::recursive_directory_iterator(LOFTWING_SOURCE_DIR "/src")) {
         const std::string extension = entry.path().extension().string();

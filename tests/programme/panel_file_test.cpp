@@ -71,10 +71,10 @@ TEST_F(PanelFile, AFileInTheCurrentFolderNamesRibsBesideIt) {
 
 TEST_F(PanelFile, UnknownKeysAreKeptAndRangesThatAreGoneStayGone) {
     const std::string path =
-        folder.File("wing.lfp", "[Panel]\nSweep=12\n[Ranges]\nspar1=1-2\nflap1=3-4\n[Mine]\na=b\n");
+        folder.File("wing.lfp", "[Panel]\nTwist=12\n[Ranges]\nspar1=1-2\nflap1=3-4\n[Mine]\na=b\n");
     EnregistrePanneau(path, Wing());
     const std::string text = folder.Bytes("wing.lfp");
-    EXPECT_THAT(text, HasSubstr("Sweep=12\r\n"));
+    EXPECT_THAT(text, HasSubstr("Twist=12\r\n"));
     EXPECT_THAT(text, HasSubstr("flap1=3-4\r\n"));
     EXPECT_THAT(text, HasSubstr("[Mine]\r\na=b\r\n"));
     EXPECT_EQ(LitPanneau(path), Wing());

@@ -1,5 +1,6 @@
 #include "support/qt_all_windows.h"
 
+#include "base/whole_file.h"
 #include "features/frmInstxt.h"
 #include "features/frmTalon.h"
 #include "features/frmbacarre.h"
@@ -11,6 +12,7 @@
 #include "mainwindow/frmInput.h"
 #include "mainwindow/frmSplash.h"
 #include "mainwindow/frmaide.h"
+#include "mainwindow/frmaile.h"
 #include "mainwindow/frmimport.h"
 #include "mainwindow/frmopen.h"
 #include "mainwindow/frmpanneau.h"
@@ -24,6 +26,7 @@
 #include "platform/qt_platform.h"
 #include "programme/import_steps.h"
 #include "programme/special_views.h"
+#include "support/components_text.h"
 #include "utilities/frmCoord.h"
 #include "utilities/frmEpCourb.h"
 #include "utilities/frmangle.h"
@@ -221,16 +224,31 @@ void LookAtPicker(WindowWorld &world, const Look &look) {
     ShowAndLook(picker, look);
 }
 
-/// A panel from the rib to itself, with its tables filled.
-void LookAtPanel(WindowWorld &world, const Look &look) {
+/// A panel from the rib to itself, with its tables filled; a tab of its plan is up.
+void LookAtPanelTab(WindowWorld &world, const Look &look, int tab) {
     frmpanneau dialog(world.programme, world.window.get());
     Seen panel(dialog);
     panel.Fill({"txt", 0}, "3");
     panel.Fill({"txt", 1}, "2");
     panel.Fill({"txt", 3}, world.programme.settings.Unite == kUniteIn ? "24" : "600");
+    panel.Fill({"txt", 5}, "3.5");
     panel.Find<QPushButton>({"cmdfenetre", 0}).click();
     panel.Find<QPushButton>({"cmdfenetre", 1}).click();
+    panel.Find<PlanTabs>("Onglets").setCurrentIndex(tab);
     ShowAndLook(dialog, look);
+}
+
+void LookAtPanel(WindowWorld &world, const Look &look) {
+    LookAtPanelTab(world, look, 0);
+}
+void LookAtBuildingPlan(WindowWorld &world, const Look &look) {
+    LookAtPanelTab(world, look, 1);
+}
+void LookAtFrontView(WindowWorld &world, const Look &look) {
+    LookAtPanelTab(world, look, 2);
+}
+void LookAtParts(WindowWorld &world, const Look &look) {
+    LookAtPanelTab(world, look, 3);
 }
 
 /// The same with the spacing typed rib by rib.
@@ -242,6 +260,27 @@ void LookAtVariablePanel(WindowWorld &world, const Look &look) {
     panel.Fill({"txtliste", 1}, "2");
     panel.Find<QPushButton>({"cmdfenetre", 0}).click();
     panel.Find<QPushButton>({"cmdfenetre", 1}).click();
+    ShowAndLook(dialog, look);
+}
+
+/// Two panels of a wing, the second of which says that its file has no length.
+void LookAtWing(WindowWorld &world, const Look &look) {
+    const std::string unit(Trim(world.programme.settings.Unite));
+    ComponentsText rib;
+    if (world.programme.settings.Unite == kUniteIn) {
+        rib.chord = "8";
+        rib.sheeting = "1/16";
+    }
+    world.folder.File("naca2412.dat", ReadWholeFile(WindowWorld::Sample("naca2412.dat")));
+    world.folder.File("root.lfw", rib.Current());
+    const std::string panel = "[Panel]\nRoot=root.lfw\nTip=root.lfw\nUnit=" + unit + "\nCount=3\n";
+    world.folder.File("inner.lfp", panel + "Length=24\n");
+    world.folder.File("outer, a long name that a file may well have.lfp", panel);
+    const std::string wing = world.folder.File(
+        "wing.lfa",
+        "[Wing]\nPanel1=inner.lfp\nPanel2=outer, a long name that a file may well have.lfp\n");
+    frmaile dialog(world.programme, world.window.get());
+    EXPECT_TRUE(dialog.Ouvre(wing));
     ShowAndLook(dialog, look);
 }
 
@@ -322,6 +361,11 @@ const std::vector<KnownWindow> &KnownWindows() {
         Plain<frmpanneau>("frmpanneau-empty"),
         {"frmpanneau", &LookAtPanel},
         {"frmpanneau-variable", &LookAtVariablePanel},
+        {"frmpanneau-plan", &LookAtBuildingPlan},
+        {"frmpanneau-front", &LookAtFrontView},
+        {"frmpanneau-parts", &LookAtParts},
+        Plain<frmaile>("frmaile-empty"),
+        {"frmaile", &LookAtWing},
         {"frmplanches", &LookAtSheets},
         {"frmimport", &LookAtImport},
         {"frmsecours", &LookAtRecovery},

@@ -19,7 +19,7 @@ class PanelFileWindow : public PanelWindow {
         Written(tip, "tip.lfw");
         return world.folder.File("ribs/wing.lfp",
                                  "[Panel]\nRoot=root.lfw\nTip=tip.lfw\nUnit=mm\nCount=3\n"
-                                 "Length=600\nThickness=2\nFirst=4\nSweep=12\n" +
+                                 "Length=600\nThickness=2\nFirst=4\nTaper=12\n" +
                                      more);
     }
     void Open(const Seen &dialog, const std::string &path) {
@@ -97,7 +97,7 @@ TEST_F(PanelFileWindow, WhatIsSavedComesBackAndUnknownKeysAreKept) {
         EXPECT_FALSE(dialog.As<frmpanneau>().Modifie());
     });
     EXPECT_THAT(world.platform.boxes, IsEmpty());
-    EXPECT_THAT(Text(), HasSubstr("Sweep=12"));
+    EXPECT_THAT(Text(), HasSubstr("Taper=12"));
     EXPECT_THAT(Text(), HasSubstr("Gaps=60 60.5 60\r\n"));
     EXPECT_THAT(Text(), HasSubstr("Thickness=2 2 2 2\r\n"));
     EXPECT_THAT(Text(), HasSubstr("spar2=2-3"));
