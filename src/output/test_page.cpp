@@ -71,7 +71,7 @@ double Rangees(PlotDevice &device, const Rangee &row, double y, const std::strin
 /// Samples of text in the sizes that a label on a rib may have. Their words are the same in every
 /// language.
 void Tailles(PlotDevice &device, double x, double y) {
-    constexpr double kPas = 5.0; // mm
+    constexpr double kRangTaille = 5.0; // mm
     struct Sample {
         double size;
         const char *text;
@@ -86,7 +86,7 @@ void Tailles(PlotDevice &device, double x, double y) {
     }};
     Ecrit(device, x, y, "Text size on View / Insert Text");
     for (const Sample &sample : samples) {
-        y += Units(kPas);
+        y += Units(kRangTaille);
         device.Font.size = sample.size;
         Ecrit(device, x, y, sample.text);
     }
