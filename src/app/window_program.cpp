@@ -17,12 +17,15 @@
 #include "programme/startup.h"
 
 #include <QApplication>
+#include <QTimer>
 
 #include <algorithm>
 #include <filesystem>
+#include <functional>
 #include <iostream>
 #include <memory>
 #include <string_view>
+#include <utility>
 
 namespace loftwing {
 
@@ -37,10 +40,45 @@ std::vector<std::string> WordsLeft() {
     return words;
 }
 
+/// Does once what can wait until the window stands before the user, or at the latest after a
+/// moment: a window that starts as an icon is not painted.
+class AfterFirstPaint : public QObject {
+  public:
+    AfterFirstPaint(QWidget &window, std::function<void()> rest)
+        : QObject(&window), rest_(std::move(rest)) {
+        window.installEventFilter(this);
+        late_.setSingleShot(true);
+        connect(&late_, &QTimer::timeout, this, &AfterFirstPaint::Go);
+        late_.start(kAtTheLatest);
+    }
+    bool eventFilter(QObject *window, QEvent *event) override {
+        if (event->type() == QEvent::Paint) {
+            window->removeEventFilter(this);
+            late_.start(0); // when the painting is over
+        }
+        return false;
+    }
+
+  private:
+    static constexpr int kAtTheLatest = 500; // ms
+    std::function<void()> rest_;
+    QTimer late_;
+
+    void Go() {
+        // What is done may open boxes, so that it lasts longer than this.
+        const std::function<void()> rest = std::exchange(rest_, nullptr);
+        deleteLater();
+        if (rest) {
+            rest();
+        }
+    }
+};
+
 int Show(Programme &programme, const std::vector<std::string> &files) {
     // The language comes first, for the window's load may have something to say; only a first
     // start, which has to ask for it, makes the window before.
     std::unique_ptr<frmmain> window;
+    std::unique_ptr<frmSplash> splash;
     const auto main_window = [&]() -> frmmain & {
         if (!window) {
             window = std::make_unique<frmmain>(programme);
@@ -55,27 +93,33 @@ int Show(Programme &programme, const std::vector<std::string> &files) {
         return kDone;
     }
     programme.platform.SetPointer(Pointer::busy);
-    main_window().AppliqueLangue();
-    main_window().show();
-    frmSplash splash(programme, window.get());
-    splash.show();
-    if (programme.PremierDemarrage) {
-        if (SansProfil(programme.settings.repertoires.RepProfil)) {
-            installationProfils(programme);
-        }
-        FinPremierDemarrage(programme);
+    if (window) {
+        window->AppliqueLangue(); // it was made without one
     }
+    main_window().show();
     // Among the recent files it must be found from everywhere.
     std::error_code error;
     const std::string path =
         files.empty() ? "" : std::filesystem::absolute(files.front(), error).string();
-    QTimer::singleShot(0, window.get(), [&window, path] {
+    // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the window owns it
+    new AfterFirstPaint(*window, [&, path] {
+        QGuiApplication::setWindowIcon(ProgramIcon());
+        splash = std::make_unique<frmSplash>(programme, window.get());
+        splash->show();
+        if (programme.PremierDemarrage) {
+            if (SansProfil(programme.settings.repertoires.RepProfil)) {
+                installationProfils(programme);
+            }
+            FinPremierDemarrage(programme);
+        }
         // A rib that the user wanted back isn't lost to a file that was asked for before.
         if (!window->OffreSecours() && !path.empty()) {
             window->OuvreFichier(path);
         }
     });
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    splash.reset();
+    return status;
 }
 
 /// Whether the toolkit has anywhere to show a window; without, it would end the process.
@@ -98,7 +142,6 @@ int RunWindow(int argc, char **argv) {
     QCoreApplication::setApplicationName("loftwing");
     QCoreApplication::setApplicationVersion(kVersion);
     QGuiApplication::setDesktopFileName("loftwing");
-    QGuiApplication::setWindowIcon(ProgramIcon());
     try {
         const Arguments arguments(WordsLeft(), {{"--settings", "FILE", "settings file"}});
         if (arguments.Files().size() > 1) {
