@@ -38,6 +38,29 @@ std::vector<double> Bends(const std::vector<double> &at, const std::vector<doubl
     return bends;
 }
 
+/// The place on the segment from `a` to `b` that comes nearest to `point`.
+CurvePoint NearestOn(const CurvePoint &a, const CurvePoint &b, const CurvePoint &point) {
+    const double dx = b.x - a.x;
+    const double dy = b.y - a.y;
+    const double square = dx * dx + dy * dy;
+    const double along =
+        square > 0 ? std::clamp(((point.x - a.x) * dx + (point.y - a.y) * dy) / square, 0.0, 1.0)
+                   : 0.0;
+    return {a.x + along * dx, a.y + along * dy};
+}
+
+double Square(const CurvePoint &a, const CurvePoint &b) {
+    const double dx = b.x - a.x;
+    const double dy = b.y - a.y;
+    return dx * dx + dy * dy;
+}
+
+/// A square of distances above which none can be less than `distance`, however both are rounded.
+double SquareBeyond(double distance) {
+    constexpr double kRounding = 1e-9;
+    return distance * distance * (1 + kRounding) + std::numeric_limits<double>::min();
+}
+
 } // namespace
 
 double Distance(const CurvePoint &a, const CurvePoint &b) {
@@ -56,14 +79,24 @@ NearPolyline::NearPolyline(const Curve &line) {
     strips_.resize(std::clamp<std::size_t>(line_.size() / 4, 1, kMostStrips));
     const double width = (high->x - left_) / static_cast<double>(strips_.size());
     width_ = width > 0 && std::isfinite(width) ? width : 1.0;
-    for (std::size_t first = 0; first + 1 < line_.size() || first == 0; ++first) {
-        const CurvePoint &a = line_[first];
-        const CurvePoint &b = line_[std::min(first + 1, line_.size() - 1)];
-        const std::size_t last = StripOf(std::max(a.x, b.x));
-        for (std::size_t strip = StripOf(std::min(a.x, b.x)); strip <= last; ++strip) {
-            strips_[strip].push_back(first);
+    const auto each_in_strip = [this](const auto &take) {
+        for (std::size_t first = 0; first + 1 < line_.size() || first == 0; ++first) {
+            const CurvePoint &a = line_[first];
+            const CurvePoint &b = line_[std::min(first + 1, line_.size() - 1)];
+            const std::size_t last = StripOf(std::max(a.x, b.x));
+            for (std::size_t strip = StripOf(std::min(a.x, b.x)); strip <= last; ++strip) {
+                take(strip, first);
+            }
         }
+    };
+    // Counted before they are kept: most of the time would go into lists that grow.
+    std::vector<std::size_t> counts(strips_.size(), 0);
+    each_in_strip([&counts](std::size_t strip, std::size_t) { ++counts[strip]; });
+    for (std::size_t strip = 0; strip < counts.size(); ++strip) {
+        strips_[strip].reserve(counts[strip]);
     }
+    each_in_strip(
+        [this](std::size_t strip, std::size_t first) { strips_[strip].push_back(first); });
 }
 
 std::size_t NearPolyline::StripOf(double x) const {
@@ -73,15 +106,8 @@ std::size_t NearPolyline::StripOf(double x) const {
 }
 
 double NearPolyline::ToSegment(const CurvePoint &point, std::size_t first) const {
-    const CurvePoint &a = line_[first];
-    const CurvePoint &b = line_[std::min(first + 1, line_.size() - 1)];
-    const double dx = b.x - a.x;
-    const double dy = b.y - a.y;
-    const double square = dx * dx + dy * dy;
-    const double along =
-        square > 0 ? std::clamp(((point.x - a.x) * dx + (point.y - a.y) * dy) / square, 0.0, 1.0)
-                   : 0.0;
-    return Distance(point, {a.x + along * dx, a.y + along * dy});
+    return Distance(point,
+                    NearestOn(line_[first], line_[std::min(first + 1, line_.size() - 1)], point));
 }
 
 double NearPolyline::operator()(const CurvePoint &point) const {
@@ -89,9 +115,15 @@ double NearPolyline::operator()(const CurvePoint &point) const {
     if (!IsFinite(point)) {
         return nearest;
     }
+    double beyond = nearest;
+    // The exact distance takes long, and few segments come near enough to need it.
     const auto look = [&](std::size_t strip) {
         for (const std::size_t first : strips_[strip]) {
-            nearest = std::min(nearest, ToSegment(point, first));
+            const CurvePoint &end = line_[std::min(first + 1, line_.size() - 1)];
+            if (Square(point, NearestOn(line_[first], end, point)) <= beyond) {
+                nearest = std::min(nearest, ToSegment(point, first));
+                beyond = SquareBeyond(nearest);
+            }
         }
     };
     const std::size_t home = StripOf(point.x);
