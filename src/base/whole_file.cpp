@@ -46,7 +46,7 @@ Failure OpenFailure(const std::string &path, int error) {
 
 /// A name beside `path` that no other copy of the program is likely to take at the same moment.
 fs::path NameBeside(const fs::path &path) {
-    static std::mt19937 dice{std::random_device{}()};
+    thread_local std::mt19937 dice{std::random_device{}()}; // each thread has its own
     return path.parent_path() / ("loftwing-" + std::to_string(dice()) + ".part");
 }
 

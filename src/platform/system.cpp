@@ -32,6 +32,14 @@ fs::path Variable(const char *name) {
 constexpr std::array kDisplays = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
 #endif
 
+#ifndef _WIN32
+std::tm LocalTimeHere(std::time_t moment) {
+    std::tm local{};
+    localtime_r(&moment, &local);
+    return local;
+}
+#endif
+
 } // namespace
 
 #ifdef _WIN32
@@ -53,6 +61,12 @@ fs::path ConfigFolder() {
 
 fs::path DataFolder() {
     return ConfigFolder();
+}
+
+std::tm LocalTime(std::time_t moment) {
+    std::tm local{};
+    localtime_s(&local, &moment);
+    return local;
 }
 
 bool HasDisplay() {
@@ -105,6 +119,10 @@ fs::path DataFolder() {
     return HomeFolder() / "Library" / "Application Support";
 }
 
+std::tm LocalTime(std::time_t moment) {
+    return LocalTimeHere(moment);
+}
+
 bool HasDisplay() {
     return true;
 }
@@ -130,6 +148,10 @@ fs::path ConfigFolder() {
 fs::path DataFolder() {
     const fs::path data = Variable("XDG_DATA_HOME");
     return data.empty() ? HomeFolder() / ".local" / "share" : data;
+}
+
+std::tm LocalTime(std::time_t moment) {
+    return LocalTimeHere(moment);
 }
 
 bool HasDisplay() {

@@ -2,6 +2,7 @@
 /// systems have stand in this unit and nowhere else.
 #pragma once
 
+#include <ctime>
 #include <filesystem>
 
 namespace loftwing {
@@ -17,6 +18,10 @@ std::filesystem::path ConfigFolder();
 
 /// Where programs keep what the user has made without naming a file, each in a folder of its own.
 std::filesystem::path DataFolder();
+
+/// A moment by the user's clock. Unlike the library's own routine it may be asked in several
+/// threads.
+std::tm LocalTime(std::time_t moment);
 
 /// Whether a window can be shown as far as the surroundings tell.
 bool HasDisplay();

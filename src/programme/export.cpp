@@ -3,6 +3,7 @@
 #include "output/print_file.h"
 #include "output/sheeting.h"
 #include "output/view_screen.h"
+#include "platform/system.h"
 #include "programme/nom_propose.h"
 
 #include <array>
@@ -25,10 +26,9 @@ std::unique_ptr<Recording> DessineVue(Programme &programme, PlotState &plot, boo
 }
 
 std::string DateDuJour() {
-    const std::time_t now = std::time(nullptr);
+    const std::tm now = LocalTime(std::time(nullptr));
     std::array<char, 16> text{};
-    const std::size_t length =
-        std::strftime(text.data(), text.size(), "%Y-%m-%d", std::localtime(&now));
+    const std::size_t length = std::strftime(text.data(), text.size(), "%Y-%m-%d", &now);
     return {text.data(), length};
 }
 
