@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <iostream>
+#include <sstream>
 
 namespace loftwing {
 
@@ -24,6 +25,42 @@ void ValeursPouces(Programme &programme) {
     StockeLongueur("8", saisie, rib.cordeAfich, rib.corde);
     StockeLongueur("1/16", saisie, rib.EpCoffrageAfich, rib.EpCoffrage);
     loftwing::ValeursPouces(programme.settings.page);
+}
+
+void ChargeLangue(const Arguments &arguments, Programme &programme) {
+    const std::string name = arguments.Value("--language", kUsualLanguage);
+    const std::vector<std::string> names = LngIni::Languages(programme.paths.langues);
+    if (std::find(names.begin(), names.end(), name) == names.end()) {
+        throw UsageError("no language " + name);
+    }
+    programme.language.Charge(programme.paths.langues, name);
+}
+
+void ChargeValeurs(const Arguments &arguments, Programme &programme) {
+    const std::string unit = " " + arguments.Value("--unit", "mm");
+    if (unit != kUniteMm && unit != kUniteIn) {
+        throw UsageError("--unit takes mm or in");
+    }
+    ValeursDefaut(programme.ReglagesEnCours(), programme.paths.programme);
+    programme.settings.Unite = unit;
+    if (!arguments.Has("--settings")) {
+        if (unit == kUniteIn) {
+            ValeursPouces(programme);
+        }
+        return;
+    }
+    if (!std::filesystem::exists(programme.paths.fichier)) {
+        throw MakeFailure(kFileNotFound, programme.paths.fichier);
+    }
+    if (!LitTout(programme.ReglagesEnCours())) {
+        throw Refused{};
+    }
+    const std::string &in_file = programme.settings.Unite;
+    if (arguments.Has("--unit") || (in_file != kUniteMm && in_file != kUniteIn)) {
+        programme.settings.Unite = unit;
+        DeriveLongueurs(programme.ReglagesEnCours());
+    }
+    ReplaceYdprint(programme.settings.page, programme.settings.Unite);
 }
 
 } // namespace
@@ -53,15 +90,51 @@ void Deliver(const std::string &path, const std::string &text) {
 }
 
 void NameRefused(const std::string &file) {
-    std::cerr << "loftwing: " << file << " was refused\n";
+    NameRefused(StandardConsole(), file);
+}
+
+void NameRefused(const Console &console, const std::string &file) {
+    console.err << "loftwing: " << file << " was refused\n";
+}
+
+ConsoleStart::ConsoleStart(const Arguments &arguments)
+    : paths_(ConsolePaths(arguments.Value("--settings"))), says_yes_(arguments.Has("--yes")),
+      lecture_(arguments.Has("--import") ? ReadingWay::by_import : ReadingWay::as_it_stands) {
+    std::ostringstream lines;
+    ConsolePlatform platform(lines, says_yes_);
+    Programme programme(paths_, platform);
+    try {
+        ChargeLangue(arguments, programme);
+        ChargeValeurs(arguments, programme);
+    } catch (const Failure &failure) {
+        failure_ = failure;
+    } catch (const Refused &) {
+        std::cerr << lines.str();
+        throw;
+    }
+    language_ = std::move(programme.language);
+    settings_ = std::move(programme.settings);
+    rib_ = std::move(programme.rib.Partie<PartiesRib>());
+    told_ = {lines.str(), platform.LastText()};
+}
+
+std::string ConsoleStart::FailureText(const Failure &failure) const {
+    return Description(failure, language_);
 }
 
 ConsoleProgram::ConsoleProgram(const Arguments &arguments)
-    : platform_(std::cerr, arguments.Has("--yes")),
-      programme_(ConsolePaths(arguments.Value("--settings")), platform_),
-      lecture_(arguments.Has("--import") ? ReadingWay::by_import : ReadingWay::as_it_stands) {
-    ChargeLangue(arguments);
-    ChargeValeurs(arguments);
+    : ConsoleProgram(FileRun{ConsoleStart(arguments), StandardConsole()}) {}
+
+ConsoleProgram::ConsoleProgram(const FileRun &run)
+    : platform_(run.console.err, run.start.says_yes_), programme_(run.start.paths_, platform_),
+      lecture_(run.start.lecture_) {
+    platform_.TellAgain(run.start.told_);
+    if (run.start.failure_) {
+        throw Failure(*run.start.failure_);
+    }
+    programme_.language = run.start.language_;
+    programme_.settings = run.start.settings_;
+    programme_.rib.Partie<PartiesRib>() = run.start.rib_;
 }
 
 std::string FailureText(const Arguments &arguments, const Failure &failure) {
@@ -72,42 +145,6 @@ std::string FailureText(const Arguments &arguments, const Failure &failure) {
         // Without its file the words are the program's own.
     }
     return Description(failure, language);
-}
-
-void ConsoleProgram::ChargeLangue(const Arguments &arguments) {
-    const std::string name = arguments.Value("--language", kUsualLanguage);
-    const std::vector<std::string> names = LngIni::Languages(programme_.paths.langues);
-    if (std::find(names.begin(), names.end(), name) == names.end()) {
-        throw UsageError("no language " + name);
-    }
-    programme_.language.Charge(programme_.paths.langues, name);
-}
-
-void ConsoleProgram::ChargeValeurs(const Arguments &arguments) {
-    const std::string unit = " " + arguments.Value("--unit", "mm");
-    if (unit != kUniteMm && unit != kUniteIn) {
-        throw UsageError("--unit takes mm or in");
-    }
-    ValeursDefaut(programme_.ReglagesEnCours(), programme_.paths.programme);
-    programme_.settings.Unite = unit;
-    if (!arguments.Has("--settings")) {
-        if (unit == kUniteIn) {
-            ValeursPouces(programme_);
-        }
-        return;
-    }
-    if (!std::filesystem::exists(programme_.paths.fichier)) {
-        throw MakeFailure(kFileNotFound, programme_.paths.fichier);
-    }
-    if (!LitTout(programme_.ReglagesEnCours())) {
-        throw Refused{};
-    }
-    const std::string &in_file = programme_.settings.Unite;
-    if (arguments.Has("--unit") || (in_file != kUniteMm && in_file != kUniteIn)) {
-        programme_.settings.Unite = unit;
-        DeriveLongueurs(programme_.ReglagesEnCours());
-    }
-    ReplaceYdprint(programme_.settings.page, programme_.settings.Unite);
 }
 
 bool ConsoleProgram::Ouvre(const std::string &path, const std::vector<std::string> &dossiers) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/arguments.h"
+#include "app/console.h"
 #include "core/airfoil_picker.h"
 #include "programme/console_platform.h"
 #include "programme/import_reading.h"
@@ -26,18 +27,53 @@ void Deliver(const std::string &path, const std::string &text);
 
 /// Says on standard error which of several FILEs was refused: the line that told why doesn't.
 void NameRefused(const std::string &file);
+/// The same for a file among many.
+void NameRefused(const Console &console, const std::string &file);
 
 /// The words of a failure in the language that the options name; a verb that failed has no program
 /// any more that could say it.
 std::string FailureText(const Arguments &arguments, const Failure &failure);
 
+/// What all programs of a command start from: language, settings and unit as the options say, read
+/// once. Nothing in it changes any more, so that programs may be made of it in any thread.
+class ConsoleStart {
+  public:
+    /// Throws UsageError for a language or a unit that there isn't, Refused for a settings file
+    /// that can't be read, which it tells on standard error. What fails otherwise, such as a
+    /// settings file that isn't there, fails for each program that starts from it.
+    explicit ConsoleStart(const Arguments &arguments);
+
+    const LngIni &Language() const { return language_; }
+    /// The words of a failure in that language.
+    std::string FailureText(const Failure &failure) const;
+
+  private:
+    friend class ConsoleProgram;
+
+    Paths paths_;
+    bool says_yes_;
+    ReadingWay lecture_;
+    LngIni language_;
+    AppSettings settings_;
+    PartiesRib rib_;
+    ConsoleWords told_; ///< by the settings; each program tells it
+    std::optional<Failure> failure_;
+};
+
+/// Where the work on one FILE starts, and where it tells.
+struct FileRun {
+    const ConsoleStart &start;
+    Console console;
+};
+
 /// One program for one drawing: every file of a command starts from a fresh state.
 class ConsoleProgram {
   public:
-    /// Language, settings and unit as the options say. Throws UsageError for a language or a unit
-    /// that there isn't, Failure for a settings file that isn't there, Refused for one that can't
-    /// be read.
+    /// A program of its own for a command that needs no other one. Throws as ConsoleStart, Failure
+    /// for a settings file that isn't there.
     explicit ConsoleProgram(const Arguments &arguments);
+    /// One of several. Failure for a start that failed.
+    explicit ConsoleProgram(const FileRun &run);
 
     Programme &Owner() { return programme_; }
     ConsolePlatform &Platform() { return platform_; }
@@ -61,8 +97,6 @@ class ConsoleProgram {
     Programme programme_;
     ReadingWay lecture_; ///< of airfoil files
 
-    void ChargeLangue(const Arguments &arguments);
-    void ChargeValeurs(const Arguments &arguments);
     bool LitProfil(const std::string &path);
     bool OuvreProfil(const std::string &path);
 };

@@ -2,12 +2,14 @@
 
 #include "app/command_line.h"
 #include "app/console_program.h"
+#include "app/many_files.h"
 #include "app/typed_value.h"
 #include "base/number_text.h"
 #include "programme/import_words.h"
 
 #include <filesystem>
 #include <iostream>
+#include <optional>
 
 namespace loftwing {
 
@@ -34,24 +36,45 @@ bool IsFolder(const std::string &out) {
     return out.ends_with('/') || (out != "-" && fs::is_directory(out));
 }
 
-bool Convert(const Arguments &arguments, const ImportWishes &wishes, const std::string &file) {
-    ConsoleProgram program(arguments);
-    const std::string out = arguments.Value("--output");
-    const std::string name = fs::path(file).stem().string();
+/// Where OUT wants the airfoil of a file.
+std::string NameOf(const std::string &out, bool folder, const std::string &file) {
+    return folder ? (fs::path(out) / (fs::path(file).stem().string() + ".dat")).string() : out;
+}
+
+/// What became of a file.
+struct Converted {
+    std::optional<std::string> text; ///< of the airfoil file; nothing when it was refused
+    std::string words;               ///< what was done to it, or why it was refused
+};
+
+Converted Convert(const FileRun &run, const ImportWishes &wishes, const std::string &file) {
+    ConsoleProgram program(run);
     const Messages &messages = program.Owner().messages;
     try {
         const ImportedAirfoil airfoil = ImportFile(file, wishes);
-        Deliver(IsFolder(out) ? (fs::path(out) / (name + ".dat")).string() : out,
-                AirfoilFile(airfoil, name));
-        messages.Inform(ImportStory(messages, airfoil), file);
+        return {AirfoilFile(airfoil, fs::path(file).stem().string()),
+                ImportStory(messages, airfoil)};
     } catch (const ImportRefusal &refusal) {
-        messages.Inform(ImportRefusalText(messages, refusal), file);
-        return false;
+        return {std::nullopt, ImportRefusalText(messages, refusal)};
     } catch (const Failure &failure) {
-        messages.Inform(messages.Description(failure), file);
-        return false;
+        return {std::nullopt, messages.Description(failure)};
     }
-    return static_cast<bool>(std::cout);
+}
+
+/// Writes the airfoil, and tells what became of the file. False when it was refused.
+bool Finish(const ConsoleStart &start, Converted converted, const std::string &file,
+            const std::string &out) {
+    ConsolePlatform platform(std::cerr, false);
+    const Messages messages{platform, start.Language()};
+    if (converted.text) {
+        try {
+            Deliver(out, *converted.text);
+        } catch (const Failure &failure) {
+            converted = {std::nullopt, messages.Description(failure)};
+        }
+    }
+    messages.Inform(converted.words, file);
+    return converted.text && std::cout;
 }
 
 } // namespace
@@ -81,13 +104,21 @@ int RunConvert(const Arguments &arguments) {
         fs::create_directories(out, error);
     }
     const ImportWishes wishes = WishesOf(arguments);
-    int status = kDone;
+    const ConsoleStart start(arguments);
+    std::vector<std::string> written;
+    written.reserve(files.size());
     for (const std::string &file : files) {
-        if (!Convert(arguments, wishes, file)) {
-            status = kRefused;
-        }
+        written.push_back(NameOf(out, folder, file));
     }
-    return status;
+    const auto work = [&](std::size_t index, const Console &console) -> FileTurn {
+        Converted converted = Convert({start, console}, wishes, files[index]);
+        const std::size_t bytes = converted.text ? converted.text->size() : 0;
+        return {[&, index, converted = std::move(converted)] {
+                    return Finish(start, converted, files[index], written[index]);
+                },
+                bytes};
+    };
+    return WorkOnFiles(files.size(), AtATimeOf(files, written), work) ? kDone : kRefused;
 }
 
 } // namespace loftwing

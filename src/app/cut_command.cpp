@@ -15,9 +15,10 @@ namespace {
 
 const DrawingVerb kCut = {"cut", kVueRib, 1, "a FILE"};
 
-std::optional<std::string> Cut(const Arguments &arguments, const FormeDecoupe &form,
-                               const CutReport &report, const std::string &file, bool &complete) {
-    ConsoleProgram program(arguments);
+std::optional<std::string> Cut(const Arguments &arguments, const FileRun &run,
+                               const FormeDecoupe &form, const CutReport &report,
+                               const std::string &file, bool &complete) {
+    ConsoleProgram program(run);
     const auto pieces = CutPiecesOf(arguments, program, file, complete);
     if (!pieces) {
         report.TellRefused(program.Platform().LastText());
@@ -73,17 +74,18 @@ int RunCut(const Arguments &arguments) {
     const FormeDecoupe &form = CutFormOf(destination.extension);
     destination.extension = form.extension;
     const Toolkit toolkit(form.needs_toolkit);
-    return DeliverAll(arguments, kCut, arguments.Files(), destination,
-                      [&](const std::vector<std::string> &files, bool &complete) {
-                          const CutReport report(arguments, destination.IsStandardOutput(),
-                                                 files.front());
-                          try {
-                              return Cut(arguments, form, report, files.front(), complete);
-                          } catch (const Failure &failure) {
-                              report.TellRefused(FailureText(arguments, failure));
-                              throw;
-                          }
-                      });
+    return DeliverAll(
+        arguments, kCut, arguments.Files(), destination,
+        [&](const FileRun &run, const std::vector<std::string> &files, bool &complete) {
+            const CutReport report(arguments, run.console, destination.IsStandardOutput(),
+                                   files.front());
+            try {
+                return Cut(arguments, run, form, report, files.front(), complete);
+            } catch (const Failure &failure) {
+                report.TellRefused(run.start.FailureText(failure));
+                throw;
+            }
+        });
 }
 
 } // namespace loftwing

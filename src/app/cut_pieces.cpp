@@ -10,7 +10,6 @@
 #include "programme/piece_words.h"
 
 #include <array>
-#include <iostream>
 
 namespace loftwing {
 
@@ -119,7 +118,7 @@ void CutReport::TellRefused(const std::string &why) const {
 }
 
 void CutReport::Print(const JsonLine &line) const {
-    (drawing_on_out_ ? std::cerr : std::cout) << line.Text() << '\n';
+    (drawing_on_out_ ? console_.err : console_.out) << line.Text() << '\n';
 }
 
 std::optional<std::vector<Piece>> CutPiecesOf(const Arguments &arguments, ConsoleProgram &program,

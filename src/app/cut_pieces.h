@@ -22,14 +22,17 @@ AnneauxDxf RingsOf(const Arguments &arguments);
 /// What is told of the pieces of one FILE beside their drawing.
 class CutReport {
   public:
-    CutReport(const Arguments &arguments, bool drawing_on_out, std::string file)
-        : json_(arguments.Has("--json")), drawing_on_out_(drawing_on_out), file_(std::move(file)) {}
+    CutReport(const Arguments &arguments, const Console &console, bool drawing_on_out,
+              std::string file)
+        : json_(arguments.Has("--json")), console_(console), drawing_on_out_(drawing_on_out),
+          file_(std::move(file)) {}
 
     void Tell(const Messages &messages, const Piece &piece) const;
     void TellRefused(const std::string &why) const;
 
   private:
     bool json_;
+    Console console_;
     bool drawing_on_out_; ///< standard output has it, so that nothing else may come there
     std::string file_;
 

@@ -44,25 +44,17 @@ SheetTarget TargetOfSheets(const Arguments &arguments) {
     return {ending.empty() ? ending : ending.substr(1), out, {}};
 }
 
-/// The pieces of one FILE; nothing when it was refused, which was told.
-std::optional<std::vector<PieceNommee>> PiecesOfFile(const Arguments &arguments,
-                                                     const CutReport &report,
-                                                     const std::string &file, bool &complete) {
-    ConsoleProgram program(arguments);
-    bool whole = false;
-    const auto pieces = CutPiecesOf(arguments, program, file, whole);
-    if (!pieces) {
-        report.TellRefused(program.Platform().LastText());
-        if (arguments.Files().size() > 1) {
-            NameRefused(file);
-        }
-        return std::nullopt;
-    }
-    complete = complete && whole;
-    const Messages &messages = program.Owner().messages;
+/// The pieces of one FILE and their names.
+struct PiecesOfOne {
+    std::vector<PieceNommee> pieces;
+    bool refused = false; ///< which was told
+    bool complete = true;
+};
+
+std::vector<PieceNommee> Named(const Messages &messages, const std::vector<Piece> &pieces,
+                               const std::string &file) {
     std::vector<PieceNommee> named;
-    for (const Piece &piece : *pieces) {
-        report.Tell(messages, piece);
+    for (const Piece &piece : pieces) {
         const std::string kind = NomDePiece(messages, piece.genre);
         std::string name = file;
         if (!kind.empty()) {
@@ -73,18 +65,57 @@ std::optional<std::vector<PieceNommee>> PiecesOfFile(const Arguments &arguments,
     return named;
 }
 
-/// The same, failures told with the FILE's name.
-std::optional<std::vector<PieceNommee>> TryFile(const Arguments &arguments,
-                                                const SheetTarget &target, const std::string &file,
-                                                bool &complete) {
-    const CutReport report(arguments, target.on_out, file);
-    try {
-        return PiecesOfFile(arguments, report, file, complete);
-    } catch (const Failure &failure) {
-        report.TellRefused(FailureText(arguments, failure));
-        std::cerr << "loftwing: " << file << ": " << FailureText(arguments, failure) << '\n';
-        return std::nullopt;
+PiecesOfOne PiecesOfFile(const Arguments &arguments, const FileRun &run, const CutReport &report,
+                         const std::string &file) {
+    ConsoleProgram program(run);
+    PiecesOfOne made;
+    const auto pieces = CutPiecesOf(arguments, program, file, made.complete);
+    if (!pieces) {
+        report.TellRefused(program.Platform().LastText());
+        if (arguments.Files().size() > 1) {
+            NameRefused(run.console, file);
+        }
+        made.refused = true;
+        return made;
     }
+    const Messages &messages = program.Owner().messages;
+    for (const Piece &piece : *pieces) {
+        report.Tell(messages, piece);
+    }
+    made.pieces = Named(messages, *pieces, file);
+    return made;
+}
+
+/// The same, failures told with the FILE's name.
+PiecesOfOne TryFile(const Arguments &arguments, const FileRun &run, const SheetTarget &target,
+                    const std::string &file) {
+    const CutReport report(arguments, run.console, target.on_out, file);
+    try {
+        return PiecesOfFile(arguments, run, report, file);
+    } catch (const Failure &failure) {
+        const std::string why = run.start.FailureText(failure);
+        report.TellRefused(why);
+        run.console.err << "loftwing: " << file << ": " << why << '\n';
+        return {{}, true, true};
+    }
+}
+
+/// The pieces of all FILEs in their order.
+PiecesOfOne PiecesOfAll(const Arguments &arguments, const ConsoleStart &start,
+                        const SheetTarget &target) {
+    PiecesOfOne all;
+    const std::vector<std::string> &files = arguments.Files();
+    const auto work = [&](std::size_t index, const Console &console) -> FileTurn {
+        PiecesOfOne one = TryFile(arguments, {start, console}, target, files[index]);
+        return {[one = std::move(one), &all] {
+            all.pieces.insert(all.pieces.end(), one.pieces.begin(), one.pieces.end());
+            all.complete = all.complete && one.complete;
+            return !one.refused;
+        }};
+    };
+    // Nothing is written before all are read.
+    all.refused = !WorkOnFiles(files.size(), AtATime::many, work);
+    return all;
 }
 
 std::string Json(const Planche &sheet, std::size_t number, const std::string &path) {
@@ -157,23 +188,15 @@ int CutOnSheets(const Arguments &arguments) {
     const SheetTarget target = TargetOfSheets(arguments);
     const FormeDecoupe &form = CutFormOf(target.extension);
     const Toolkit toolkit(form.needs_toolkit);
-    ConsoleProgram program(arguments);
+    const ConsoleStart start(arguments);
+    ConsoleProgram program({start, StandardConsole()});
     const Programme &programme = program.Owner();
     const SheetWish wish = SheetWishOf(arguments, programme);
-    std::vector<PieceNommee> pieces;
-    bool complete = true;
-    bool refused = false;
-    for (const std::string &file : arguments.Files()) {
-        const auto some = TryFile(arguments, target, file, complete);
-        refused = refused || !some;
-        if (some) {
-            pieces.insert(pieces.end(), some->begin(), some->end());
-        }
-    }
-    if (refused) {
+    const PiecesOfOne made = PiecesOfAll(arguments, start, target);
+    if (made.refused) {
         return kRefused;
     }
-    const auto sheets = ToldIfRefused(programme, Nested(pieces, wish));
+    const auto sheets = ToldIfRefused(programme, Nested(made.pieces, wish));
     if (!sheets) {
         return kRefused;
     }
@@ -183,7 +206,7 @@ int CutOnSheets(const Arguments &arguments) {
     }
     const bool written = Write(target, files);
     TellSheets(arguments, target, *sheets, files, programme.settings.Unite);
-    return written && complete ? kDone : kRefused;
+    return written && made.complete ? kDone : kRefused;
 }
 
 } // namespace loftwing

@@ -63,9 +63,10 @@ int DrawFiles(const Arguments &arguments, const std::vector<std::string> &files,
         return DrawStacked(arguments, kDraw, files, prepare);
     }
     return DrawAll(arguments, kDraw, files,
-                   [&](const DrawingTarget &target, const std::vector<std::string> &each,
+                   [&](const FileRun &run, const DrawingTarget &target,
+                       const std::vector<std::string> &each,
                        bool &complete) -> std::optional<std::string> {
-                       ConsoleProgram program(arguments);
+                       ConsoleProgram program(run);
                        const Preparation prepared = prepare(program, each.front());
                        if (prepared == Preparation::impossible) {
                            return std::nullopt;

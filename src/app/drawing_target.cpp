@@ -93,26 +93,53 @@ bool Deliver(const Destination &destination, const std::string &file, const std:
     return true;
 }
 
-/// Makes a file of some FILEs. A failure to make it is told with the first one's name; one to write
-/// names OUT itself.
-bool MakeAndDeliver(const Arguments &arguments, const Destination &destination,
-                    const std::vector<std::string> &files, const Make &make) {
-    std::string concerned = files.front() + ": ";
+/// What was made of some FILEs; no bytes when that was refused.
+struct MadeFile {
+    std::optional<std::string> bytes;
+    bool complete = false;
+};
+
+/// Makes a file of some FILEs. A failure is told with the first one's name.
+MadeFile MakeTold(const FileRun &run, const Destination &destination,
+                  const std::vector<std::string> &files, const Make &make) {
+    MadeFile made;
     try {
-        bool complete = false;
-        const auto bytes = make(files, complete);
-        if (!bytes) {
-            if (destination.several) {
-                NameRefused(files.front());
-            }
-            return false;
+        made.bytes = make(run, files, made.complete);
+        if (!made.bytes && destination.several) {
+            NameRefused(run.console, files.front());
         }
-        concerned.clear();
-        return Deliver(destination, files.front(), *bytes) && complete;
     } catch (const Failure &failure) {
-        std::cerr << "loftwing: " << concerned << FailureText(arguments, failure) << '\n';
+        run.console.err << "loftwing: " << files.front() << ": " << run.start.FailureText(failure)
+                        << '\n';
+    }
+    return made;
+}
+
+/// Writes a file that was made. A failure names OUT itself. False when anything was amiss.
+bool DeliverTold(const ConsoleStart &start, const Destination &destination, const std::string &file,
+                 const MadeFile &made) {
+    if (!made.bytes) {
         return false;
     }
+    try {
+        return Deliver(destination, file, *made.bytes) && made.complete;
+    } catch (const Failure &failure) {
+        std::cerr << "loftwing: " << start.FailureText(failure) << '\n';
+        return false;
+    }
+}
+
+/// How many of the files may be made at a time.
+AtATime MadeAtATime(const Destination &destination, const std::vector<std::string> &files) {
+    if (!destination.several) {
+        return AtATime::one;
+    }
+    std::vector<std::string> written;
+    written.reserve(files.size());
+    for (const std::string &file : files) {
+        written.push_back(NameOf(destination, file));
+    }
+    return AtATimeOf(files, written);
 }
 
 } // namespace
@@ -207,14 +234,21 @@ int DeliverAll(const Arguments &arguments, const DrawingVerb &verb,
         std::error_code error;
         fs::create_directories(destination.folder, error);
     }
-    int status = kDone;
-    const auto each = static_cast<std::ptrdiff_t>(verb.files_each);
-    for (auto at = files.begin(); at != files.end(); at += each) {
-        if (!MakeAndDeliver(arguments, destination, {at, at + each}, make)) {
-            status = kRefused;
-        }
-    }
-    return status;
+    const ConsoleStart start(arguments);
+    const auto work = [&](std::size_t index, const Console &console) -> FileTurn {
+        const auto first = files.begin() + static_cast<std::ptrdiff_t>(index * verb.files_each);
+        MadeFile made =
+            MakeTold({start, console}, destination,
+                     {first, first + static_cast<std::ptrdiff_t>(verb.files_each)}, make);
+        const std::size_t bytes = made.bytes ? made.bytes->size() : 0;
+        return {[&start, &destination, &file = *first, made = std::move(made)] {
+                    return DeliverTold(start, destination, file, made);
+                },
+                bytes};
+    };
+    const bool all =
+        WorkOnFiles(files.size() / verb.files_each, MadeAtATime(destination, files), work);
+    return all ? kDone : kRefused;
 }
 
 int DrawAll(const Arguments &arguments, const DrawingVerb &verb,
@@ -222,9 +256,8 @@ int DrawAll(const Arguments &arguments, const DrawingVerb &verb,
     const DrawingTarget target = TargetOf(arguments, verb, files);
     const Toolkit toolkit(target.form->needs_toolkit);
     return DeliverAll(arguments, verb, files, target,
-                      [&](const std::vector<std::string> &some, bool &complete) {
-                          return draw(target, some, complete);
-                      });
+                      [&](const FileRun &run, const std::vector<std::string> &some,
+                          bool &complete) { return draw(run, target, some, complete); });
 }
 
 } // namespace loftwing

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "app/arguments.h"
+#include "app/console_program.h"
+#include "app/many_files.h"
 #include "programme/qt_export_forms.h"
 
 #include <functional>
@@ -52,13 +54,13 @@ DrawingTarget TargetOf(const Arguments &arguments, const DrawingVerb &verb,
                        const std::vector<std::string> &files);
 
 /// The bytes of a file, nothing when anything was refused; `complete` says whether nothing was
-/// amiss on the way.
-using Make = std::function<std::optional<std::string>(const std::vector<std::string> &files,
-                                                      bool &complete)>;
+/// amiss on the way. Others may be made at the same time.
+using Make = std::function<std::optional<std::string>(
+    const FileRun &run, const std::vector<std::string> &files, bool &complete)>;
 
 /// Makes a file of all `files`, as many as the verb wants at a time, writes each whole, and gives
 /// the exit status. In a folder it is named after the first of its files. A refused one stops no
-/// other one, and leaves nothing under its name.
+/// other one, and leaves nothing under its name. Several are made at a time where that may be.
 int DeliverAll(const Arguments &arguments, const DrawingVerb &verb,
                const std::vector<std::string> &files, const Destination &destination,
                const Make &make);
@@ -72,9 +74,10 @@ ReglagePage PageAsTyped(Programme &programme);
 /// Failures as the form's.
 std::optional<std::string> Dessine(Programme &programme, const DrawingTarget &target);
 
-/// Makes the bytes of a drawing.
+/// Makes the bytes of a drawing, as Make does.
 using Draw = std::function<std::optional<std::string>(
-    const DrawingTarget &target, const std::vector<std::string> &files, bool &complete)>;
+    const FileRun &run, const DrawingTarget &target, const std::vector<std::string> &files,
+    bool &complete)>;
 
 /// Draws all `files` and gives the exit status; see DeliverAll.
 int DrawAll(const Arguments &arguments, const DrawingVerb &verb,

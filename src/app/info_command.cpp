@@ -3,10 +3,11 @@
 #include "app/command_line.h"
 #include "app/console_program.h"
 #include "app/json_line.h"
+#include "app/many_files.h"
 #include "base/number_text.h"
 #include "core/contour.h"
 
-#include <iostream>
+#include <ostream>
 
 namespace loftwing {
 
@@ -37,39 +38,40 @@ std::string AsJson(const RibModel &rib, const Arguments &arguments, const std::s
     return json.Text();
 }
 
-void PrintList(const char *name, const double *values, std::size_t count) {
-    std::cout << "  " << name << ":";
+void PrintList(std::ostream &out, const char *name, const double *values, std::size_t count) {
+    out << "  " << name << ":";
     for (std::size_t i = 0; i < count; ++i) {
-        std::cout << ' ' << NumberText(values[i]);
+        out << ' ' << NumberText(values[i]);
     }
-    std::cout << '\n';
+    out << '\n';
 }
 
-void PrintReadable(const RibModel &rib, const Arguments &arguments, const std::string &file) {
-    std::cout << file << '\n'
-              << "  title: " << rib.EnteteProfil << '\n'
-              << "  points: " << rib.NbPoints << '\n'
-              << "  contour points: " << rib.NbContour << " (upper " << rib.NbExtrados << ", lower "
-              << rib.NbIntrados << ")\n"
-              << "  thickness: " << NumberText(rib.EpMaxi * 100.0) << " % (count "
-              << NumberText(rib.PosEpMaxi) << ")\n"
-              << "  camber: " << NumberText(rib.CambrureMaxi * 100.0) << " % (count "
-              << rib.PosCambrure << ")\n"
-              << "  top: " << NumberText(rib.ExtradosMaxi) << '\n'
-              << "  bottom: " << NumberText(rib.IntradosMini) << '\n';
+void PrintReadable(std::ostream &out, const RibModel &rib, const Arguments &arguments,
+                   const std::string &file) {
+    out << file << '\n'
+        << "  title: " << rib.EnteteProfil << '\n'
+        << "  points: " << rib.NbPoints << '\n'
+        << "  contour points: " << rib.NbContour << " (upper " << rib.NbExtrados << ", lower "
+        << rib.NbIntrados << ")\n"
+        << "  thickness: " << NumberText(rib.EpMaxi * 100.0) << " % (count "
+        << NumberText(rib.PosEpMaxi) << ")\n"
+        << "  camber: " << NumberText(rib.CambrureMaxi * 100.0) << " % (count " << rib.PosCambrure
+        << ")\n"
+        << "  top: " << NumberText(rib.ExtradosMaxi) << '\n'
+        << "  bottom: " << NumberText(rib.IntradosMini) << '\n';
     if (arguments.Has("--stations")) {
-        PrintList("upper heights", rib.TabExtrados.data(), rib.TabExtrados.size());
-        PrintList("lower heights", rib.TabIntrados.data(), rib.TabIntrados.size());
+        PrintList(out, "upper heights", rib.TabExtrados.data(), rib.TabExtrados.size());
+        PrintList(out, "lower heights", rib.TabIntrados.data(), rib.TabIntrados.size());
     }
     if (arguments.Has("--contour")) {
-        PrintList("contour x", rib.ContourX.Values().data(), rib.ContourX.Values().size());
-        PrintList("contour y", rib.ContourY.Values().data(), rib.ContourY.Values().size());
+        PrintList(out, "contour x", rib.ContourX.Values().data(), rib.ContourX.Values().size());
+        PrintList(out, "contour y", rib.ContourY.Values().data(), rib.ContourY.Values().size());
     }
 }
 
 /// The facts of one file; false when anything about it was refused or failed.
-bool InformOf(const Arguments &arguments, const std::string &file) {
-    ConsoleProgram program(arguments);
+bool InformOf(const Arguments &arguments, const FileRun &run, const std::string &file) {
+    ConsoleProgram program(run);
     RibModel &rib = program.Owner().rib;
     Preparation prepared = Preparation::impossible;
     if (program.Ouvre(file)) {
@@ -82,16 +84,16 @@ bool InformOf(const Arguments &arguments, const std::string &file) {
             JsonLine line;
             line.Add("file", file);
             line.Add("refused", program.Platform().LastText());
-            std::cout << line.Text() << '\n';
+            run.console.out << line.Text() << '\n';
         } else if (arguments.Files().size() > 1) {
-            NameRefused(file);
+            NameRefused(run.console, file);
         }
         return false;
     }
     if (json) {
-        std::cout << AsJson(rib, arguments, file) << '\n';
+        run.console.out << AsJson(rib, arguments, file) << '\n';
     } else {
-        PrintReadable(rib, arguments, file);
+        PrintReadable(run.console.out, rib, arguments, file);
     }
     return prepared == Preparation::complete;
 }
@@ -112,13 +114,14 @@ int RunInfo(const Arguments &arguments) {
     if (arguments.Files().empty()) {
         throw UsageError("info wants a FILE");
     }
-    int status = kDone;
-    for (const std::string &file : arguments.Files()) {
-        if (!InformOf(arguments, file)) {
-            status = kRefused;
-        }
-    }
-    return status;
+    const ConsoleStart start(arguments);
+    const std::vector<std::string> &files = arguments.Files();
+    const bool all = WorkOnFiles(
+        files.size(), AtATime::many, [&](std::size_t index, const Console &console) -> FileTurn {
+            const bool whole = InformOf(arguments, {start, console}, files[index]);
+            return {[whole] { return whole; }};
+        });
+    return all ? kDone : kRefused;
 }
 
 } // namespace loftwing

@@ -9,7 +9,6 @@
 #include "programme/qt_stack_pdf.h"
 
 #include <filesystem>
-#include <iostream>
 #include <memory>
 
 namespace loftwing {
@@ -30,31 +29,31 @@ bool IsDrawn(Programme &programme) {
     return DessineVue(programme, plot, failed) != nullptr;
 }
 
-bool Open(const Arguments &arguments, const std::string &file, const PrepareFile &prepare,
+bool Open(const FileRun &run, const std::string &file, const PrepareFile &prepare,
           ConsoleProgram &program, bool &complete) {
     try {
         const Preparation prepared = prepare(program, file);
         complete = complete && prepared == Preparation::complete;
         return prepared != Preparation::impossible && IsDrawn(program.Owner());
     } catch (const Failure &failure) {
-        std::cerr << "loftwing: " << file << ": " << FailureText(arguments, failure) << '\n';
+        run.console.err << "loftwing: " << file << ": " << run.start.FailureText(failure) << '\n';
         return false;
     }
 }
 
 /// Opens all FILEs, so that each that is refused is told; none at all when one is.
-Programs OpenAll(const Arguments &arguments, const std::vector<std::string> &files,
+Programs OpenAll(const FileRun &run, const std::vector<std::string> &files,
                  const PrepareFile &prepare, bool &complete) {
     Programs programs;
     programs.reserve(files.size());
     bool all = true;
     complete = true;
     for (const std::string &file : files) {
-        programs.push_back(std::make_unique<ConsoleProgram>(arguments));
-        if (!Open(arguments, file, prepare, *programs.back(), complete)) {
+        programs.push_back(std::make_unique<ConsoleProgram>(run));
+        if (!Open(run, file, prepare, *programs.back(), complete)) {
             all = false;
             if (files.size() > 1) {
-                NameRefused(file);
+                NameRefused(run.console, file);
             }
         }
     }
@@ -101,16 +100,16 @@ int DrawStacked(const Arguments &arguments, const DrawingVerb &verb,
     DrawingVerb of_all = verb;
     of_all.files_each = files.size();
     const fs::path named = target.IsStandardOutput() ? files.front() : target.file;
-    return DeliverAll(
-        arguments, of_all, files, target,
-        [&](const std::vector<std::string> &all, bool &complete) -> std::optional<std::string> {
-            const Programs programs = OpenAll(arguments, all, prepare, complete);
-            if (programs.empty()) {
-                return std::nullopt;
-            }
-            Pile pile(StackOf(programs, ToUtf8(named.stem().string())));
-            return PdfDePile(pile);
-        });
+    return DeliverAll(arguments, of_all, files, target,
+                      [&](const FileRun &run, const std::vector<std::string> &all,
+                          bool &complete) -> std::optional<std::string> {
+                          const Programs programs = OpenAll(run, all, prepare, complete);
+                          if (programs.empty()) {
+                              return std::nullopt;
+                          }
+                          Pile pile(StackOf(programs, ToUtf8(named.stem().string())));
+                          return PdfDePile(pile);
+                      });
 }
 
 } // namespace loftwing

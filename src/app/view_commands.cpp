@@ -33,9 +33,9 @@ std::vector<OptionRule> ViewOptions(const DrawingVerb &verb,
     return rules;
 }
 
-std::optional<std::string> DrawPlot(const Arguments &arguments, const DrawingTarget &target,
-                                    const std::string &file) {
-    ConsoleProgram program(arguments);
+std::optional<std::string> DrawPlot(const Arguments &arguments, const FileRun &run,
+                                    const DrawingTarget &target, const std::string &file) {
+    ConsoleProgram program(run);
     Programme &programme = program.Owner();
     ApplyPageOptions(arguments, programme);
     if (!program.Ouvre(file, arguments.Values("--airfoils"))) {
@@ -77,28 +77,30 @@ bool OpenFor(ConsoleProgram &program, const Arguments &arguments, const std::str
 }
 
 /// Opens an airfoil of a comparison and has it taken; one that can't be had is named.
-Preparation Take(ConsoleProgram &program, const Arguments &arguments, const std::string &file,
-                 bool keep_chord, const std::function<Preparation()> &prend) {
+Preparation Take(ConsoleProgram &program, const Arguments &arguments, const Console &console,
+                 const std::string &file, bool keep_chord,
+                 const std::function<Preparation()> &prend) {
     const Preparation taken =
         OpenFor(program, arguments, file, keep_chord) ? prend() : Preparation::impossible;
     if (taken == Preparation::impossible) {
-        NameRefused(file);
+        NameRefused(console, file);
     }
     return taken;
 }
 
-std::optional<std::string> DrawCompare(const Arguments &arguments, const DrawingTarget &target,
+std::optional<std::string> DrawCompare(const Arguments &arguments, const FileRun &run,
+                                       const DrawingTarget &target,
                                        const std::vector<std::string> &files, bool &complete) {
-    ConsoleProgram program(arguments);
+    ConsoleProgram program(run);
     Programme &programme = program.Owner();
     ApplyPageOptions(arguments, programme);
-    const Preparation first =
-        Take(program, arguments, files[0], false, [&programme] { return PrendProfil1(programme); });
+    const Preparation first = Take(program, arguments, run.console, files[0], false,
+                                   [&programme] { return PrendProfil1(programme); });
     if (first == Preparation::impossible) {
         return std::nullopt;
     }
     const double haut1 = programme.rib.ExtradosMaxi;
-    const Preparation second = Take(program, arguments, files[1], true,
+    const Preparation second = Take(program, arguments, run.console, files[1], true,
                                     [&programme, haut1] { return PrendProfil2(programme, haut1); });
     if (second == Preparation::impossible) {
         return std::nullopt;
@@ -119,10 +121,10 @@ std::vector<OptionRule> PlotOptions() {
 
 int RunPlot(const Arguments &arguments) {
     return DrawAll(arguments, kPlot, arguments.Files(),
-                   [&arguments](const DrawingTarget &target, const std::vector<std::string> &files,
-                                bool &complete) {
+                   [&arguments](const FileRun &run, const DrawingTarget &target,
+                                const std::vector<std::string> &files, bool &complete) {
                        complete = true;
-                       return DrawPlot(arguments, target, files.front());
+                       return DrawPlot(arguments, run, target, files.front());
                    });
 }
 
@@ -131,10 +133,11 @@ std::vector<OptionRule> CompareOptions() {
 }
 
 int RunCompare(const Arguments &arguments) {
-    return DrawAll(
-        arguments, kCompare, arguments.Files(),
-        [&arguments](const DrawingTarget &target, const std::vector<std::string> &files,
-                     bool &complete) { return DrawCompare(arguments, target, files, complete); });
+    return DrawAll(arguments, kCompare, arguments.Files(),
+                   [&arguments](const FileRun &run, const DrawingTarget &target,
+                                const std::vector<std::string> &files, bool &complete) {
+                       return DrawCompare(arguments, run, target, files, complete);
+                   });
 }
 
 } // namespace loftwing

@@ -24,6 +24,11 @@ BoxAnswer ConsolePlatform::Show(const MessageBox &box) {
     return has_yes && says_yes_ ? BoxAnswer::yes : box.fallback;
 }
 
+void ConsolePlatform::TellAgain(const ConsoleWords &words) {
+    lines_ << words.lines;
+    last_text_ = words.last;
+}
+
 std::optional<std::string> ConsolePlatform::Ask(const std::string &, const std::string &,
                                                 const std::string &) {
     return std::nullopt;

@@ -7,6 +7,12 @@
 
 namespace loftwing {
 
+/// What a platform has told so far.
+struct ConsoleWords {
+    std::string lines; ///< on its stream
+    std::string last;  ///< text of the last box
+};
+
 /// Every box is one line "TITLE: TEXT" on the stream, line ends shown as blanks. A question takes
 /// its default button, or Yes where the user said so beforehand. Choosers are cancelled.
 class ConsolePlatform : public Platform {
@@ -15,6 +21,8 @@ class ConsolePlatform : public Platform {
 
     /// Text of the last box, on one line; empty when there was none.
     const std::string &LastText() const { return last_text_; }
+    /// Tells what another one has told in its place.
+    void TellAgain(const ConsoleWords &words);
 
     BoxAnswer Show(const MessageBox &box) override;
     /// Nobody can take the tick out; nor does a run of the command line remember anything.
