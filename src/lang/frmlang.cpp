@@ -51,12 +51,14 @@ bool lang::Prend(const std::string &name) {
     }
     programme_.messages.PoseMotsDesBoutons();
     const std::string &fichier = programme_.paths.fichier;
-    if (!WriteINIFile("Language", "Langue", name, fichier)) {
+    try {
+        StoreINIFile("Language", "Langue", name, fichier);
+    } catch (const Failure &failure) {
         if (programme_.settings.fichier.perdu) {
             DitReglagesPerdus(programme_);
             return true;
         }
-        programme_.messages.Report(MakeFailure(kPathFileAccess, fichier), " WriteINIFile");
+        programme_.messages.Report(failure, " WriteINIFile");
     }
     return true;
 }

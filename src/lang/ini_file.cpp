@@ -2,7 +2,6 @@
 
 #include "base/failure.h"
 #include "base/text_encoding.h"
-#include "base/whole_file.h"
 
 #include <algorithm>
 
@@ -149,20 +148,33 @@ std::string IniFile::Text() const {
     return text;
 }
 
+void IniFile::Write(const std::string &path, Flush flush) const {
+    WriteWholeFile(path, Text(), flush);
+}
+
 bool IniFile::Save(const std::string &path) const {
-    return ReplaceFile(path, Text());
+    return ReplaceFile(path, Text(), Flush::yes);
 }
 
 std::string GetINIFile(std::string_view section, std::string_view key, const std::string &path) {
     return IniFile::Read(path).Value(section, key);
 }
 
+void StoreINIFile(std::string_view section, std::string_view key, std::string_view value,
+                  const std::string &path) {
+    const std::string old = ReadWholeFileIfThere(path);
+    IniFile file = IniFile::Parse(old);
+    file.SetValue(section, key, value);
+    if (old.empty() || file.Text() != old) {
+        file.Write(path, Flush::yes); // waiting for a disk is for what has changed
+    }
+}
+
 bool WriteINIFile(std::string_view section, std::string_view key, std::string_view value,
                   const std::string &path) {
     try {
-        IniFile file = IniFile::Read(path);
-        file.SetValue(section, key, value);
-        return file.Save(path);
+        StoreINIFile(section, key, value, path);
+        return true;
     } catch (const Failure &) {
         return false; // what can't be read must not be written over
     }

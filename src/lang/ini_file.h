@@ -1,6 +1,8 @@
 /// Files of sections, keys and values: the settings file and the language files.
 #pragma once
 
+#include "base/whole_file.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,7 +29,10 @@ class IniFile {
     std::vector<std::pair<std::string, std::string>> Keys() const;
     /// The whole file, lines ended by CR LF.
     std::string Text() const;
-    /// Writes it over `path` as a whole. False when that isn't possible.
+    /// Writes it over `path` as a whole. Failures as WriteWholeFile.
+    void Write(const std::string &path, Flush flush) const;
+    /// The same for settings, which must outlast a power cut: years of a user's choices stand in
+    /// them. False when that isn't possible.
     bool Save(const std::string &path) const;
 
   private:
@@ -40,8 +45,13 @@ class IniFile {
 /// One value of an ini-style file; see IniFile::Read and IniFile::Value.
 std::string GetINIFile(std::string_view section, std::string_view key, const std::string &path);
 
-/// Writes one value, creating file and section as needed. The file is replaced as a whole, so that
-/// a crash leaves the old one. False, and the file untouched, when it can't be read or replaced.
+/// Writes one value of the settings, creating file and section as needed. The file is replaced as a
+/// whole, so that a crash leaves the old one, and only where that changes it. Failures as
+/// IniFile::Read and WriteWholeFile, and the file untouched.
+void StoreINIFile(std::string_view section, std::string_view key, std::string_view value,
+                  const std::string &path);
+
+/// The same where the program does without: false instead of the failure.
 bool WriteINIFile(std::string_view section, std::string_view key, std::string_view value,
                   const std::string &path);
 

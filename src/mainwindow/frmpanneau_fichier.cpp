@@ -210,7 +210,7 @@ void frmpanneau::cmdenregistrer_Click() {
     question.name = NomDesSorties() + ".lfp";
     const std::string path = programme_.platform.ChooseSaveFile(question);
     if (!path.empty()) {
-        EnregistrePanneau(path, EnFichier());
+        EnregistrePanneau(path, EnFichier(), Flush::yes);
         Retient(path);
         MontreEnregistre({"Panel", "187"}, path);
     }

@@ -80,7 +80,9 @@ void frmpanneau::EcritFichiers() {
         ecrits_.Note(EcritPanneau(fait_));
     } catch (const Failure &failure) {
         programme_.platform.SetPointer(Pointer::normal);
-        RapporteEcriture(programme_.messages, failure, kEtiquette);
+        // Not the words for the folder of rib sets: this one was chosen here.
+        programme_.messages.Inform(programme_.messages.TexteEchec(failure),
+                                   programme_.Text({"Erreur", "1"}) + kEtiquette);
         return;
     }
     MontreEnregistre({"Panel", "129"}, dossier_);
@@ -144,7 +146,7 @@ void frmpanneau::cmddessins_Click() {
     const Sablier sablier(programme_.platform);
     DessinsPanneau drawings = Dessins(ToUtf8(std::filesystem::path(path).stem().string()));
     if (const auto bytes = PdfDePile(drawings.EnPile())) {
-        WriteWholeFile(path, *bytes);
+        WriteWholeFile(path, *bytes, Flush::yes);
         MontreEnregistre({"Panel", "153"}, path);
     }
 }

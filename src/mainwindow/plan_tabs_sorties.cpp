@@ -99,7 +99,7 @@ void PlanTabs::EnregistrePlan() {
         const Sablier sablier(programme_.platform);
         bytes = OctetsDuPlan(static_cast<FormePlan>(answer.form), Dessins(), programme_);
         if (const auto *written = std::get_if<std::string>(&bytes)) {
-            WriteWholeFile(answer.path, *written);
+            WriteWholeFile(answer.path, *written, Flush::yes);
         }
     }
     if (const auto *refused = std::get_if<RefusFormePlan>(&bytes)) {
@@ -120,9 +120,11 @@ void PlanTabs::EnregistreListe() {
     }
     {
         const Sablier sablier(programme_.platform);
-        WriteWholeFile(answer.path, OctetsDeLaListe(static_cast<FormeListe>(answer.form),
-                                                    TitreDeListe(*aile_, programme_.messages),
-                                                    Tables(), programme_.settings.page));
+        WriteWholeFile(answer.path,
+                       OctetsDeLaListe(static_cast<FormeListe>(answer.form),
+                                       TitreDeListe(*aile_, programme_.messages), Tables(),
+                                       programme_.settings.page),
+                       Flush::yes);
     }
     Dit({"Plan", "125"}, answer.path);
 }

@@ -17,7 +17,6 @@
 #include <algorithm>
 #include <cmath>
 #include <deque>
-#include <filesystem>
 #include <optional>
 
 namespace loftwing {
@@ -176,13 +175,6 @@ class MemoryPdf : public PdfPrinter {
     std::string &bytes_;
 };
 
-bool IsDiskFull(const std::string &path, std::size_t needed) {
-    std::error_code error;
-    const std::filesystem::path folder = std::filesystem::absolute(path, error).parent_path();
-    const std::filesystem::space_info space = std::filesystem::space(folder, error);
-    return !error && space.available < needed;
-}
-
 class FilePdf : public PdfPrinter {
   public:
     FilePdf(const std::string &path, const std::string &title, const QPageSize &paper)
@@ -191,11 +183,7 @@ class FilePdf : public PdfPrinter {
     std::string Fichier() const override { return S(QFileInfo(Q(path_)).absoluteFilePath()); }
 
   protected:
-    void Deliver(std::string bytes) override {
-        if (!ReplaceFile(path_, bytes)) {
-            throw MakeFailure(IsDiskFull(path_, bytes.size()) ? kDiskFull : kDeviceError, path_);
-        }
-    }
+    void Deliver(std::string bytes) override { WriteWholeFile(path_, bytes, Flush::yes); }
 
   private:
     std::string path_;

@@ -202,7 +202,7 @@ void EnregistreRib(Programme &programme, CommandView &view) {
         return;
     }
     RetientDossier(programme, "LastOpenLfw", path);
-    WriteWholeFile(path, EcritComposants(rib, programme.settings.Unite));
+    WriteWholeFile(path, EcritComposants(rib, programme.settings.Unite), Flush::yes);
     rib.NomFichierRib = fs::path(path).filename().string();
     rib.Modifie = false;
     rib.CheminRib = CheminEntier(path);

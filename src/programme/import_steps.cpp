@@ -111,7 +111,7 @@ std::string EnregistreImport(const Programme &programme, const std::string &path
     question.default_extension = "dat";
     std::string saved = programme.platform.ChooseSaveFile(question);
     if (!saved.empty()) {
-        WriteWholeFile(saved, AirfoilFile(airfoil, fs::path(saved).stem().string()));
+        WriteWholeFile(saved, AirfoilFile(airfoil, fs::path(saved).stem().string()), Flush::yes);
     }
     return saved;
 }

@@ -131,7 +131,7 @@ FichierPanneau LitPanneau(const std::string &path) {
     return read;
 }
 
-void EnregistrePanneau(const std::string &path, const FichierPanneau &fichier) {
+void EnregistrePanneau(const std::string &path, const FichierPanneau &fichier, Flush flush) {
     IniFile file = IniFile::Read(path);
     const auto set = [&file](const char *key, const std::string &value) {
         file.SetValue(kSectionPanneau, key, value);
@@ -172,9 +172,7 @@ void EnregistrePanneau(const std::string &path, const FichierPanneau &fichier) {
     if (!fichier.planches.formats.empty()) {
         PosePlanches(file, fichier.planches);
     }
-    if (!file.Save(path)) {
-        throw MakeFailure(kPathFileAccess, path);
-    }
+    file.Write(path, flush);
 }
 
 } // namespace loftwing

@@ -38,7 +38,8 @@ FichierPanneau LitPanneau(const std::string &path);
 /// Writes one as a whole. What an older file of that name says beside is kept. Ribs in the file's
 /// folder or below it are named from there, so that the folder can be moved. Failure 75 when it is
 /// refused.
-void EnregistrePanneau(const std::string &path, const FichierPanneau &fichier);
+void EnregistrePanneau(const std::string &path, const FichierPanneau &fichier,
+                       Flush flush = Flush::no);
 
 /// "1-5", and the range of such a word; nothing for another one.
 std::string TextePortee(const PorteePanneau &portee);

@@ -49,7 +49,8 @@ std::string EnregistreDecoupe(const Programme &programme, const std::vector<Piec
     const FormeDecoupe &form = At(FormesDecoupe(), answer.form);
     WriteWholeFile(answer.path,
                    EcritDecoupe(programme, form, pieces,
-                                choix.polylignes ? AnneauxDxf::polylignes : AnneauxDxf::lignes));
+                                choix.polylignes ? AnneauxDxf::polylignes : AnneauxDxf::lignes),
+                   Flush::yes);
     choix.forme = form.extension;
     RetientChoixDecoupe(programme, choix);
     return answer.path;
@@ -75,7 +76,7 @@ std::vector<std::string> EnregistrePlanches(const Programme &programme, const Im
         return {};
     }
     const Sablier sablier(programme.platform);
-    WriteWholeFiles(files);
+    WriteWholeFiles(files, Flush::yes);
     ecrits.Note(paths);
     choix.forme = form.extension;
     RetientPlanches(programme, choix);

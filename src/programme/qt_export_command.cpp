@@ -82,7 +82,7 @@ void Ecrit(const Programme &programme, const EntreeExport &entree, const Choix &
     }
     if (exported.bytes) {
         RetientVariante(programme, entree, choix.form->variant);
-        WriteWholeFile(choix.path, *exported.bytes);
+        WriteWholeFile(choix.path, *exported.bytes, Flush::yes);
     }
     if (exported.rupture) {
         throw *exported.rupture;

@@ -28,7 +28,8 @@ std::string LitFichier(Programme &programme, const DemandeComposants &demande) {
     const FormatComposants format =
         LitComposants(ReadWholeFile(demande.path), programme.rib, programme.SaisieEnCours(), name);
     if (format == FormatComposants::ancien && demande.reecrit) {
-        WriteWholeFile(demande.path, EcritComposants(programme.rib, programme.settings.Unite));
+        WriteWholeFile(demande.path, EcritComposants(programme.rib, programme.settings.Unite),
+                       Flush::yes);
     }
     return name;
 }

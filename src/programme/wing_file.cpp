@@ -101,9 +101,7 @@ void EnregistreAile(const std::string &path, const FichierAile &fichier) {
         const bool below = !near.empty() && *near.begin() != "..";
         file.SetValue(kSection, Cle(++number), (below ? near : whole).string());
     }
-    if (!file.Save(path)) {
-        throw MakeFailure(kPathFileAccess, path);
-    }
+    file.Write(path, Flush::yes);
 }
 
 } // namespace loftwing

@@ -87,7 +87,7 @@ FichierCoord LitCoord(const std::string &path) {
 void EcritCoord(const std::string &path, const FichierCoord &fichier) {
     std::vector<std::string> lines = {fichier.titre};
     lines.insert(lines.end(), fichier.lignes.begin(), fichier.lignes.end());
-    WriteWholeFile(path, TexteDeLignes(lines));
+    WriteWholeFile(path, TexteDeLignes(lines), Flush::yes);
 }
 
 } // namespace loftwing

@@ -44,8 +44,8 @@ std::string QuestionLigne(const Messages &messages, const std::string &ligne);
 /// title.
 FichierCoord LitCoord(const std::string &path);
 
-/// Writes title and lines as they stand, in UTF-8 and every line ended by CR LF. A file that was
-/// there stays when that fails; failure 75 then.
+/// Writes title and lines as they stand, in UTF-8 and every line ended by CR LF, so that they
+/// outlast a power cut. A file that was there stays when that fails; failures as WriteWholeFile.
 void EcritCoord(const std::string &path, const FichierCoord &fichier);
 
 } // namespace loftwing

@@ -125,7 +125,8 @@ void frmEpCourb::Ecrit(const std::string &path) {
         // Gone before the box of a failure: that one waits for the user.
         const Sablier sablier(programme_.platform);
         try {
-            EcritFichier(path, TexteEpCourb(programme_.rib, Champs(), programme_.messages));
+            EcritFichier(path, TexteEpCourb(programme_.rib, Champs(), programme_.messages),
+                         Flush::yes);
         } catch (const Failure &failure) {
             failed = failure;
         }

@@ -38,7 +38,7 @@ bool EnregistreProfil(const Messages &messages, const FileQuestion &question,
         const std::string path = messages.platform.ChooseSaveFile(question);
         if (!path.empty()) {
             const Sablier sablier(messages.platform);
-            EcritFichier(path, texte());
+            EcritFichier(path, texte(), Flush::yes);
         }
         return true;
     } catch (const Failure &failure) {

@@ -2,10 +2,8 @@
 
 #include "base/number_text.h"
 #include "base/version.h"
-#include "base/whole_file.h"
 
 #include <algorithm>
-#include <filesystem>
 
 namespace loftwing {
 
@@ -36,13 +34,8 @@ std::string NomDeFichier(std::string text) {
     return text;
 }
 
-void EcritFichier(const std::string &path, const std::string &text) {
-    std::error_code error;
-    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
-    if (!folder.empty() && !std::filesystem::is_directory(folder, error)) {
-        throw MakeFailure(kPathNotFound, path);
-    }
-    WriteWholeFile(path, text);
+void EcritFichier(const std::string &path, const std::string &text, Flush flush) {
+    WriteWholeFile(path, text, flush);
 }
 
 void RapporteEcriture(const Messages &messages, const Failure &failure, const std::string &label) {

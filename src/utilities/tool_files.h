@@ -1,6 +1,7 @@
 /// What the tools that write airfoil files share.
 #pragma once
 
+#include "base/whole_file.h"
 #include "core/messages.h"
 
 #include <string>
@@ -21,9 +22,8 @@ std::string TexteDeLignes(const std::vector<std::string> &lignes);
 /// The degree sign, as titles of files have it.
 inline constexpr const char *kDegre = "\u00B0";
 
-/// Writes a file whole. Failure 76 when its folder isn't there, 75 when it is refused otherwise;
-/// the detail names the file.
-void EcritFichier(const std::string &path, const std::string &text);
+/// Writes a file whole; the detail of a failure names it. Failures as WriteWholeFile.
+void EcritFichier(const std::string &path, const std::string &text, Flush flush = Flush::no);
 
 /// The box of a tool that couldn't write its files; `label` as Messages::Report has it. A missing
 /// folder is told in words of its own. The file at which it stopped is named either way.

@@ -1,10 +1,18 @@
 #include "base/whole_file.h"
 
+#include "base/disk.h"
 #include "support/failures.h"
 #include "support/temp_folder.h"
 
+#include <cerrno>
 #include <csignal>
+#include <cstdio>
+#include <memory>
 
+#ifdef __linux__
+#include <sched.h>
+#include <sys/mount.h>
+#endif
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -201,6 +209,193 @@ TEST(ReplaceFile, LeavesTheOldFileWhenTheDiskIsFull) {
               7);
     EXPECT_EQ(folder.Bytes("x"), "old");
     EXPECT_EQ(folder.Entries(), 1);
+}
+
+int FailureOfWriting(const std::string &path, const std::string &bytes = "new") {
+    return FailureOf([&] { WriteWholeFile(path, bytes); });
+}
+
+TEST(WriteWholeFile, FailsWith76WithoutAFolder) {
+    const TempFolder folder;
+    EXPECT_EQ(FailureOfWriting(folder.Path("none/x")), kPathNotFound);
+    folder.File("file", "");
+    EXPECT_EQ(FailureOfWriting(folder.Path("file/x")), kPathNotFound);
+    EXPECT_EQ(folder.Entries(), 1);
+}
+
+TEST(WriteWholeFile, FailsWith75ForWhatIsNoFile) {
+    const TempFolder folder;
+    fs::create_directory(folder.Path("sub"));
+    EXPECT_EQ(FailureOfWriting(folder.Path("sub")), kPathFileAccess);
+    EXPECT_EQ(FailureOfWriting("/dev/full"), kPathFileAccess);
+    EXPECT_EQ(FailureOfWriting(""), kPathFileAccess);
+    EXPECT_EQ(FailureOfWriting(folder.Path(std::string(256, 'n'))), kPathFileAccess);
+    EXPECT_EQ(folder.Entries(), 1);
+}
+
+TEST(WriteWholeFile, FailsWith70WhereTheFileOrTheFolderIsProtected) {
+    const TempFolder folder;
+    fs::permissions(folder.Path(), fs::perms::all);
+    const std::string file = folder.File("x", "old");
+    fs::permissions(file, fs::perms::owner_read | fs::perms::others_read);
+    EXPECT_EQ(AsOrdinaryUser([&] { return FailureOfWriting(file); }), kPermissionDenied);
+    fs::permissions(file, fs::perms::all);
+    fs::permissions(folder.Path(),
+                    fs::perms::owner_all | fs::perms::others_read | fs::perms::others_exec);
+    if (geteuid() == 0) {
+        EXPECT_EQ(AsOrdinaryUser([&] { return FailureOfWriting(file); }), kPermissionDenied);
+    }
+    fs::permissions(folder.Path(), fs::perms::owner_all);
+    EXPECT_EQ(folder.Bytes("x"), "old");
+    EXPECT_EQ(folder.Entries(), 1);
+}
+
+TEST(WriteWholeFile, SaysInTheDetailWhichFileItIs) {
+    const TempFolder folder;
+    try {
+        WriteWholeFile(folder.Path("none/x"), "new");
+        ADD_FAILURE();
+    } catch (const Failure &failure) {
+        EXPECT_EQ(failure.detail, folder.Path("none/x"));
+    }
+}
+
+TEST(WriteWholeFile, NobodyElseEverReadsWhatIsItsOwnersAlone) {
+    const TempFolder folder;
+    const std::string file = folder.File("x", "old");
+    fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
+    WriteWholeFile(file, "new");
+    EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+#ifdef __linux__
+/// Status of a process of its own in which `action` ran with a disk of 64 kB at `place`; 254 where
+/// the system gives none.
+template <class Action>
+int WithSmallDisk(const std::string &place, Action action) {
+    constexpr int kNone = 254;
+    const pid_t child = fork();
+    if (child == 0) {
+        const bool given =
+            (unshare(CLONE_NEWNS) == 0 || unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0) &&
+            mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+            mount("none", place.c_str(), "tmpfs", 0, "size=64k") == 0;
+        _exit(given ? action() : kNone);
+    }
+    int status = 0;
+    EXPECT_EQ(waitpid(child, &status, 0), child);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+TEST(WriteWholeFile, FailsWith61OnAFullDiskAndWith70OnAReadOnlyOne) {
+    const TempFolder folder;
+    const std::string place = folder.Path();
+    const int seen = WithSmallDisk(place, [&] {
+        const std::string file = place + "/x";
+        const std::string old(30000, 'o');
+        WriteWholeFile(file, old, Flush::yes);
+        const bool full = FailureOfWriting(file, std::string(60000, 'n')) == kDiskFull &&
+                          ReadWholeFile(file) == old && folder.Entries() == 1;
+        // What a killed save has left is what fills a disk.
+        std::unique_ptr<std::FILE, int (*)(std::FILE *)> part(
+            std::fopen((place + "/loftwing-7.part").c_str(), "wb"), std::fclose);
+        std::fputs(std::string(25000, 'p').c_str(), part.get());
+        part.reset();
+        const std::string fits(25000, 'n');
+        WriteWholeFile(file, fits, Flush::yes);
+        const bool cleared = ReadWholeFile(file) == fits && folder.Entries() == 1;
+        const bool protects =
+            mount("none", place.c_str(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr) == 0 &&
+            FailureOfWriting(file) == kPermissionDenied && ReadWholeFile(file) == fits;
+        return (full ? 1 : 0) + (cleared ? 2 : 0) + (protects ? 4 : 0);
+    });
+    if (seen == 254) {
+        GTEST_SKIP() << "no disk of one's own here";
+    }
+    EXPECT_EQ(seen, 7);
+}
+#endif
+
+TEST(FlushToDisk, SaysThatTheDiskIsFull) {
+    const std::unique_ptr<std::FILE, int (*)(std::FILE *)> file(std::fopen("/dev/full", "wb"),
+                                                                std::fclose);
+    ASSERT_TRUE(file);
+    std::fputs("text", file.get());
+    errno = 0;
+    EXPECT_FALSE(FlushToDisk(file.get()));
+    EXPECT_EQ(errno, ENOSPC);
+}
+
+TEST(FileClaim, IsOnePartysAlone) {
+    using Handle = std::unique_ptr<std::FILE, int (*)(std::FILE *)>;
+    const TempFolder folder;
+    const std::string path = folder.File("x", "");
+    const auto open = [&path] { return Handle(std::fopen(path.c_str(), "r+b"), std::fclose); };
+    FileClaim one;
+    FileClaim other;
+    {
+        const Handle file = open();
+        ASSERT_EQ(one.Make(file.get()), Claim::made);
+    } // it outlives the closing
+    EXPECT_EQ(other.Make(open().get()), Claim::lost);
+    one.Release();
+    EXPECT_EQ(other.Make(open().get()), Claim::made);
+    other.Release();
+    const Handle nameless = open();
+    fs::remove(path);
+    EXPECT_EQ(one.Make(nameless.get()), Claim::lost);
+}
+
+TEST(RemoveAbandonedParts, TakesWhatNoProcessIsAtWorkOn) {
+    const TempFolder folder;
+    folder.File("loftwing-1.part", "half");
+    folder.File("loftwing-4294967295.part", "");
+    RemoveAbandonedParts(folder.Path());
+    EXPECT_EQ(folder.Entries(), 0);
+    RemoveAbandonedParts(folder.Path("none")); // is no failure
+}
+
+TEST(RemoveAbandonedParts, LeavesWhatIsBeingWritten) {
+    const TempFolder folder;
+    const std::string path = folder.File("loftwing-1.part", "half");
+    FileClaim claim;
+    {
+        const std::unique_ptr<std::FILE, int (*)(std::FILE *)> file(std::fopen(path.c_str(), "r+b"),
+                                                                    std::fclose);
+        ASSERT_EQ(claim.Make(file.get()), Claim::made);
+    }
+    WriteWholeFile(folder.Path("x"), "text", Flush::yes);
+    EXPECT_TRUE(fs::exists(path));
+    claim.Release();
+    WriteWholeFile(folder.Path("x"), "text", Flush::yes);
+    EXPECT_FALSE(fs::exists(path));
+}
+
+TEST(RemoveAbandonedParts, LeavesAllThatIsCalledOtherwise) {
+    const TempFolder folder;
+    for (const char *name :
+         {"loftwing-.part", "loftwing-12.part.txt", "loftwing-1a.part", "my loftwing-12.part",
+          "loftwing-12.PART", "loftwing.part", "x.part"}) {
+        folder.File(name, "mine");
+    }
+    fs::create_directory(folder.Path("loftwing-12.part"));
+    fs::create_symlink(folder.Path("x.part"), folder.Path("loftwing-13.part"));
+    ASSERT_EQ(mkfifo(folder.Path("loftwing-14.part").c_str(), 0600), 0);
+    const auto before = folder.Entries();
+    RemoveAbandonedParts(folder.Path());
+    EXPECT_EQ(folder.Entries(), before);
+}
+
+TEST(WriteWholeFile, ClearsAFolderAtTheFirstOfARowOfFiles) {
+    const TempFolder folder;
+    folder.File("loftwing-1.part", "half");
+    WriteWholeFile(folder.Path("x"), "text");
+    EXPECT_EQ(folder.Entries(), 1);
+    folder.File("loftwing-2.part", "half");
+    WriteWholeFile(folder.Path("y"), "text");
+    EXPECT_EQ(folder.Entries(), 3); // not listed for each
+    WriteWholeFile(folder.Path("y"), "text", Flush::yes);
+    EXPECT_EQ(folder.Entries(), 2);
 }
 
 TEST(WriteWholeFiles, WritesAllAndReplacesWhatWasThere) {

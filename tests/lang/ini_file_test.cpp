@@ -5,6 +5,8 @@
 
 #include <gmock/gmock.h>
 
+#include <chrono>
+
 namespace loftwing {
 namespace {
 
@@ -183,6 +185,25 @@ TEST(WriteINIFile, ReplacesTheFileAsAWhole) {
     EXPECT_TRUE(WriteINIFile("s", "a", "2", path));
     EXPECT_EQ(folder.Bytes("old"), "[s]\r\na=1\r\n");
     EXPECT_EQ(folder.Bytes("x.ini"), "[s]\r\na=2\r\n");
+}
+
+TEST(WriteINIFile, LeavesAFileAloneThatSaysSoAlready) {
+    const TempFolder folder;
+    const std::string path = folder.File("x.ini", "[s]\r\na=1\r\n");
+    const auto long_ago = fs::file_time_type::clock::now() - std::chrono::hours(1);
+    fs::last_write_time(path, long_ago);
+    EXPECT_TRUE(WriteINIFile("s", "a", "1", path));
+    EXPECT_EQ(fs::last_write_time(path), long_ago);
+    EXPECT_TRUE(WriteINIFile("s", "a", "2", path));
+    EXPECT_NE(fs::last_write_time(path), long_ago);
+    EXPECT_EQ(folder.Bytes("x.ini"), "[s]\r\na=2\r\n");
+}
+
+TEST(StoreINIFile, SaysWhyItCannotWrite) {
+    const TempFolder folder;
+    EXPECT_EQ(FailureOf([&] { StoreINIFile("s", "a", "1", folder.Path("none/x.ini")); }),
+              kPathNotFound);
+    EXPECT_EQ(FailureOf([&] { StoreINIFile("s", "a", "1", folder.Path()); }), kPathFileAccess);
 }
 
 TEST(WriteINIFile, IsFalseWhereItCannotWrite) {

@@ -127,7 +127,7 @@ TEST(Coord, IsWrittenAsItStands) {
     EXPECT_EQ(folder.Bytes("a.dat"), "Flügel\r\n1.0    0.0\r\nanything\r\n\r\n");
     EcritCoord(folder.Path("a.dat"), {"Empty", {}});
     EXPECT_EQ(folder.Bytes("a.dat"), "Empty\r\n");
-    EXPECT_EQ(FailureOf([&] { EcritCoord(folder.Path("no/a.dat"), {"x", {}}); }), kPathFileAccess);
+    EXPECT_EQ(FailureOf([&] { EcritCoord(folder.Path("no/a.dat"), {"x", {}}); }), kPathNotFound);
 }
 
 } // namespace

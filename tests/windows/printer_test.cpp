@@ -293,7 +293,7 @@ TEST(PdfFilePrinter, AJobThatIsNotEndedKeepsTheOldFile) {
     EXPECT_EQ(folder.Entries(), 1);
 }
 
-TEST(PdfFilePrinter, AFileThatCannotBeWrittenIsADeviceError) {
+TEST(PdfFilePrinter, AFileThatCannotBeWrittenSaysWhy) {
     const TempFolder folder;
     const auto printer = MakePdfFilePrinter(folder.Path("nowhere/rib.pdf"), "rib");
     DrawKnownLines(*printer);
