@@ -3,6 +3,7 @@
 #include "base/number_text.h"
 #include "lang/aide.h"
 #include "mainwindow/window_place.h"
+#include "programme/reglage_retenu.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -40,7 +41,7 @@ void frmaide::Form_Load() {
     SuitLangue();
     ChangeTaille(0);
     Garde(" frmaide/Form_Load", [this] {
-        const std::string kept = GetINIFile(kSection, kCleTaille, programme_.paths.fichier);
+        const std::string kept = ReglageRetenu(programme_, kSection, kCleTaille);
         ChangeTaille(ToInt16(LeadingNumber(kept)));
     });
     connect(&cmdprecedent, &QToolButton::clicked, &Page, &HelpBrowser::backward);

@@ -1,11 +1,11 @@
 #include "mainwindow/frmmain.h"
 
 #include "base/version.h"
-#include "lang/ini_file.h"
 #include "mainwindow/beside.h"
 #include "mainwindow/window_place.h"
 #include "platform/qt_text.h"
 #include "programme/load.h"
+#include "programme/reglage_retenu.h"
 #include "programme/rib_steps.h"
 
 #include <QCloseEvent>
@@ -57,7 +57,7 @@ void frmmain::Form_Load() {
     Titre(kTitre);
     MontreCoches();
     commands_.Entree("mnu_affessai")
-        .setChecked(GetINIFile("Apercu", "Saisie", programme_.paths.fichier) != "0");
+        .setChecked(ReglageRetenu(programme_, "Apercu", "Saisie") != "0");
     AppliqueLangue();
     AfficheFichiersRecents();
     commands_.Met(EtatCommandes::depart);

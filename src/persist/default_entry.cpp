@@ -97,6 +97,16 @@ void ReprendEtiquette(RibModel &rib, const Messages &messages) {
     }
 }
 
+/// The folders hold for this run and stand in the settings file; where the user's store can't be
+/// written, the dialog that asked for them must still do its work and close.
+void RetientSiPossible(Platform &platform, const char *key, const std::string &folder) {
+    try {
+        platform.StoreValue("Install", key, folder);
+    } catch (const Failure &) {
+        return;
+    }
+}
+
 } // namespace
 
 TextesDefaut LitTextesDefaut(const std::string &fichier) {
@@ -141,7 +151,11 @@ bool ConfirmeUnite(const Messages &messages) {
 }
 
 std::string UniteSurFichier(const std::string &fichier) {
-    return std::string(Trim(GetINIFile("Defaut", "unit", fichier)));
+    try {
+        return std::string(Trim(GetINIFile("Defaut", "unit", fichier)));
+    } catch (const Failure &) {
+        return {}; // what can't be read has none
+    }
 }
 
 FinDefauts PrendDefauts(RibModel &rib, const TextesDefaut &typed, const Saisie &saisie) {
@@ -170,7 +184,7 @@ void RangeDossiers(Repertoires &folders, const std::string &profils, const std::
                    const std::string &fichier, Platform &platform) {
     folders = {profils, jeux, profils};
     WriteINIFile("Repertoires", "RepProfil", profils, fichier);
-    platform.StoreValue("Install", "RepAirfoil", profils);
+    RetientSiPossible(platform, "RepAirfoil", profils);
     RangeDossierJeux(folders, jeux, fichier, platform);
 }
 
@@ -178,7 +192,7 @@ void RangeDossierJeux(Repertoires &folders, const std::string &jeux, const std::
                       Platform &platform) {
     folders.RepProfilevol = jeux;
     WriteINIFile("Repertoires", "RepProfilevol", jeux, fichier);
-    platform.StoreValue("Install", "RepEvol", jeux);
+    RetientSiPossible(platform, "RepEvol", jeux);
 }
 
 std::string ChoisitDossier(std::string shown, const Messages &messages) {

@@ -46,7 +46,7 @@ enum class FinDefauts {
     sans_corde ///< a chord of 0: a box told so and the rib is what it was
 };
 
-/// The user's own unit, which the settings file has: "mm" or "in".
+/// The user's own unit, which the settings file has: "mm" or "in"; empty where it can't be read.
 std::string UniteSurFichier(const std::string &fichier);
 
 /// Puts the typed lengths into the current rib. The template's length and a label that is the
@@ -55,7 +55,7 @@ std::string UniteSurFichier(const std::string &fichier);
 FinDefauts PrendDefauts(RibModel &rib, const TextesDefaut &typed, const Saisie &saisie);
 
 /// Makes both folders those of the program, the picker's too, and keeps them in the settings file
-/// and in the user's own store.
+/// and in the user's own store, as far as these can be written.
 void RangeDossiers(Repertoires &folders, const std::string &profils, const std::string &jeux,
                    const std::string &fichier, Platform &platform);
 

@@ -1,5 +1,5 @@
 /// What every system answers in its own way and the toolkit isn't needed for. Calls that only some
-/// systems have stand in this unit and nowhere else.
+/// systems have stand in this unit, in base/disk for files, and nowhere else.
 #pragma once
 
 #include <ctime>

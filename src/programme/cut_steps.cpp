@@ -1,8 +1,8 @@
 #include "programme/cut_steps.h"
 
 #include "base/number_text.h"
-#include "lang/ini_file.h"
 #include "programme/piece_words.h"
+#include "programme/reglage_retenu.h"
 
 #include <array>
 #include <cmath>
@@ -67,7 +67,7 @@ std::string Mesures(const Messages &messages, const Piece &piece, const std::str
 } // namespace
 
 ChoixDecoupe LitChoixDecoupe(const Programme &programme) {
-    const IniFile file = IniFile::Read(programme.paths.fichier);
+    const IniFile file = ReglagesRetenus(programme);
     ChoixDecoupe choix;
     for (const auto &[key, width] : kLargeurs) {
         choix.*width = NombreRetenu(file.Value(kSection, key));
@@ -81,15 +81,15 @@ ChoixDecoupe LitChoixDecoupe(const Programme &programme) {
 }
 
 void RetientChoixDecoupe(const Programme &programme, const ChoixDecoupe &choix) {
-    IniFile file = IniFile::Read(programme.paths.fichier);
-    for (const auto &[key, width] : kLargeurs) {
-        file.SetValue(kSection, key, NumberText(choix.*width));
-    }
-    for (const auto &[key, ticked] : kCases) {
-        file.SetValue(kSection, key, choix.*ticked ? "1" : "0");
-    }
-    file.SetValue(kSection, "Forme", choix.forme);
-    file.Save(programme.paths.fichier);
+    RetientReglages(programme, [&choix](IniFile &file) {
+        for (const auto &[key, width] : kLargeurs) {
+            file.SetValue(kSection, key, NumberText(choix.*width));
+        }
+        for (const auto &[key, ticked] : kCases) {
+            file.SetValue(kSection, key, choix.*ticked ? "1" : "0");
+        }
+        file.SetValue(kSection, "Forme", choix.forme);
+    });
 }
 
 DemandePiece DemandeDe(const ChoixDecoupe &choix, const std::string &texte) {

@@ -1,6 +1,7 @@
 #include "programme/dossiers.h"
 
 #include "lang/ini_file.h"
+#include "programme/reglage_retenu.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -43,7 +44,7 @@ bool EstDans(const std::string &path, const std::vector<std::string> &dossiers) 
 
 std::string DossierRetenu(const Programme &programme, const char *key,
                           const std::string &fallback) {
-    const std::string folder = GetINIFile(kSection, key, programme.paths.fichier);
+    const std::string folder = ReglageRetenu(programme, kSection, key);
     return folder.empty() ? fallback : folder;
 }
 

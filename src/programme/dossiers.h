@@ -9,7 +9,7 @@
 namespace loftwing {
 
 /// The folder that the settings file has under `key` of its section of folders, `fallback` when it
-/// has none. Failures as GetINIFile.
+/// has none or can't be read.
 std::string DossierRetenu(const Programme &programme, const char *key, const std::string &fallback);
 
 /// A path from the root of the file system on.
@@ -19,7 +19,7 @@ std::string DossierDe(const std::string &path);
 /// Whether a file lies in one of some folders or below it.
 bool EstDans(const std::string &path, const std::vector<std::string> &dossiers);
 
-/// Notes the folder of a file that was chosen. Failures as WriteINIFile.
+/// Notes the folder of a file that was chosen, where the settings file takes it.
 void RetientDossier(const Programme &programme, const char *key, const std::string &path);
 
 } // namespace loftwing

@@ -7,6 +7,7 @@
 #include "persist/LireEcrire.h"
 #include "persist/default_entry.h"
 #include "platform/busy_pointer.h"
+#include "programme/console_platform.h"
 #include "programme/dossiers.h"
 #include "programme/import_steps.h"
 #include "programme/load.h"
@@ -15,6 +16,7 @@
 #include "programme/rib_steps.h"
 
 #include <filesystem>
+#include <sstream>
 
 namespace loftwing {
 
@@ -107,6 +109,24 @@ void LitEtReprend(Programme &programme, CommandView &view, const std::string &pa
     RepriseProfil(programme, view, before);
 }
 
+/// Whether the rib's file can still be read; where it can't, that is told. Another program may have
+/// cut it short or taken it away, and then the rib that is open is the only one there is.
+bool EncoreLisible(const Programme &programme, const std::string &path) {
+    try {
+        std::ostringstream
+            unheard; // what is odd in the lengths is told when they are read for good
+        ConsolePlatform silent(unheard, false);
+        const Messages messages{silent, programme.language};
+        RibModel trial;
+        std::string airfoil;
+        LitComposants(ReadWholeFile(path), trial, {programme.settings.Unite, messages}, airfoil);
+        return true;
+    } catch (const Failure &failure) {
+        programme.messages.Report(failure, EtiquetteOuverture(path));
+        return false;
+    }
+}
+
 /// Where the next and the previous airfoil are counted from.
 std::string DepartVoisin(const Programme &programme) {
     const std::string &chemin = programme.rib.CheminProfil;
@@ -158,6 +178,9 @@ void OuvreFichier(Programme &programme, CommandView &view, const std::string &pa
 void OuvreAutreUnite(Programme &programme, CommandView &view) {
     if (ConfirmePerte(programme, view, {"fileopen", "1"}, {"fileopen", "2"})) {
         const std::string path = programme.rib.CheminRib; // goes with the rib
+        if (!EncoreLisible(programme, path)) {
+            return;
+        }
         newLfw(programme, view, path, AutreUnite(programme.settings.Unite));
     }
 }

@@ -36,8 +36,8 @@ bool EstPanneau(const std::string &path);
 FichierPanneau LitPanneau(const std::string &path);
 
 /// Writes one as a whole. What an older file of that name says beside is kept. Ribs in the file's
-/// folder or below it are named from there, so that the folder can be moved. Failure 75 when it is
-/// refused.
+/// folder or below it are named from there, so that the folder can be moved. Failures as
+/// IniFile::Read and WriteWholeFile.
 void EnregistrePanneau(const std::string &path, const FichierPanneau &fichier,
                        Flush flush = Flush::no);
 

@@ -1,9 +1,9 @@
 #include "programme/panel_sheets.h"
 
 #include "base/number_text.h"
-#include "lang/ini_file.h"
 #include "programme/cut_steps.h"
 #include "programme/longueur_lue.h"
+#include "programme/reglage_retenu.h"
 
 #include <algorithm>
 
@@ -150,16 +150,16 @@ std::variant<VoeuPlanches, RefusSaisie> VoeuDe(const SaisiePlanches &typed,
 
 SaisiePlanches PlanchesRetenues(const Programme &programme) {
     const std::string &Unite = programme.settings.Unite;
-    const IniFile file = IniFile::Read(programme.paths.fichier);
+    const IniFile file = ReglagesRetenus(programme);
     const SaisiePlanches usual = PlanchesUsuelles(Unite);
     return file.Value(kSection, kCleUnite) == Trim(Unite) ? LitPlanches(file, usual) : usual;
 }
 
 void RetientPlanches(const Programme &programme, const SaisiePlanches &choix) {
-    IniFile file = IniFile::Read(programme.paths.fichier);
-    PosePlanches(file, choix);
-    file.SetValue(kSection, kCleUnite, Trim(programme.settings.Unite));
-    file.Save(programme.paths.fichier);
+    RetientReglages(programme, [&](IniFile &file) {
+        PosePlanches(file, choix);
+        file.SetValue(kSection, kCleUnite, Trim(programme.settings.Unite));
+    });
 }
 
 std::variant<std::vector<PieceNommee>, RefusPlanche> PiecesALaPlanche(const PanneauFait &fait,

@@ -5,6 +5,7 @@
 #include "platform/busy_pointer.h"
 #include "programme/dossiers.h"
 #include "programme/nom_propose.h"
+#include "programme/reglage_retenu.h"
 #include "programme/startup.h"
 
 #include <algorithm>
@@ -16,7 +17,7 @@ namespace {
 constexpr const char *kSection = "Export";
 
 std::string VarianteRetenue(const Programme &programme, const EntreeExport &entree) {
-    return GetINIFile(kSection, entree.forme, programme.paths.fichier);
+    return ReglageRetenu(programme, kSection, entree.forme);
 }
 
 void RetientVariante(const Programme &programme, const EntreeExport &entree,

@@ -1,6 +1,7 @@
 #include "programme/tool_steps.h"
 
 #include "base/version.h"
+#include "programme/reglage_retenu.h"
 #include "programme/rib_steps.h"
 #include "utilities/ribevol2.h"
 
@@ -59,7 +60,7 @@ std::optional<ProfilChoisi> ChoisitPourOutil(Programme &programme, CommandView &
 }
 
 void VerifieVersion(const Programme &programme) {
-    std::string site = GetINIFile("Version", "Site", programme.paths.fichier);
+    std::string site = ReglageRetenu(programme, "Version", "Site");
     while (site.ends_with('/')) {
         site.pop_back();
     }

@@ -22,8 +22,8 @@ bool EstAile(const std::string &path);
 FichierAile LitAile(const std::string &path);
 
 /// Writes one as a whole. What an older file of that name says beside is kept. Panels in the file's
-/// folder or below it are named from there, so that the folder can be moved. Failure 75 when it is
-/// refused.
+/// folder or below it are named from there, so that the folder can be moved. It
+/// outlasts a power cut. Failures as IniFile::Read and WriteWholeFile.
 void EnregistreAile(const std::string &path, const FichierAile &fichier);
 
 } // namespace loftwing

@@ -19,7 +19,7 @@ TEST(FailureWords, AreThoseOfTheLanguageThatIsAskedFor) {
     const std::string out = folder.Path("none/rib.svg");
     const Ran english = RunLoftwing({"draw", Sample("naca2412.dat"), "-o", out});
     EXPECT_EQ(english.status, 1);
-    EXPECT_EQ(english.err, "loftwing: Path/file access error: " + out + "\n");
+    EXPECT_EQ(english.err, "loftwing: Path not found: " + out + "\n");
     const Ran french =
         RunLoftwing({"draw", Sample("naca2412.dat"), "-o", out, "--language", "French"});
     EXPECT_EQ(french.status, 1);

@@ -208,5 +208,27 @@ TEST_F(DefaultEntryTest, FoldersAreKeptInTheFileAndInTheUsersStore) {
     EXPECT_EQ(platform.StoredValue("Install", "RepEvol"), "/home/me/sets");
 }
 
+class PlatformWithoutStore : public ScriptedPlatform {
+  public:
+    void StoreValue(const std::string &, const std::string &, const std::string &) override {
+        throw MakeFailure(kPathFileAccess, "store");
+    }
+};
+
+TEST_F(DefaultEntryTest, AStoreThatCannotBeWrittenStopsNothing) {
+    PlatformWithoutStore closed;
+    Repertoires folders{"a", "b", "c"};
+    RangeDossiers(folders, "/home/me/airfoils", "/home/me/sets", fichier, closed);
+    EXPECT_EQ(folders.RepProfil, "/home/me/airfoils");
+    EXPECT_EQ(folders.RepProfilevol, "/home/me/sets");
+    EXPECT_EQ(folder.Bytes("Loftwing.ini"), "[Repertoires]\r\nRepProfil=/home/me/airfoils\r\n"
+                                            "RepProfilevol=/home/me/sets\r\n");
+}
+
+TEST_F(DefaultEntryTest, ASettingsFileThatCannotBeReadHasNoUnit) {
+    std::filesystem::create_directory(fichier);
+    EXPECT_EQ(UniteSurFichier(fichier), "");
+}
+
 } // namespace
 } // namespace loftwing

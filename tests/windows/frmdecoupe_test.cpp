@@ -333,7 +333,7 @@ TEST_F(Decoupage, APlaceThatCannotBeWrittenIsToldAndNothingIsLeft) {
         const OrdinaryUser user;
         dialog.Type("txtsaignee", "0.15");
         world.platform.Expect(BoxAnswer::ok,
-                              {.text = HasSubstr(" # 75 "), .title = " frmdecoupe/cmdenregistrer"});
+                              {.text = HasSubstr(" # 70 "), .title = " frmdecoupe/cmdenregistrer"});
         Save(dialog, Out("closed/rib.svg"));
         EXPECT_FALSE(dialog.Shown("lblenregistre"));
         EXPECT_TRUE(dialog.IsOpen());

@@ -255,7 +255,7 @@ TEST_F(ExportingDxf, ARefusedWriteIsReported) {
     for (const int form : {kInterchange, kPlain}) {
         world.platform.Expect(
             BoxAnswer::ok,
-            {.text = "Error # 75 in Loftwing\nPath/file access error: " + Out("none/rib.dxf"),
+            {.text = "Error # 76 in Loftwing\nPath not found: " + Out("none/rib.dxf"),
              .title = " Main/Mnu_DXF"});
         Export(form, Out("none/rib.dxf"));
     }

@@ -182,7 +182,7 @@ TEST_F(RibFiles, AnOlderFileThatMayNotBeWrittenIsReportedAndStaysAsItIs) {
     fs::permissions(path, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
     {
         const OrdinaryUser user;
-        ExpectReport(75, "Path/file access error: " + path);
+        ExpectReport(70, "Permission denied: " + path);
         Open(path);
     }
     ExpectResetRib();

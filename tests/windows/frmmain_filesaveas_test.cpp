@@ -137,10 +137,12 @@ TEST_F(SavingRibs, ARefusedWriteIsReportedAndNothingIsLost) {
     fs::permissions(path, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
     {
         const OrdinaryUser user;
-        for (const std::string &where : {path, world.folder.Path("none/rib.lfw")}) {
+        const std::vector<std::pair<std::string, std::string>> refused = {
+            {path, "70 in Loftwing\nPermission denied: "},
+            {world.folder.Path("none/rib.lfw"), "76 in Loftwing\nPath not found: "}};
+        for (const auto &[where, why] : refused) {
             world.platform.Expect(
-                BoxAnswer::ok, {.text = "Error # 75 in Loftwing\nPath/file access error: " + where,
-                                .title = " Main/Mnu_SaveAs"});
+                BoxAnswer::ok, {.text = "Error # " + why + where, .title = " Main/Mnu_SaveAs"});
             Save(where);
         }
     }

@@ -55,6 +55,25 @@ void ExpectEnabled(const WindowWorld &world, const std::set<std::string> &names,
     }
 }
 
+TEST(MainWindow, OpensAndSavesWhereTheSettingsCannotBeRead) {
+    WindowWorld world;
+    const std::string settings = world.programme.paths.fichier;
+    std::filesystem::remove(settings);
+    std::filesystem::create_directory(settings);
+    for (const char *key : {"RepAirfoil", "RepEvol"}) {
+        world.platform.store[{"Install", key}] = world.folder.Path();
+    }
+    world.platform.Expect(BoxAnswer::ok, {.text = HasSubstr(settings), .title = kTitre});
+    frmmain &window = world.Open();
+    EXPECT_TRUE(window.isVisible());
+    window.OuvreFichier(WindowWorld::Sample("naca2412.dat"));
+    EXPECT_TRUE(world.programme.rib.ProfilCharge);
+    world.platform.files_expected.push_back(world.folder.Path("rib.lfw"));
+    world.Run("mnu_filesaveas", {});
+    EXPECT_TRUE(std::filesystem::exists(world.folder.Path("rib.lfw")));
+    EXPECT_TRUE(std::filesystem::is_empty(settings));
+}
+
 TEST(MainWindow, AtTheStartOnlyTheOpenCommandsAreAlive) {
     WindowWorld world;
     world.Open();

@@ -288,7 +288,7 @@ TEST_F(PanelWindow, AFolderThatCannotBeWrittenIsToldAndTheWindowStays) {
         TakeBoth(dialog);
         TypeCount(dialog, 1);
         const OrdinaryUser user;
-        world.platform.Expect(BoxAnswer::ok, {.text = HasSubstr(" # 75 ")});
+        world.platform.Expect(BoxAnswer::ok, {.text = HasSubstr(" # 70 ")});
         Make(dialog);
         EXPECT_FALSE(dialog.Shown("lblenregistre"));
         EXPECT_TRUE(dialog.IsOpen());

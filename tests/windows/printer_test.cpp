@@ -297,7 +297,7 @@ TEST(PdfFilePrinter, AFileThatCannotBeWrittenSaysWhy) {
     const TempFolder folder;
     const auto printer = MakePdfFilePrinter(folder.Path("nowhere/rib.pdf"), "rib");
     DrawKnownLines(*printer);
-    EXPECT_EQ(FailureOf([&] { printer->EndDoc(); }), kDeviceError);
+    EXPECT_EQ(FailureOf([&] { printer->EndDoc(); }), kPathNotFound);
     EXPECT_EQ(folder.Entries(), 0);
 }
 
