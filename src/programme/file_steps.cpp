@@ -120,6 +120,9 @@ bool EncoreLisible(const Programme &programme, const std::string &path) {
         RibModel trial;
         std::string airfoil;
         LitComposants(ReadWholeFile(path), trial, {programme.settings.Unite, messages}, airfoil);
+        if (airfoil.empty()) {
+            throw MakeFailure(kInputPastEnd, path); // nothing is left of it
+        }
         return true;
     } catch (const Failure &failure) {
         programme.messages.Report(failure, EtiquetteOuverture(path));

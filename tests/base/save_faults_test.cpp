@@ -90,6 +90,26 @@ TEST_P(SaveFaults, KilledAtEachCallTheFileIsOldOrNewAndTheNextSaveClearsUp) {
     }
 }
 
+TEST_P(SaveFaults, WhatOnlyItsOwnerMayReadIsNobodyElsesMeanwhile) {
+    constexpr fs::perms kOwner = fs::perms::owner_read | fs::perms::owner_write;
+    bool through = false;
+    int seen = 0;
+    for (int call = 1; !through && call < kMostCalls; ++call) {
+        SCOPED_TRACE("call " + std::to_string(call));
+        Start(true);
+        fs::permissions(folder.Path("x"), kOwner);
+        through = !Save(CallFault{call, 0}).faulted;
+        for (const auto &entry : fs::directory_iterator(folder.Path())) {
+            if (entry.file_size() > 0) {
+                EXPECT_EQ(entry.status().permissions(), kOwner) << entry.path();
+                seen += entry.path().filename() == "x" ? 0 : 1;
+            }
+        }
+        RemoveAbandonedParts(folder.Path());
+    }
+    EXPECT_GT(seen, 0);
+}
+
 TEST_P(SaveFaults, RefusedAtEachCallTheFileIsOldAndItSaysWhyOrItIsNew) {
     for (const auto &[error, number] : kRefusals) {
         int refused = 0;

@@ -260,14 +260,6 @@ TEST(WriteWholeFile, SaysInTheDetailWhichFileItIs) {
     }
 }
 
-TEST(WriteWholeFile, NobodyElseEverReadsWhatIsItsOwnersAlone) {
-    const TempFolder folder;
-    const std::string file = folder.File("x", "old");
-    fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
-    WriteWholeFile(file, "new");
-    EXPECT_EQ(fs::status(file).permissions(), fs::perms::owner_read | fs::perms::owner_write);
-}
-
 #ifdef __linux__
 /// Status of a process of its own in which `action` ran with a disk of 64 kB at `place`; 254 where
 /// the system gives none.

@@ -118,6 +118,7 @@ TEST_F(FileFaults, AFileThatWasCutShortMeanwhileDoesNotCostTheRibThatIsOpen) {
         ExpectReport(" LireEcrire/newLfw");
         OuvreAutreUnite(programme, view);
         EXPECT_THAT(view.asked, IsEmpty());
+        view.asked.clear();
     }
     fs::remove(RibFile());
     ExpectBox(BoxAnswer::ok, "Error # 53 in Loftwing\nFile not found: " + RibFile(),

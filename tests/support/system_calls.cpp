@@ -66,12 +66,14 @@ bool Holds(const std::vector<long> &numbers, long number) {
 /// The text that stands at a place of another process; empty where it can't be read.
 std::string TextAt(pid_t pid, std::uint64_t place) {
     std::array<char, 256> bytes{};
-    // Up to the end of its page, behind which there may be nothing.
+    // In two pieces, for behind the end of the first one's page there may be nothing.
     constexpr std::uint64_t kPage = 4096;
     const std::size_t some = std::min<std::uint64_t>(bytes.size(), kPage - place % kPage);
-    const iovec here{bytes.data(), some};
-    const iovec there{reinterpret_cast<void *>(place), some}; // NOLINT: the other one's
-    const ssize_t count = process_vm_readv(pid, &here, 1, &there, 1, 0);
+    const iovec here{bytes.data(), bytes.size()};
+    const std::array<iovec, 2> there{{{reinterpret_cast<void *>(place), some}, // NOLINT: its own
+                                      {reinterpret_cast<void *>(place + some), // NOLINT: its own
+                                       bytes.size() - some}}};
+    const ssize_t count = process_vm_readv(pid, &here, 1, there.data(), there.size(), 0);
     const std::string text(bytes.data(), count > 0 ? static_cast<std::size_t>(count) : 0);
     return text.substr(0, text.find('\0'));
 }
