@@ -1,55 +1,33 @@
-// Any bytes as an airfoil file: read or refused, and what was read prepared. The contour of sane
-// coordinates is compared with the tests' second computation.
+// Any bytes as an airfoil file: read or refused, and what was read prepared and drawn with the
+// features that the bytes behind the last NUL choose.
+//
+// What was read is finite and counted rightly. The contour of sane coordinates is that of the
+// tests' second computation. A picture has finite coordinates only, depends on nothing but the rib,
+// and is an SVG or refused.
 
 #include "core/airfoil_reader.h"
 #include "core/contour.h"
-#include "programme/console_platform.h"
+#include "fuzz_world.h"
+#include "output/svg_writer.h"
 #include "support/naive_contour.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
-#include <cstdio>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <random>
 
 namespace loftwing {
 namespace {
-
-void Require(bool holds, const char *what) {
-    if (!holds) {
-        std::fprintf(stderr, "Not so: %s\n", what);
-        std::abort();
-    }
-}
-
-/// One file for all inputs of this process.
-struct InputFile {
-    const std::string path = (std::filesystem::temp_directory_path() /
-                              ("loftwing-fuzz-" + std::to_string(std::random_device{}()) + ".dat"))
-                                 .string();
-
-    ~InputFile() { std::remove(path.c_str()); }
-};
-
-const std::string &InputPath() {
-    static const InputFile input;
-    return input.path;
-}
 
 bool IsSane(const PointList &list) {
     return std::all_of(list.Values().begin(), list.Values().end(),
                        [](double value) { return std::abs(value) < 1e6; });
 }
 
-bool AllFinite(const PointList &list) {
+bool OfNumbers(const PointList &list) {
     return std::all_of(list.Values().begin(), list.Values().end(),
                        [](double value) { return std::isfinite(value); });
 }
 
-bool AllFinite(const TableStation &table) {
+bool OfNumbers(const TableStation &table) {
     return std::all_of(table.begin(), table.end(),
                        [](double value) { return std::isfinite(value); });
 }
@@ -72,36 +50,56 @@ void Compare(const RibModel &rib, Preparation preparation) {
     }
 }
 
-void Prepare(RibModel &rib, const Messages &messages) {
+bool Prepare(RibModel &rib, const Messages &messages) {
     const Preparation preparation = PrepareContour(rib, messages);
     Require(rib.NbContour == rib.ContourX.Count(), "count of the contour's x");
     Require(rib.NbContour == rib.ContourY.Count(), "count of the contour's y");
-    Require(AllFinite(rib.ContourX) && AllFinite(rib.ContourY), "contour of numbers");
+    Require(OfNumbers(rib.ContourX) && OfNumbers(rib.ContourY), "contour of numbers");
     if (preparation != Preparation::impossible) {
-        Require(AllFinite(rib.TabExtrados) && AllFinite(rib.TabIntrados), "heights of numbers");
+        Require(OfNumbers(rib.TabExtrados) && OfNumbers(rib.TabIntrados), "heights of numbers");
     }
     if (IsSane(rib.ProfilX) && IsSane(rib.ProfilY)) {
         Compare(rib, preparation);
     }
+    return preparation != Preparation::impossible;
 }
 
-void ReadAndPrepare(const std::uint8_t *data, std::size_t size) {
-    std::ofstream(InputPath(), std::ios::binary)
-        .write(reinterpret_cast<const char *>(data), static_cast<std::streamsize>(size));
-    static std::ostream nowhere(nullptr);
-    static ConsolePlatform platform(nowhere, false);
-    static const LngIni language;
-    const Messages messages{platform, language};
-    RibModel rib;
-    NommeProfil(rib, InputPath());
-    const ResultatLecture result = FichierLecture(rib, messages, {});
+void Draw(FuzzWorld &world) {
+    const auto drawing = world.Draw();
+    const auto again = world.Draw();
+    Require((drawing == nullptr) == (again == nullptr), "drawn again as before");
+    if (drawing == nullptr) {
+        return;
+    }
+    Require(AllFinite(*drawing), "picture of numbers");
+    Require(drawing->Operations() == again->Operations(), "same picture again");
+    try {
+        const std::string svg = WriteSvg(*drawing, "title");
+        Require(svg.ends_with("</svg>\n"), "whole SVG");
+        Require(svg.find("nan") == std::string::npos && svg.find("inf") == std::string::npos,
+                "SVG of numbers");
+    } catch (const Failure &failure) {
+        Require(failure.number == kOverflow, "refused for its size only");
+    }
+}
+
+void ReadAndDraw(std::string_view bytes) {
+    auto [file, choices] = Divide(bytes);
+    FuzzWorld world(choices.Yes());
+    RibModel &rib = world.programme.rib;
+    const Messages &messages = world.programme.messages;
+    const bool carries = world.TakeComponents(ChosenRib(choices).Current());
+    const ResultatLecture result = EssaieLecture(rib, std::string(file), messages);
     Require((result.issue == Lecture::lu) == (rib.NbPoints > 0), "points when it was read");
-    Require((result.issue == Lecture::lu) == rib.LectureEnCours, "mark of a good file");
-    if (result.issue == Lecture::lu) {
-        Require(rib.NbPoints == rib.ProfilX.Count(), "count of x");
-        Require(rib.NbPoints == rib.ProfilY.Count(), "count of y");
-        Require(AllFinite(rib.ProfilX) && AllFinite(rib.ProfilY), "points of numbers");
-        Prepare(rib, messages);
+    if (result.issue != Lecture::lu) {
+        return;
+    }
+    Require(rib.NbPoints == rib.ProfilX.Count(), "count of x");
+    Require(rib.NbPoints == rib.ProfilY.Count(), "count of y");
+    Require(OfNumbers(rib.ProfilX) && OfNumbers(rib.ProfilY), "points of numbers");
+    rib.ProfilCharge = true;
+    if (Prepare(rib, messages) && carries && rib.NbPoints >= kPointsMini) {
+        Draw(world);
     }
 }
 
@@ -109,6 +107,6 @@ void ReadAndPrepare(const std::uint8_t *data, std::size_t size) {
 } // namespace loftwing
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-    loftwing::ReadAndPrepare(data, size);
+    loftwing::ReadAndDraw(loftwing::BytesOf(data, size));
     return 0;
 }

@@ -1,0 +1,103 @@
+// Any bytes as a panel file and as a wing file: read or refused with the file's name. What was read
+// and written reads back the same, but for the quotes around a value, of which each reading takes
+// one pair off.
+
+#include "base/whole_file.h"
+#include "fuzz_world.h"
+#include "programme/panel_file.h"
+#include "programme/panel_sheets.h"
+#include "programme/panel_typed.h"
+#include "programme/wing_file.h"
+#include "programme/wing_steps.h"
+
+#include <optional>
+
+namespace loftwing {
+namespace {
+
+template <class File, class Read>
+std::optional<File> Try(const Read &read) {
+    try {
+        return read();
+    } catch (const Failure &failure) {
+        Require(failure.number == kInvalidProcedureCall, "no such file");
+        Require(failure.detail.starts_with(ScratchFolder()), "named file");
+        return std::nullopt;
+    }
+}
+
+void CheckTyped(const FichierPanneau &panel) {
+    FuzzWorld world(panel.unite == "in");
+    const Saisie saisie = world.programme.SaisieEnCours();
+    TexteIllisible(panel, saisie);
+    EcartsComplets(panel);
+    try {
+        JeuDe(panel, ScratchFolder());
+        ReglageDe(panel, saisie);
+        VoeuDe(panel.planches, world.programme.messages, saisie.Unite);
+    } catch (const Failure &failure) {
+        Require(failure.number == kOverflow || failure.number == kDivisionByZero, "number");
+    }
+    for (const auto &[element, range] : panel.portees) {
+        Require(ElementNomme(NomElement(element)) == element, "name of an element");
+        Require(PorteeLue(TextePortee(range)) == range, "text of a range");
+    }
+}
+
+void AsPanel(const std::string &bytes) {
+    const std::string path = ScratchFolder() + "panel.lfp";
+    const std::string copy = ScratchFolder() + "copy.lfp";
+    WriteWholeFile(path, bytes);
+    const auto read = Try<FichierPanneau>([&] { return LitPanneau(path); });
+    if (!read) {
+        return;
+    }
+    CheckTyped(*read);
+    if (bytes.find_first_of("\"'") != std::string::npos) {
+        return;
+    }
+    EnregistrePanneau(copy, *read);
+    FichierPanneau again = LitPanneau(copy);
+    const std::string first = ReadWholeFile(copy);
+    EnregistrePanneau(copy, again);
+    Require(ReadWholeFile(copy) == first, "same panel file again");
+    // Paths come back without detours.
+    again.bouts = read->bouts;
+    if (read->planches.formats.empty()) { // nothing was chosen for sheets
+        again.planches = read->planches;
+    }
+    Require(again == *read, "panel as it was");
+    std::remove(copy.c_str());
+}
+
+void AsWing(const std::string &bytes) {
+    const std::string path = ScratchFolder() + "wing.lfa";
+    const std::string copy = ScratchFolder() + "copy.lfa";
+    WriteWholeFile(path, bytes);
+    const auto read = Try<FichierAile>([&] { return LitAile(path); });
+    if (!read) {
+        return;
+    }
+    Require(!read->panneaux.empty() && read->panneaux.size() <= kPanneauxMaxi, "count of panels");
+    if (bytes.find_first_of("\"'") != std::string::npos) {
+        return;
+    }
+    EnregistreAile(copy, *read);
+    const FichierAile again = LitAile(copy);
+    Require(again.premier == read->premier, "same first rib");
+    Require(again.panneaux.size() == read->panneaux.size(), "as many panels");
+    const std::string first = ReadWholeFile(copy);
+    EnregistreAile(copy, again);
+    Require(ReadWholeFile(copy) == first, "same wing file again");
+    std::remove(copy.c_str());
+}
+
+} // namespace
+} // namespace loftwing
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
+    const std::string bytes(loftwing::BytesOf(data, size));
+    loftwing::AsPanel(bytes);
+    loftwing::AsWing(bytes);
+    return 0;
+}
