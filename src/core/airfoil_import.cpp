@@ -21,6 +21,15 @@ using Points = std::vector<ImportPoint>;
 /// of the tolerance even around a nose of five points.
 constexpr int kYardstickSteps = 40;
 
+/// Points so dense that those segments would be more than that have fewer of them: between such
+/// points there is nothing to see.
+constexpr std::size_t kMostSegments = 1'000'000;
+
+int StepsBetween(std::size_t points) {
+    return static_cast<int>(std::clamp<std::size_t>(
+        kMostSegments / std::max<std::size_t>(points, 1), 1, kYardstickSteps));
+}
+
 /// Numbers of points that are tried one after the other.
 constexpr std::array<int, 6> kCounts = {160, 240, 320, 640, 1280, kMostLaid};
 
@@ -124,10 +133,16 @@ std::optional<Curve> ContourOf(Profil profil) {
     return contour;
 }
 
-double Farthest(const Curve &points, const NearPolyline &line) {
+constexpr double kAny = std::numeric_limits<double>::infinity();
+
+/// How far points leave a line; once that is as much as `enough`, it isn't looked for any further.
+double Farthest(const Curve &points, const NearPolyline &line, double enough) {
     double farthest = 0;
     for (const CurvePoint &point : points) {
         farthest = std::max(farthest, line(point));
+        if (farthest >= enough) {
+            break;
+        }
     }
     return farthest;
 }
@@ -137,17 +152,19 @@ struct Yardstick {
     NearPolyline curve;
     const Curve &points;
 
-    /// How far the contour of `laid` leaves curve and points.
-    std::optional<double> operator()(const Curve &laid) const {
-        return Measure(ContourOf(ProfilOf(laid)));
+    /// How far the contour of `laid` leaves curve and points; some figure from `enough` on where
+    /// that is more.
+    std::optional<double> operator()(const Curve &laid, double enough = kAny) const {
+        return Measure(ContourOf(ProfilOf(laid)), enough);
     }
-    std::optional<double> Measure(const std::optional<Curve> &contour) const {
+    std::optional<double> Measure(const std::optional<Curve> &contour, double enough) const {
         if (!contour) {
             return std::nullopt;
         }
-        const double from_curve = Farthest(*contour, curve);
-        const double from_points = Farthest(points, NearPolyline(*contour));
-        const double worst = std::max(from_curve, from_points);
+        double worst = Farthest(*contour, curve, enough);
+        if (worst < enough) {
+            worst = std::max(worst, Farthest(points, NearPolyline(*contour), enough));
+        }
         return std::isfinite(worst) ? std::optional(worst) : std::nullopt;
     }
 };
@@ -157,9 +174,10 @@ struct Yardstick {
 double NoseAt(const NaturalSpline &spline) {
     double best = 0;
     double step = 0;
+    const int steps = StepsBetween(spline.Count());
     for (std::size_t i = 0; i + 1 < spline.Count(); ++i) {
-        const double width = (spline.KnotAt(i + 1) - spline.KnotAt(i)) / kYardstickSteps;
-        for (int k = 0; k < kYardstickSteps; ++k) {
+        const double width = (spline.KnotAt(i + 1) - spline.KnotAt(i)) / steps;
+        for (int k = 0; k < steps; ++k) {
             const double s = spline.KnotAt(i) + width * k;
             if (spline(s).x < spline(best).x) {
                 best = s;
@@ -274,7 +292,8 @@ class Layer {
             for (CurvePoint &point : laid) {
                 point = {Written(point.x), Written(point.y)};
             }
-            const auto deviation = CanBeRead(laid) ? yardstick(laid) : std::nullopt;
+            const auto deviation =
+                CanBeRead(laid) ? yardstick(laid, best_ ? best_->deviation : kAny) : std::nullopt;
             if (deviation && (!best_ || *deviation < best_->deviation)) {
                 best_ = Laid{std::move(laid), *deviation, by_surface};
             }
@@ -293,8 +312,9 @@ class Layer {
         }
         const NaturalSpline upper(Curve(points_.begin(), nose + 1));
         const NaturalSpline lower(Curve(nose, points_.end()));
-        Curve both = upper.Sampled(kYardstickSteps);
-        const Curve behind = lower.Sampled(kYardstickSteps);
+        const int steps = StepsBetween(points_.size());
+        Curve both = upper.Sampled(steps);
+        const Curve behind = lower.Sampled(steps);
         both.insert(both.end(), behind.begin() + 1, behind.end());
         const Yardstick yardstick{NearPolyline(both), points_};
         Try(wished, true, yardstick, [&](int n) { return Lay(upper, lower, n); });
@@ -327,8 +347,8 @@ std::optional<double> ContourDeviation(const PointsLus &read) {
         points.push_back({read.ProfilX(i), read.ProfilY(i)});
     }
     try {
-        const Yardstick yardstick{NearPolyline(NaturalSpline(points).Sampled(kYardstickSteps)),
-                                  points};
+        const Yardstick yardstick{
+            NearPolyline(NaturalSpline(points).Sampled(StepsBetween(points.size()))), points};
         return yardstick(points);
     } catch (const Failure &) {
         return std::nullopt;
@@ -351,8 +371,8 @@ ImportedAirfoil ImportAirfoil(std::string_view bytes, const ImportWishes &wishes
     Normalise(airfoil);
     EndAtOne(airfoil);
     const Curve points = CurveOf(airfoil.points);
-    const Yardstick yardstick{NearPolyline(NaturalSpline(points).Sampled(kYardstickSteps)),
-                              airfoil.file};
+    const Yardstick yardstick{
+        NearPolyline(NaturalSpline(points).Sampled(StepsBetween(points.size()))), airfoil.file};
     airfoil.before = CanBeRead(points) ? yardstick(points) : std::nullopt;
     if (wishes.points == 0 && airfoil.before && *airfoil.before <= kImportTolerance) {
         airfoil.after = *airfoil.before;

@@ -366,6 +366,9 @@ AirfoilLoop LayOutAirfoil(const CoordinateTable &table) {
     if (table.rows.size() < kFewestPoints) {
         Reject(ImportReason::too_few_points);
     }
+    if (table.rows.size() > kMostRows) {
+        Reject(ImportReason::too_many_points);
+    }
     TakeRows(loop, table.rows);
     loop.dropped += DropRepeated(loop.points);
     if (loop.points.size() < kFewestPoints) {

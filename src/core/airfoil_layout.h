@@ -12,12 +12,13 @@ namespace loftwing {
 
 /// Why a file is no airfoil.
 enum class ImportReason {
-    too_few_points, ///< fewer than five, or none at all
-    one_surface,    ///< the points don't lead from the trailing edge to the nose and back
-    several_curves, ///< more than two lists of points
-    noise,          ///< the points go back and forth along a surface
-    crossing,       ///< the lower surface lies above the upper one along the chord
-    no_chord,       ///< all points lie at one x, or reach higher than long
+    too_few_points,  ///< fewer than five, or none at all
+    too_many_points, ///< more than kMostRows
+    one_surface,     ///< the points don't lead from the trailing edge to the nose and back
+    several_curves,  ///< more than two lists of points
+    noise,           ///< the points go back and forth along a surface
+    crossing,        ///< the lower surface lies above the upper one along the chord
+    no_chord,        ///< all points lie at one x, or reach higher than long
 };
 
 /// Thrown where a file can't be an airfoil. `line` is that of the file where it shows, from 1; 0

@@ -15,6 +15,9 @@ constexpr std::string_view kBlanks = " \t\v\f";
 constexpr std::string_view kComments = "#%!*/;\"'";
 constexpr std::string_view kDigits = "0123456789";
 
+/// Numbers of a line that are looked at; points have three or four.
+constexpr std::size_t kMostColumns = 100;
+
 /// What a comma means in a file.
 enum class Comma { separator, point, pairs };
 
@@ -30,21 +33,40 @@ std::string_view Stripped(std::string_view text) {
     return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-/// The lines without their ends, for CR alone too.
-std::vector<std::string> Lines(std::string_view bytes) {
+/// A file's text, every line ended by a line feed, CR alone too.
+std::string TextOf(std::string_view bytes) {
     std::string text = AnyToUtf8(bytes);
     for (std::size_t i = 0; i < text.size(); ++i) {
         if (text[i] == '\r' && (i + 1 == text.size() || text[i + 1] != '\n')) {
             text[i] = '\n';
         }
     }
-    return SplitLines(text);
+    return text;
 }
 
-std::vector<std::string_view> Split(std::string_view text, std::string_view separators) {
+/// Hands over the lines without their ends as long as `take` wants more. There is no list of them:
+/// that of a large file of line ends would take hundreds of megabytes.
+template <class Take>
+void ForEachLine(std::string_view text, Take take) {
+    while (!text.empty()) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        std::string_view line = text.substr(0, end);
+        if (line.ends_with('\r')) {
+            line.remove_suffix(1);
+        }
+        if (!take(line)) {
+            return;
+        }
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+}
+
+/// The first `most` parts of a text.
+std::vector<std::string_view> Split(std::string_view text, std::string_view separators,
+                                    std::size_t most = std::string_view::npos) {
     std::vector<std::string_view> parts;
     std::size_t at = text.find_first_not_of(separators);
-    while (at != std::string_view::npos) {
+    while (at != std::string_view::npos && parts.size() < most) {
         const std::size_t end = std::min(text.find_first_of(separators, at), text.size());
         parts.push_back(text.substr(at, end - at));
         at = text.find_first_not_of(separators, end);
@@ -94,20 +116,23 @@ bool HasDecimalCommas(std::string_view line) {
     return comma && parts.size() >= 2;
 }
 
-Comma CommaOf(const std::vector<std::string> &lines) {
+Comma CommaOf(std::string_view text) {
     std::size_t decimal = 0;
     std::size_t pairs = 0;
     std::size_t commas = 0;
-    for (const std::string &line : lines) {
-        if (!LooksNumeric(line) || line.find(',') == std::string::npos) {
-            continue;
+    bool point = false;
+    ForEachLine(text, [&](std::string_view line) {
+        if (line.find(',') == std::string_view::npos || !LooksNumeric(line)) {
+            return true;
         }
-        if (line.find('.') != std::string::npos) {
-            return Comma::separator;
-        }
+        point = line.find('.') != std::string_view::npos;
         ++commas;
         decimal += HasDecimalCommas(line) ? 1U : 0U;
         pairs += std::count(line.begin(), line.end(), ',') == 3 ? 1U : 0U;
+        return !point;
+    });
+    if (point) {
+        return Comma::separator;
     }
     if (2 * decimal > commas) {
         return Comma::point;
@@ -115,11 +140,12 @@ Comma CommaOf(const std::vector<std::string> &lines) {
     return 2 * pairs > commas ? Comma::pairs : Comma::separator;
 }
 
-/// The parts of a line between its separators, decimals with a point.
+/// The first parts of a line between its separators, decimals with a point.
 std::vector<std::string> Parts(std::string_view line, Comma comma) {
     const bool separates = comma != Comma::point;
     std::vector<std::string> parts;
-    for (const std::string_view part : Split(line, separates ? " \t\v\f;," : " \t\v\f;")) {
+    for (const std::string_view part :
+         Split(line, separates ? " \t\v\f;," : " \t\v\f;", kMostColumns)) {
         parts.emplace_back(part);
         std::replace(parts.back().begin(), parts.back().end(), ',', '.');
     }
@@ -178,15 +204,15 @@ bool IsProse(const TableRow &row, std::string_view line) {
 } // namespace
 
 CoordinateTable ReadCoordinateTable(std::string_view bytes) {
-    const std::vector<std::string> lines = Lines(bytes);
-    const Comma comma = CommaOf(lines);
+    const std::string text = TextOf(bytes);
+    const Comma comma = CommaOf(text);
     CoordinateTable table;
     int number = 0;
-    for (const std::string &whole : lines) {
+    ForEachLine(text, [&](std::string_view whole) {
         ++number;
         const std::string_view line = Stripped(whole);
         if (line.empty()) {
-            continue;
+            return true;
         }
         TableRow row = RowOf(line, comma);
         if (row.values.size() >= 2 && !IsProse(row, line)) {
@@ -195,7 +221,8 @@ CoordinateTable ReadCoordinateTable(std::string_view bytes) {
         } else if (table.rows.empty() && table.title.empty()) {
             table.title = TitleOf(line);
         }
-    }
+        return table.rows.size() <= kMostRows;
+    });
     return table;
 }
 

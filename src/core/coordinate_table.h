@@ -14,6 +14,9 @@ struct TableRow {
     int line = 0;                   ///< of the file, counted from 1
 };
 
+/// More rows than this are no airfoil; the table ends one behind them.
+inline constexpr std::size_t kMostRows = 100'000;
+
 /// What a coordinate file holds.
 struct CoordinateTable {
     std::string title; ///< the first words in front of the numbers; empty without any

@@ -3,6 +3,7 @@
 #include "base/failure.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -11,7 +12,7 @@ namespace loftwing {
 
 namespace {
 
-constexpr std::size_t kMostStrips = 512;
+constexpr std::size_t kRun = 8; // segments in a box of their own
 
 bool IsFinite(const CurvePoint &point) {
     return std::isfinite(point.x) && std::isfinite(point.y);
@@ -72,73 +73,70 @@ NearPolyline::NearPolyline(const Curve &line) {
     if (line_.empty()) {
         throw MakeFailure(kInvalidProcedureCall);
     }
-    const auto [low, high] =
-        std::minmax_element(line_.begin(), line_.end(),
-                            [](const CurvePoint &a, const CurvePoint &b) { return a.x < b.x; });
-    left_ = low->x;
-    strips_.resize(std::clamp<std::size_t>(line_.size() / 4, 1, kMostStrips));
-    const double width = (high->x - left_) / static_cast<double>(strips_.size());
-    width_ = width > 0 && std::isfinite(width) ? width : 1.0;
-    const auto each_in_strip = [this](const auto &take) {
-        for (std::size_t first = 0; first + 1 < line_.size() || first == 0; ++first) {
-            const CurvePoint &a = line_[first];
-            const CurvePoint &b = line_[std::min(first + 1, line_.size() - 1)];
-            const std::size_t last = StripOf(std::max(a.x, b.x));
-            for (std::size_t strip = StripOf(std::min(a.x, b.x)); strip <= last; ++strip) {
-                take(strip, first);
-            }
+    constexpr double kFar = std::numeric_limits<double>::infinity();
+    leaves_ = std::bit_ceil((Segments() + kRun - 1) / kRun);
+    boxes_.assign(2 * leaves_, {{kFar, kFar}, {-kFar, -kFar}});
+    for (std::size_t first = 0; first < Segments(); ++first) {
+        Box &box = boxes_[leaves_ + first / kRun];
+        for (const CurvePoint &end : {line_[first], line_[std::min(first + 1, line_.size() - 1)]}) {
+            box.low = {std::min(box.low.x, end.x), std::min(box.low.y, end.y)};
+            box.high = {std::max(box.high.x, end.x), std::max(box.high.y, end.y)};
         }
-    };
-    // Counted before they are kept: most of the time would go into lists that grow.
-    std::vector<std::size_t> counts(strips_.size(), 0);
-    each_in_strip([&counts](std::size_t strip, std::size_t) { ++counts[strip]; });
-    for (std::size_t strip = 0; strip < counts.size(); ++strip) {
-        strips_[strip].reserve(counts[strip]);
     }
-    each_in_strip(
-        [this](std::size_t strip, std::size_t first) { strips_[strip].push_back(first); });
+    for (std::size_t i = leaves_; i-- > 1;) {
+        const Box &one = boxes_[2 * i];
+        const Box &other = boxes_[2 * i + 1];
+        boxes_[i] = {{std::min(one.low.x, other.low.x), std::min(one.low.y, other.low.y)},
+                     {std::max(one.high.x, other.high.x), std::max(one.high.y, other.high.y)}};
+    }
 }
 
-std::size_t NearPolyline::StripOf(double x) const {
-    const double strip = (x - left_) / width_;
-    const auto last = static_cast<double>(strips_.size() - 1);
-    return static_cast<std::size_t>(std::clamp(strip, 0.0, last));
+/// A single point counts as one without length.
+std::size_t NearPolyline::Segments() const {
+    return std::max<std::size_t>(line_.size() - 1, 1);
 }
 
 double NearPolyline::ToSegment(const CurvePoint &point, std::size_t first) const {
-    return Distance(point,
-                    NearestOn(line_[first], line_[std::min(first + 1, line_.size() - 1)], point));
+    const CurvePoint &a = line_[first];
+    const CurvePoint &b = line_[std::min(first + 1, line_.size() - 1)];
+    return Distance(point, NearestOn(a, b, point));
 }
 
 double NearPolyline::operator()(const CurvePoint &point) const {
     double nearest = std::numeric_limits<double>::infinity();
-    if (!IsFinite(point)) {
-        return nearest;
+    if (IsFinite(point)) {
+        Look(point, 1, nearest);
     }
-    double beyond = nearest;
-    // The exact distance takes long, and few segments come near enough to need it.
-    const auto look = [&](std::size_t strip) {
-        for (const std::size_t first : strips_[strip]) {
-            const CurvePoint &end = line_[std::min(first + 1, line_.size() - 1)];
-            if (Square(point, NearestOn(line_[first], end, point)) <= beyond) {
-                nearest = std::min(nearest, ToSegment(point, first));
+    return nearest;
+}
+
+void NearPolyline::Look(const CurvePoint &point, std::size_t i, double &nearest) const {
+    if (i >= leaves_) {
+        const std::size_t first = (i - leaves_) * kRun;
+        const std::size_t last = std::min(first + kRun, Segments());
+        // The exact distance takes long, and few segments come near enough to need it.
+        double beyond = SquareBeyond(nearest);
+        for (std::size_t segment = first; segment < last; ++segment) {
+            const CurvePoint &end = line_[std::min(segment + 1, line_.size() - 1)];
+            if (Square(point, NearestOn(line_[segment], end, point)) <= beyond) {
+                nearest = std::min(nearest, ToSegment(point, segment));
                 beyond = SquareBeyond(nearest);
             }
         }
+        return;
+    }
+    // No place in a box is nearer than its nearest side.
+    const auto gap = [&](std::size_t box) {
+        const auto &[low, high] = boxes_[box];
+        return std::max(
+            {0.0, low.x - point.x, point.x - high.x, low.y - point.y, point.y - high.y});
     };
-    const std::size_t home = StripOf(point.x);
-    look(home);
-    // A strip farther off by x than the nearest so far has nothing nearer.
-    for (std::size_t strip = home;
-         strip-- > 0 && point.x - (left_ + static_cast<double>(strip + 1) * width_) <= nearest;) {
-        look(strip);
+    const std::size_t half = gap(2 * i + 1) < gap(2 * i) ? 2 * i + 1 : 2 * i;
+    for (const std::size_t each : {half, half ^ 1U}) {
+        if (gap(each) <= nearest) {
+            Look(point, each, nearest);
+        }
     }
-    for (std::size_t strip = home + 1;
-         strip < strips_.size() && left_ + static_cast<double>(strip) * width_ - point.x <= nearest;
-         ++strip) {
-        look(strip);
-    }
-    return nearest;
 }
 
 NaturalSpline::NaturalSpline(Curve points) : points_(std::move(points)) {

@@ -17,8 +17,8 @@ using Curve = std::vector<CurvePoint>;
 
 double Distance(const CurvePoint &a, const CurvePoint &b);
 
-/// Distances from points to one polyline. Its segments are sorted into strips of x, so that a
-/// question looks at a few of them only.
+/// Distances from points to one polyline. Runs of its segments have boxes around them, these in
+/// turn, and so on, so that a question looks at a few segments only, however the line winds.
 class NearPolyline {
   public:
     /// `line` has one point at least; points that are not finite are left out.
@@ -28,12 +28,19 @@ class NearPolyline {
     double operator()(const CurvePoint &point) const;
 
   private:
+    struct Box {
+        CurvePoint low;
+        CurvePoint high;
+    };
     Curve line_;
-    std::vector<std::vector<std::size_t>> strips_; ///< the segments by their first points
-    double left_ = 0;
-    double width_ = 1;
+    /// A binary tree: the whole at 1, the halves of box i at 2 i and 2 i + 1, the last `leaves_` of
+    /// them around single runs.
+    std::vector<Box> boxes_;
+    std::size_t leaves_ = 1;
 
-    std::size_t StripOf(double x) const;
+    std::size_t Segments() const;
+    /// Brings `nearest` down to what of box `i` is nearer to the point.
+    void Look(const CurvePoint &point, std::size_t i, double &nearest) const;
     double ToSegment(const CurvePoint &point, std::size_t first) const;
 };
 

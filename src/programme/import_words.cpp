@@ -32,6 +32,8 @@ std::string ReasonText(const Messages &messages, ImportReason reason) {
     switch (reason) {
     case ImportReason::too_few_points:
         return messages.Text({"Import", "21"});
+    case ImportReason::too_many_points:
+        return messages.Text({"Import", "28"});
     case ImportReason::one_surface:
         return messages.Text({"Import", "22"});
     case ImportReason::several_curves:

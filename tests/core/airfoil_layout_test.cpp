@@ -219,6 +219,16 @@ TEST_F(AirfoilLayout, WhatIsNoAirfoilIsRefusedWithReasonAndLine) {
                 Optional(ImportReason::no_chord));
 }
 
+TEST_F(AirfoilLayout, MoreRowsThanAnAirfoilMayHaveAreRefused) {
+    CoordinateTable table = TableOf(section);
+    const TableRow nose = table.rows[kNose];
+    table.rows.insert(table.rows.begin() + kNose, kMostRows - table.rows.size(), nose);
+    EXPECT_EQ(table.rows.size(), kMostRows);
+    EXPECT_EQ(LayOutAirfoil(table).points.size(), section.size()); // repeated points are dropped
+    table.rows.insert(table.rows.begin() + kNose, nose);
+    EXPECT_THAT(RefusalOf(table), Optional(ImportReason::too_many_points));
+}
+
 TEST_F(AirfoilLayout, PointsThatGoBackAndForthAreRefused) {
     Curve wild = section;
     for (std::size_t i = 1; i + 1 < wild.size(); ++i) {

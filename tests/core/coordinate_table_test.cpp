@@ -72,6 +72,16 @@ TEST(CoordinateTable, WordsAndSingleNumbersAreNoRows) {
     EXPECT_EQ(Values("1.0 0.0 trailing edge\n0.5 0.25 # 3\n"), kTwoPoints);
 }
 
+TEST(CoordinateTable, EndsOneRowBehindTheMostOfAnAirfoil) {
+    std::string rows;
+    for (std::size_t i = 0; i < kMostRows + 5; ++i) {
+        rows += "1 2\n";
+    }
+    EXPECT_EQ(ReadCoordinateTable(rows).rows.size(), kMostRows + 1);
+    rows.resize(4 * kMostRows);
+    EXPECT_EQ(ReadCoordinateTable(rows).rows.size(), kMostRows);
+}
+
 TEST(CoordinateTable, NumbersKeepTheirTexts) {
     const CoordinateTable table = ReadCoordinateTable("0,5000 -0,10\n1,0 0\n");
     EXPECT_THAT(table.rows[0].texts, ElementsAre("0.5000", "-0.10"));

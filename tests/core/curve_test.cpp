@@ -41,7 +41,7 @@ TEST(NearPolyline, AgreesWithLookingAtEverySegment) {
         for (int i = 0; i < count; ++i) {
             line.push_back({place(random), place(random)});
         }
-        line.push_back({line.front().x, 9}); // a long segment in one strip of x
+        line.push_back({line.front().x, 9}); // a long segment
         const NearPolyline near(line);
         for (int i = 0; i < 60; ++i) {
             const CurvePoint p{2 * place(random), 2 * place(random)};

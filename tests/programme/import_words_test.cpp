@@ -10,7 +10,8 @@ namespace {
 constexpr const char *kImportWords =
     "[Import]\n1=R\n2=L\n3=C\n4=B\n5=T\n6=S\n7=D\n8=A\n10=K\n11=k.\n12=N.\n13=O\n14=X.\n15=o.\n16="
     "W\n"
-    "17=w.\n18=E.\n20=No\n21=few\n22=one\n23=more\n24=noise\n25=cross\n26=chord\n27=line\n30=Off\n"
+    "17=w.\n18=E.\n20=No\n21=few\n22=one\n23=more\n24=noise\n25=cross\n26=chord\n27=line\n28="
+    "many\n30=Off\n"
     "31=off.\n";
 
 class ImportWords : public testing::Test {
@@ -54,6 +55,7 @@ TEST_F(ImportWords, EverythingThatWasDoneIsTold) {
 TEST_F(ImportWords, ARefusalNamesReasonAndLine) {
     EXPECT_EQ(ImportRefusalText(words.messages, {ImportReason::noise, 12}), "No noise (line 12).");
     EXPECT_EQ(ImportRefusalText(words.messages, {ImportReason::too_few_points, 0}), "No few.");
+    EXPECT_EQ(ImportRefusalText(words.messages, {ImportReason::too_many_points, 0}), "No many.");
     EXPECT_EQ(ImportRefusalText(words.messages, {ImportReason::one_surface, 3}),
               "No one (line 3).");
     EXPECT_EQ(ImportRefusalText(words.messages, {ImportReason::several_curves, 4}),
