@@ -2,6 +2,7 @@
 
 #include "base/failure.h"
 #include "base/text_encoding.h"
+#include "lang/ini_line.h"
 
 #include <algorithm>
 
@@ -12,50 +13,6 @@ namespace {
 constexpr std::size_t kLongestValue = 199;
 constexpr std::size_t kNowhere = std::string::npos;
 
-char Lower(char character) {
-    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
-                                                : character;
-}
-
-bool SameName(std::string_view one, std::string_view other) {
-    return std::equal(one.begin(), one.end(), other.begin(), other.end(),
-                      [](char a, char b) { return Lower(a) == Lower(b); });
-}
-
-std::string_view WithoutBlanks(std::string_view text) {
-    constexpr std::string_view kBlanks = " \t\r";
-    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-    return text.substr(0, text.find_last_not_of(kBlanks) + 1);
-}
-
-bool IsSection(std::string_view line) {
-    return WithoutBlanks(line).starts_with('[');
-}
-
-std::string_view SectionName(std::string_view line) {
-    line = WithoutBlanks(line);
-    line.remove_prefix(1);
-    return WithoutBlanks(line.substr(0, line.find(']')));
-}
-
-/// The key of a line as it stands; empty for a line that is no entry.
-std::string_view KeyOf(std::string_view line) {
-    const std::size_t equals = line.find('=');
-    if (equals == kNowhere || WithoutBlanks(line).starts_with(';')) {
-        return {};
-    }
-    return line.substr(0, equals);
-}
-
-std::string_view ValueOf(std::string_view line) {
-    std::string_view value = WithoutBlanks(line.substr(line.find('=') + 1));
-    if (value.size() >= 2 && (value.front() == '"' || value.front() == '\'') &&
-        value.front() == value.back()) {
-        value = value.substr(1, value.size() - 2);
-    }
-    return value;
-}
-
 } // namespace
 
 IniFile IniFile::Read(const std::string &path) {
@@ -65,12 +22,13 @@ IniFile IniFile::Read(const std::string &path) {
 IniFile IniFile::Parse(std::string_view bytes) {
     IniFile file;
     file.lines_ = SplitLines(ToUtf8(bytes));
+    file.index_.emplace(file.lines_);
     return file;
 }
 
 std::size_t IniFile::FindSection(std::string_view section) const {
     for (std::size_t i = 0; i < lines_.size(); ++i) {
-        if (IsSection(lines_[i]) && SameName(SectionName(lines_[i]), section)) {
+        if (IsIniSection(lines_[i]) && SameIniName(IniSectionName(lines_[i]), section)) {
             return i;
         }
     }
@@ -78,18 +36,21 @@ std::size_t IniFile::FindSection(std::string_view section) const {
 }
 
 std::size_t IniFile::FindKey(std::string_view section, std::string_view key) const {
+    if (index_) {
+        return index_->Find(lines_, section, key).value_or(kNowhere);
+    }
     const std::size_t start = FindSection(section);
     std::size_t trimmed = kNowhere;
     for (std::size_t i = start + 1; start != kNowhere && i < lines_.size(); ++i) {
-        if (IsSection(lines_[i])) {
+        if (IsIniSection(lines_[i])) {
             break;
         }
-        const std::string_view candidate = KeyOf(lines_[i]);
-        if (!candidate.empty() && SameName(candidate, key)) {
+        const std::string_view candidate = IniKeyOf(lines_[i]);
+        if (!candidate.empty() && SameIniName(candidate, key)) {
             return i;
         }
         if (trimmed == kNowhere && !candidate.empty() &&
-            SameName(WithoutBlanks(candidate), WithoutBlanks(key))) {
+            SameIniName(WithoutIniBlanks(candidate), WithoutIniBlanks(key))) {
             trimmed = i;
         }
     }
@@ -99,7 +60,7 @@ std::size_t IniFile::FindKey(std::string_view section, std::string_view key) con
 std::string IniFile::Value(std::string_view section, std::string_view key) const {
     const std::size_t at = FindKey(section, key);
     return at == kNowhere ? std::string()
-                          : FirstCharacters(std::string(ValueOf(lines_[at])), kLongestValue);
+                          : FirstCharacters(std::string(IniValueOf(lines_[at])), kLongestValue);
 }
 
 void IniFile::SetValue(std::string_view section, std::string_view key, std::string_view value) {
@@ -108,9 +69,13 @@ void IniFile::SetValue(std::string_view section, std::string_view key, std::stri
     const std::string line = std::string(key) + '=' + std::string(one_line);
     const std::size_t at = FindKey(section, key);
     if (at != kNowhere) {
+        if (IsIniSection(line) || !SameIniName(IniKeyOf(line), IniKeyOf(lines_[at]))) {
+            index_.reset();
+        }
         lines_[at] = line;
         return;
     }
+    index_.reset();
     std::size_t place = FindSection(section);
     if (place == kNowhere) {
         lines_.push_back('[' + std::string(section) + ']');
@@ -118,10 +83,10 @@ void IniFile::SetValue(std::string_view section, std::string_view key, std::stri
         return;
     }
     ++place;
-    while (place < lines_.size() && !IsSection(lines_[place])) {
+    while (place < lines_.size() && !IsIniSection(lines_[place])) {
         ++place;
     }
-    while (WithoutBlanks(lines_[place - 1]).empty()) {
+    while (WithoutIniBlanks(lines_[place - 1]).empty()) {
         --place;
     }
     lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(place), line);
@@ -131,10 +96,10 @@ std::vector<std::pair<std::string, std::string>> IniFile::Keys() const {
     std::vector<std::pair<std::string, std::string>> keys;
     std::string section;
     for (const std::string &line : lines_) {
-        if (IsSection(line)) {
-            section = SectionName(line);
-        } else if (!KeyOf(line).empty()) {
-            keys.emplace_back(section, KeyOf(line));
+        if (IsIniSection(line)) {
+            section = IniSectionName(line);
+        } else if (!IniKeyOf(line).empty()) {
+            keys.emplace_back(section, IniKeyOf(line));
         }
     }
     return keys;

@@ -2,9 +2,12 @@
 #pragma once
 
 #include "base/whole_file.h"
+#include "lang/ini_index.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace loftwing {
@@ -37,6 +40,7 @@ class IniFile {
 
   private:
     std::vector<std::string> lines_;
+    std::optional<IniIndex> index_; ///< none once a line has come or changed its name
 
     std::size_t FindSection(std::string_view section) const;
     std::size_t FindKey(std::string_view section, std::string_view key) const;

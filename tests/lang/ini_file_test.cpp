@@ -149,6 +149,40 @@ TEST(IniFile, WritesNoSecondLineOutOfAValue) {
     EXPECT_EQ(file.Value("s", "b"), "1");
 }
 
+TEST(IniFile, FindsWhatMovedDownForANewKey) {
+    IniFile file = IniFile::Parse("[s]\na=1\n[t]\nc=5\nd=6\n");
+    file.SetValue("s", "b", "3");
+    EXPECT_EQ(file.Value("t", "c"), "5");
+    EXPECT_EQ(file.Value("t", "d"), "6");
+    EXPECT_EQ(file.Value("s", "b"), "3");
+}
+
+TEST(IniFile, FindsTheNextKeyOfANameThatAnotherLost) {
+    IniFile file = IniFile::Parse("[s]\na =1\na =2\n");
+    file.SetValue("s", "a", "9"); // written over the first, which was meant but for its blank
+    EXPECT_EQ(file.Value("s", "a"), "9");
+    EXPECT_EQ(file.Value("s", "a "), "2");
+}
+
+TEST(IniFile, FindsThousandsOfKeysInTheirSections) {
+    constexpr int kKeys = 3000;
+    std::string text;
+    for (const char *section : {"one", "two", "ONE"}) {
+        text += "[" + std::string(section) + "]\n";
+        for (int i = 0; i < kKeys; ++i) {
+            text += "key" + std::to_string(i) + "=" + section + std::to_string(i) + "\n";
+        }
+    }
+    const IniFile file = IniFile::Parse(text);
+    for (int i = 0; i < kKeys; ++i) {
+        const std::string number = std::to_string(i);
+        EXPECT_EQ(file.Value("One", "KEY" + number), "one" + number);
+        EXPECT_EQ(file.Value("two", "key" + number), "two" + number);
+    }
+    EXPECT_EQ(file.Value("two", "key3000"), "");
+    EXPECT_EQ(file.Value("three", "key1"), "");
+}
+
 TEST(IniFile, ListsKeysAsTheyStandInFileOrder) {
     const IniFile file = IniFile::Parse("[One]\n2=b\n;3=c\n1 =a\nplain\n[Two]\nx=\n");
     EXPECT_THAT(file.Keys(), ElementsAre(Pair("One", "2"), Pair("One", "1 "), Pair("Two", "x")));
