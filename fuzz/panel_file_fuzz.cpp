@@ -1,6 +1,6 @@
 // Any bytes as a panel file and as a wing file: read or refused with the file's name. What was read
-// and written reads back the same, but for the quotes around a value, of which each reading takes
-// one pair off.
+// and written reads back the same, unless a value can't be written as it was read: each reading
+// takes a pair of quotes off, and a value ends at its first line break.
 
 #include "base/whole_file.h"
 #include "fuzz_world.h"
@@ -44,6 +44,15 @@ void CheckTyped(const FichierPanneau &panel) {
     }
 }
 
+bool CanBeWritten(const std::string &bytes) {
+    for (std::size_t at = 0; (at = bytes.find('\r', at)) != std::string::npos; ++at) {
+        if (bytes.compare(at, 2, "\r\n") != 0) {
+            return false;
+        }
+    }
+    return bytes.find_first_of("\"'") == std::string::npos;
+}
+
 void AsPanel(const std::string &bytes) {
     const std::string path = ScratchFolder() + "panel.lfp";
     const std::string copy = ScratchFolder() + "copy.lfp";
@@ -53,7 +62,7 @@ void AsPanel(const std::string &bytes) {
         return;
     }
     CheckTyped(*read);
-    if (bytes.find_first_of("\"'") != std::string::npos) {
+    if (!CanBeWritten(bytes)) {
         return;
     }
     EnregistrePanneau(copy, *read);
@@ -79,7 +88,7 @@ void AsWing(const std::string &bytes) {
         return;
     }
     Require(!read->panneaux.empty() && read->panneaux.size() <= kPanneauxMaxi, "count of panels");
-    if (bytes.find_first_of("\"'") != std::string::npos) {
+    if (!CanBeWritten(bytes)) {
         return;
     }
     EnregistreAile(copy, *read);

@@ -1,6 +1,7 @@
 // Areas of any numbers: what isn't finite or too far away is refused before the library that does
-// the work sees it, everything else gives rings of finite numbers. Areas of a rib's size add up:
-// what two have in common and what they cover together, what is left of one and what was taken.
+// the work sees it, everything else gives rings of finite numbers. Areas of a rib's size without
+// concave corners add up: what two have in common and what they cover together, what is left of one
+// and what was taken.
 
 #include "fuzz_world.h"
 #include "output/surface.h"
@@ -49,6 +50,14 @@ void CheckNumbers(const Surface &surface) {
             Require(std::isfinite(point.x) && std::isfinite(point.y), "points of numbers");
         }
     }
+}
+
+Surface Hulls(const Surface &rings) {
+    Surface hulls;
+    for (const Anneau &ring : rings) {
+        hulls.push_back(Enveloppe(ring));
+    }
+    return hulls;
 }
 
 /// Each corner is moved by up to half a step of the grid wherever two lines cross.
@@ -132,8 +141,11 @@ void Work(Choices choices) {
             CheckNumbers(Deplace(one, choices.Number(), Coins::vifs));
             Morceaux(a);
         } else {
-            CheckSums(one, other);
-            CheckMoves(one, mm);
+            CheckNumbers(Commun(one, other));
+            CheckNumbers(Moins(one, other));
+            const Surface plain = Rempli(Hulls(a));
+            CheckSums(plain, Rempli(Hulls(b)));
+            CheckMoves(plain, mm);
         }
         CheckLines(one, line);
     } catch (const Failure &failure) {
