@@ -25,7 +25,7 @@ build() {
 make_locales() {
     local folder=$1 name
     mkdir -p "$folder"
-    for name in fr_FR de_DE; do
+    for name in fr_FR de_DE ja_JP; do
         [[ -d $folder/$name.UTF-8 ]] && continue
         rm -rf "$folder/$name.new"
         localedef -i "$name" -f UTF-8 "$folder/$name.new"

@@ -1,12 +1,15 @@
 // Makes pictures of every window.
 //
-//     window_pictures FOLDER [SCALE]
+//     window_pictures FOLDER [--font FACTOR] [--screen FACTOR] [--display WIDTHxHEIGHT] [--dark]
+//                            [--language NAME] [--unit mm|in]
 //     window_pictures --help-pages FOLDER
 //
-// The first is to look at windows after a change: in each language and unit, pictures go to FOLDER,
-// named WINDOW-LANGUAGE-UNIT.png; SCALE is that of the font, 1 if left out. The second makes the
-// pictures of the help, in mm: FOLDER/LANGUAGE/pictures/WINDOW.png.
+// The first is to look at windows after a change: in each language and unit, or in those that are
+// named, pictures go to FOLDER as WINDOW-LANGUAGE-UNIT.png. --font enlarges the font alone,
+// --screen everything, as a screen of many pixels does; --display is the size of that screen. The
+// second makes the pictures of the help, in mm: FOLDER/LANGUAGE/pictures/WINDOW.png.
 
+#include "picture_options.h"
 #include "picture_panels.h"
 #include "picture_platform.h"
 #include "picture_ribs.h"
@@ -56,8 +59,10 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPalette>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <QTemporaryFile>
 
 #include <iostream>
 #include <stdexcept>
@@ -411,13 +416,22 @@ class Pictures {
 
 namespace {
 
-void TakeAll(const std::string &folder) {
-    QDir().mkpath(Q(folder));
+void TakeAll(const PictureOptions &options) {
+    QDir().mkpath(Q(options.folder));
+    bool taken = false;
     for (const std::string &language : LngIni::Languages(kLanguages)) {
         for (const char *unit : {"mm", "in"}) {
-            Pictures({folder, "-" + language + "-" + unit, kResources + "/help"}, language, unit)
-                .Take();
+            if ((options.language.empty() || options.language == language) &&
+                (options.unit.empty() || options.unit == unit)) {
+                Pictures({options.folder, "-" + language + "-" + unit, kResources + "/help"},
+                         language, unit)
+                    .Take();
+                taken = true;
+            }
         }
+    }
+    if (!taken) {
+        throw std::runtime_error("there is no language " + options.language);
     }
 }
 
@@ -430,28 +444,70 @@ void TakeForHelp(const std::string &folder) {
     }
 }
 
+/// The colours of a dark desktop.
+QPalette DarkColours() {
+    const QColor window("#353535");
+    const QColor white(Qt::white);
+    QPalette colours(white, window, window.lighter(), QColor("#1e1e1e"), QColor("#292929"), white,
+                     white, QColor("#2a2a2a"), window);
+    colours.setColor(QPalette::Highlight, QColor("#1f6fbf"));
+    colours.setColor(QPalette::HighlightedText, Qt::white);
+    colours.setColor(QPalette::AlternateBase, QColor("#313131"));
+    colours.setColor(QPalette::ToolTipBase, QColor("#2a2a2a"));
+    colours.setColor(QPalette::ToolTipText, Qt::white);
+    colours.setColor(QPalette::PlaceholderText, QColor("#959595"));
+    colours.setColor(QPalette::Link, QColor("#5aa9f0"));
+    colours.setColor(QPalette::LinkVisited, QColor("#b48ede"));
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText}) {
+        colours.setColor(QPalette::Disabled, role, QColor("#808080"));
+    }
+    colours.setColor(QPalette::Disabled, QPalette::Highlight, QColor("#505050"));
+    return colours;
+}
+
+/// Has the toolkit take a screen of the wanted size, which it reads from a file.
+void Unfold(const PictureOptions &options, QTemporaryFile &description) {
+    qputenv("QT_SCALE_FACTOR", QByteArray::number(options.screen));
+    description.open();
+    description.write(QString(R"({"screens": [{"name": "screen", "x": 0, "y": 0, "width": %1,
+                                "height": %2, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})")
+                          .arg(options.width)
+                          .arg(options.height)
+                          .toUtf8());
+    description.flush();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + description.fileName().toUtf8());
+}
+
+void Dress(const PictureOptions &options) {
+    QApplication::setStyle("Fusion"); // the same on every desktop
+    if (options.dark) {
+        QApplication::setPalette(DarkColours());
+    }
+    if (options.font != 1) {
+        QFont font = QApplication::font();
+        font.setPointSizeF(font.pointSizeF() * options.font);
+        QApplication::setFont(font);
+    }
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    QApplication::setStyle("Fusion"); // the same on every desktop
-    const QStringList words = QApplication::arguments().mid(1);
-    if (words.isEmpty() || words.size() > 2) {
-        std::cerr << "window_pictures FOLDER [SCALE], or window_pictures --help-pages FOLDER\n";
+    const auto options = ReadPictureOptions({argv + 1, argv + argc});
+    if (!options) {
+        std::cerr << kPictureUsage;
         return 2;
     }
+    QTemporaryFile screen;
+    Unfold(*options, screen);
+    const QApplication application(argc, argv);
+    Dress(*options);
     try {
-        if (words.front() == "--help-pages") {
-            TakeForHelp(S(words.back()));
-            return 0;
+        if (options->for_help) {
+            TakeForHelp(options->folder);
+        } else {
+            TakeAll(*options);
         }
-        if (words.size() > 1) {
-            QFont font = QApplication::font();
-            font.setPointSizeF(font.pointSizeF() * words[1].toDouble());
-            QApplication::setFont(font);
-        }
-        TakeAll(S(words.front()));
     } catch (const std::exception &error) {
         std::cerr << "window_pictures: " << error.what() << '\n';
         return 1;

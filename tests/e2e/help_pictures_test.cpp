@@ -1,6 +1,8 @@
 // The pictures of the help, which the build makes from the windows.
 
 #include "base/whole_file.h"
+#include "e2e/program.h"
+#include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -31,6 +33,22 @@ TEST(HelpPictures, EveryPageHasOneAndEachIsThere) {
         }
     }
     EXPECT_GE(pages, 88);
+}
+
+/// Asks the tool that takes the pictures for what it can't do, in an empty folder.
+TEST(HelpPictures, TheToolTakesAnUnknownOptionForNoFolder) {
+    const TempFolder folder;
+    const std::string tool = ShellWord(LOFTWING_BINARY_DIR "/tools/window_pictures");
+    for (const char *words :
+         {"", "--help", "-h", "--help-pages", "--help-pages --help", "made --scale 2",
+          "made --screen 0", "made --screen 9", "made --screen 1x", "made --screen",
+          "made --display 800", "made --display 800x", "made --display 800x600x", "made --unit cm",
+          "made twice"}) {
+        const Ran ran = RunShell("cd " + ShellWord(folder.Path()) + " && " + tool + " " + words);
+        EXPECT_EQ(ran.status, 2) << words;
+        EXPECT_TRUE(ran.err.starts_with("window_pictures FOLDER")) << words << ": " << ran.err;
+    }
+    EXPECT_TRUE(fs::is_empty(folder.Path()));
 }
 
 } // namespace
