@@ -1,6 +1,7 @@
 #include "app/command_line.h"
 
 #include "app/console_program.h"
+#include "app/error_line.h"
 #include "app/verbs.h"
 #include "base/failure.h"
 #include "base/version.h"
@@ -54,7 +55,7 @@ int RunVerb(const Verb &verb, const Arguments &arguments) {
     try {
         return verb.run(arguments);
     } catch (const Failure &failure) {
-        std::cerr << "loftwing: " << FailureText(arguments, failure) << '\n';
+        TellOnError(FailureText(arguments, failure));
         return kRefused;
     }
 }
@@ -99,7 +100,7 @@ int RunCommandLine(const std::vector<std::string> &words) {
         }
         return kDone;
     } catch (const UsageError &error) {
-        std::cerr << "loftwing: " << error.what() << " (see loftwing --help)\n";
+        TellOnError(std::string(error.what()) + " (see loftwing --help)");
         return kWrongUsage;
     } catch (const Refused &) {
         return kRefused;

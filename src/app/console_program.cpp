@@ -1,5 +1,6 @@
 #include "app/console_program.h"
 
+#include "app/error_line.h"
 #include "app/resource_paths.h"
 #include "output/page_setup.h"
 #include "output/screen_plot.h"
@@ -94,7 +95,7 @@ void NameRefused(const std::string &file) {
 }
 
 void NameRefused(const Console &console, const std::string &file) {
-    console.err << "loftwing: " << file << " was refused\n";
+    TellOnError(console.err, file + " was refused");
 }
 
 ConsoleStart::ConsoleStart(const Arguments &arguments)

@@ -2,6 +2,7 @@
 
 #include "app/command_line.h"
 #include "app/cut_pieces.h"
+#include "app/error_line.h"
 #include "app/json_line.h"
 #include "app/sheet_options.h"
 #include "app/toolkit.h"
@@ -95,7 +96,7 @@ PiecesOfOne TryFile(const Arguments &arguments, const FileRun &run, const SheetT
     } catch (const Failure &failure) {
         const std::string why = run.start.FailureText(failure);
         report.TellRefused(why);
-        run.console.err << "loftwing: " << file << ": " << why << '\n';
+        TellOnError(run.console.err, file + ": " + why);
         return {{}, true, true};
     }
 }

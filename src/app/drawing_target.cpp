@@ -2,6 +2,7 @@
 
 #include "app/command_line.h"
 #include "app/console_program.h"
+#include "app/error_line.h"
 #include "app/toolkit.h"
 #include "base/failure.h"
 #include "base/whole_file.h"
@@ -109,8 +110,7 @@ MadeFile MakeTold(const FileRun &run, const Destination &destination,
             NameRefused(run.console, files.front());
         }
     } catch (const Failure &failure) {
-        run.console.err << "loftwing: " << files.front() << ": " << run.start.FailureText(failure)
-                        << '\n';
+        TellOnError(run.console.err, files.front() + ": " + run.start.FailureText(failure));
     }
     return made;
 }
@@ -124,7 +124,7 @@ bool DeliverTold(const ConsoleStart &start, const Destination &destination, cons
     try {
         return Deliver(destination, file, *made.bytes) && made.complete;
     } catch (const Failure &failure) {
-        std::cerr << "loftwing: " << start.FailureText(failure) << '\n';
+        TellOnError(start.FailureText(failure));
         return false;
     }
 }

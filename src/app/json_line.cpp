@@ -1,5 +1,7 @@
 #include "app/json_line.h"
 
+#include "base/text_encoding.h"
+
 #include <array>
 #include <charconv>
 
@@ -10,7 +12,8 @@ namespace {
 std::string Quoted(std::string_view text) {
     constexpr std::string_view kHex = "0123456789abcdef";
     std::string quoted = "\"";
-    for (const char character : text) {
+    // A name's bytes may be anything, and what isn't UTF-8 no reader of JSON takes.
+    for (const char character : ToUtf8(text)) {
         const auto code = static_cast<unsigned char>(character);
         if (character == '"' || character == '\\') {
             quoted += '\\';

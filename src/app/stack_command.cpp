@@ -1,6 +1,7 @@
 #include "app/stack_command.h"
 
 #include "app/command_line.h"
+#include "app/error_line.h"
 #include "app/toolkit.h"
 #include "base/failure.h"
 #include "base/text_encoding.h"
@@ -36,7 +37,7 @@ bool Open(const FileRun &run, const std::string &file, const PrepareFile &prepar
         complete = complete && prepared == Preparation::complete;
         return prepared != Preparation::impossible && IsDrawn(program.Owner());
     } catch (const Failure &failure) {
-        run.console.err << "loftwing: " << file << ": " << run.start.FailureText(failure) << '\n';
+        TellOnError(run.console.err, file + ": " + run.start.FailureText(failure));
         return false;
     }
 }

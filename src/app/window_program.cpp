@@ -2,6 +2,7 @@
 
 #include "app/arguments.h"
 #include "app/command_line.h"
+#include "app/error_line.h"
 #include "app/resource_paths.h"
 #include "base/version.h"
 #include "lang/frmlang.h"
@@ -161,7 +162,7 @@ int RunWindow(int argc, char **argv) {
             [&] { help.reset(); });
         return Show(programme, arguments.Files());
     } catch (const UsageError &error) {
-        std::cerr << "loftwing: " << error.what() << " (see loftwing --help)\n";
+        TellOnError(std::string(error.what()) + " (see loftwing --help)");
         return kWrongUsage;
     }
 }

@@ -83,6 +83,29 @@ std::size_t PositionOf(std::string_view text, std::size_t count) {
     return text.size();
 }
 
+enum class ByteOrder { none, little, big };
+
+/// The order of a UTF-16 text without a mark. Numbers and western letters have a zero in each pair
+/// of bytes, always on the same side, and no text of single bytes has any.
+ByteOrder OrderOfZeros(std::string_view bytes) {
+    constexpr std::size_t kEnough = 512;
+    const std::string_view head = bytes.substr(0, std::min(kEnough, bytes.size() / 2 * 2));
+    std::array<std::size_t, 2> zeros{}; // at even places, at odd ones
+    for (std::size_t at = 0; at < head.size(); ++at) {
+        zeros[at % 2] += head[at] == 0 ? 1U : 0U;
+    }
+    const auto tell = [&](std::size_t high) {
+        return zeros[1 - high] == 0 && zeros[high] > 0 && zeros[high] >= head.size() / 4;
+    };
+    return tell(1) ? ByteOrder::little : tell(0) ? ByteOrder::big : ByteOrder::none;
+}
+
+ByteOrder OrderOf(std::string_view bytes) {
+    return bytes.starts_with("\xFE\xFF")   ? ByteOrder::big
+           : bytes.starts_with("\xFF\xFE") ? ByteOrder::little
+                                           : OrderOfZeros(bytes);
+}
+
 } // namespace
 
 bool IsUtf8(std::string_view bytes) {
@@ -106,17 +129,19 @@ std::string ToUtf8(std::string_view bytes) {
 }
 
 std::string AnyToUtf8(std::string_view bytes) {
-    const bool big = bytes.starts_with("\xFE\xFF");
-    if (!big && !bytes.starts_with("\xFF\xFE")) {
+    const ByteOrder order = OrderOf(bytes);
+    if (order == ByteOrder::none) {
         return ToUtf8(bytes);
     }
+    const bool big = order == ByteOrder::big;
     const auto unit = [&bytes, big](std::size_t at) {
         const auto first = static_cast<unsigned char>(bytes[at]);
         const auto second = static_cast<unsigned char>(bytes[at + 1]);
         return big ? first * 0x100U + second : second * 0x100U + first;
     };
+    constexpr unsigned kMark = 0xFEFF;
     std::string text;
-    for (std::size_t at = 2; at + 1 < bytes.size(); at += 2) {
+    for (std::size_t at = unit(0) == kMark ? 2 : 0; at + 1 < bytes.size(); at += 2) {
         const unsigned high = unit(at);
         if (high < 0xD800U || high > 0xDFFFU) {
             AppendCodePoint(text, high);
@@ -159,6 +184,17 @@ std::vector<std::string> SplitLines(std::string_view text) {
         text.remove_prefix(std::min(end + 1, text.size()));
     }
     return lines;
+}
+
+std::string OnOneLine(std::string_view text) {
+    std::string line;
+    line.reserve(text.size());
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        const bool one_of_two = text.substr(at).starts_with("\r\n");
+        line += text[at] == '\r' || text[at] == '\n' ? ' ' : text[at];
+        at += one_of_two ? 1U : 0U;
+    }
+    return line;
 }
 
 char LowerAscii(char letter) {

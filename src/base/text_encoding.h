@@ -14,8 +14,9 @@ bool IsUtf8(std::string_view bytes);
 /// mark is skipped.
 std::string ToUtf8(std::string_view bytes);
 
-/// The same, and UTF-16 where its byte order mark stands in front. A half of a pair that lacks the
-/// other becomes U+FFFD.
+/// The same for the bytes of a whole file, which may be UTF-16 too: where its byte order mark
+/// stands in front, or where the zeros between the letters of a western text tell it. A half of a
+/// pair that lacks the other becomes U+FFFD.
 std::string AnyToUtf8(std::string_view bytes);
 
 /// The code points of a valid UTF-8 text.
@@ -23,6 +24,9 @@ std::u32string CodePoints(std::string_view text);
 
 /// The lines of `text`. CR LF and LF both end a line; a last line needs no end.
 std::vector<std::string> SplitLines(std::string_view text);
+
+/// `text` with a blank for each of its line ends, CR LF being one.
+std::string OnOneLine(std::string_view text);
 
 /// Small letters for the capitals of the plain alphabet; all else stays, whatever the locale.
 char LowerAscii(char letter);

@@ -26,7 +26,7 @@ struct RefusLecture {
 /// The whole file with a line feed behind each line. Made in place: a list of lines would take
 /// gigabytes for a large file of line ends.
 std::string TamponDeLignes(const std::string &octets) {
-    std::string tampon = ToUtf8(octets);
+    std::string tampon = AnyToUtf8(octets);
     if (!tampon.empty() && !tampon.ends_with('\n')) {
         tampon += '\n';
     }

@@ -13,6 +13,15 @@ namespace {
 constexpr std::size_t kLongestValue = 199;
 constexpr std::size_t kNowhere = std::string::npos;
 
+std::string_view UpToLineEnd(std::string_view value) {
+    return value.substr(0, value.find_first_of("\r\n"));
+}
+
+/// What becomes of a value of any length on its way through a file.
+std::string AsRead(std::string_view value) {
+    return std::string(IniValueOf("=" + std::string(UpToLineEnd(value))));
+}
+
 } // namespace
 
 IniFile IniFile::Read(const std::string &path) {
@@ -21,7 +30,7 @@ IniFile IniFile::Read(const std::string &path) {
 
 IniFile IniFile::Parse(std::string_view bytes) {
     IniFile file;
-    file.lines_ = SplitLines(ToUtf8(bytes));
+    file.lines_ = SplitLines(AnyToUtf8(bytes));
     file.index_.emplace(file.lines_);
     return file;
 }
@@ -63,10 +72,31 @@ std::string IniFile::Value(std::string_view section, std::string_view key) const
                           : FirstCharacters(std::string(IniValueOf(lines_[at])), kLongestValue);
 }
 
+std::string IniFile::Path(std::string_view section, std::string_view key) const {
+    const std::size_t at = FindKey(section, key);
+    return at == kNowhere ? std::string() : std::string(IniValueOf(lines_[at]));
+}
+
+bool IniFile::SetPath(std::string_view section, std::string_view key, const std::string &path) {
+    // A name that begins with a blank or stands in quotes would lose them.
+    const std::string kept = AsRead(path) == path ? path : "./" + path;
+    if (!IsUtf8(kept) || AsRead(kept) != kept) {
+        return false;
+    }
+    SetValue(section, key, kept);
+    return true;
+}
+
+bool IniFile::Keeps(std::string_view value) {
+    return IsUtf8(value) && AsRead(value) == value && CharacterCount(value) <= kLongestValue;
+}
+
 void IniFile::SetValue(std::string_view section, std::string_view key, std::string_view value) {
     // A line break would make another line of the rest, and that line could be anything.
-    const std::string_view one_line = value.substr(0, value.find_first_of("\r\n"));
-    const std::string line = std::string(key) + '=' + std::string(one_line);
+    const std::string_view one_line = UpToLineEnd(value);
+    // Bytes that are no UTF-8 would have the whole file read as Windows-1252.
+    const std::string line =
+        std::string(key) + '=' + (IsUtf8(one_line) ? std::string(one_line) : ToUtf8(one_line));
     const std::size_t at = FindKey(section, key);
     if (at != kNowhere) {
         if (IsIniSection(line) || !SameIniName(IniKeyOf(line), IniKeyOf(lines_[at]))) {

@@ -24,9 +24,17 @@ class IniFile {
     /// The value without the blanks around it and without one pair of quotes around that, at most
     /// 199 characters; empty where there is none.
     std::string Value(std::string_view section, std::string_view key) const;
+    /// The same without its limit: the path of a file.
+    std::string Path(std::string_view section, std::string_view key) const;
     /// Replaces the value, or adds key and section. All other lines stay as they are. A value ends
-    /// at its first line break; section and key are names without one.
+    /// at its first line break; section and key are names without one. Bytes that are no UTF-8 are
+    /// taken for Windows-1252.
     void SetValue(std::string_view section, std::string_view key, std::string_view value);
+    /// The same for a path that Path must give back; one from a folder on may get a "./" in front.
+    /// False, and nothing changed, when no line can hold it: it has a line end or is no UTF-8.
+    bool SetPath(std::string_view section, std::string_view key, const std::string &path);
+    /// Whether Value would give this back after SetValue.
+    static bool Keeps(std::string_view value);
 
     /// Every (section, key as it stands) in file order.
     std::vector<std::pair<std::string, std::string>> Keys() const;

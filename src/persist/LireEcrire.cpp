@@ -192,7 +192,7 @@ void LignesAnciennes(RibModel &rib, Lecteur &lecteur) {
 /// The lines of a file. A stray carriage return counts as the blank that it is written as, so that
 /// a number is the same before and after.
 std::vector<std::string> LignesDe(const std::string &bytes) {
-    std::vector<std::string> lines = SplitLines(ToUtf8(bytes));
+    std::vector<std::string> lines = SplitLines(AnyToUtf8(bytes));
     for (std::string &line : lines) {
         std::replace(line.begin(), line.end(), '\r', ' ');
     }

@@ -2,6 +2,9 @@
 
 #include "persist/LireEcrire.h"
 
+#include "base/text_encoding.h"
+#include "persist/lignes_composants.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <set>
@@ -12,24 +15,34 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// Whether a rib file, which has a line for a name and is UTF-8, writes `fichier` as `nom`. Names
+/// that it can write as they are don't come here.
+bool SEcritComme(const std::string &fichier, const std::string &nom) {
+    const bool odd = fichier.find_first_of("\r\n") != std::string::npos || !IsUtf8(fichier);
+    return odd && TexteDeLigne(fichier) == nom;
+}
+
 /// One walk through a folder and all below it.
 class Recherche {
   public:
     Recherche(const std::string &nom, const std::function<void()> &pause)
         : nom_(nom), pause_(pause) {}
 
-    /// The last hit below `folder`, its own file first.
+    /// The last hit below `folder`, its own file first; without one, the last file whose name a rib
+    /// file can't hold as it is.
     std::string Dans(const fs::path &folder) {
         found_.clear();
+        alike_.clear();
         seen_.clear();
         Parcourt(folder);
-        return found_;
+        return found_.empty() ? alike_ : found_;
     }
 
   private:
     const std::string &nom_;
     const std::function<void()> &pause_;
     std::string found_;
+    std::string alike_;
     std::set<fs::path> seen_; ///< real places, so that links can't lead in a circle
 
     void Parcourt(const fs::path &folder) {
@@ -58,7 +71,7 @@ class Recherche {
         return !error && seen_.insert(real).second;
     }
 
-    static std::vector<fs::path> DossiersDe(const fs::path &folder) {
+    std::vector<fs::path> DossiersDe(const fs::path &folder) {
         std::vector<fs::path> folders;
         std::error_code error;
         fs::directory_iterator entry(folder, error);
@@ -66,6 +79,9 @@ class Recherche {
             std::error_code unknown;
             if (entry->is_directory(unknown)) {
                 folders.push_back(entry->path());
+            } else if (SEcritComme(entry->path().filename().string(), nom_) &&
+                       entry->is_regular_file(unknown)) {
+                alike_ = entry->path().string();
             }
             entry.increment(error);
         }
@@ -73,10 +89,26 @@ class Recherche {
     }
 };
 
+/// The file of a folder that a rib file writes as `nom`; the last one where there are several.
+std::string SemblableDans(const fs::path &folder, const std::string &nom) {
+    std::vector<std::string> alike;
+    std::error_code error;
+    fs::directory_iterator entry(folder.empty() ? fs::path(".") : folder, error);
+    while (!error && entry != fs::directory_iterator()) {
+        std::error_code unknown;
+        if (SEcritComme(entry->path().filename().string(), nom) &&
+            entry->is_regular_file(unknown)) {
+            alike.push_back(entry->path().string());
+        }
+        entry.increment(error);
+    }
+    return alike.empty() ? std::string() : *std::max_element(alike.begin(), alike.end());
+}
+
 /// Whether a name is one of a file and no path.
 bool EstNomNu(const std::string &nom) {
-    return !nom.empty() && nom != "." && nom != ".." &&
-           nom.find_first_of("/\\") == std::string::npos && nom.find('\0') == std::string::npos;
+    return !nom.empty() && nom != "." && nom != ".." && nom.find('\0') == std::string::npos &&
+           fs::path(nom).filename().string() == nom;
 }
 
 } // namespace
@@ -99,7 +131,13 @@ std::string ChercheProfil(const std::vector<std::string> &dossiers, const std::s
 std::string ProfilACote(const std::string &chemin_rib, const std::string &nom) {
     const fs::path beside = fs::path(chemin_rib).parent_path() / nom;
     std::error_code error;
-    return EstNomNu(nom) && fs::is_regular_file(beside, error) ? beside.string() : std::string();
+    if (!EstNomNu(nom)) {
+        return {};
+    }
+    if (fs::is_regular_file(beside, error)) {
+        return beside.string();
+    }
+    return SemblableDans(fs::path(chemin_rib).parent_path(), nom);
 }
 
 } // namespace loftwing

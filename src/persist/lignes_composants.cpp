@@ -16,11 +16,15 @@ std::string TexteDuNombre(const std::string &line) {
 
 } // namespace
 
-void Redacteur::Ligne(std::string_view line) {
-    std::string text(line);
+std::string TexteDeLigne(std::string_view text) {
+    std::string line = IsUtf8(text) ? std::string(text) : ToUtf8(text);
     std::replace_if(
-        text.begin(), text.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
-    bytes_ += text + "\r\n";
+        line.begin(), line.end(), [](char c) { return c == '\r' || c == '\n'; }, ' ');
+    return line;
+}
+
+void Redacteur::Ligne(std::string_view line) {
+    bytes_ += TexteDeLigne(line) + "\r\n";
 }
 
 void Redacteur::Nom(const std::string &NomProfil, const std::string &ExtProfil) {

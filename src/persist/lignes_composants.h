@@ -13,6 +13,10 @@
 
 namespace loftwing {
 
+/// A text as a line of the file can hold it: blanks for its line ends, which would shift all that
+/// follows, and UTF-8, without which the whole file would be read as Windows-1252.
+std::string TexteDeLigne(std::string_view text);
+
 /// Writes the lines.
 class Redacteur {
   public:
@@ -44,7 +48,6 @@ class Redacteur {
     const std::string &Unite_;
     std::string bytes_;
 
-    /// A line end inside a text would shift all that follows.
     void Ligne(std::string_view line);
 };
 

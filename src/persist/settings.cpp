@@ -278,6 +278,9 @@ void DescendRecents(const ListeRecente &liste, IniFile &file, const FichiersRece
 }
 
 void NoteRecent(const ListeRecente &liste, const std::string &path, const std::string &fichier) {
+    if (!IniFile::Keeps(path)) {
+        return; // the list would name another file, or none
+    }
     IniFile file = IniFile::Read(fichier);
     const FichiersRecents recent = LitRecents(liste, file);
     if (recent.front() == path) {

@@ -1,20 +1,9 @@
 #include "programme/console_platform.h"
 
+#include "base/text_encoding.h"
 #include "output/printer.h"
 
-#include <algorithm>
-
 namespace loftwing {
-
-namespace {
-
-std::string OnOneLine(std::string text) {
-    std::erase(text, '\r');
-    std::replace(text.begin(), text.end(), '\n', ' ');
-    return text;
-}
-
-} // namespace
 
 BoxAnswer ConsolePlatform::Show(const MessageBox &box) {
     last_text_ = OnOneLine(box.text);

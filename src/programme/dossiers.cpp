@@ -32,6 +32,13 @@ std::string DossierDe(const std::string &path) {
     return fs::path(CheminEntier(path)).parent_path().string();
 }
 
+std::string CheminVu(const std::string &fichier, const std::string &autre) {
+    const fs::path whole = CheminEntier(autre);
+    const fs::path near = whole.lexically_relative(DossierDe(fichier));
+    const bool below = !near.empty() && *near.begin() != "..";
+    return (below ? near : whole).string();
+}
+
 bool EstDans(const std::string &path, const std::vector<std::string> &dossiers) {
     std::error_code error;
     const fs::path place = fs::weakly_canonical(path, error);
@@ -49,8 +56,10 @@ std::string DossierRetenu(const Programme &programme, const char *key,
 }
 
 void RetientDossier(const Programme &programme, const char *key, const std::string &path) {
-    WriteINIFile(kSection, key, std::filesystem::path(path).parent_path().string(),
-                 programme.paths.fichier);
+    const std::string folder = fs::path(path).parent_path().string();
+    if (IniFile::Keeps(folder)) {
+        WriteINIFile(kSection, key, folder, programme.paths.fichier);
+    }
 }
 
 } // namespace loftwing

@@ -3,6 +3,7 @@
 #include "base/number_text.h"
 #include "base/text_encoding.h"
 #include "lang/ini_file.h"
+#include "programme/dossiers.h"
 
 #include <charconv>
 #include <filesystem>
@@ -46,11 +47,6 @@ std::optional<int> NombreEntier(const std::string &text) {
 
 [[noreturn]] void Refuse(const std::string &path, const std::string &what) {
     throw MakeFailure(kInvalidProcedureCall, path + ", " + what);
-}
-
-fs::path Entier(const fs::path &path) {
-    std::error_code unknown;
-    return fs::absolute(path, unknown).lexically_normal();
 }
 
 void LitPortees(const IniFile &file, const std::string &path, PorteesPanneau &ranges) {
@@ -101,7 +97,7 @@ FichierPanneau LitPanneau(const std::string &path) {
     FichierPanneau read;
     const std::array<const char *, 2> ends = {"Root", "Tip"};
     for (const std::size_t end : {0U, 1U}) {
-        const std::string rib = value(ends[end]);
+        const std::string rib = file.Path(kSectionPanneau, ends[end]);
         if (rib.empty()) {
             Refuse(path, ends[end]);
         }
@@ -138,10 +134,9 @@ void EnregistrePanneau(const std::string &path, const FichierPanneau &fichier, F
     };
     const std::array<const char *, 2> ends = {"Root", "Tip"};
     for (const std::size_t end : {0U, 1U}) {
-        const fs::path rib = Entier(fichier.bouts[end]);
-        const fs::path near = rib.lexically_relative(Entier(path).parent_path());
-        const bool below = !near.empty() && *near.begin() != "..";
-        set(ends[end], (below ? near : rib).string());
+        if (!file.SetPath(kSectionPanneau, ends[end], CheminVu(path, fichier.bouts[end]))) {
+            throw MakeFailure(kPathFileAccess, fichier.bouts[end]);
+        }
     }
     set("Unit", fichier.unite);
     set("Count", fichier.nombre);

@@ -44,7 +44,7 @@ std::map<int, std::string> PanneauxDe(const IniFile &file) {
     std::map<int, std::string> panels;
     for (const auto &[section, key] : file.Keys()) {
         const auto number = NumeroDe(section, key);
-        const std::string value = file.Value(section, key);
+        const std::string value = file.Path(section, key);
         if (number && !value.empty()) {
             panels.emplace(*number, value);
         }
@@ -96,10 +96,9 @@ void EnregistreAile(const std::string &path, const FichierAile &fichier) {
     file.SetValue(kSection, kPremiere, std::to_string(fichier.premier));
     int number = 0;
     for (const std::string &panel : fichier.panneaux) {
-        const fs::path whole = CheminEntier(panel);
-        const fs::path near = whole.lexically_relative(fs::path(CheminEntier(path)).parent_path());
-        const bool below = !near.empty() && *near.begin() != "..";
-        file.SetValue(kSection, Cle(++number), (below ? near : whole).string());
+        if (!file.SetPath(kSection, Cle(++number), CheminVu(path, panel))) {
+            throw MakeFailure(kPathFileAccess, panel);
+        }
     }
     file.Write(path, Flush::yes);
 }

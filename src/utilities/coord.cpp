@@ -66,7 +66,7 @@ std::string QuestionLigne(const Messages &messages, const std::string &ligne) {
 }
 
 FichierCoord LitCoord(const std::string &path) {
-    const std::string bytes = ReadWholeFile(path);
+    const std::string bytes = AnyToUtf8(ReadWholeFile(path));
     if (bytes.find('\0') != std::string::npos) {
         throw MakeFailure(kTypeMismatch, path);
     }
@@ -75,7 +75,7 @@ FichierCoord LitCoord(const std::string &path) {
     if (ends > kLignesMaxi + 1) {
         throw MakeFailure(kOverflow, path);
     }
-    std::vector<std::string> lines = SplitLines(ToUtf8(bytes));
+    std::vector<std::string> lines = SplitLines(bytes);
     if (lines.empty()) {
         throw MakeFailure(kInputPastEnd, path);
     }

@@ -70,6 +70,31 @@ TEST(ToUtf8, GivesValidUtf8ForEveryByte) {
     }
 }
 
+TEST(OnOneLine, PutsABlankInPlaceOfEachLineEnd) {
+    EXPECT_EQ(OnOneLine("a\nb\r\nc\rd"), "a b c d");
+    EXPECT_EQ(OnOneLine("\r\n\n\r"), "   ");
+    EXPECT_EQ(OnOneLine("a b"), "a b");
+    EXPECT_EQ(OnOneLine(""), "");
+}
+
+TEST(AnyToUtf8, TellsUtf16WithoutAMarkByTheZerosBetweenItsLetters) {
+    using namespace std::string_view_literals;
+    EXPECT_EQ(AnyToUtf8("W\0\xFC\0\n\0"sv), "W\xC3\xBC\n");
+    EXPECT_EQ(AnyToUtf8("\0W\0\xFC\0\n"sv), "W\xC3\xBC\n");
+    // Half of the letters have another script's byte in place of the zero.
+    EXPECT_EQ(AnyToUtf8("1\0 \0\x42\x30\x44\x30"sv), "1 \xE3\x81\x82\xE3\x81\x84");
+    // The half of a pair at the very end is no letter.
+    EXPECT_EQ(AnyToUtf8("1\0002\0003"sv), "12");
+}
+
+TEST(AnyToUtf8, TakesBytesWithOtherZerosForNoUtf16) {
+    using namespace std::string_view_literals;
+    for (const std::string_view bytes :
+         {"\0\0\0\0"sv, "1 0\0 0.5"sv, "\0"sv, "1\0\0002"sv, "NACA 2412\n1 0\n\0\n"sv}) {
+        EXPECT_EQ(AnyToUtf8(bytes), bytes);
+    }
+}
+
 TEST(SplitLines, EndsLinesAtLfAndCrLf) {
     EXPECT_THAT(SplitLines("a\nb\r\nc\n"), ElementsAre("a", "b", "c"));
 }

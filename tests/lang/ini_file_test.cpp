@@ -32,6 +32,53 @@ TEST(IniFile, FindsAValueBySectionAndKey) {
     EXPECT_EQ(Value(text, "Two", "a"), "3");
 }
 
+/// A path on its way through a file; "refused" where the file doesn't take it.
+std::string PathThroughAFile(const std::string &path) {
+    IniFile file;
+    if (!file.SetPath("One", "a", path)) {
+        EXPECT_EQ(file.Text(), "");
+        return "refused";
+    }
+    return IniFile::Parse(file.Text()).Path("One", "a");
+}
+
+TEST(IniFile, GivesAPathBackWhateverItsLengthAndLetters) {
+    for (const std::string &path :
+         {std::string(250, 'x') + ".lfw", std::string("a=b[c];d#e.lfw"), std::string("[x].lfw"),
+          std::string("; x"), std::string("%1 & <b>.lfw"), std::string("\xF0\x9F\x98\x80.lfw"),
+          std::string("back\\slash"), std::string("\"x.lfw")}) {
+        EXPECT_EQ(PathThroughAFile(path), path);
+    }
+    EXPECT_EQ(PathThroughAFile(" x.lfw"), "./ x.lfw");
+    EXPECT_EQ(PathThroughAFile("\tx.lfw"), "./\tx.lfw");
+    EXPECT_EQ(PathThroughAFile("'x'"), "./'x'");
+    EXPECT_EQ(PathThroughAFile("\"x\""), "./\"x\"");
+}
+
+TEST(IniFile, TakesNoPathThatALineCannotHold) {
+    for (const char *path : {"a\nb.lfw", "a\rb.lfw", "\n", "x\xFF.lfw", "x ", "x\t"}) {
+        EXPECT_EQ(PathThroughAFile(path), "refused") << path;
+    }
+}
+
+TEST(IniFile, KnowsWhatItKeeps) {
+    for (const std::string &value : {std::string(199, 'x'), std::string("/a/b c.dat"),
+                                     std::string("/a'"), std::string("/\xC3\xBC"), std::string()}) {
+        EXPECT_TRUE(IniFile::Keeps(value)) << value;
+    }
+    for (const std::string &value :
+         {std::string(200, 'x'), std::string(" a"), std::string("a "), std::string("a\nb"),
+          std::string("'a'"), std::string("/\xFF")}) {
+        EXPECT_FALSE(IniFile::Keeps(value)) << value;
+    }
+}
+
+TEST(IniFile, BytesThatAreNoUtf8SpoilNoOtherValue) {
+    const std::string text = Changed("[One]\r\na=\xC3\xBC\r\n", "One", "b", "\xFF");
+    EXPECT_EQ(Value(text, "One", "a"), "\xC3\xBC");
+    EXPECT_EQ(Value(text, "One", "b"), "\xC3\xBF"); // as Windows-1252
+}
+
 TEST(IniFile, IsEmptyWhereSectionOrKeyIsMissing) {
     const char *text = "stray=0\n[One]\na=1\n[Two]\nb=2\n";
     EXPECT_EQ(Value(text, "One", "b"), "");

@@ -97,6 +97,17 @@ TEST_F(Components, EveryValueComesBackAsItWasWritten) {
     EXPECT_EQ(Written(), File(wanted));
 }
 
+TEST_F(Components, ANameOfAnySystemSpoilsNoOtherText) {
+    world.rib.NomProfil = "b\xFC\nend"; // Windows-1252, and a line end
+    world.rib.ExtProfil = "dat";
+    world.rib.texte.InsTexte = "Fl\xC3\xBCgel";
+    const std::string written = Written();
+    EXPECT_TRUE(IsUtf8(written));
+    EXPECT_EQ(ReadBytes(written), FormatComposants::courant);
+    EXPECT_EQ(name, "b\xC3\xBC end.dat");
+    EXPECT_EQ(world.rib.texte.InsTexte, "Fl\xC3\xBCgel");
+}
+
 TEST_F(Components, ValuesGoToTheirFields) {
     Read(Full());
     const RibModel &rib = world.rib;

@@ -62,6 +62,20 @@ TEST_F(AirfoilSearch, NothingIsFoundWhereNothingIs) {
     EXPECT_EQ(Search({"one"}, "folder.dat"), ""); // a folder is no airfoil
 }
 
+TEST_F(AirfoilSearch, AFileIsFoundUnderTheNameThatARibFileCanHold) {
+    const std::string broken = Put("one/a/line\nend.dat");
+    EXPECT_EQ(Search({"one"}, "line end.dat"), broken);
+    EXPECT_EQ(ProfilACote(folder.Path("one/a/rib.lfw"), "line end.dat"), broken);
+    const std::string western = Put("one/b\xFC.dat"); // Windows-1252
+    EXPECT_EQ(Search({"one"}, "b\xC3\xBC.dat"), western);
+    EXPECT_EQ(ProfilACote(folder.Path("one/rib.lfw"), "b\xC3\xBC.dat"), western);
+    // A file of that very name comes first.
+    const std::string exact = Put("one/line end.dat");
+    EXPECT_EQ(Search({"one"}, "line end.dat"), exact);
+    Put("one/folder\n.dat/x");
+    EXPECT_EQ(Search({"one"}, "folder .dat"), "");
+}
+
 TEST_F(AirfoilSearch, NameIsNeverAPath) {
     Put("one/e205.dat");
     Put("one/sub/mh32.dat");

@@ -448,6 +448,16 @@ TEST_F(Recents, RibsHaveAListOfTheirOwn) {
     EXPECT_EQ(LitRibsRecents(fichier), (FichiersRecents{"/1.lfw", "/2.lfw", "", ""}));
 }
 
+TEST_F(Recents, APathThatTheFileCannotHoldIsNotNoted) {
+    const FichiersRecents before = {"a", "b", "c", "d"};
+    for (const std::string &path : {"/" + std::string(199, 'x'), std::string("/line\nend.dat"),
+                                    std::string("/\xFF.dat"), std::string("/a ")}) {
+        EXPECT_EQ(After(before, path), before) << path;
+    }
+    const std::string long_one = "/" + std::string(198, 'x');
+    EXPECT_EQ(After(before, long_one).front(), long_one);
+}
+
 TEST_F(Recents, NoPathIsAlreadyFirstInAnEmptyList) {
     NoteFichierRecent("", fichier);
     EXPECT_FALSE(fs::exists(fichier));

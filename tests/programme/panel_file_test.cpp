@@ -49,6 +49,31 @@ TEST_F(PanelFile, WhatIsWrittenIsRead) {
     EXPECT_EQ(LitPanneau(folder.Path("wing.lfp")), variable);
 }
 
+TEST_F(PanelFile, RibsMayHaveNamesOfEveryKind) {
+    FichierPanneau wing = Wing();
+    wing.bouts = {folder.Path(" lead, =[x];.lfw"), "/" + std::string(240, 'd') + "/\"tip.lfw"};
+    EnregistrePanneau(folder.Path("wing.lfp"), wing);
+    FichierPanneau read = LitPanneau(folder.Path("wing.lfp"));
+    EXPECT_TRUE(std::filesystem::path(read.bouts[0]).lexically_normal() == wing.bouts[0])
+        << read.bouts[0];
+    EXPECT_EQ(read.bouts[1], wing.bouts[1]);
+}
+
+TEST_F(PanelFile, IsNotWrittenWhereARibCannotBeNamedInIt) {
+    for (const char *name : {"a\nb.lfw", "a\xFF.lfw"}) {
+        FichierPanneau wing = Wing();
+        wing.bouts[1] = folder.Path(name);
+        try {
+            EnregistrePanneau(folder.Path("wing.lfp"), wing);
+            ADD_FAILURE() << "it would name another rib";
+        } catch (const Failure &failure) {
+            EXPECT_EQ(failure.number, kPathFileAccess);
+            EXPECT_EQ(failure.detail, wing.bouts[1]);
+        }
+    }
+    EXPECT_EQ(folder.Entries(), 0);
+}
+
 TEST_F(PanelFile, RibsBelowItsFolderMoveWithIt) {
     FichierPanneau wing = Wing();
     wing.bouts[0] = "/elsewhere/root.lfw";

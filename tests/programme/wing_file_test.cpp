@@ -41,6 +41,22 @@ class WingFile : public testing::Test {
     }
 };
 
+TEST_F(WingFile, PanelsMayHaveLongNamesButNoLineEndInThem) {
+    FichierAile wing{1, {"/" + std::string(240, 'd') + "/inner.lfp"}};
+    EnregistreAile(folder.Path("wing.lfa"), wing);
+    EXPECT_EQ(LitAile(folder.Path("wing.lfa")), wing);
+    const std::string before = folder.Bytes("wing.lfa");
+    wing.panneaux.push_back(folder.Path("outer\n.lfp"));
+    try {
+        EnregistreAile(folder.Path("wing.lfa"), wing);
+        ADD_FAILURE() << "it would name another panel";
+    } catch (const Failure &failure) {
+        EXPECT_EQ(failure.number, kPathFileAccess);
+        EXPECT_EQ(failure.detail, wing.panneaux[1]);
+    }
+    EXPECT_EQ(folder.Bytes("wing.lfa"), before);
+}
+
 TEST_F(WingFile, WhatIsWrittenIsRead) {
     EnregistreAile(folder.Path("wing.lfa"), Wing());
     EXPECT_EQ(LitAile(folder.Path("wing.lfa")), Wing());
