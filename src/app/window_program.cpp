@@ -32,13 +32,8 @@ namespace loftwing {
 
 namespace {
 
-std::vector<std::string> WordsLeft() {
-    std::vector<std::string> words;
-    const QStringList arguments = QCoreApplication::arguments();
-    for (qsizetype i = 1; i < arguments.size(); ++i) {
-        words.push_back(S(arguments[i]));
-    }
-    return words;
+std::vector<std::string> WordsLeft(int argc, char **argv) {
+    return {argv + 1, argv + argc};
 }
 
 /// Does once what can wait until the window stands before the user, or at the latest after a
@@ -144,7 +139,7 @@ int RunWindow(int argc, char **argv) {
     QCoreApplication::setApplicationVersion(kVersion);
     QGuiApplication::setDesktopFileName("loftwing");
     try {
-        const Arguments arguments(WordsLeft(), {{"--settings", "FILE", "settings file"}});
+        const Arguments arguments(WordsLeft(argc, argv), {{"--settings", "FILE", "settings file"}});
         if (arguments.Files().size() > 1) {
             throw UsageError("the window opens one FILE");
         }

@@ -4,6 +4,7 @@
 #include "base/text_encoding.h"
 #include "lang/aide.h"
 #include "output/view_screen.h"
+#include "platform/qt_title.h"
 #include "programme/qt_cut_command.h"
 
 namespace loftwing {
@@ -37,8 +38,8 @@ frmdecoupe::frmdecoupe(Programme &programme, QWidget *parent)
 }
 
 void frmdecoupe::PoseTextes() {
-    setWindowTitle(Q(programme_.Text({"Piece", "103"}) + " : " +
-                     NomDuDessin(programme_.rib, programme_.compare)));
+    setWindowTitle(TitreDeFenetre(programme_.Text({"Piece", "103"}) + " : " +
+                                  NomDuDessin(programme_.rib, programme_.compare)));
     Picture1.setAccessibleName(Mot({"Piece", "125"}));
     Label1.setText(Mot({"Piece", "104"}));
     Label3.setText(Mot({"Piece", "126"}));

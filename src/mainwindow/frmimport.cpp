@@ -2,6 +2,7 @@
 
 #include "base/text_encoding.h"
 #include "lang/aide.h"
+#include "platform/qt_title.h"
 #include "programme/import_words.h"
 
 #include <filesystem>
@@ -24,7 +25,7 @@ frmimport::frmimport(Programme &programme, QWidget *parent, std::string path,
 
 void frmimport::PoseTextes() {
     const std::string name = std::filesystem::path(path_).filename().string();
-    setWindowTitle(Q(programme_.Text({"Import", "41"}) + " : " + ToUtf8(name)));
+    setWindowTitle(TitreDeFenetre(programme_.Text({"Import", "41"}) + " : " + name));
     Picture1.Nomme(Mot({"Import", "44"}), Mot({"Import", "45"}));
     lblrecit.setText(Q(ImportStory(programme_.messages, airfoil_)));
     cmdenregistrer.setText(Mot({"Import", "46"}));

@@ -24,7 +24,12 @@ std::optional<std::string> FileOf(const QMimeData &data) {
     if (urls.size() != 1 || !urls.front().isLocalFile()) {
         return std::nullopt;
     }
-    return S(urls.front().toLocalFile());
+    const QString name = urls.front().toLocalFile();
+    // A name's bytes may be anything; as a text the toolkit has a mark for those that are no UTF-8.
+    return name.contains(QChar::ReplacementCharacter)
+               ? QByteArray::fromPercentEncoding(urls.front().path(QUrl::FullyEncoded).toLatin1())
+                     .toStdString()
+               : S(name);
 }
 
 } // namespace

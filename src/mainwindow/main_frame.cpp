@@ -9,6 +9,7 @@
 #include "mainwindow/rib_preview.h"
 #include "platform/qt_form.h"
 #include "platform/qt_plot_device.h"
+#include "platform/qt_title.h"
 #include "programme/load.h"
 #include "programme/undo_steps.h"
 #include "utilities/frmEpCourb.h"
@@ -71,7 +72,7 @@ void MainFrame::MontrePas() {
 }
 
 void MainFrame::Titre(const std::string &caption) {
-    setWindowTitle(Q(caption));
+    setWindowTitle(TitreDeFenetre(caption));
 }
 
 void MainFrame::Panneau(int number, const std::string &text) {

@@ -2,6 +2,9 @@
 
 #include <QDialog>
 #include <QScreen>
+#include <QScrollArea>
+#include <QStyle>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <array>
@@ -12,12 +15,38 @@ namespace {
 
 constexpr int kGap = 8; // pixels between a dialog and what it leaves free
 
-// Only where nobody has chosen a size; the size found here counts as found, not as chosen.
-void FitToContent(QDialog &dialog) {
-    if (!dialog.testAttribute(Qt::WA_Resized)) {
-        dialog.adjustSize();
-        dialog.setAttribute(Qt::WA_Resized, false);
-    }
+/// What a dialog is scrolled in; null as long as there was room for all of it.
+QScrollArea *Defilement(const QDialog &dialog) {
+    return dialog.findChild<QScrollArea *>("Defilement", Qt::FindDirectChildrenOnly);
+}
+
+bool TientDans(const QSize &size, const QSize &room) {
+    return size.width() <= room.width() && size.height() <= room.height();
+}
+
+/// Puts all that a dialog has into an area that scrolls. The area is the dialog's before it takes
+/// anything in, which keeps the order of Tab.
+void MetEnDefilement(QDialog &dialog) {
+    auto *area = new QScrollArea(&dialog);
+    area->setObjectName("Defilement");
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidgetResizable(true);
+    auto *content = new QWidget;
+    area->setWidget(content);
+    content->setLayout(dialog.layout());
+    auto *rows = new QVBoxLayout(&dialog);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->addWidget(area);
+}
+
+/// The size of the content and of the bars that it needs.
+QSize AvecBarres(const QScrollArea &area, const QSize &room) {
+    const QSize content = area.widget()->sizeHint();
+    const int bar = area.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const QSize bars(content.height() > room.height() ? bar : 0,
+                     content.width() > room.width() ? bar : 0);
+    return (content + bars).boundedTo(room);
 }
 
 /// A window that reaches beyond the screen must not take its dialogs along.
@@ -62,12 +91,29 @@ QPoint PlaceBeside(const QSize &size, const QRect &around, const QRect &clear, c
     return best == nullptr ? middle.topLeft() : best->topLeft();
 }
 
+void FitDialog(QDialog &dialog, const QSize &room) {
+    const QLayout *layout = dialog.layout();
+    if (layout != nullptr && !TientDans(layout->totalMinimumSize(), room)) {
+        MetEnDefilement(dialog);
+    }
+    if (dialog.testAttribute(Qt::WA_Resized)) {
+        return;
+    }
+    if (const QScrollArea *area = Defilement(dialog)) {
+        dialog.resize(AvecBarres(*area, room));
+    } else {
+        dialog.adjustSize();
+    }
+    // The size found here counts as found, not as chosen.
+    dialog.setAttribute(Qt::WA_Resized, false);
+}
+
 void PlaceDialog(QDialog &dialog, const QWidget &window, const QRect &clear) {
-    FitToContent(dialog);
     // The dialog has no frame yet; it will be like that of the window.
     const QSize frame = window.frameGeometry().size() - window.geometry().size();
-    dialog.move(PlaceBeside(dialog.size() + frame, window.frameGeometry(), clear,
-                            window.screen()->availableGeometry()));
+    const QRect screen = window.screen()->availableGeometry();
+    FitDialog(dialog, screen.size() - frame);
+    dialog.move(PlaceBeside(dialog.size() + frame, window.frameGeometry(), clear, screen));
 }
 
 } // namespace loftwing

@@ -2,6 +2,7 @@
 
 #include "lang/aide.h"
 #include "platform/busy_pointer.h"
+#include "platform/qt_title.h"
 #include "utilities/tool_files.h"
 
 #include <optional>
@@ -20,7 +21,7 @@ frmEpCourb::frmEpCourb(Programme &programme, MainView &view, QWidget *parent)
 
 void frmEpCourb::Form_Load() {
     RibModel &rib = programme_.rib;
-    setWindowTitle(Q(TitreEpCourb(rib, programme_.messages)));
+    setWindowTitle(TitreDeFenetre(TitreEpCourb(rib, programme_.messages)));
     Garde(" EpCourb/Load", [this, &rib] {
         const TextesEpCourb shown = OuvreEpCourb(rib, programme_.settings.Unite);
         txtEpROr.setText(Q(shown.txtEpROr));

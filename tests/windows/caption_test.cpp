@@ -1,9 +1,11 @@
 // What the main window's caption names: whatever is on the screen.
 
+#include "base/whole_file.h"
 #include "support/components_text.h"
 #include "windows/views_fixture.h"
 
 #include <filesystem>
+#include <utility>
 
 namespace loftwing {
 namespace {
@@ -30,6 +32,19 @@ TEST_F(MainCaption, NamesTheRibFileInAWindowOfAnySize) {
     world.platform.files_expected = {world.folder.Path("tip.lfw")};
     world.Action("mnu_filesaveas")->trigger();
     EXPECT_EQ(AfterResizing(), "Loftwing Rib : tip.lfw  Airfoil : naca2412");
+}
+
+TEST_F(MainCaption, ShowsANameOfEveryKindOnOneLine) {
+    const std::string bytes = ReadWholeFile(WindowWorld::Sample("naca2412.dat"));
+    for (const auto &[name, shown] :
+         {std::pair("a[*]b", "a[*]b"), std::pair("line\nend", "line end"),
+          std::pair("<b>&amp; %1", "<b>&amp; %1"), std::pair("b\xFC", "b\xC3\xBC")}) {
+        world.window->OuvreFichier(world.folder.File(std::string(name) + ".dat", bytes));
+        // The toolkit shows "[*]" for a doubled one, and nothing for a single one.
+        EXPECT_EQ(S(Q(AfterResizing()).replace("[*][*]", "[*]")),
+                  std::string("Loftwing Airfoil : ") + shown);
+        EXPECT_FALSE(Q(Caption()).replace("[*][*]", "").contains("[*]"));
+    }
 }
 
 TEST_F(MainCaption, NamesTheViewInAWindowOfAnySize) {

@@ -1,10 +1,16 @@
 // Where dialogs open: beside the rib, so that what is typed can be seen on it.
 
 #include "platform/qt_place.h"
+#include "programme/qt_dialogue.h"
+#include "support/qt_all_windows.h"
 #include "utilities/frmdiedre.h"
 #include "windows/views_fixture.h"
 
+#include <QApplication>
 #include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
 
 namespace loftwing {
 namespace {
@@ -48,6 +54,80 @@ TEST(DialogPlace, NeverLeavesTheScreen) {
     EXPECT_EQ(PlaceBeside({400, 300}, window, QRect(), kScreen), QPoint(1520, 780));
     EXPECT_EQ(PlaceBeside({400, 300}, QRect(-900, -500, 1000, 600), QRect(), kScreen),
               QPoint(0, 0));
+}
+
+/// Widgets that Tab leads to, in its order.
+std::vector<QWidget *> TabOrder(QWidget &window) {
+    std::vector<QWidget *> order;
+    for (QWidget *next = window.nextInFocusChain(); next != &window;
+         next = next->nextInFocusChain()) {
+        if (window.isAncestorOf(next) && (next->focusPolicy() & Qt::TabFocus) != 0 &&
+            next->isEnabled() && next->isVisible()) {
+            order.push_back(next);
+        }
+    }
+    return order;
+}
+
+/// A dialog made to fit a screen of 1366 by 768 pixels at 250 %, less its frame and a panel: all
+/// that Tab leads to, in the order of before, can be seen.
+void ExpectUsableOnASmallScreen(QDialog &dialog) {
+    const QSize room(540, 260);
+    const std::vector<QWidget *> before = TabOrder(dialog);
+    dialog.setAttribute(Qt::WA_Resized, false);
+    FitDialog(dialog, room);
+    QApplication::processEvents();
+    EXPECT_LE(dialog.width(), room.width());
+    EXPECT_LE(dialog.height(), room.height());
+    EXPECT_EQ(TabOrder(dialog), before);
+    for (QWidget *widget : before) {
+        widget->setFocus(Qt::TabFocusReason);
+        auto *area = dialog.findChild<QScrollArea *>("Defilement");
+        if (area != nullptr) {
+            area->ensureWidgetVisible(widget); // as Tab does
+        }
+        EXPECT_FALSE(widget->visibleRegion().isEmpty()) << S(widget->objectName());
+    }
+}
+
+TEST(DialogPlace, ADialogIsScrolledWhereTheScreenIsTooSmallForIt) {
+    LookAtAllWindows("German", "mm", [](QWidget &window) {
+        auto *dialog = qobject_cast<Dialogue *>(&window);
+        if (dialog != nullptr) {
+            ExpectUsableOnASmallScreen(*dialog);
+        }
+    });
+}
+
+TEST(DialogPlace, ADialogThatFitsIsNotScrolled) {
+    LookAtAllWindows("English", "mm", [](QWidget &window) {
+        if (auto *dialog = qobject_cast<Dialogue *>(&window)) {
+            FitDialog(*dialog, {1920, 1040});
+            EXPECT_EQ(dialog->findChild<QScrollArea *>("Defilement"), nullptr);
+        }
+    });
+}
+
+TEST(DialogPlace, AScrolledDialogHasNoBarThatItDoesNotNeed) {
+    QDialog dialog;
+    auto *rows = new QVBoxLayout(&dialog);
+    rows->setContentsMargins(0, 0, 0, 0);
+    auto *tall = new QWidget;
+    tall->setFixedSize(300, 600);
+    rows->addWidget(tall);
+    FitDialog(dialog, {500, 400});
+    dialog.show();
+    QApplication::processEvents();
+    const auto *area = dialog.findChild<QScrollArea *>("Defilement");
+    ASSERT_NE(area, nullptr);
+    EXPECT_TRUE(area->verticalScrollBar()->isVisible());
+    EXPECT_FALSE(area->horizontalScrollBar()->isVisible());
+    EXPECT_EQ(dialog.height(), 400);
+    EXPECT_EQ(dialog.width(), 300 + area->verticalScrollBar()->width());
+    // Opened again it is as large as before.
+    FitDialog(dialog, {500, 400});
+    EXPECT_EQ(dialog.height(), 400);
+    EXPECT_EQ(dialog.findChildren<QScrollArea *>("Defilement").size(), 1);
 }
 
 class DialogsBeside : public Views {
