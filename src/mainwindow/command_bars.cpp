@@ -245,7 +245,7 @@ void CommandBars::PoseTextes(const LngIni &language) {
     for (const ToolButton &button : ToolButtons()) {
         tools_.at(button.index)->setToolTip(caption(button.tip));
         tools_.at(button.index)->setText(caption(button.tip));
-        tools_.at(button.index)->setIcon(ToolIcon(button.index, window_.palette()));
+        tools_.at(button.index)->setIcon(ToolIcon(button.index));
     }
     const QString zoom = tools_.at(kZoomTool)->toolTip();
     Combo1_->setToolTip(zoom);

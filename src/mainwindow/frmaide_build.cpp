@@ -2,6 +2,7 @@
 
 #include "mainwindow/frmaide.h"
 
+#include "mainwindow/tool_icons.h"
 #include "mainwindow/window_place.h"
 #include "platform/qt_focus_mark.h"
 
@@ -10,7 +11,6 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QSplitter>
-#include <QStyle>
 #include <QVBoxLayout>
 
 namespace loftwing {
@@ -41,13 +41,9 @@ void frmaide::NameAll() {
 }
 
 void frmaide::LayOut() {
-    const std::pair<QToolButton *, QStyle::StandardPixmap> images[] = {
-        {&cmdprecedent, QStyle::SP_ArrowBack},
-        {&cmdsuivant, QStyle::SP_ArrowForward},
-        {&cmddebut, QStyle::SP_FileDialogDetailedView}};
-    for (const auto &[button, image] : images) {
-        button->setIcon(style()->standardIcon(image));
-    }
+    cmdprecedent.setIcon(ImageOf(Image::back));
+    cmdsuivant.setIcon(ImageOf(Image::forward));
+    cmddebut.setIcon(ImageOf(Image::contents));
     cmdpluspetit.setText("A\u2212");
     cmdplusgrand.setText("A+");
     cmdprecedent.setEnabled(false);

@@ -1,12 +1,12 @@
 #include "mainwindow/notice_bar.h"
 
+#include "mainwindow/tool_icons.h"
 #include "platform/qt_form.h"
 #include "platform/qt_text.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -83,7 +83,7 @@ QWidget *NoticeBar::CloseButton(const Notice &notice, QWidget *strip) {
     NameControl(*button, (std::string("notice_") + NoticeName(notice.subject) + "_close").c_str());
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);
-    button->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    button->setIcon(ImageOf(Image::close));
     SetTip(*button, S(close_));
     button->setAccessibleName(close_);
     connect(button, &QToolButton::clicked, this,

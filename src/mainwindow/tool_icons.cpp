@@ -1,10 +1,13 @@
 #include "mainwindow/tool_icons.h"
 
+#include <QGuiApplication>
+#include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPalette>
 #include <QPixmap>
 
-#include <functional>
+#include <algorithm>
 
 namespace loftwing {
 
@@ -12,21 +15,44 @@ namespace {
 
 constexpr double kGrid = 24.0; // images are drawn on a grid of 24 by 24
 
-using Drawing = std::function<void(QPainter &)>;
+using Drawing = void (*)(QPainter &);
 
-QIcon IconOf(const Drawing &draw) {
-    QIcon icon;
-    for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
-        QPixmap pixmap(size, size);
+/// Draws an image whenever it is shown, in the size that the screen has for it then. A desktop may
+/// turn dark while the program runs.
+class DrawnIcon : public QIconEngine {
+  public:
+    DrawnIcon(Drawing drawing, QPalette::ColorRole ink) : drawing_(drawing), ink_(ink) {}
+
+    QIconEngine *clone() const override { return new DrawnIcon(*this); } // its icon owns it
+
+    void paint(QPainter *painter, const QRect &place, QIcon::Mode mode, QIcon::State) override {
+        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+        const QColor ink = QGuiApplication::palette().color(group, ink_);
+        const double side = std::min(place.width(), place.height());
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->translate(place.x() + (place.width() - side) / 2,
+                           place.y() + (place.height() - side) / 2);
+        painter->scale(side / kGrid, side / kGrid);
+        painter->setPen(QPen(ink, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        drawing_(*painter);
+        painter->restore();
+    }
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap pixmap(size);
         pixmap.fill(Qt::transparent);
         QPainter painter(&pixmap);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.scale(size / kGrid, size / kGrid);
-        draw(painter);
-        painter.end();
-        icon.addPixmap(pixmap);
+        paint(&painter, pixmap.rect(), mode, state);
+        return pixmap;
     }
-    return icon;
+
+  private:
+    Drawing drawing_;
+    QPalette::ColorRole ink_;
+};
+
+QIcon Drawn(Drawing drawing, QPalette::ColorRole ink = QPalette::WindowText) {
+    return QIcon(new DrawnIcon(drawing, ink)); // the icon owns it
 }
 
 void DrawFolder(QPainter &painter) {
@@ -69,32 +95,63 @@ void DrawRedo(QPainter &painter) {
     DrawUndo(painter);
 }
 
+void DrawBack(QPainter &painter) {
+    painter.drawLine(QLineF(4, 12, 20, 12));
+    painter.drawPolyline(QPolygonF({{11, 5}, {4, 12}, {11, 19}}));
+}
+
+void DrawForward(QPainter &painter) {
+    painter.translate(kGrid, 0);
+    painter.scale(-1, 1);
+    DrawBack(painter);
+}
+
+/// Lines of a list.
+void DrawContents(QPainter &painter) {
+    for (const double y : {6.0, 12.0, 18.0}) {
+        painter.drawPoint(QPointF(4, y));
+        painter.drawLine(QLineF(8, y, 20, y));
+    }
+}
+
+void DrawClose(QPainter &painter) {
+    painter.drawLine(QLineF(6, 6, 18, 18));
+    painter.drawLine(QLineF(18, 6, 6, 18));
+}
+
 } // namespace
 
-QIcon ToolIcon(int index, const QPalette &palette) {
-    const auto pictured = [&](void (*draw)(QPainter &)) {
-        const QColor ink = palette.color(QPalette::WindowText);
-        return IconOf([=](QPainter &painter) {
-            painter.setPen(QPen(ink, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-            draw(painter);
-        });
-    };
+QIcon ToolIcon(int index) {
     switch (index) {
     case 2:
-        return pictured(DrawFolder);
+        return Drawn(DrawFolder);
     case 3:
-        return pictured(DrawDisk);
+        return Drawn(DrawDisk);
     case 5:
-        return pictured(DrawPage);
+        return Drawn(DrawPage);
     case 7:
-        return pictured(DrawPrinter);
+        return Drawn(DrawPrinter);
     case 9:
-        return pictured(DrawUndo);
+        return Drawn(DrawUndo);
     case 10:
-        return pictured(DrawRedo);
+        return Drawn(DrawRedo);
     default:
         return {};
     }
+}
+
+QIcon ImageOf(Image image) {
+    switch (image) {
+    case Image::back:
+        return Drawn(DrawBack);
+    case Image::forward:
+        return Drawn(DrawForward);
+    case Image::contents:
+        return Drawn(DrawContents);
+    case Image::close:
+        break;
+    }
+    return Drawn(DrawClose, QPalette::ToolTipText); // it stands in a notice
 }
 
 } // namespace loftwing

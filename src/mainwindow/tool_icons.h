@@ -1,12 +1,16 @@
-/// Images drawn by the program, in the colours of the desktop's theme and for any screen.
+/// Images drawn by the program, in the colours that the desktop has when they are shown and for any
+/// screen.
 #pragma once
 
 #include <QIcon>
-#include <QPalette>
 
 namespace loftwing {
 
 /// The image of tool bar button `index`; empty for separators and placeholders.
-QIcon ToolIcon(int index, const QPalette &palette);
+QIcon ToolIcon(int index);
+
+/// Images of buttons of other windows.
+enum class Image { back, forward, contents, close };
+QIcon ImageOf(Image image);
 
 } // namespace loftwing

@@ -38,6 +38,7 @@ void MetEnDefilement(QDialog &dialog) {
     auto *rows = new QVBoxLayout(&dialog);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->addWidget(area);
+    rows->activate(); // the least size is the area's from now on
 }
 
 /// The size of the content and of the bars that it needs.
@@ -99,13 +100,18 @@ void FitDialog(QDialog &dialog, const QSize &room) {
     if (dialog.testAttribute(Qt::WA_Resized)) {
         return;
     }
+    // What is smaller than its content would like must count as chosen: the toolkit fits a dialog
+    // anew when it comes up. Any other size counts as found.
     if (const QScrollArea *area = Defilement(dialog)) {
         dialog.resize(AvecBarres(*area, room));
-    } else {
-        dialog.adjustSize();
+        return;
     }
-    // The size found here counts as found, not as chosen.
-    dialog.setAttribute(Qt::WA_Resized, false);
+    dialog.adjustSize();
+    if (TientDans(dialog.size(), room)) {
+        dialog.setAttribute(Qt::WA_Resized, false);
+    } else {
+        dialog.resize(dialog.size().boundedTo(room));
+    }
 }
 
 void PlaceDialog(QDialog &dialog, const QWidget &window, const QRect &clear) {

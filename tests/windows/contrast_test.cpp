@@ -165,14 +165,31 @@ TEST(Contrast, OfTheLinesOfASketchIsEnoughToSeeThem) {
 }
 
 TEST(Contrast, OfTheIconsIsEnoughToSeeThem) {
+    // Made once: a desktop may change its colours while the program runs.
+    std::vector<QIcon> icons;
+    for (const int index : {2, 3, 5, 7, 9, 10}) {
+        icons.push_back(ToolIcon(index));
+    }
+    for (const Image image : {Image::back, Image::forward, Image::contents, Image::close}) {
+        icons.push_back(ImageOf(image));
+    }
     for (const Desktop &desktop : Desktops()) {
-        for (const int index : {2, 3, 5, 7}) {
+        const DesktopColours colours(desktop.palette);
+        for (std::size_t i = 0; i < icons.size(); ++i) {
             QImage image(32, 32, QImage::Format_RGB32);
             image.fill(desktop.palette.color(QPalette::Window));
             QPainter painter(&image);
-            ToolIcon(index, desktop.palette).paint(&painter, image.rect());
+            icons[i].paint(&painter, image.rect());
             painter.end();
-            EXPECT_GE(BestContrast(image), kContrasteTrait) << desktop.name << " " << index;
+            EXPECT_GE(BestContrast(image), kContrasteTrait) << desktop.name << " " << i;
+        }
+    }
+}
+
+TEST(Contrast, OfAnIconIsNotLostByStretchingIt) {
+    for (const QIcon &icon : {ToolIcon(2), ImageOf(Image::back), ImageOf(Image::close)}) {
+        for (const int side : {10, 25, 40, 400}) {
+            EXPECT_EQ(icon.pixmap(QSize(side, side)).size(), QSize(side, side));
         }
     }
 }
