@@ -34,10 +34,10 @@ own_names() {
 
 # Types and constants of headers.
 shared_names() {
-    find "$root/src" -name '*.h' -exec grep -hoE \
+    find "$root/src" \( -name '*.h' -o -name '*.h.in' \) -exec grep -hoE \
         -e '^(struct|class|enum class|enum|using) [A-Za-z_0-9]+' \
-        -e '^(inline )?constexpr [^={(;]* k[A-Za-z_0-9]+' {} + |
-        sed 's/.* //' | sort -u
+        -e '^(inline )?constexpr [^={(;]*[ *]k[A-Za-z_0-9]+' {} + |
+        sed 's/.*[ *]//' | sort -u
 }
 
 # Each file into the first group that has none of its names; one with a name that some header has too
