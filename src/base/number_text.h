@@ -36,6 +36,17 @@ inline constexpr std::string_view kPictureTwoWithZero = "# ###0.00";
 std::string Format(double value, std::string_view picture);
 std::string Format(float value, std::string_view picture);
 
+/// The same behind what `out` holds, for writers of many. Nothing is added where it fails.
+void AppendFormat(std::string &out, double value, std::string_view picture);
+
+/// Adds `value` with up to `decimals` digits behind the point, 1 to 15, without zeros at the end
+/// and never as a 0 with a minus. Rounds the exact value, halves to even. A value that is not
+/// finite becomes the word for it.
+void AppendFixed(std::string &out, double value, int decimals);
+
+/// Adds a whole number.
+void AppendWhole(std::string &out, long value);
+
 /// `text` without the blanks at its start, its end, or both. Only blanks count, not tabs.
 std::string_view TrimLeft(std::string_view text);
 std::string_view TrimRight(std::string_view text);
