@@ -9,6 +9,18 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+TEST(IsUtf8, LooksAtEveryByteWhereverItStands) {
+    for (std::size_t at = 0; at < 24; ++at) {
+        std::string text(24, 'a');
+        text[at] = '\xE9'; // é in Windows-1252
+        EXPECT_FALSE(IsUtf8(text)) << at;
+        text.replace(at, 1, "é");
+        EXPECT_TRUE(IsUtf8(text)) << at;
+        text.resize(at + 1); // half of it
+        EXPECT_FALSE(IsUtf8(text)) << at;
+    }
+}
+
 TEST(IsUtf8, TakesSequencesOfOneToFourBytes) {
     EXPECT_TRUE(IsUtf8(""));
     EXPECT_TRUE(IsUtf8("plain"));
