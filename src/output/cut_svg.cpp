@@ -7,6 +7,8 @@
 #include "output/svg_text.h"
 #include "output/written_ring.h"
 
+#include <string_view>
+
 namespace loftwing {
 
 namespace {
@@ -25,6 +27,12 @@ std::string Place(const PointEcrit &point) {
     return point.x + " " + point.y;
 }
 
+void AjoutePlace(std::string &donnees, const PointEcrit &point) {
+    donnees += point.x;
+    donnees += ' ';
+    donnees += point.y;
+}
+
 std::string Trait(Colour couleur) {
     return SvgAttribute("fill", "none") + SvgAttribute("stroke", SvgColour(couleur)) +
            SvgAttribute("stroke-width", Nombre(kTraitDeCoupe));
@@ -36,10 +44,11 @@ class Chemin {
     void Prend(const Anneau &anneau) {
         const std::vector<PointEcrit> points = AnneauEcrit(anneau, Ecrit);
         for (std::size_t i = 0; i < points.size(); ++i) {
-            Mot(i == 0 ? "M " : "L ", Place(points[i]));
+            Commande(i == 0 ? "M " : "L ");
+            AjoutePlace(donnees_, points[i]);
         }
         if (!points.empty()) {
-            Mot("Z", {});
+            Commande("Z");
         }
     }
     void Prend(const CerclePiece &cercle) {
@@ -51,18 +60,24 @@ class Chemin {
         const std::string gauche = Place(Ecrit({centre.x - cercle.rayon, centre.y}));
         const std::string droite = Place(Ecrit({centre.x + cercle.rayon, centre.y}));
         const std::string demi = rayon + " " + rayon + " 0 1 0 ";
-        Mot("M ", gauche);
-        Mot("A ", demi + droite);
-        Mot("A ", demi + gauche);
-        Mot("Z", {});
+        Commande("M ");
+        donnees_ += gauche;
+        Commande("A ");
+        donnees_ += demi + droite;
+        Commande("A ");
+        donnees_ += demi + gauche;
+        Commande("Z");
     }
     const std::string &Donnees() const { return donnees_; }
 
   private:
     std::string donnees_;
 
-    void Mot(const char *commande, const std::string &reste) {
-        donnees_ += (donnees_.empty() ? "" : " ") + std::string(commande) + reste;
+    void Commande(std::string_view commande) {
+        if (!donnees_.empty()) {
+            donnees_ += ' ';
+        }
+        donnees_ += commande;
     }
 };
 
@@ -94,7 +109,8 @@ std::string Coupe(const DessinDecoupe &decoupe, Colour couleur) {
 std::string Marque(const TraitMarque &trait, Colour couleur) {
     std::string donnees;
     for (const PointMm &point : trait.points) {
-        donnees += (donnees.empty() ? "M " : " L ") + Place(Ecrit(point));
+        donnees += donnees.empty() ? "M " : " L ";
+        AjoutePlace(donnees, Ecrit(point));
     }
     return "<path" + SvgAttribute("d", donnees) + Trait(couleur) + "/>\n";
 }
@@ -118,13 +134,17 @@ std::string Marques(const DessinDecoupe &decoupe, const CouleursDecoupe &couleur
 }
 
 /// A sheet's y counts down from its upper edge, so that its page begins at 0,0.
-DessinDecoupe SurLaPage(DessinDecoupe decoupe) {
-    if (decoupe.planche) {
-        for (Piece &piece : decoupe.pieces) {
-            piece = Deplacee(std::move(piece), {0, -decoupe.planche->y});
-        }
+DessinDecoupe SurSaPlanche(DessinDecoupe decoupe) {
+    for (Piece &piece : decoupe.pieces) {
+        piece = Deplacee(std::move(piece), {0, -decoupe.planche->y});
     }
     return decoupe;
+}
+
+/// What the page shows, whose lines are already where they are to be written.
+std::string Groupes(const DessinDecoupe &decoupe, const CouleursDecoupe &couleurs) {
+    return SvgGroupe("marks", Marques(decoupe, couleurs)) +
+           SvgGroupe("cut", Coupe(decoupe, couleurs.coupe));
 }
 
 } // namespace
@@ -135,10 +155,9 @@ std::string EcritDecoupeSvg(const DessinDecoupe &decoupe, const CouleursDecoupe 
     const std::string hauteur = Nombre(page.haut_droite.y - page.bas_gauche.y);
     const PointEcrit coin =
         decoupe.planche ? PointEcrit{"0", "0"} : Ecrit({page.bas_gauche.x, page.haut_droite.y});
-    const DessinDecoupe posee = SurLaPage(decoupe);
-    return SvgFichier({Place(coin), largeur, hauteur, decoupe.titre},
-                      SvgGroupe("marks", Marques(posee, couleurs)) +
-                          SvgGroupe("cut", Coupe(posee, couleurs.coupe)));
+    const std::string groupes =
+        decoupe.planche ? Groupes(SurSaPlanche(decoupe), couleurs) : Groupes(decoupe, couleurs);
+    return SvgFichier({Place(coin), largeur, hauteur, decoupe.titre}, groupes);
 }
 
 } // namespace loftwing

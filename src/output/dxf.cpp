@@ -110,6 +110,20 @@ void Entity(DxfText &dxf, std::string_view kind, int handle, std::string_view la
     dxf.Texte(8, layer);
 }
 
+/// A contour has more than a thousand of them, which differ in their places alone.
+void Sommets(DxfText &dxf, const DxfPolyligne &line) {
+    const std::string before = ItemsDxf([&line](DxfText &items) {
+        items.Texte(0, "VERTEX");
+        items.Texte(100, "AcDbVertex");
+        items.Texte(100, "AcDb2dVertex");
+        items.Texte(8, line.calque);
+    });
+    for (const DxfPoint &point : line.points) {
+        dxf.Items({before});
+        dxf.Sommet(point.x, point.y);
+    }
+}
+
 struct Writer {
     DxfText &dxf;
 
@@ -118,14 +132,7 @@ struct Writer {
         dxf.Entier(66, 1);
         dxf.Texte(100, "AcDb2dPolyline");
         dxf.Entier(70, line.fermee ? 1 : 0);
-        for (const DxfPoint &point : line.points) {
-            dxf.Texte(0, "VERTEX");
-            dxf.Texte(100, "AcDbVertex");
-            dxf.Texte(100, "AcDb2dVertex");
-            dxf.Texte(8, line.calque);
-            dxf.Point(10, point.x, point.y);
-            dxf.Reel(30, 0.0);
-        }
+        Sommets(dxf, line);
         dxf.Texte(0, "SEQEND");
     }
     void operator()(const DxfCercle &circle) const {
@@ -141,6 +148,9 @@ struct Writer {
 } // namespace
 
 void EcritDxf(const DxfSource &source, std::string &out) {
+    constexpr std::size_t kOctetsAutour = 16384;
+    constexpr std::size_t kOctetsParSommet = 104;
+    out.reserve(out.size() + kOctetsAutour + kOctetsParSommet * SommetsProbables(source.rib));
     DxfText dxf(out);
     Header(dxf);
     Section(dxf, "TABLES");

@@ -3,6 +3,8 @@
 #include "output/dxf_trace.h"
 #include "output/rib_measures.h"
 
+#include <algorithm>
+
 namespace loftwing {
 
 namespace {
@@ -10,6 +12,7 @@ namespace {
 /// Contour, or the raw points in the view that shows them alone.
 void Contour(const DxfTrace &trace, const PointList &xs, const PointList &ys, long count) {
     std::vector<DxfPoint> points;
+    points.reserve(static_cast<std::size_t>(std::max(count, 0L)));
     for (long i = 1; i <= count; ++i) {
         points.push_back({xs(i) * trace.corde + trace.Ox(), trace.Y(ys(i))});
     }
@@ -49,6 +52,10 @@ void BordFuite(const DxfTrace &trace) {
 double DiviseurDxf(const std::string &Unite) {
     constexpr double kMmParPouce = 25.4;
     return Unite == " in" ? kMmParPouce : 1.0;
+}
+
+std::size_t SommetsProbables(const RibModel &rib) {
+    return static_cast<std::size_t>(std::max<int>(rib.NbContour, 0)) + 2 * rib.TabExtrados.size();
 }
 
 void EntitesDxf(const DxfSource &source, const std::function<void(const DxfEntite &)> &recoit) {

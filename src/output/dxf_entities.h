@@ -56,6 +56,10 @@ struct DxfSource {
 /// Lengths of the file are those of the rib divided by this: 25.4 in inches, else 1.
 double DiviseurDxf(const std::string &Unite);
 
+/// About how many points the lines of a rib have, those of its contour and of the two faces of its
+/// sheeting: whoever keeps or writes them makes room for them at once.
+std::size_t SommetsProbables(const RibModel &rib);
+
 /// Hands the entities over one by one, in the order of the file. A failure (9 for a place beyond
 /// the chord, 11 for a chord of 0) leaves those that came before it.
 void EntitesDxf(const DxfSource &source, const std::function<void(const DxfEntite &)> &recoit);

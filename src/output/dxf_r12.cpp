@@ -1,6 +1,5 @@
 #include "output/dxf_r12.h"
 
-#include "base/number_text.h"
 #include "base/text_encoding.h"
 
 #include <array>
@@ -102,7 +101,10 @@ void Tables(DxfText &dxf, const CadreR12 &cadre) {
 } // namespace
 
 std::string FichierR12(const CadreR12 &cadre, const std::function<void(DxfText &)> &entites) {
+    constexpr std::size_t kOctetsAutour = 2048;
+    constexpr std::size_t kOctetsParLigne = 112;
     std::string out;
+    out.reserve(kOctetsAutour + kOctetsParLigne * cadre.lignes);
     DxfText dxf(out);
     Entete(dxf, cadre);
     Tables(dxf, cadre);
@@ -122,7 +124,8 @@ EchelleR12::EchelleR12(const std::string &Unite)
     : diviseur_(DiviseurDxf(Unite)), image_(diviseur_ == 1.0 ? "##0.0#####" : "##0.0#######") {}
 
 std::string EchelleR12::Ecrit(double mm) const {
-    std::string text = Format(Longueur(mm), image_);
+    std::string text;
+    AppendFormat(text, Longueur(mm), image_);
     return text == "-0.0" ? "0.0" : text;
 }
 
@@ -130,17 +133,19 @@ void PointR12(DxfText &dxf, int code, const PointEcrit &point) {
     constexpr int kNextAxis = 10;
     dxf.Texte(code, point.x);
     dxf.Texte(code + kNextAxis, point.y);
-    dxf.Reel(code + 2 * kNextAxis, 0.0);
+    dxf.Texte(code + 2 * kNextAxis, "0.0");
+}
+
+void TraitR12(DxfText &dxf, std::string_view calque, const PointEcrit &de, const PointEcrit &a) {
+    dxf.Items({"0\r\nLINE\r\n8\r\n", calque, "\r\n10\r\n", de.x, "\r\n20\r\n", de.y,
+               "\r\n30\r\n0.0\r\n11\r\n", a.x, "\r\n21\r\n", a.y, "\r\n31\r\n0.0\r\n"});
 }
 
 void LigneR12(DxfText &dxf, std::string_view calque, const PointEcrit &de, const PointEcrit &a) {
     if (de == a) {
         return;
     }
-    dxf.Texte(0, "LINE");
-    dxf.Texte(8, calque);
-    PointR12(dxf, 10, de);
-    PointR12(dxf, 11, a);
+    TraitR12(dxf, calque, de, a);
 }
 
 void PolyligneR12(DxfText &dxf, std::string_view calque, const std::vector<PointEcrit> &points,
@@ -151,9 +156,8 @@ void PolyligneR12(DxfText &dxf, std::string_view calque, const std::vector<Point
     PointR12(dxf, 10, {"0.0", "0.0"});
     dxf.Entier(70, fermee ? 1 : 0);
     for (const PointEcrit &point : points) {
-        dxf.Texte(0, "VERTEX");
-        dxf.Texte(8, calque);
-        PointR12(dxf, 10, point);
+        dxf.Items({"0\r\nVERTEX\r\n8\r\n", calque, "\r\n10\r\n", point.x, "\r\n20\r\n", point.y,
+                   "\r\n30\r\n0.0\r\n"});
     }
     dxf.Texte(0, "SEQEND");
     dxf.Texte(8, calque);

@@ -1,6 +1,7 @@
 /// What the clean DXF files share: a whole R12 file around its entities, which every reader takes.
 #pragma once
 
+#include "base/picture.h"
 #include "output/dxf_entities.h"
 #include "output/dxf_text.h"
 #include "output/written_ring.h"
@@ -42,6 +43,8 @@ struct CadreR12 {
     /// Upper right corner of the sheet that is drawn on, and its lower left one.
     std::optional<DxfPoint> limites = std::nullopt;
     DxfPoint limites_bas = {0, 0};
+    /// About how many lines and vertices there are, so that room is made for them at once.
+    std::size_t lignes = 0;
 };
 
 /// A whole file: header with unit and extent, line types, layers, no blocks, and what `entites`
@@ -61,11 +64,13 @@ class EchelleR12 {
 
   private:
     double diviseur_;
-    std::string_view image_;
+    Picture image_;
 };
 
 /// Groups `code`, `code` + 10 and `code` + 20.
 void PointR12(DxfText &dxf, int code, const PointEcrit &point);
+/// A line, by the groups of its two points.
+void TraitR12(DxfText &dxf, std::string_view calque, const PointEcrit &de, const PointEcrit &a);
 /// Nothing for a line without length.
 void LigneR12(DxfText &dxf, std::string_view calque, const PointEcrit &de, const PointEcrit &a);
 void PolyligneR12(DxfText &dxf, std::string_view calque, const std::vector<PointEcrit> &points,

@@ -34,6 +34,7 @@ struct Texte {
 class Dessin {
   public:
     explicit Dessin(const DxfSource &source) : source_(source) {
+        segments_.reserve(SommetsProbables(source.rib));
         EntitesDxf(source, [this](const DxfEntite &entity) {
             std::visit([this](const auto &shape) { Prend(shape); }, entity);
         });
@@ -159,13 +160,17 @@ constexpr std::array<CalqueR12, 8> kCalques = {{{kCalqueContour, 7, kTraitPlein}
                                                 {kCalqueTexte, 7, kTraitPlein}}};
 
 void Dessin::Entites(DxfText &dxf) const {
+    const auto ecrit = [](DxfPoint point) {
+        return PointEcrit{ReelDxf(point.x), ReelDxf(point.y)};
+    };
+    const Segment *avant = nullptr;
+    PointEcrit fin; // of the line before, where the next one mostly begins
     for (const Segment &line : segments_) {
-        dxf.Texte(0, "LINE");
-        dxf.Texte(8, line.calque);
-        dxf.Point(10, line.de.x, line.de.y);
-        dxf.Reel(30, 0.0);
-        dxf.Point(11, line.a.x, line.a.y);
-        dxf.Reel(31, 0.0);
+        const bool suit = avant != nullptr && avant->a.x == line.de.x && avant->a.y == line.de.y;
+        const PointEcrit debut = suit ? std::move(fin) : ecrit(line.de);
+        fin = ecrit(line.a);
+        TraitR12(dxf, line.calque, debut, fin);
+        avant = &line;
     }
     for (const DxfCercle &circle : cercles_) {
         dxf.Texte(0, "CIRCLE");
@@ -180,7 +185,9 @@ void Dessin::Entites(DxfText &dxf) const {
 }
 
 std::string Dessin::Fichier() const {
-    return FichierR12({source_.Unite, etendue_, kCalques}, [this](DxfText &dxf) { Entites(dxf); });
+    CadreR12 cadre{source_.Unite, etendue_, kCalques};
+    cadre.lignes = segments_.size();
+    return FichierR12(cadre, [this](DxfText &dxf) { Entites(dxf); });
 }
 
 } // namespace

@@ -1,30 +1,51 @@
 #include "output/dxf_text.h"
 
 #include "base/number_text.h"
+#include "base/picture.h"
 
+#include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 
 namespace loftwing {
 
 namespace {
 
-constexpr std::string_view kPictureReal = "##0.0#####";
+constexpr std::string_view kFinDeLigne = "\r\n";
+constexpr Picture kPictureReal("##0.0#####");
 
 } // namespace
 
+void DxfText::Code(int code) {
+    std::array<char, 16> line{};
+    char *end = std::to_chars(line.data(), line.data() + line.size(), code).ptr;
+    end = std::copy(kFinDeLigne.begin(), kFinDeLigne.end(), end);
+    out_.append(line.data(), static_cast<std::size_t>(end - line.data()));
+}
+
 void DxfText::Texte(int code, std::string_view text) {
-    out_ += std::to_string(code);
-    out_ += "\r\n";
+    Code(code);
     out_ += text;
-    out_ += "\r\n";
+    out_ += kFinDeLigne;
 }
 
 void DxfText::Entier(int code, int value) {
-    Texte(code, std::to_string(value));
+    Code(code);
+    AppendWhole(out_, value);
+    out_ += kFinDeLigne;
 }
 
 void DxfText::Reel(int code, double value) {
-    Texte(code, Format(value, kPictureReal));
+    Code(code);
+    AppendFormat(out_, value, kPictureReal);
+    out_ += kFinDeLigne;
+}
+
+std::string ReelDxf(double value) {
+    std::string text;
+    AppendFormat(text, value, kPictureReal);
+    return text;
 }
 
 void DxfText::Trait(std::string_view description, const std::vector<double> &dashes,
@@ -47,6 +68,20 @@ void DxfText::Point(int code, double x, double y) {
     constexpr int kNextAxis = 10;
     Reel(code, x);
     Reel(code + kNextAxis, y);
+}
+
+void DxfText::Items(std::initializer_list<std::string_view> parts) {
+    for (const std::string_view part : parts) {
+        out_ += part;
+    }
+}
+
+void DxfText::Sommet(double x, double y) {
+    out_ += "10\r\n";
+    AppendFormat(out_, x, kPictureReal);
+    out_ += "\r\n20\r\n";
+    AppendFormat(out_, y, kPictureReal);
+    out_ += "\r\n30\r\n0.0\r\n";
 }
 
 } // namespace loftwing

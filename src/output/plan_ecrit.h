@@ -18,6 +18,7 @@ template <class Ecrit>
 TraitEcrit EcritTrait(const TraitPlan &trait, Ecrit ecrit) {
     TraitEcrit resultat;
     std::vector<PointEcrit> &points = resultat.points;
+    points.reserve(trait.points.size());
     for (const PointMm &point : trait.points) {
         PointEcrit suivant = ecrit(point);
         if (points.empty() || suivant != points.back()) {

@@ -29,7 +29,10 @@ std::string Chemin(const TraitPlan &trait, Colour couleur) {
     }
     std::string donnees;
     for (const PointEcrit &point : ecrit.points) {
-        donnees += (donnees.empty() ? "M " : " L ") + point.x + " " + point.y;
+        donnees += donnees.empty() ? "M " : " L ";
+        donnees += point.x;
+        donnees += ' ';
+        donnees += point.y;
     }
     return "<path" + SvgAttribute("d", donnees + (ecrit.ferme ? " Z" : "")) +
            SvgStroke({couleur, 1, StylePlan(trait.couche)}) + "/>\n";

@@ -1,23 +1,17 @@
 #include "output/svg_text.h"
 
+#include "base/number_text.h"
 #include "base/text_encoding.h"
 #include "output/line_look.h"
 
-#include <array>
-#include <charconv>
+#include <string_view>
 
 namespace loftwing {
 
 std::string SvgNumber(double value, int decimals) {
-    std::array<char, 64> buffer{};
-    const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                      std::chars_format::fixed, decimals);
-    std::string text(buffer.data(), result.ptr);
-    text.erase(text.find_last_not_of('0') + 1);
-    if (text.ends_with('.')) {
-        text.pop_back();
-    }
-    return text == "-0" ? "0" : text;
+    std::string text;
+    AppendFixed(text, value, decimals);
+    return text;
 }
 
 std::string SvgColour(Colour colour) {
@@ -79,12 +73,17 @@ std::string SvgGroupe(const std::string &nom, const std::string &elements) {
 }
 
 std::string SvgFichier(const SvgPage &page, const std::string &elements) {
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-           "<svg xmlns=\"http://www.w3.org/2000/svg\"" +
-           SvgAttribute("width", page.largeur + "mm") +
-           SvgAttribute("height", page.hauteur + "mm") +
-           SvgAttribute("viewBox", page.coin + " " + page.largeur + " " + page.hauteur) +
-           ">\n<title>" + SvgText(page.titre) + "</title>\n" + elements + "</svg>\n";
+    constexpr std::string_view kFin = "</svg>\n";
+    std::string fichier =
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+        "<svg xmlns=\"http://www.w3.org/2000/svg\"" +
+        SvgAttribute("width", page.largeur + "mm") + SvgAttribute("height", page.hauteur + "mm") +
+        SvgAttribute("viewBox", page.coin + " " + page.largeur + " " + page.hauteur) +
+        ">\n<title>" + SvgText(page.titre) + "</title>\n";
+    fichier.reserve(fichier.size() + elements.size() + kFin.size());
+    fichier += elements;
+    fichier += kFin;
+    return fichier;
 }
 
 } // namespace loftwing

@@ -1,6 +1,7 @@
 #include "output/svg_writer.h"
 
 #include "base/failure.h"
+#include "base/number_text.h"
 #include "output/rib_measures.h"
 #include "output/svg_text.h"
 
@@ -23,21 +24,23 @@ std::string Number(double mm) {
     return SvgNumber(mm, kDecimals);
 }
 
-std::string Point(double x, double y) {
-    return Number(Mm(x)) + " " + Number(Mm(y));
-}
-
 class SvgWriter {
   public:
+    explicit SvgWriter(std::size_t operations) {
+        constexpr std::size_t kBytesEach = 24; // of a segment that goes on, as nearly all do
+        body_.reserve(operations * kBytesEach);
+    }
     void operator()(const DrawnSegment &segment) {
         const bool goes_on =
             open_ && segment.pen == last_.pen && segment.x1 == last_.x2 && segment.y1 == last_.y2;
         if (!goes_on) {
             ClosePath();
-            body_ += "<path d=\"M " + Point(segment.x1, segment.y1);
+            body_ += "<path d=\"M ";
+            Point(segment.x1, segment.y1);
             open_ = true;
         }
-        body_ += " L " + Point(segment.x2, segment.y2);
+        body_ += " L ";
+        Point(segment.x2, segment.y2);
         last_ = segment;
     }
     void operator()(const DrawnCircle &circle) {
@@ -52,7 +55,7 @@ class SvgWriter {
         body_ += SvgTexte({Number(Mm(text.x)), Number(Mm(text.y + kAscent * size)),
                            Number(Mm(size)), text.colour, text.text});
     }
-    std::string Body() {
+    const std::string &Body() {
         ClosePath();
         return body_;
     }
@@ -62,6 +65,11 @@ class SvgWriter {
     DrawnSegment last_{};
     bool open_ = false;
 
+    void Point(double x, double y) {
+        AppendFixed(body_, Mm(x), kDecimals);
+        body_ += ' ';
+        AppendFixed(body_, Mm(y), kDecimals);
+    }
     void ClosePath() {
         if (open_) {
             body_ += "\"" + SvgStroke(last_.pen) + "/>\n";
@@ -81,7 +89,7 @@ std::string WriteSvg(const Recording &drawing, const std::string &title) {
     if (farthest > kSvgMaxi) {
         throw MakeFailure(kOverflow);
     }
-    SvgWriter writer;
+    SvgWriter writer(drawing.Operations().size());
     for (const Operation &operation : drawing.Operations()) {
         std::visit(writer, operation);
     }

@@ -1,19 +1,19 @@
 #include "output/written_ring.h"
 
+#include <algorithm>
+
 namespace loftwing {
 
-std::vector<PointEcrit> SansRepetition(const std::vector<PointEcrit> &points) {
+std::vector<PointEcrit> SansRepetition(std::vector<PointEcrit> points) {
     constexpr std::size_t kMoins = 3;
-    std::vector<PointEcrit> kept;
-    for (const PointEcrit &point : points) {
-        if (kept.empty() || point != kept.back()) {
-            kept.push_back(point);
-        }
+    points.erase(std::unique(points.begin(), points.end()), points.end());
+    while (points.size() > 1 && points.back() == points.front()) {
+        points.pop_back();
     }
-    while (kept.size() > 1 && kept.back() == kept.front()) {
-        kept.pop_back();
+    if (points.size() < kMoins) {
+        points.clear();
     }
-    return kept.size() < kMoins ? std::vector<PointEcrit>() : kept;
+    return points;
 }
 
 } // namespace loftwing

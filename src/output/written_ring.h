@@ -4,6 +4,7 @@
 #include "output/surface.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace loftwing {
@@ -19,7 +20,7 @@ struct PointEcrit {
 
 /// Leaves out points that are written like the one before, the last one's next being the first.
 /// Nothing is left of a ring without three points that differ: it encloses nothing.
-std::vector<PointEcrit> SansRepetition(const std::vector<PointEcrit> &points);
+std::vector<PointEcrit> SansRepetition(std::vector<PointEcrit> points);
 
 /// A ring by way of `ecrit`, which makes the PointEcrit of a PointMm.
 template <class Ecrit>
@@ -29,7 +30,7 @@ std::vector<PointEcrit> AnneauEcrit(const Anneau &anneau, Ecrit ecrit) {
     for (const PointMm &point : anneau) {
         points.push_back(ecrit(point));
     }
-    return SansRepetition(points);
+    return SansRepetition(std::move(points));
 }
 
 } // namespace loftwing

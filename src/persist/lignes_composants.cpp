@@ -24,7 +24,8 @@ std::string TexteDeLigne(std::string_view text) {
 }
 
 void Redacteur::Ligne(std::string_view line) {
-    bytes_ += TexteDeLigne(line) + "\r\n";
+    bytes_ += TexteDeLigne(line);
+    bytes_ += "\r\n";
 }
 
 void Redacteur::Nom(const std::string &NomProfil, const std::string &ExtProfil) {
