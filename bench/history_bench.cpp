@@ -13,6 +13,8 @@ namespace {
 
 /// A rib of 5,000 points and as many of its contour, with all slots taken.
 struct HistoryBench {
+    std::string unite{kUniteMm};
+
     HistoryBench() {
         constexpr int kPoints = 5000;
         for (int i = 0; i < kPoints; ++i) {
@@ -25,7 +27,7 @@ struct HistoryBench {
         for (Longeron &spar : rib.longeron) {
             spar.PosLongAfich = "a place with many letters";
         }
-        history.Note(rib, compare, kUniteMm);
+        history.Note(rib, compare, unite);
     }
 
     RibModel rib;
@@ -36,7 +38,7 @@ struct HistoryBench {
 void NoteWithoutAChange(benchmark::State &state) {
     HistoryBench bench;
     for (auto _ : state) {
-        bench.history.Note(bench.rib, bench.compare, kUniteMm);
+        bench.history.Note(bench.rib, bench.compare, bench.unite);
     }
 }
 BENCHMARK(NoteWithoutAChange);
@@ -46,7 +48,7 @@ void NoteAStep(benchmark::State &state) {
     int step = 0;
     for (auto _ : state) {
         bench.rib.longeron[5].HautLongAfich = std::to_string(++step);
-        bench.history.Note(bench.rib, bench.compare, kUniteMm);
+        bench.history.Note(bench.rib, bench.compare, bench.unite);
     }
 }
 BENCHMARK(NoteAStep);

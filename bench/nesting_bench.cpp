@@ -102,5 +102,22 @@ void NestPanel(benchmark::State &state) {
 }
 BENCHMARK(NestPanel)->ArgName("turn")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
+// Every piece is tried in the places that those on the sheet leave it.
+void NestSoManyRibs(benchmark::State &state) {
+    Panel panel;
+    const std::vector<PieceNommee> ribs = panel.Ribs(static_cast<int>(state.range(0)));
+    ReglageImbrication wanted;
+    wanted.formats = {{100, 1000}};
+    for (auto step : state) {
+        benchmark::DoNotOptimize(Imbrique(ribs, wanted));
+    }
+    state.SetComplexityN(state.range(0));
+}
+BENCHMARK(NestSoManyRibs)
+    ->RangeMultiplier(2)
+    ->Range(10, 160)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity(benchmark::oN);
+
 } // namespace
 } // namespace loftwing

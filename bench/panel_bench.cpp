@@ -20,6 +20,8 @@ class BenchPanel {
   public:
     BenchPanel(int inter, int spars, int holes) {
         programme_.settings.Unite = kUniteMm;
+        // A rib's title has its words, without which its file would have none.
+        programme_.language.Charge(LOFTWING_SOURCE_DIR "/resources/lng", "English");
         for (const std::size_t end : {0U, 1U}) {
             panel_.bouts[end] = End(end == 0 ? 300 : 160, spars, holes);
         }
@@ -102,6 +104,22 @@ void ChangeOneValue(benchmark::State &state) {
     }
 }
 BENCHMARK(ChangeOneValue)->Unit(benchmark::kMillisecond);
+
+void RibsOfAPanel(benchmark::State &state) {
+    const auto inter = static_cast<int>(state.range(0));
+    BenchPanel panel(inter, 2, 3);
+    for (auto step : state) {
+        if (Refused(state, panel.Made(), static_cast<std::size_t>(inter) + 2)) {
+            break;
+        }
+    }
+    state.SetComplexityN(inter);
+}
+BENCHMARK(RibsOfAPanel)
+    ->RangeMultiplier(2)
+    ->Range(5, 80)
+    ->Unit(benchmark::kMillisecond)
+    ->Complexity(benchmark::oN);
 
 void MakeAndNestAll(benchmark::State &state) {
     BenchPanel panel(90, 12, 12);
