@@ -23,7 +23,7 @@ TEST(FailureWords, AreThoseOfTheLanguageThatIsAskedFor) {
     const Ran french =
         RunLoftwing({"draw", Sample("naca2412.dat"), "-o", out, "--language", "French"});
     EXPECT_EQ(french.status, 1);
-    EXPECT_EQ(french.err, "loftwing: Erreur d’accès au chemin ou au fichier\u00a0: " + out + "\n");
+    EXPECT_EQ(french.err, "loftwing: Chemin introuvable\u00a0: " + out + "\n");
 }
 
 TEST(FailureWords, AreThoseOfTheLanguageWhereAVerbFailsAsAWhole) {
