@@ -169,6 +169,7 @@ TEST_F(LargeFiles, RibComponentsAreCheap) {
     folder.File("naca2412.dat", ReadWholeFile(Sample("naca2412.dat")));
     ExpectCheapComponents("records", Filled(ComponentsText{}.Current()));
     ExpectCheapComponents("older records", Filled(ComponentsText{}.Older()));
+    ExpectCheapComponents("line ends", Filled("\n"));
     ExpectCheapComponents("lengths that are none", Filled("2./8\r\n"));
     ComponentsText rib;
     rib.text = Filled("W", "", ComponentsText{}.Current());
