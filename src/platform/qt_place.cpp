@@ -16,7 +16,7 @@ namespace {
 constexpr int kGap = 8; // pixels between a dialog and what it leaves free
 
 /// What a dialog is scrolled in; null as long as there was room for all of it.
-QScrollArea *Defilement(const QDialog &dialog) {
+QScrollArea *ZoneDefilee(const QDialog &dialog) {
     return dialog.findChild<QScrollArea *>("Defilement", Qt::FindDirectChildrenOnly);
 }
 
@@ -102,7 +102,7 @@ void FitDialog(QDialog &dialog, const QSize &room) {
     }
     // What is smaller than its content would like must count as chosen: the toolkit fits a dialog
     // anew when it comes up. Any other size counts as found.
-    if (const QScrollArea *area = Defilement(dialog)) {
+    if (const QScrollArea *area = ZoneDefilee(dialog)) {
         dialog.resize(AvecBarres(*area, room));
         return;
     }
