@@ -69,7 +69,7 @@ TEST(MainWindow, OpensAndSavesWhereTheSettingsCannotBeRead) {
     window.OuvreFichier(WindowWorld::Sample("naca2412.dat"));
     EXPECT_TRUE(world.programme.rib.ProfilCharge);
     world.platform.files_expected.push_back(world.folder.Path("rib.lfw"));
-    world.Run("mnu_filesaveas", {});
+    world.Action("mnu_filesaveas")->trigger();
     EXPECT_TRUE(std::filesystem::exists(world.folder.Path("rib.lfw")));
     EXPECT_TRUE(std::filesystem::is_empty(settings));
 }
