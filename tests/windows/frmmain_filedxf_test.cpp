@@ -253,10 +253,9 @@ TEST_F(ExportingDxf, AnotherDecimalSeparatorIsWarnedOfAndTheExportGoesOnWithPoin
 TEST_F(ExportingDxf, ARefusedWriteIsReported) {
     OpenBytes("rib.lfw", ComponentsText{}.Current());
     for (const int form : {kInterchange, kPlain}) {
-        world.platform.Expect(
-            BoxAnswer::ok,
-            {.text = "Error # 76 in Loftwing\nPath not found: " + Out("none/rib.dxf"),
-             .title = " Main/Mnu_DXF"});
+        world.platform.Expect(BoxAnswer::ok, {.text = "Error # 76 in Loftwing\nPath not found: " +
+                                                      Out("none/rib.dxf"),
+                                              .title = " Main/Mnu_DXF"});
         Export(form, Out("none/rib.dxf"));
     }
     EXPECT_TRUE(Rib().ProfilCharge);
