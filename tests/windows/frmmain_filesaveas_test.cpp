@@ -141,8 +141,8 @@ TEST_F(SavingRibs, ARefusedWriteIsReportedAndNothingIsLost) {
             {path, "70 in Loftwing\nPermission denied: "},
             {world.folder.Path("none/rib.lfw"), "76 in Loftwing\nPath not found: "}};
         for (const auto &[where, why] : refused) {
-            world.platform.Expect(
-                BoxAnswer::ok, {.text = "Error # " + why + where, .title = " Main/Mnu_SaveAs"});
+            world.platform.Expect(BoxAnswer::ok,
+                                  {.text = "Error # " + why + where, .title = " Main/Mnu_SaveAs"});
             Save(where);
         }
     }
