@@ -100,17 +100,26 @@ std::size_t PositionOf(std::string_view text, std::size_t count) {
 
 enum class ByteOrder { none, little, big };
 
+bool IsControl(char byte) {
+    constexpr std::string_view kOfTexts = "\t\n\v\f\r";
+    return static_cast<unsigned char>(byte) < 0x20U &&
+           kOfTexts.find(byte) == std::string_view::npos;
+}
+
 /// The order of a UTF-16 text without a mark. Numbers and western letters have a zero in each pair
-/// of bytes, always on the same side, and no text of single bytes has any.
+/// of bytes, always on the same side, and no text of single bytes has any. On the side of the
+/// letters controls have no place: what has them is no text at all.
 ByteOrder OrderOfZeros(std::string_view bytes) {
     constexpr std::size_t kEnough = 512;
     const std::string_view head = bytes.substr(0, std::min(kEnough, bytes.size() / 2 * 2));
-    std::array<std::size_t, 2> zeros{}; // at even places, at odd ones
+    std::array<std::size_t, 2> zeros{};    // at even places, at odd ones
+    std::array<std::size_t, 2> controls{}; // zeros too
     for (std::size_t at = 0; at < head.size(); ++at) {
         zeros[at % 2] += head[at] == 0 ? 1U : 0U;
+        controls[at % 2] += IsControl(head[at]) ? 1U : 0U;
     }
     const auto tell = [&](std::size_t high) {
-        return zeros[1 - high] == 0 && zeros[high] > 0 && zeros[high] >= head.size() / 4;
+        return controls[1 - high] == 0 && zeros[high] > 0 && zeros[high] >= head.size() / 4;
     };
     return tell(1) ? ByteOrder::little : tell(0) ? ByteOrder::big : ByteOrder::none;
 }

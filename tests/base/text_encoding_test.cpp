@@ -101,8 +101,8 @@ TEST(AnyToUtf8, TellsUtf16WithoutAMarkByTheZerosBetweenItsLetters) {
 
 TEST(AnyToUtf8, TakesBytesWithOtherZerosForNoUtf16) {
     using namespace std::string_view_literals;
-    for (const std::string_view bytes :
-         {"\0\0\0\0"sv, "1 0\0 0.5"sv, "\0"sv, "1\0\0002"sv, "NACA 2412\n1 0\n\0\n"sv}) {
+    for (const std::string_view bytes : {"\0\0\0\0"sv, "1 0\0 0.5"sv, "\0"sv, "1\0\0002"sv,
+                                         "NACA 2412\n1 0\n\0\n"sv, "\0\1\2"sv, "\1\0\2\0"sv}) {
         EXPECT_EQ(AnyToUtf8(bytes), bytes);
     }
 }
