@@ -84,7 +84,7 @@ std::string NameOf(const Destination &destination, const std::string &file) {
                                : destination.file;
 }
 
-/// Writes a file whole. Failure 75 when it is refused. False when standard output is.
+/// Writes a file whole. Failures as WriteWholeFile. False when standard output is.
 bool Deliver(const Destination &destination, const std::string &file, const std::string &bytes) {
     if (destination.IsStandardOutput()) {
         std::cout << bytes << std::flush;

@@ -28,13 +28,13 @@ std::string CodeOf(const std::string &folder, const std::string &name) {
 
 void LngIni::Charge(const std::string &folder, const std::string &name) {
     const std::string path = Fichier(folder, name);
-    texts_ = IniFile::Read(path);
+    texts_ = std::make_shared<const IniFile>(IniFile::Read(path));
     LangueCourante = name;
     FichierLng = path;
 }
 
 std::string LngIni::LngText(LngKey key) const {
-    return texts_.Value(key.section, key.key);
+    return texts_ ? texts_->Value(key.section, key.key) : std::string();
 }
 
 std::string LngIni::Fichier(const std::string &folder, const std::string &name) {

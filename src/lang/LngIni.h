@@ -3,6 +3,7 @@
 
 #include "lang/ini_file.h"
 
+#include <memory>
 #include <string>
 
 namespace loftwing {
@@ -40,7 +41,7 @@ class LngIni {
     static std::string LanguageOf(const std::string &folder, const std::string &code);
 
   private:
-    IniFile texts_;
+    std::shared_ptr<const IniFile> texts_; ///< a copy has the same ones; null before the first
 };
 
 } // namespace loftwing
