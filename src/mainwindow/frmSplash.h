@@ -20,6 +20,9 @@ class frmSplash : public QDialog {
   public:
     frmSplash(Programme &programme, QWidget *parent);
 
+    /// Closes it before its time.
+    void Ferme();
+
   protected:
     void showEvent(QShowEvent *event) override;
 
@@ -36,7 +39,6 @@ class frmSplash : public QDialog {
     void LayOut();
 
     void Form_Load();
-    void Ferme();
 };
 
 } // namespace loftwing

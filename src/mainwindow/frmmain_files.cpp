@@ -38,7 +38,7 @@ bool frmmain::OffreSecours() {
             return;
         }
         for (frmSplash *splash : findChildren<frmSplash *>()) {
-            splash->close(); // both stand in the middle of the screen
+            splash->Ferme(); // both stand in the middle of the screen
         }
         frmsecours dialog(programme_, this, std::move(ribs));
         if (ShowModal(dialog) == QDialog::Accepted) {

@@ -94,7 +94,8 @@ void frmopen::ConnectAll() {
         watched->installEventFilter(this);
     }
     selection_.setSingleShot(true);
-    connect(&selection_, &QTimer::timeout, this, &frmopen::File1_Click);
+    connect(&selection_, &QTimer::timeout, this,
+            [this] { Garde(" Open/File1", [this] { File1_Click(); }); });
     connect(&txtchemin, &QLineEdit::textChanged, this, &frmopen::MontreOuvrir);
     connect(&txtcherche, &QLineEdit::textChanged, this, &frmopen::txtcherche_Change);
     connect(&Combo1, &QComboBox::activated, this, &frmopen::Combo1_Change);
@@ -105,10 +106,12 @@ void frmopen::ConnectAll() {
         }
     });
     // After the mouse is done with the list, since the window may close.
-    connect(&File1, &QListWidget::itemDoubleClicked, this,
-            [this] { QTimer::singleShot(0, this, &frmopen::File1_DblClick); });
+    connect(&File1, &QListWidget::itemDoubleClicked, this, [this] {
+        QTimer::singleShot(0, this, [this] { Garde(" Open/File1", [this] { File1_DblClick(); }); });
+    });
     connect(&memP1, &QCheckBox::toggled, this, &frmopen::memP1_Click);
-    connect(&cmdouvrir, &QPushButton::clicked, this, &frmopen::cmdouvrir_Click);
+    connect(&cmdouvrir, &QPushButton::clicked, this,
+            [this] { Garde(" Open/cmdouvrir", [this] { cmdouvrir_Click(); }); });
     connect(&cmdimporter, &QPushButton::clicked, this,
             [this] { Garde(" Open/cmdimporter", [this] { cmdimporter_Click(); }); });
     connect(new QShortcut(QKeySequence(Qt::ALT | Qt::Key_Up), this), &QShortcut::activated, this,
@@ -218,9 +221,13 @@ void frmopen::MontreProfil() {
     if (rib_.SansApercu) {
         return;
     }
-    auto drawing = std::make_unique<Recording>();
-    DessineApercu(rib_, *drawing);
-    Surface.Montre(std::move(drawing));
+    try {
+        auto drawing = std::make_unique<Recording>();
+        DessineApercu(rib_, *drawing);
+        Surface.Montre(std::move(drawing));
+    } catch (const Failure &) {
+        Surface.Efface(); // a point lies beyond all numbers; whoever opens the file is told
+    }
     Label1.setText(Q(TitreApercu(rib_)));
     Label2.setText(Q(NombreApercu(rib_, programme_.messages)));
 }

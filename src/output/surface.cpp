@@ -9,6 +9,7 @@
 #include <bit>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 
 namespace loftwing {
 
@@ -151,6 +152,20 @@ void Recueille(const ClipperLib::PolyNode &outline, std::vector<Surface> &parts)
     }
 }
 
+/// Whether a shift inwards goes beyond the middle of all that there is. Nothing is left then, which
+/// the library would find out in time that grows with the square of the points and with the shift.
+bool DepasseLeMilieu(const Surface &surface, double mm) {
+    PointMm least{std::numeric_limits<double>::infinity(), std::numeric_limits<double>::infinity()};
+    PointMm most{-least.x, -least.y};
+    for (const Anneau &ring : surface) {
+        for (const PointMm &point : ring) {
+            least = {std::min(least.x, point.x), std::min(least.y, point.y)};
+            most = {std::max(most.x, point.x), std::max(most.y, point.y)};
+        }
+    }
+    return -2 * mm > std::min(most.x - least.x, most.y - least.y);
+}
+
 double BordAvant(const Surface &part) {
     return std::min_element(part.front().begin(), part.front().end(),
                             [](const PointMm &a, const PointMm &b) { return a.x < b.x; })
@@ -197,8 +212,12 @@ Surface Deplace(const Surface &surface, double mm, Coins coins, double ecart) {
         throw MakeFailure(kOverflow); // its arcs would have more points than a machine has room for
     }
     Entier(mm);
+    const Paths paths = Chemins(surface);
+    if (DepasseLeMilieu(surface, mm)) {
+        return {};
+    }
     Paths moved;
-    for (const Path &path : Chemins(surface)) {
+    for (const Path &path : paths) {
         moved.push_back(Chemin(Parallele(Points(path), mm, coins, ecart)));
     }
     // What the shift has turned inside out runs clockwise and so counts for nothing.

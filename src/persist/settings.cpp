@@ -76,10 +76,17 @@ Table TableEpaisseurs(const Reglages &reglages) {
     return table;
 }
 
-/// The unit stands with its leading blank; reading loses that blank and puts it back.
+/// The unit stands with its leading blank; reading loses that blank and puts it back. All lengths
+/// hang on it, and a rib in a unit that there isn't couldn't be had back after a crash: where the
+/// file has none of the two, the one in force stays.
 Ligne Unite(std::string &unit) {
     return {"Defaut", "unit", [&unit] { return unit; },
-            [&unit](const std::string &value) { unit = " " + std::string(Trim(value)); }};
+            [&unit](const std::string &value) {
+                const std::string read = " " + std::string(Trim(value));
+                if (read == kUniteMm || read == kUniteIn) {
+                    unit = read;
+                }
+            }};
 }
 
 Table TableDefauts(const Reglages &reglages) {

@@ -97,6 +97,25 @@ TEST(SurfaceMoves, HolesShrinkAsTheWoodGrows) {
     EXPECT_NEAR(Aire(Deplace(frame, 1, Coins::vifs)), 144 - 4, 1e-4);
 }
 
+TEST(SurfaceMoves, BeyondItsMiddleNothingIsLeft) {
+    const Surface square = {Carre(0, 0, 10)};
+    EXPECT_NEAR(Aire(Deplace(square, -4.9, Coins::vifs)), 0.04, 1e-6);
+    EXPECT_TRUE(Deplace(square, -5.1, Coins::vifs).empty());
+    EXPECT_TRUE(Deplace(square, -1000, Coins::ronds).empty());
+}
+
+// With a corner for each loop that the shift turns inside out the library would take minutes.
+TEST(SurfaceMoves, FarBeyondItsMiddleAWavyRingTakesNoTime) {
+    Anneau ring;
+    constexpr int kPoints = 20'000;
+    for (int i = 0; i < kPoints; ++i) {
+        const double angle = 2 * std::numbers::pi * i / kPoints;
+        const double radius = 100 + (i % 2 == 0 ? 0.5 : 0);
+        ring.push_back({radius * std::cos(angle), radius * std::sin(angle)});
+    }
+    EXPECT_TRUE(Deplace({ring}, -5000, Coins::ronds).empty());
+}
+
 TEST(SurfaceMoves, AMitreBeyondItsLimitIsCutOff) {
     // A corner of 22.6 degrees: a full mitre would reach 5.1 mm beyond it, the limit is 2.
     const Surface needle = {{{0, -2}, {10, 0}, {0, 2}}};

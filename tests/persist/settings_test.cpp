@@ -206,7 +206,7 @@ TEST_F(Settings, MissingKeysReadAsNothing) {
     FirstRun();
     File("[Other]\r\nkey=1\r\n");
     EXPECT_TRUE(LitTout(With()));
-    EXPECT_EQ(world.settings.Unite, " ");
+    EXPECT_EQ(world.settings.Unite, " mm"); // the one in force
     EXPECT_EQ(world.rib.corde, 0.0F);
     EXPECT_EQ(world.rib.cordeAfich, "");
     EXPECT_EQ(world.settings.TraitDe(Element::coffrage), (Trait{0, 0, 0}));
@@ -223,6 +223,16 @@ TEST_F(Settings, UnitReadsTheSameWithAndWithoutItsBlank) {
         world.settings.Unite = " mm";
         EXPECT_TRUE(LitDefauts(With()));
         EXPECT_EQ(world.settings.Unite, " in") << line;
+    }
+}
+
+TEST_F(Settings, UnitThatIsNoneLeavesTheOneInForce) {
+    for (const char *line : {"unit=inch", "unit=[Language]", "unit=", ""}) {
+        File("[Defaut]\r\n" + std::string(line) + "\r\ncordeAfich=8\r\n");
+        world.settings.Unite = " in";
+        EXPECT_TRUE(LitDefauts(With()));
+        EXPECT_EQ(world.settings.Unite, " in") << line;
+        EXPECT_EQ(world.rib.corde, 203.2F) << line; // 8 in
     }
 }
 

@@ -9,16 +9,20 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QBasicTimer>
 #include <QComboBox>
 #include <QEventLoop>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QThread>
 #include <QTimerEvent>
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <iostream>
 
@@ -87,8 +91,8 @@ std::vector<QWidget *> OpenWindows() {
 class Monkey : public QObject {
   public:
     Monkey(Dice &dice, MonkeyFiles &files, MonkeyLog &log, MonkeyWatch &watch, MonkeyTrip &trip,
-           std::map<std::string, int> &commands)
-        : dice_(dice), files_(files), log_(log), watch_(watch), trip_(trip), commands_(commands),
+           std::map<std::string, int> &tried)
+        : dice_(dice), files_(files), log_(log), watch_(watch), trip_(trip), tried_(tried),
           hand_(dice, log), world_(dice, files, log) {
         world_.platform.went_on = [this] { GoOn(); };
     }
@@ -115,14 +119,15 @@ class Monkey : public QObject {
         // Another one, since this one doesn't fire again before this event is over.
         timer_.start(0, this);
         watch_.Beat();
-        ++depth_;
         Step();
-        --depth_;
         watch_.Beat();
         Check();
     }
 
   private:
+    static constexpr int kSeldom = 30;
+    static constexpr int kUntilMended = 20; // tries to close a window as it stands
+
     enum class Wants { to_start, to_play, to_rest, to_end };
 
     Dice &dice_;
@@ -130,7 +135,7 @@ class Monkey : public QObject {
     MonkeyLog &log_;
     MonkeyWatch &watch_;
     MonkeyTrip &trip_;
-    std::map<std::string, int> &commands_; ///< how often each was tried
+    std::map<std::string, int> &tried_; ///< commands and buttons, how often
     MonkeyHand hand_;
     MonkeyWorld world_;
     QEventLoop loop_;
@@ -138,7 +143,6 @@ class Monkey : public QObject {
     Wants wants_ = Wants::to_start;
     int left_ = 0;
     int rest_ = 0;
-    int depth_ = 0; ///< steps that wait in a modal window, one in the other
     int tries_ = 0; ///< to close what is open
     bool broken_ = false;
     qsizetype widgets_ = 0; ///< at the first rest
@@ -187,12 +191,15 @@ class Monkey : public QObject {
         world_.platform.hurries = wants_ != Wants::to_play;
     }
 
+    /// Modal windows and menus that wait one in the other; 1 with none. A command that has let its
+    /// window be closed may still be at work above that.
+    static int Depth() { return QThread::currentThread()->loopLevel(); }
     bool MainIsOpen() const { return world_.window && world_.window->isVisible(); }
 
     // Playing.
 
     void Play() {
-        if (--left_ < 0 || (world_.window && depth_ == 1 && !MainIsOpen())) {
+        if (--left_ < 0 || (world_.window && Depth() == 1 && !MainIsOpen())) {
             Want(Wants::to_end);
             return;
         }
@@ -210,8 +217,11 @@ class Monkey : public QObject {
             return; // one has just been closed, and its command goes on
         }
         QWidget *modal = QApplication::activeModalWidget();
-        if (modal != nullptr && depth_ > kDeepest) {
+        if (modal != nullptr && Depth() > kDeepest) {
             modal->close();
+        } else if (modal == nullptr && MainIsOpen() && dice_.OneIn(kSeldom)) {
+            static const std::array<const char *, 4> kKinds = {"lfw", "lfp", "lfa", "dat"};
+            Open(dice_.Of(kKinds));
         } else if (modal == nullptr && MainIsOpen() && dice_.OneIn(3)) {
             Command();
         } else {
@@ -222,7 +232,7 @@ class Monkey : public QObject {
     std::string Prefix(const QWidget &window) {
         const std::string name = NameOf(window);
         ++trip_.windows[name];
-        return std::to_string(trip_.events) + " /" + std::to_string(depth_) + " " + name + ": ";
+        return std::to_string(trip_.events) + " /" + std::to_string(Depth()) + " " + name + ": ";
     }
 
     void InPopup(QWidget &popup) {
@@ -230,7 +240,41 @@ class Monkey : public QObject {
         dice_.OneIn(3) ? hand_.Key(popup) : hand_.Click(popup);
     }
 
-    /// The one of three commands that was tried least, so that all come to their turn.
+    /// The one of three that was tried least, so that all come to their turn.
+    template <class Control>
+    Control *LeastTried(const std::string &where, const std::vector<Control *> &all) {
+        const auto tries = [&](const Control *each) -> int & {
+            return tried_[where + "/" + S(each->objectName())];
+        };
+        Control *chosen = dice_.Of(all);
+        for (int i = 0; i < 2; ++i) {
+            Control *other = dice_.Of(all);
+            if (tries(other) < tries(chosen)) {
+                chosen = other;
+            }
+        }
+        ++tries(chosen);
+        return chosen;
+    }
+
+    void Button(QWidget &window) {
+        std::vector<QAbstractButton *> buttons;
+        for (QAbstractButton *button : window.findChildren<QAbstractButton *>()) {
+            if (button->isVisible() && button->isEnabled() && button->window() == &window) {
+                buttons.push_back(button);
+            }
+        }
+        if (!buttons.empty()) {
+            hand_.ClickOn(window, *LeastTried(NameOf(window), buttons));
+        }
+    }
+
+    void Open(const std::string &kind) {
+        const std::string path = files_.ToOpen(kind);
+        log_.Line(Prefix(*world_.window) + "opens " + path);
+        world_.window->OuvreFichier(path);
+    }
+
     void Command() {
         std::vector<QAction *> actions;
         for (QAction *action : world_.window->findChildren<QAction *>()) {
@@ -242,16 +286,8 @@ class Monkey : public QObject {
         if (actions.empty()) {
             return;
         }
-        QAction *chosen = dice_.Of(actions);
-        for (int i = 0; i < 2; ++i) {
-            QAction *other = dice_.Of(actions);
-            if (commands_[S(other->objectName())] < commands_[S(chosen->objectName())]) {
-                chosen = other;
-            }
-        }
-        const std::string name = S(chosen->objectName());
-        ++commands_[name];
-        log_.Line(Prefix(*world_.window) + "command " + name);
+        QAction *chosen = LeastTried("commands", actions);
+        log_.Line(Prefix(*world_.window) + "command " + S(chosen->objectName()));
         chosen->trigger();
     }
 
@@ -259,7 +295,9 @@ class Monkey : public QObject {
         const std::string prefix = Prefix(window);
         hand_.Begins(prefix);
         const int what = dice_.Below(100);
-        if (what < 40) {
+        if (what < 8) {
+            Button(window);
+        } else if (what < 40) {
             hand_.Click(window);
         } else if (what < 62) {
             hand_.Type(window);
@@ -295,8 +333,8 @@ class Monkey : public QObject {
     }
 
     void Close(QWidget &window, const std::string &prefix) {
-        constexpr int kSeldom = 4; // to end the program
-        if (&window != world_.window.get() || dice_.OneIn(kSeldom)) {
+        constexpr int kEnds = 4; // one of so many, the program too
+        if (!world_.IsSplash(window) && (&window != world_.window.get() || dice_.OneIn(kEnds))) {
             log_.Line(prefix + "close");
             window.close();
         }
@@ -317,11 +355,12 @@ class Monkey : public QObject {
             popup != nullptr ? (void)popup->close() : Leave(*modal);
             return false;
         }
-        if (depth_ > 1) {
+        if (Depth() > 1) {
             return false; // what was called from there is about to end
         }
         for (QWidget *window : OpenWindows()) {
-            if (window != world_.window.get()) {
+            // The box at the start has no frame to be closed by.
+            if (window != world_.window.get() && !world_.IsSplash(*window)) {
                 log_.Line("  leaves " + NameOf(*window));
                 window->close();
                 return ++tries_ > 400;
@@ -339,9 +378,21 @@ class Monkey : public QObject {
                    choice != nullptr && modal.objectName() == "lang") {
             // The first start doesn't go on without a language.
             choice->setCurrentIndex(dice_.Below(choice->count()));
-            modal.findChild<QPushButton *>("cmdok")->click();
+            modal.findChild<QPushButton *>("ok")->click();
         } else {
+            if (tries_ % kUntilMended == 0) {
+                Mend(modal);
+            }
             modal.close();
+        }
+    }
+
+    /// Some windows check what was typed at Cancel too.
+    static void Mend(QWidget &window) {
+        for (QLineEdit *field : window.findChildren<QLineEdit *>()) {
+            if (field->isVisible() && field->isEnabled() && !field->isReadOnly()) {
+                field->setText("1");
+            }
         }
     }
 
@@ -388,7 +439,7 @@ class Monkey : public QObject {
 
     void Check() {
         Take(BrokenAtAnyTime(world_.programme));
-        const bool at_rest = depth_ == 0 && QApplication::activeModalWidget() == nullptr &&
+        const bool at_rest = Depth() == 1 && QApplication::activeModalWidget() == nullptr &&
                              QApplication::activePopupWidget() == nullptr && MainIsOpen();
         if (!at_rest) {
             return;
@@ -397,11 +448,15 @@ class Monkey : public QObject {
         if (QApplication::overrideCursor() != nullptr && !world_.Starting()) {
             Break("the busy pointer stays");
         }
+        if (world_.programme.Text({"Undo", "2"}).empty()) {
+            return; // the settings name a language that there isn't, and no command has words
+        }
         for (const auto &[name, can] :
              {std::pair{"mnu_editannule", world_.programme.histoire.PeutAnnuler()},
               std::pair{"mnu_editretablit", world_.programme.histoire.PeutRetablir()}}) {
             if (world_.window->findChild<QAction *>(name)->isEnabled() != can) {
-                Break(std::string(name) + " doesn't show whether there is a step");
+                Break(std::string(name) + (can ? " doesn't offer the step there is"
+                                               : " offers a step that there isn't"));
             }
         }
     }
@@ -442,9 +497,28 @@ void Resettle(Dice &dice, MonkeyFiles &files, const MonkeyRun &run, MonkeyLog &l
     } // else they are as the program left them
 }
 
-qsizetype WidgetsAlive() {
+/// How many widgets of a name there are. The toolkit keeps its tool tip and the desktop for itself.
+std::map<std::string, int> WidgetsAlive() {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    return QApplication::allWidgets().size();
+    std::map<std::string, int> alive;
+    for (const QWidget *widget : QApplication::allWidgets()) {
+        if (widget->windowType() != Qt::ToolTip && widget->windowType() != Qt::Desktop) {
+            ++alive[NameOf(*widget)];
+        }
+    }
+    return alive;
+}
+
+/// The widgets that there weren't before.
+std::string Outliving(const std::map<std::string, int> &before) {
+    std::string names;
+    for (const auto &[name, count] : WidgetsAlive()) {
+        const auto known = before.find(name);
+        if (known == before.end() || known->second < count) {
+            names += " " + name;
+        }
+    }
+    return names;
 }
 
 } // namespace
@@ -465,17 +539,16 @@ MonkeyTrip LetMonkeyLoose(const MonkeyRun &run) {
         const WorkingFolder there(files.Folder().Path("cwd"));
         files.Settle(run.language, run.unit);
         MonkeyWatch watch(path, kPatience);
-        std::map<std::string, int> commands;
+        std::map<std::string, int> tried;
         while (held && trip.events < run.events) {
             ++trip.starts;
-            const qsizetype before = WidgetsAlive();
+            const auto before = WidgetsAlive();
             {
-                Monkey monkey(dice, files, log, watch, trip, commands);
+                Monkey monkey(dice, files, log, watch, trip, tried);
                 held = monkey.Live(std::min(dice.Between(1, kLife), run.events - trip.events));
             }
-            const qsizetype after = WidgetsAlive();
-            if (after > before) {
-                ADD_FAILURE() << after - before << " widgets outlive the program\n" << log.Tail();
+            if (const std::string left = Outliving(before); !left.empty()) {
+                ADD_FAILURE() << "widgets outlive the program:" << left << "\n" << log.Tail();
                 held = false;
             }
             Resettle(dice, files, run, log);

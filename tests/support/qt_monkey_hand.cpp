@@ -144,6 +144,13 @@ void MonkeyHand::Click(QWidget &window) {
     ClickAt(kept, spot.at, button);
 }
 
+void MonkeyHand::ClickOn(QWidget &window, QWidget &widget) {
+    Says("click " + NameOf(widget));
+    const QPoint at = widget.mapTo(&window, widget.rect().center());
+    time_ += kNoDoubleClick;
+    ClickAt(&window, at, Qt::LeftButton);
+}
+
 void MonkeyHand::DoubleClick(QWidget &window) {
     const Spot spot = AnySpot(window);
     Says("double click " + NameOf(*spot.widget) + At(spot.at));

@@ -22,6 +22,8 @@ class MonkeyHand {
     // Each logs one thing and then does it. What it touched may be gone afterwards.
 
     void Click(QWidget &window);
+    /// In the middle of a widget of the window.
+    void ClickOn(QWidget &window, QWidget &widget);
     void DoubleClick(QWidget &window);
     void Drag(QWidget &window);
     void Wheel(QWidget &window);

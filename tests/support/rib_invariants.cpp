@@ -36,12 +36,6 @@ class Broken {
 
 // At any time.
 
-// Every loop over spars and holes ends at the work slot, which is one of the slots.
-void Slots(const RibModel &rib, Broken &broken) {
-    broken.Unless(rib.NbLongeron < kSlots, "the spars' work slot is one of the slots");
-    broken.Unless(rib.NbTrou < kSlots, "the holes' work slot is one of the slots");
-}
-
 // Counts are what loops over lists end at, and a list is as long as its count or longer.
 void Counts(const RibModel &rib, const Comparaison &compare, Broken &broken) {
     broken.Unless(rib.NbPoints >= 0 && rib.ProfilX.Count() >= rib.NbPoints &&
@@ -124,7 +118,6 @@ void Choices(const AppSettings &settings, Broken &broken) {
 void Views(const RibModel &rib, Broken &broken) {
     const int views = (rib.ModeCompare ? 1 : 0) + (rib.ModeEpCourb ? 1 : 0);
     broken.Unless(views <= 1, "one special view at most");
-    broken.Unless(!rib.ModeCouple || rib.ProfilCharge, "bare points are an airfoil's");
     broken.Unless(rib.Zoom > 0, "the zoom is above 0");
     broken.Unless(!rib.SansApercu, "no reading without its preview is under way");
 }
@@ -151,11 +144,12 @@ void Airfoil(const RibModel &rib, Broken &broken) {
     broken.Unless(rib.EpMaxi >= 0 && rib.CambrureMaxi >= 0, "greatest values aren't negative");
 }
 
-// A rib of no length can't be drawn, and entries above their bounds are brought back to them.
+// Loops over spars and holes end at the work slot. A rib of no length can't be drawn, and entries
+// above their bounds are brought back to them.
 void Bounds(const RibModel &rib, Broken &broken) {
     broken.Unless(rib.NbLongeron < kSlots - 1, "the spars' work slot is at most the twelfth");
     broken.Unless(rib.NbTrou < kSlots - 1, "the holes' work slot is at most the twelfth");
-    broken.Unless(rib.corde > 0, "the chord is above 0");
+    broken.Unless(!rib.ProfilCharge || rib.corde != 0, "a rib has a chord");
     broken.Unless(std::abs(rib.vrillage) <= kVrillageMaxi, "the washout is within its limits");
     broken.Unless(rib.TypeBA <= 1, "the leading edge has stock or a square");
     broken.Unless(rib.TypeGabarit == kSansGabarit || rib.TypeGabarit == kGabaritMousse ||
@@ -194,10 +188,11 @@ bool DitSonNombre(const Longueur &longueur, const std::string &Unite) {
     }
 }
 
-// What is drawn is what the fields show.
+// What is drawn is what the fields show. A default in mm stays where the settings file's, in
+// inches, can't be read.
 void Texts(const RibModel &rib, const std::string &Unite, Broken &broken) {
     const std::vector<Longueur> lengths = {
-        {"sheeting", rib.EpCoffrageAfich, Wide(rib.EpCoffrage)},
+        {"sheeting", rib.EpCoffrageAfich, Wide(rib.EpCoffrage), {Wide(Dimensions{}.EpCoffrage)}},
         {"leading edge stock", rib.EpBAAfich, Wide(rib.EpBA), {0}},
         {"trailing edge stock", rib.EpBFAfich, Wide(rib.EpBF), {0}},
         {"text's place along", rib.texte.InsTextXAfich, Wide(rib.texte.InsTextX)},
@@ -260,7 +255,6 @@ void Snapshot(const Programme &programme, Broken &broken) {
 
 std::vector<std::string> BrokenAtAnyTime(const Programme &programme) {
     Broken broken;
-    Slots(programme.rib, broken);
     Counts(programme.rib, programme.compare, broken);
     Numbers(programme.rib, broken);
     Choices(programme.settings, broken);

@@ -82,6 +82,18 @@ TEST_F(FrmOpenTest, ClickReadsTheFileAndShowsIt) {
     EXPECT_TRUE(IsOpen());
 }
 
+TEST_F(FrmOpenTest, APointBeyondAllNumbersHasNoPreview) {
+    File("a.dat");
+    File("far.dat", "FAR\n1 0\n0.5 1e308\n0 0\n0.5 -0.0625\n1 0\n");
+    Open();
+    ClickFile("a.dat");
+    ASSERT_NE(Preview(), nullptr);
+    ClickFile("far.dat");
+    EXPECT_EQ(Preview(), nullptr);
+    EXPECT_EQ(Label("Label1"), "FAR");
+    EXPECT_TRUE(IsOpen());
+}
+
 TEST_F(FrmOpenTest, FileWithoutTitleShowsItsName) {
     File("plain.dat", "1.0000 0.0000\n0 0\n1 0\n");
     Open();

@@ -3,6 +3,7 @@
 #include "mainwindow/frmsecours.h"
 
 #include "base/whole_file.h"
+#include "mainwindow/frmSplash.h"
 #include "programme/secours_steps.h"
 #include "support/qt_nothing_cut.h"
 #include "support/qt_window_world.h"
@@ -151,6 +152,17 @@ TEST_F(SecoursInWindow, WhatCannotBeKeptIsToldAboveThePictureUntilItCan) {
     world.window->affiche();
     EXPECT_TRUE(Eventually([&] { return !told(); }));
     EXPECT_TRUE(Holds(200));
+}
+
+TEST_F(SecoursInWindow, TheOfferEndsTheBusyPointerOfTheStart) {
+    LeaveBehind("wing", 150, std::chrono::minutes(1));
+    world.platform.SetPointer(Pointer::busy);
+    frmSplash splash(world.programme, world.window.get());
+    splash.show();
+    Offer([&](Seen &) {
+        EXPECT_FALSE(splash.isVisible());
+        EXPECT_EQ(world.platform.pointer, Pointer::normal);
+    });
 }
 
 TEST_F(SecoursInWindow, WithoutAnythingLeftBehindNothingIsAsked) {

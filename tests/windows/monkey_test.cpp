@@ -50,7 +50,7 @@ void Tell(const MonkeyTrip &trip) {
 TEST(MonkeyTest, NothingBreaksByWhateverIsDone) {
     MonkeyRun run;
     run.seed = MonkeySeed();
-    run.events = static_cast<int>(Wanted("LOFTWING_MONKEY_EVENTS", ManyInOneLocale(3000)));
+    run.events = static_cast<int>(Wanted("LOFTWING_MONKEY_EVENTS", ManyInOneLocale(2000)));
     run.language = WantedText("LOFTWING_MONKEY_LANGUAGE", "English");
     run.unit = WantedText("LOFTWING_MONKEY_UNIT", "mm");
     const MonkeyTrip trip = LetMonkeyLoose(run);
