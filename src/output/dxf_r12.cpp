@@ -136,16 +136,12 @@ void PointR12(DxfText &dxf, int code, const PointEcrit &point) {
     dxf.Texte(code + 2 * kNextAxis, "0.0");
 }
 
-void TraitR12(DxfText &dxf, std::string_view calque, const PointEcrit &de, const PointEcrit &a) {
-    dxf.Items({"0\r\nLINE\r\n8\r\n", calque, "\r\n10\r\n", de.x, "\r\n20\r\n", de.y,
-               "\r\n30\r\n0.0\r\n11\r\n", a.x, "\r\n21\r\n", a.y, "\r\n31\r\n0.0\r\n"});
-}
-
 void LigneR12(DxfText &dxf, std::string_view calque, const PointEcrit &de, const PointEcrit &a) {
     if (de == a) {
         return;
     }
-    TraitR12(dxf, calque, de, a);
+    dxf.Items({"0\r\nLINE\r\n8\r\n", calque, "\r\n10\r\n", de.x, "\r\n20\r\n", de.y,
+               "\r\n30\r\n0.0\r\n11\r\n", a.x, "\r\n21\r\n", a.y, "\r\n31\r\n0.0\r\n"});
 }
 
 void PolyligneR12(DxfText &dxf, std::string_view calque, const std::vector<PointEcrit> &points,

@@ -69,9 +69,7 @@ class EchelleR12 {
 
 /// Groups `code`, `code` + 10 and `code` + 20.
 void PointR12(DxfText &dxf, int code, const PointEcrit &point);
-/// A line, by the groups of its two points.
-void TraitR12(DxfText &dxf, std::string_view calque, const PointEcrit &de, const PointEcrit &a);
-/// Nothing for a line without length.
+/// A line, by the groups of its two points; nothing for one without length.
 void LigneR12(DxfText &dxf, std::string_view calque, const PointEcrit &de, const PointEcrit &a);
 void PolyligneR12(DxfText &dxf, std::string_view calque, const std::vector<PointEcrit> &points,
                   bool fermee);

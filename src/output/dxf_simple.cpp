@@ -169,7 +169,7 @@ void Dessin::Entites(DxfText &dxf) const {
         const bool suit = avant != nullptr && avant->a.x == line.de.x && avant->a.y == line.de.y;
         const PointEcrit debut = suit ? std::move(fin) : ecrit(line.de);
         fin = ecrit(line.a);
-        TraitR12(dxf, line.calque, debut, fin);
+        LigneR12(dxf, line.calque, debut, fin); // points may agree in all that is written
         avant = &line;
     }
     for (const DxfCercle &circle : cercles_) {

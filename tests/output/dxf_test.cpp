@@ -395,5 +395,16 @@ TEST_F(SimpleDxf, SimplePlotViewHasTheRawPointsOnly) {
               (std::map<std::string, int>{{"LINE", 3}}));
 }
 
+TEST_F(SimpleDxf, PointsThatAgreeInAllThatIsWrittenHaveNoLineBetweenThem) {
+    world.rib.ModeCouple = true;
+    world.rib.NbPoints = 4;
+    for (const auto &[x, y] : Points{{1, 0}, {0, 0}, {0, 1e-12F}, {1, -0.02}}) {
+        world.rib.ProfilX.Append(x);
+        world.rib.ProfilY.Append(y);
+    }
+    const Items entities = Section(ItemsOf(EcritDxfSimple(Source())), "ENTITIES");
+    EXPECT_EQ(Kinds(entities), (std::map<std::string, int>{{"LINE", 3}})) << Text(entities);
+}
+
 } // namespace
 } // namespace loftwing
