@@ -383,7 +383,12 @@ class Monkey : public QObject {
             if (tries_ % kUntilMended == 0) {
                 Mend(modal);
             }
-            modal.close();
+            if (tries_ > kUntilMended && dice_.OneIn(2)) {
+                hand_.Begins("  ");
+                hand_.Click(modal); // another entry than the one that is refused, perhaps
+            } else {
+                modal.close();
+            }
         }
     }
 
