@@ -22,8 +22,8 @@ std::string CheminVu(const std::string &fichier, const std::string &autre);
 /// Whether a file lies in one of some folders or below it.
 bool EstDans(const std::string &path, const std::vector<std::string> &dossiers);
 
-/// Notes the folder of a file that was chosen, where the settings file takes it and can give its name
-/// back.
+/// Notes the folder of a file that was chosen, where the settings file takes it and can give its
+/// name back.
 void RetientDossier(const Programme &programme, const char *key, const std::string &path);
 
 } // namespace loftwing

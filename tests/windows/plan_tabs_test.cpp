@@ -260,11 +260,11 @@ TEST_F(PanelPlanWindow, AFolderThatRefusesThePlanIsTold) {
         Make600(dialog);
         Tabs(dialog).setCurrentIndex(3);
         const OrdinaryUser user;
-        world.platform.Expect(BoxAnswer::ok, {.text = HasSubstr("75")});
+        world.platform.Expect(BoxAnswer::ok, {.text = HasSubstr("70")});
         Save(dialog, "cmdliste", Path("out/parts.txt"), 0);
         EXPECT_FALSE(dialog.Shown("lblenregistre"));
         Tabs(dialog).setCurrentIndex(1);
-        world.platform.Expect(BoxAnswer::ok, {.text = HasSubstr("75")});
+        world.platform.Expect(BoxAnswer::ok, {.text = HasSubstr("70")});
         Save(dialog, "cmdplan", Path("out/plan.svg"), 2);
         EXPECT_FALSE(dialog.Shown("lblenregistre"));
     });
