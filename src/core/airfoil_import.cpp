@@ -138,8 +138,9 @@ constexpr double kAny = std::numeric_limits<double>::infinity();
 /// How far points leave a line; once that is as much as `enough`, it isn't looked for any further.
 double Farthest(const Curve &points, const NearPolyline &line, double enough) {
     double farthest = 0;
+    std::size_t around = 0;
     for (const CurvePoint &point : points) {
-        farthest = std::max(farthest, line(point));
+        farthest = std::max(farthest, line(point, around));
         if (farthest >= enough) {
             break;
         }

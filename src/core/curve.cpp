@@ -56,10 +56,10 @@ double Square(const CurvePoint &a, const CurvePoint &b) {
     return dx * dx + dy * dy;
 }
 
-/// A square of distances above which none can be less than `distance`, however both are rounded.
-double SquareBeyond(double distance) {
+/// Squares of places that may be as near as one of that square, however roots are rounded.
+double Beyond(double square) {
     constexpr double kRounding = 1e-9;
-    return distance * distance * (1 + kRounding) + std::numeric_limits<double>::min();
+    return square * (1 + kRounding) + std::numeric_limits<double>::min();
 }
 
 } // namespace
@@ -96,31 +96,48 @@ std::size_t NearPolyline::Segments() const {
     return std::max<std::size_t>(line_.size() - 1, 1);
 }
 
-double NearPolyline::ToSegment(const CurvePoint &point, std::size_t first) const {
-    const CurvePoint &a = line_[first];
-    const CurvePoint &b = line_[std::min(first + 1, line_.size() - 1)];
-    return Distance(point, NearestOn(a, b, point));
+CurvePoint NearPolyline::OnSegment(const CurvePoint &point, std::size_t first) const {
+    return NearestOn(line_[first], line_[std::min(first + 1, line_.size() - 1)], point);
 }
 
-double NearPolyline::operator()(const CurvePoint &point) const {
+/// Roots take long: segments are compared by squares, and the distance is measured to those alone
+/// that may be the nearest when both are rounded.
+double NearPolyline::operator()(const CurvePoint &point, std::size_t &around) const {
+    if (!IsFinite(point)) {
+        return std::numeric_limits<double>::infinity();
+    }
+    Search search{point, {}};
+    around = std::min(around, Segments() - 1);
+    const double square_around = Square(point, OnSegment(point, around));
+    if (!std::isnan(square_around)) {
+        search.beyond = Beyond(square_around);
+    }
+    Look(search, 1);
     double nearest = std::numeric_limits<double>::infinity();
-    if (IsFinite(point)) {
-        Look(point, 1, nearest);
+    for (const auto &[square, first] : search.candidates) {
+        if (square <= search.beyond) {
+            nearest = std::min(nearest, Distance(point, OnSegment(point, first)));
+            around = first;
+        }
     }
     return nearest;
 }
 
-void NearPolyline::Look(const CurvePoint &point, std::size_t i, double &nearest) const {
+double NearPolyline::operator()(const CurvePoint &point) const {
+    std::size_t around = 0;
+    return (*this)(point, around);
+}
+
+void NearPolyline::Look(Search &search, std::size_t i) const {
+    const CurvePoint &point = search.point;
     if (i >= leaves_) {
         const std::size_t first = (i - leaves_) * kRun;
         const std::size_t last = std::min(first + kRun, Segments());
-        // The exact distance takes long, and few segments come near enough to need it.
-        double beyond = SquareBeyond(nearest);
         for (std::size_t segment = first; segment < last; ++segment) {
-            const CurvePoint &end = line_[std::min(segment + 1, line_.size() - 1)];
-            if (Square(point, NearestOn(line_[segment], end, point)) <= beyond) {
-                nearest = std::min(nearest, ToSegment(point, segment));
-                beyond = SquareBeyond(nearest);
+            const double square = Square(point, OnSegment(point, segment));
+            if (square <= search.beyond) {
+                search.beyond = std::min(search.beyond, Beyond(square));
+                search.candidates.push_back({square, segment});
             }
         }
         return;
@@ -128,13 +145,16 @@ void NearPolyline::Look(const CurvePoint &point, std::size_t i, double &nearest)
     // No place in a box is nearer than its nearest side.
     const auto gap = [&](std::size_t box) {
         const auto &[low, high] = boxes_[box];
-        return std::max(
-            {0.0, low.x - point.x, point.x - high.x, low.y - point.y, point.y - high.y});
+        const double wide =
+            std::max({0.0, low.x - point.x, point.x - high.x, low.y - point.y, point.y - high.y});
+        return wide * wide;
     };
-    const std::size_t half = gap(2 * i + 1) < gap(2 * i) ? 2 * i + 1 : 2 * i;
-    for (const std::size_t each : {half, half ^ 1U}) {
-        if (gap(each) <= nearest) {
-            Look(point, each, nearest);
+    const double one = gap(2 * i);
+    const double other = gap(2 * i + 1);
+    const bool swapped = other < one;
+    for (const bool second : {swapped, !swapped}) {
+        if ((second ? other : one) <= search.beyond) {
+            Look(search, 2 * i + (second ? 1 : 0));
         }
     }
 }

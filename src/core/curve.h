@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstddef>
+#include <limits>
+#include <utility>
 #include <vector>
 
 namespace loftwing {
@@ -26,6 +28,9 @@ class NearPolyline {
 
     /// The distance from `point` to the nearest place on the polyline.
     double operator()(const CurvePoint &point) const;
+    /// The same for one of many points that follow each other: `around` is the segment where it is
+    /// looked for first, any number, and then the one that is nearest.
+    double operator()(const CurvePoint &point, std::size_t &around) const;
 
   private:
     struct Box {
@@ -39,9 +44,16 @@ class NearPolyline {
     std::size_t leaves_ = 1;
 
     std::size_t Segments() const;
-    /// Brings `nearest` down to what of box `i` is nearer to the point.
-    void Look(const CurvePoint &point, std::size_t i, double &nearest) const;
-    double ToSegment(const CurvePoint &point, std::size_t first) const;
+    CurvePoint OnSegment(const CurvePoint &point, std::size_t first) const;
+
+    /// What a question has found so far.
+    struct Search {
+        CurvePoint point;
+        std::vector<std::pair<double, std::size_t>> candidates; ///< squares of distances, segments
+        double beyond =
+            std::numeric_limits<double>::infinity(); ///< no larger square is of interest
+    };
+    void Look(Search &search, std::size_t i) const;
 };
 
 /// The natural cubic spline (second derivatives 0 at both ends) through points, x and y each over

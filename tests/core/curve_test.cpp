@@ -43,9 +43,12 @@ TEST(NearPolyline, AgreesWithLookingAtEverySegment) {
         }
         line.push_back({line.front().x, 9}); // a long segment
         const NearPolyline near(line);
+        std::size_t around = 100000; // beyond the last segment
         for (int i = 0; i < 60; ++i) {
             const CurvePoint p{2 * place(random), 2 * place(random)};
             EXPECT_NEAR(near(p), NaiveDistance(line, p), 1e-12) << count;
+            EXPECT_EQ(near(p, around), near(p)) << count;
+            EXPECT_LT(around, line.size());
         }
     }
 }
