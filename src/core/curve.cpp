@@ -78,10 +78,13 @@ NearPolyline::NearPolyline(const Curve &line) {
     boxes_.assign(2 * leaves_, {{kFar, kFar}, {-kFar, -kFar}});
     for (std::size_t first = 0; first < Segments(); ++first) {
         Box &box = boxes_[leaves_ + first / kRun];
-        for (const CurvePoint &end : {line_[first], line_[std::min(first + 1, line_.size() - 1)]}) {
-            box.low = {std::min(box.low.x, end.x), std::min(box.low.y, end.y)};
-            box.high = {std::max(box.high.x, end.x), std::max(box.high.y, end.y)};
-        }
+        // The end as places on the segment are computed, which rounding may put beside the point:
+        // a box has all places that OnSegment gives.
+        const CurvePoint &from = line_[first];
+        const CurvePoint &to = line_[std::min(first + 1, line_.size() - 1)];
+        const CurvePoint end = {from.x + (to.x - from.x), from.y + (to.y - from.y)};
+        box.low = {std::min({box.low.x, from.x, end.x}), std::min({box.low.y, from.y, end.y})};
+        box.high = {std::max({box.high.x, from.x, end.x}), std::max({box.high.y, from.y, end.y})};
     }
     for (std::size_t i = leaves_; i-- > 1;) {
         const Box &one = boxes_[2 * i];

@@ -53,6 +53,26 @@ TEST(NearPolyline, AgreesWithLookingAtEverySegment) {
     }
 }
 
+TEST(NearPolyline, FindsPlacesThatRoundingLaysBesideTheLine) {
+    std::mt19937 random(3);
+    std::uniform_real_distribution<double> step(0.003, 0.007);
+    for (int wave = 0; wave < 100; ++wave) {
+        Curve line;
+        for (double x = 1; line.size() < 200; x -= step(random)) {
+            line.push_back({x, 0.1 * std::sin(7 * x + wave)});
+        }
+        const NearPolyline near(line);
+        std::size_t around = 0;
+        for (std::size_t i = 0; i + 1 < line.size(); ++i) {
+            for (const double share : {0.0, 0.3, 0.7, 1.0}) {
+                const CurvePoint p{line[i].x + share * (line[i + 1].x - line[i].x),
+                                   line[i].y + share * (line[i + 1].y - line[i].y)};
+                ASSERT_LT(near(p, around), 1e-15) << wave << " " << i << " " << share;
+            }
+        }
+    }
+}
+
 TEST(NearPolyline, IsInfinitelyFarFromWhatIsNoPlace) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     EXPECT_TRUE(std::isinf(NearPolyline({{0, 0}, {1, 0}})({nan, 0})));
