@@ -24,26 +24,8 @@ Failure MakeFailure(FailureNumber number, const std::string &detail) {
     return Failure{number, detail};
 }
 
-double Finite(double value) {
-    if (!std::isfinite(value)) {
-        throw MakeFailure(kOverflow);
-    }
-    return value;
-}
-
-double Quotient(double dividend, double divisor) {
-    if (divisor == 0.0) {
-        throw MakeFailure(kDivisionByZero);
-    }
-    return Finite(dividend / divisor);
-}
-
-float ToSingle(double value) {
-    const float single = static_cast<float>(value);
-    if (!std::isfinite(single)) {
-        throw MakeFailure(kOverflow);
-    }
-    return single;
+void Fail(FailureNumber number) {
+    throw MakeFailure(number);
 }
 
 double RoundHalfEven(double value) {

@@ -2,6 +2,7 @@
 /// them.
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -39,14 +40,34 @@ enum FailureNumber : int {
 
 Failure MakeFailure(FailureNumber number, const std::string &detail = {});
 
+/// The same thrown. What checks each of many values is compiled into its place and comes here only
+/// when it fails.
+[[noreturn]] void Fail(FailureNumber number);
+
 /// `value` itself; failure 6 when it is infinite or not a number.
-double Finite(double value);
+inline double Finite(double value) {
+    if (!std::isfinite(value)) {
+        Fail(kOverflow);
+    }
+    return value;
+}
 
 /// `dividend` / `divisor`. Failure 11 for a divisor of 0, 6 for a result beyond 64 bits.
-double Quotient(double dividend, double divisor);
+inline double Quotient(double dividend, double divisor) {
+    if (divisor == 0.0) {
+        Fail(kDivisionByZero);
+    }
+    return Finite(dividend / divisor);
+}
 
 /// `value` rounded once to 32 bits. Failure 6 when it doesn't fit.
-float ToSingle(double value);
+inline float ToSingle(double value) {
+    const float single = static_cast<float>(value);
+    if (!std::isfinite(single)) {
+        Fail(kOverflow);
+    }
+    return single;
+}
 
 /// A 32-bit value for a 64-bit expression; it loses nothing.
 constexpr double Wide(float value) {
@@ -70,7 +91,7 @@ void Increment(std::int16_t &count);
 template <class List>
 auto &At(List &list, long index) {
     if (index < 0 || static_cast<std::size_t>(index) >= list.size()) {
-        throw MakeFailure(kSubscriptOutOfRange);
+        Fail(kSubscriptOutOfRange);
     }
     return list[static_cast<std::size_t>(index)];
 }

@@ -13,6 +13,11 @@ constexpr long kWindow = 6;
 constexpr double kSamplesPerSegment = 10.0;
 constexpr long kNoseReach = 4; // segments on either side of the file's middle
 
+/// About how many samples the contour of `points` points has.
+std::size_t SamplesOf(long points) {
+    return static_cast<std::size_t>(std::max(points, 0L)) * 11;
+}
+
 void AppendSample(Profil &rib, double x, double y) {
     Increment(rib.NbContour);
     rib.ContourX.Append(x);
@@ -168,6 +173,8 @@ void Alocate(Profil &rib) {
     const long middle = n / 2;
     rib.ContourX.Clear();
     rib.ContourY.Clear();
+    rib.ContourX.Reserve(SamplesOf(n));
+    rib.ContourY.Reserve(SamplesOf(n));
     rib.NbContour = 0;
     rib.faute = {};
     AppendSample(rib, rib.ProfilX(1), rib.ProfilY(1));
