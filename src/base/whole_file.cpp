@@ -271,7 +271,9 @@ std::string ReadWholeFile(const std::string &path) {
     }
     std::string bytes;
     char block[65536];
-    while (const std::size_t count = std::fread(block, 1, sizeof block, file.get())) {
+    std::size_t count = sizeof block;
+    while (count == sizeof block) { // less is the last there is
+        count = std::fread(block, 1, sizeof block, file.get());
         bytes.append(block, count);
         if (bytes.size() > kLargestFile) {
             throw MakeFailure(kOutOfMemory, path);
