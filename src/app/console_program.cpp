@@ -177,11 +177,19 @@ bool ConsoleProgram::LitProfil(const std::string &path) {
 }
 
 void ConsoleProgram::WarnOfDeviation() const {
-    const RibModel &rib = programme_.rib;
-    const std::string warning =
-        DeviationWarning(programme_.messages, ContourDeviation(rib).value_or(0));
+    Warn(ContourDeviation(programme_.rib, kImportTolerance));
+}
+
+void ConsoleProgram::WarnOfDeviation(Preparation prepared) const {
+    if (prepared == Preparation::complete) {
+        Warn(MadeContourDeviation(programme_.rib, kImportTolerance));
+    }
+}
+
+void ConsoleProgram::Warn(std::optional<double> deviation) const {
+    const std::string warning = DeviationWarning(programme_.messages, deviation.value_or(0));
     if (!warning.empty()) {
-        programme_.messages.Inform(warning, rib.CheminProfil);
+        programme_.messages.Inform(warning, programme_.rib.CheminProfil);
     }
 }
 

@@ -4,6 +4,7 @@
 #include "app/arguments.h"
 #include "app/console.h"
 #include "core/airfoil_picker.h"
+#include "core/contour.h"
 #include "programme/console_platform.h"
 #include "programme/import_reading.h"
 #include "programme/programme.h"
@@ -89,14 +90,18 @@ class ConsoleProgram {
     std::optional<ProfilChoisi> ChoisitProfil(const std::string &path);
 
     /// Warns on standard error where the airfoil that was read has a contour that leaves its
-    /// points.
+    /// points. The contour is made for it alone.
     void WarnOfDeviation() const;
+    /// The same where the rib's contour has been made, `prepared` telling how that ended: one that
+    /// isn't complete is told of already.
+    void WarnOfDeviation(Preparation prepared) const;
 
   private:
     ConsolePlatform platform_;
     Programme programme_;
     ReadingWay lecture_; ///< of airfoil files
 
+    void Warn(std::optional<double> deviation) const;
     bool LitProfil(const std::string &path);
     bool OuvreProfil(const std::string &path);
 };

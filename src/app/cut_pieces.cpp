@@ -57,7 +57,7 @@ Preparation Prepare(const Arguments &arguments, ConsoleProgram &program, const s
     if (prepared == Preparation::impossible) {
         return prepared;
     }
-    program.WarnOfDeviation();
+    program.WarnOfDeviation(prepared);
     PlotState plot = EtatAmorce(programme.rib);
     bool failed = false;
     return DessineVue(programme, plot, failed) ? prepared : Preparation::impossible;

@@ -48,9 +48,7 @@ Preparation PrepareOn(const Arguments &arguments, const Modele &modele, ConsoleP
 PrepareFile Warning(const PrepareFile &prepare) {
     return [prepare](ConsoleProgram &program, const std::string &file) {
         const Preparation prepared = prepare(program, file);
-        if (prepared != Preparation::impossible) {
-            program.WarnOfDeviation();
-        }
+        program.WarnOfDeviation(prepared);
         return prepared;
     };
 }

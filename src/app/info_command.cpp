@@ -75,8 +75,8 @@ bool InformOf(const Arguments &arguments, const FileRun &run, const std::string 
     RibModel &rib = program.Owner().rib;
     Preparation prepared = Preparation::impossible;
     if (program.Ouvre(file)) {
-        program.WarnOfDeviation();
         prepared = PrepareContour(rib, program.Owner().messages);
+        program.WarnOfDeviation(prepared);
     }
     const bool json = arguments.Has("--json");
     if (prepared == Preparation::impossible) {

@@ -115,6 +115,19 @@ Profil ProfilOf(const Curve &points) {
     return profil;
 }
 
+Curve CurveOf(const PointList &x, const PointList &y, long count) {
+    Curve curve;
+    curve.reserve(static_cast<std::size_t>(count));
+    for (long i = 1; i <= count; ++i) {
+        curve.push_back({x(i), y(i)});
+    }
+    return curve;
+}
+
+Curve MadeContour(const Profil &made) {
+    return CurveOf(made.ContourX, made.ContourY, made.NbContour);
+}
+
 /// The contour that the program makes of points; nothing where it can't.
 std::optional<Curve> ContourOf(Profil profil) {
     try {
@@ -126,27 +139,10 @@ std::optional<Curve> ContourOf(Profil profil) {
     } catch (const Failure &) {
         return std::nullopt;
     }
-    Curve contour;
-    for (long i = 1; i <= profil.NbContour; ++i) {
-        contour.push_back({profil.ContourX(i), profil.ContourY(i)});
-    }
-    return contour;
+    return MadeContour(profil);
 }
 
 constexpr double kAny = std::numeric_limits<double>::infinity();
-
-/// How far points leave a line; once that is as much as `enough`, it isn't looked for any further.
-double Farthest(const Curve &points, const NearPolyline &line, double enough) {
-    double farthest = 0;
-    std::size_t around = 0;
-    for (const CurvePoint &point : points) {
-        farthest = std::max(farthest, line(point, around));
-        if (farthest >= enough) {
-            break;
-        }
-    }
-    return farthest;
-}
 
 /// What a contour is measured by.
 struct Yardstick {
@@ -156,19 +152,35 @@ struct Yardstick {
     /// How far the contour of `laid` leaves curve and points; some figure from `enough` on where
     /// that is more.
     std::optional<double> operator()(const Curve &laid, double enough = kAny) const {
-        return Measure(ContourOf(ProfilOf(laid)), enough);
+        const auto contour = ContourOf(ProfilOf(laid));
+        return contour ? Measure(*contour, {0, enough}) : std::nullopt;
     }
-    std::optional<double> Measure(const std::optional<Curve> &contour, double enough) const {
-        if (!contour) {
-            return std::nullopt;
-        }
-        double worst = Farthest(*contour, curve, enough);
-        if (worst < enough) {
-            worst = std::max(worst, Farthest(points, NearPolyline(*contour), enough));
+
+    /// What of a figure is of interest: `least` where it is smaller, some figure from `enough` on
+    /// where it is larger.
+    struct Interest {
+        double least;
+        double enough;
+    };
+    std::optional<double> Measure(const Curve &contour, const Interest &interest) const {
+        double worst = curve.Farthest(contour, interest.least, interest.enough);
+        if (worst < interest.enough) {
+            worst = NearPolyline(contour).Farthest(points, worst, interest.enough);
         }
         return std::isfinite(worst) ? std::optional(worst) : std::nullopt;
     }
 };
+
+Curve PointsOf(const PointsLus &read) {
+    return CurveOf(read.ProfilX, read.ProfilY, read.NbPoints);
+}
+
+/// How far a contour leaves the curve through the points that it was made of.
+std::optional<double> Deviation(const Curve &points, const Curve &contour, double least) {
+    const Yardstick yardstick{
+        NearPolyline(NaturalSpline(points).Sampled(StepsBetween(points.size()))), points};
+    return yardstick.Measure(contour, {least, kAny});
+}
 
 /// The length at which a spline comes nearest to x = 0: the best of many, then ever finer around
 /// it.
@@ -342,15 +354,19 @@ std::string Decimals(double value) {
 
 } // namespace
 
-std::optional<double> ContourDeviation(const PointsLus &read) {
-    Curve points;
-    for (long i = 1; i <= read.NbPoints; ++i) {
-        points.push_back({read.ProfilX(i), read.ProfilY(i)});
-    }
+std::optional<double> ContourDeviation(const PointsLus &read, double least) {
+    const Curve points = PointsOf(read);
     try {
-        const Yardstick yardstick{
-            NearPolyline(NaturalSpline(points).Sampled(StepsBetween(points.size()))), points};
-        return yardstick(points);
+        const auto contour = ContourOf(ProfilOf(points));
+        return contour ? Deviation(points, *contour, least) : std::nullopt;
+    } catch (const Failure &) {
+        return std::nullopt;
+    }
+}
+
+std::optional<double> MadeContourDeviation(const Profil &made, double least) {
+    try {
+        return Deviation(PointsOf(made), MadeContour(made), least);
     } catch (const Failure &) {
         return std::nullopt;
     }

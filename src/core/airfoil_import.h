@@ -55,7 +55,10 @@ std::string AirfoilTitle(const ImportedAirfoil &airfoil, const std::string &name
 std::string AirfoilFile(const ImportedAirfoil &airfoil, const std::string &name);
 
 /// How far the contour of an airfoil as read leaves the natural spline through its points, or the
-/// points themselves, in chords. Nothing where there is no contour.
-std::optional<double> ContourDeviation(const PointsLus &read);
+/// points themselves, in chords; `least` where that is more. Nothing where there is no contour.
+std::optional<double> ContourDeviation(const PointsLus &read, double least = 0);
+
+/// The same where the contour has been made of the points, the whole of it.
+std::optional<double> MadeContourDeviation(const Profil &made, double least = 0);
 
 } // namespace loftwing

@@ -14,6 +14,10 @@ namespace {
 
 constexpr std::size_t kRun = 8; // segments in a box of their own
 
+/// Points of a line that are looked at for the next one of many: none of a contour's samples is
+/// that far from the one before, and a line that was laid to mislead shall cost no more.
+constexpr std::size_t kReach = 100;
+
 bool IsFinite(const CurvePoint &point) {
     return std::isfinite(point.x) && std::isfinite(point.y);
 }
@@ -68,8 +72,8 @@ double Distance(const CurvePoint &a, const CurvePoint &b) {
     return std::hypot(b.x - a.x, b.y - a.y);
 }
 
-NearPolyline::NearPolyline(const Curve &line) {
-    std::copy_if(line.begin(), line.end(), std::back_inserter(line_), IsFinite);
+NearPolyline::NearPolyline(Curve line) : line_(std::move(line)) {
+    std::erase_if(line_, [](const CurvePoint &point) { return !IsFinite(point); });
     if (line_.empty()) {
         throw MakeFailure(kInvalidProcedureCall);
     }
@@ -131,6 +135,62 @@ double NearPolyline::operator()(const CurvePoint &point) const {
     return (*this)(point, around);
 }
 
+/// The square of the distance to a place near `point`, looked for along the line from its point
+/// `around`, which becomes the one that is found. The nearest place may be a nearer one.
+double NearPolyline::SquareAround(const CurvePoint &point, std::size_t &around) const {
+    std::size_t here = std::min(around, line_.size() - 1);
+    double square = Square(point, line_[here]);
+    const auto moves_to = [&](std::size_t next) {
+        const double further = Square(point, line_[next]);
+        if (!(further <= square)) {
+            return false;
+        }
+        square = further;
+        here = next;
+        return true;
+    };
+    const std::size_t last = std::min(here + kReach, line_.size() - 1);
+    const std::size_t first = here - std::min(here, kReach);
+    while (here < last && moves_to(here + 1)) {
+    }
+    while (here > first && moves_to(here - 1)) {
+    }
+    around = here;
+    const std::size_t before = here - std::min<std::size_t>(here, 1);
+    return std::min(Square(point, OnSegment(point, before)),
+                    Square(point, OnSegment(point, std::min(here, Segments() - 1))));
+}
+
+/// A point needn't be measured where a place that is surely no nearer than its nearest one lies
+/// within the farthest so far. What is likely the farthest comes first.
+double NearPolyline::Farthest(const Curve &points, double least, double enough) const {
+    struct Candidate {
+        double square;
+        std::size_t point;
+        std::size_t around;
+        bool operator<(const Candidate &other) const { return square < other.square; }
+    };
+    std::vector<Candidate> candidates;
+    std::size_t around = 0;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const double square = SquareAround(points[i], around);
+        if (!(Beyond(square) < least * least)) {
+            constexpr double kFar = std::numeric_limits<double>::infinity();
+            candidates.push_back({std::isnan(square) ? kFar : square, i, around});
+        }
+    }
+    std::make_heap(candidates.begin(), candidates.end());
+    double farthest = least;
+    while (!candidates.empty() && farthest < enough &&
+           !(Beyond(candidates.front().square) < farthest * farthest)) {
+        Candidate &next = candidates.front();
+        farthest = std::max(farthest, (*this)(points[next.point], next.around));
+        std::pop_heap(candidates.begin(), candidates.end());
+        candidates.pop_back();
+    }
+    return farthest;
+}
+
 void NearPolyline::Look(Search &search, std::size_t i) const {
     const CurvePoint &point = search.point;
     if (i >= leaves_) {
@@ -186,8 +246,12 @@ NaturalSpline::NaturalSpline(Curve points) : points_(std::move(points)) {
 
 CurvePoint NaturalSpline::operator()(double s) const {
     const auto behind = std::upper_bound(at_.begin() + 1, at_.end() - 1, s);
-    const auto hi = static_cast<std::size_t>(behind - at_.begin());
-    const std::size_t lo = hi - 1;
+    return Behind(static_cast<std::size_t>(behind - at_.begin()) - 1, s);
+}
+
+/// The place at length `s`, which lies between point `lo` and the next.
+CurvePoint NaturalSpline::Behind(std::size_t lo, double s) const {
+    const std::size_t hi = lo + 1;
     const double h = at_[hi] - at_[lo];
     const double b = (s - at_[lo]) / h;
     const double a = 1.0 - b;
@@ -203,7 +267,9 @@ Curve NaturalSpline::Sampled(int steps) const {
     for (std::size_t i = 0; i + 1 < points_.size(); ++i) {
         line.push_back(points_[i]);
         for (int step = 1; step < steps; ++step) {
-            line.push_back((*this)(at_[i] + (at_[i + 1] - at_[i]) * step / steps));
+            const double s = at_[i] + (at_[i + 1] - at_[i]) * step / steps;
+            // Rounding may bring a place between points that touch to the second one.
+            line.push_back(s < at_[i + 1] ? Behind(i, s) : (*this)(s));
         }
     }
     line.push_back(points_.back());

@@ -24,13 +24,18 @@ double Distance(const CurvePoint &a, const CurvePoint &b);
 class NearPolyline {
   public:
     /// `line` has one point at least; points that are not finite are left out.
-    explicit NearPolyline(const Curve &line);
+    explicit NearPolyline(Curve line);
 
     /// The distance from `point` to the nearest place on the polyline.
     double operator()(const CurvePoint &point) const;
     /// The same for one of many points that follow each other: `around` is the segment where it is
     /// looked for first, any number, and then the one that is nearest.
     double operator()(const CurvePoint &point, std::size_t &around) const;
+
+    /// The greatest distance from any of `points` to the polyline, and `least` where that is more.
+    /// From `enough` on any figure that is no smaller will do. Points that follow each other along
+    /// the polyline cost little: few of them can be the farthest, and those alone are measured.
+    double Farthest(const Curve &points, double least, double enough) const;
 
   private:
     struct Box {
@@ -45,6 +50,7 @@ class NearPolyline {
 
     std::size_t Segments() const;
     CurvePoint OnSegment(const CurvePoint &point, std::size_t first) const;
+    double SquareAround(const CurvePoint &point, std::size_t &around) const;
 
     /// What a question has found so far.
     struct Search {
@@ -77,6 +83,8 @@ class NaturalSpline {
     Curve points_;
     std::vector<double> at_;
     Curve bends_; ///< second derivatives at the points
+
+    CurvePoint Behind(std::size_t lo, double s) const;
 };
 
 } // namespace loftwing

@@ -65,7 +65,7 @@ void Vide(Programme &programme, CommandView &view) {
 Preparation Prepare(Programme &programme) {
     RibModel &rib = programme.rib;
     const Preparation made = PrepareContour(rib, programme.messages);
-    rib.EcartContour = made == Preparation::complete ? ContourDeviation(rib).value_or(0) : 0;
+    rib.EcartContour = made == Preparation::complete ? MadeContourDeviation(rib).value_or(0) : 0;
     return made;
 }
 

@@ -238,6 +238,64 @@ TEST_F(AirfoilImport, TheDeviationOfAnAirfoilAsReadIsThatOfItsImport) {
     }
 }
 
+/// A polyline as two lists.
+std::pair<PointList, PointList> ListsOf(const Curve &line) {
+    std::pair<PointList, PointList> lists;
+    for (const CurvePoint &point : line) {
+        lists.first.Append(point.x);
+        lists.second.Append(point.y);
+    }
+    return lists;
+}
+
+/// How far the rib's contour leaves the spline through its points, or these.
+double NaiveDeviation(const Profil &rib) {
+    Curve points;
+    for (long i = 1; i <= rib.NbPoints; ++i) {
+        points.push_back({rib.ProfilX(i), rib.ProfilY(i)});
+    }
+    const auto [x, y] = ListsOf(NaturalSpline(points).Sampled(40));
+    double worst = 0;
+    for (long i = 1; i <= rib.NbContour; ++i) {
+        worst = std::max(worst, NaiveDistance(x, y, {rib.ContourX(i), rib.ContourY(i)}));
+    }
+    for (const CurvePoint &point : points) {
+        worst = std::max(worst, NaiveDistance(rib.ContourX, rib.ContourY, point));
+    }
+    return worst;
+}
+
+TEST_F(AirfoilImport, TheDeviationIsTheGreatestDistanceWhereverItIs) {
+    for (const int segments : {8, 11, 14, 20, 40}) {
+        for (const double camber : {0.0, 0.04}) {
+            SCOPED_TRACE(std::to_string(segments) + " " + std::to_string(camber));
+            rib.CheminProfil = words.folder.File(
+                "read.dat", TextOfCurve(Section({0.12, camber, 0.4, segments, segments + 1})));
+            FichierLecture(rib, words.messages, "Open");
+            if (PrepareContour(rib, words.messages) != Preparation::complete) {
+                continue;
+            }
+            const double naive = NaiveDeviation(rib);
+            const auto deviation = MadeContourDeviation(rib);
+            ASSERT_TRUE(deviation);
+            EXPECT_NEAR(*deviation, naive, 1e-14);
+            EXPECT_EQ(ContourDeviation(rib), deviation);
+            // What is no more than that is not looked for.
+            EXPECT_EQ(MadeContourDeviation(rib, *deviation / 2), deviation);
+            EXPECT_EQ(MadeContourDeviation(rib, *deviation * 2), *deviation * 2);
+            EXPECT_EQ(ContourDeviation(rib, *deviation * 2), *deviation * 2);
+        }
+    }
+}
+
+TEST_F(AirfoilImport, NothingDeviatesWhereNoContourIs) {
+    rib.CheminProfil = words.folder.File("read.dat", "Section\n1 0\n0.5 0.1\n0 0\n0.5 0\n1 0\n");
+    FichierLecture(rib, words.messages, "Open");
+    EXPECT_EQ(ContourDeviation(rib), std::nullopt);
+    EXPECT_EQ(ContourDeviation(rib, 1), std::nullopt);
+    EXPECT_EQ(MadeContourDeviation(Profil{}), std::nullopt);
+}
+
 TEST_F(AirfoilImport, EveryFileOfTheLargeCollectionCanBeImported) {
     const std::vector<fs::path> files = LargeCollection();
     if (files.empty()) {

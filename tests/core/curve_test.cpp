@@ -73,6 +73,89 @@ TEST(NearPolyline, FindsPlacesThatRoundingLaysBesideTheLine) {
     }
 }
 
+/// The farthest of points, each measured for itself and from every segment.
+double NaiveFarthest(const Curve &line, const Curve &points) {
+    double farthest = 0;
+    for (const CurvePoint &point : points) {
+        farthest = std::max(farthest, NaiveDistance(line, point));
+    }
+    return farthest;
+}
+
+constexpr double kAnyDistance = std::numeric_limits<double>::infinity();
+
+/// Points beside a line, up to `width` away from it, in its order.
+Curve Beside(const Curve &line, double width, std::mt19937 &random) {
+    std::uniform_real_distribution<double> off(-width, width);
+    Curve points;
+    for (const CurvePoint &point : line) {
+        for (int i = 0; i < 3; ++i) {
+            points.push_back({point.x + off(random), point.y + off(random)});
+        }
+    }
+    return points;
+}
+
+TEST(NearPolyline, TellsTheFarthestOfManyPoints) {
+    std::mt19937 random(11);
+    for (const double width : {0.0, 1e-9, 0.001, 0.3}) {
+        Curve line;
+        for (int i = 0; i <= 150; ++i) {
+            line.push_back({std::cos(0.04 * i), 0.2 * std::sin(0.12 * i)});
+        }
+        const NearPolyline near(line);
+        Curve points = Beside(line, width, random);
+        const double farthest = NaiveFarthest(line, points);
+        EXPECT_NEAR(near.Farthest(points, 0, kAnyDistance), farthest, 1e-15) << width;
+        // However they follow each other.
+        std::shuffle(points.begin(), points.end(), random);
+        EXPECT_NEAR(near.Farthest(points, 0, kAnyDistance), farthest, 1e-15) << width;
+        double each = 0;
+        for (const CurvePoint &point : points) {
+            each = std::max(each, near(point));
+        }
+        EXPECT_EQ(near.Farthest(points, 0, kAnyDistance), each) << width;
+        EXPECT_EQ(near.Farthest(points, each / 2, kAnyDistance), each) << width;
+    }
+}
+
+TEST(NearPolyline, TellsTheFarthestWhereTheWayAlongTheLineMisleads) {
+    // Two long strokes one above the other: the way along the lower one ends below the point, while
+    // the upper one passes through it.
+    const Curve line = {{0, 0}, {1, 0}, {2, 0}, {3, 0}, {9, 0}, {9, 1}, {3, 1}, {0, 1}};
+    const Curve points = {{0.1, 0}, {1.1, 1}, {2.1, 1}, {2.2, 0.75}};
+    EXPECT_DOUBLE_EQ(NearPolyline(line).Farthest(points, 0, kAnyDistance), 0.25);
+    // Farther along than is looked.
+    Curve flat;
+    for (int i = 0; i <= 1000; ++i) {
+        flat.push_back({i / 1000.0, 0});
+    }
+    EXPECT_DOUBLE_EQ(
+        NearPolyline(flat).Farthest({{0, 0.25}, {1, 0.125}, {0, 0.5}}, 0, kAnyDistance), 0.5);
+}
+
+TEST(NearPolyline, TellsNoMoreOfTheFarthestThanIsAskedFor) {
+    const NearPolyline line({{0, 0}, {1, 0}});
+    const Curve points = {{0, 0.5}, {0.5, 2}, {0.75, 3}};
+    EXPECT_EQ(line.Farthest(points, 4, kAnyDistance), 4);
+    EXPECT_EQ(line.Farthest(points, 3, kAnyDistance), 3);
+    EXPECT_EQ(line.Farthest(points, 1, kAnyDistance), 3);
+    EXPECT_GE(line.Farthest(points, 0, 1), 1);
+    EXPECT_EQ(line.Farthest(points, 0, 5), 3);
+    EXPECT_EQ(line.Farthest({}, 0, kAnyDistance), 0);
+    EXPECT_EQ(NearPolyline({{1, 1}}).Farthest({{1, 4}, {1, 2}}, 0, kAnyDistance), 3);
+}
+
+TEST(NearPolyline, HasItsFarthestPointBeyondAllNumbersWhereOneIsNoPlace) {
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const NearPolyline line({{0, 0}, {1, 0}});
+    EXPECT_TRUE(std::isinf(line.Farthest({{0, 1}, {nan, 0}, {0, 2}}, 0, kAnyDistance)));
+    EXPECT_TRUE(std::isinf(line.Farthest({{0, 1}, {0, kAnyDistance}}, 3, kAnyDistance)));
+    // Squares leave the range of numbers before distances do.
+    EXPECT_DOUBLE_EQ(line.Farthest({{0, 1}, {0, 3e200}, {0, 2e200}}, 0, kAnyDistance), 3e200);
+    EXPECT_DOUBLE_EQ(line.Farthest({{0, 1e-200}, {0, 3e-200}}, 0, kAnyDistance), 3e-200);
+}
+
 TEST(NearPolyline, IsInfinitelyFarFromWhatIsNoPlace) {
     const double nan = std::numeric_limits<double>::quiet_NaN();
     EXPECT_TRUE(std::isinf(NearPolyline({{0, 0}, {1, 0}})({nan, 0})));
@@ -130,6 +213,23 @@ TEST(NaturalSpline, IsSampledFromPointToPoint) {
     EXPECT_EQ(line[2], (CurvePoint{1, 1}));
     EXPECT_NEAR(line[1].y, 0.6875, 1e-15);
     EXPECT_EQ(line[4], (CurvePoint{2, 0}));
+}
+
+TEST(NaturalSpline, IsSampledWhereItLies) {
+    // The last two points touch, so that rounding brings places between them onto one of them.
+    const Curve points = {{1, 0}, {0.6, 0.07}, {0, 0}, {0.4, -0.01}, {1, 0}, {1, 1e-15}};
+    const NaturalSpline spline(points);
+    const int steps = 40;
+    const Curve line = spline.Sampled(steps);
+    ASSERT_EQ(line.size(), 5U * 40 + 1);
+    for (std::size_t i = 0; i + 1 < points.size(); ++i) {
+        EXPECT_EQ(line[i * 40], points[i]);
+        for (int step = 1; step < steps; ++step) {
+            const double s =
+                spline.KnotAt(i) + (spline.KnotAt(i + 1) - spline.KnotAt(i)) * step / steps;
+            EXPECT_EQ(line[i * 40 + static_cast<std::size_t>(step)], spline(s)) << i << " " << step;
+        }
+    }
 }
 
 } // namespace
