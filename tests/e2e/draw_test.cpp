@@ -120,9 +120,9 @@ TEST(Draw, PngHasTheScreensPixels) {
 
 TEST(Draw, WithoutARuntimeFolderStandardErrorStaysEmpty) {
     const TempFolder folder;
-    const Ran ran = RunShell(
-        "env -u XDG_RUNTIME_DIR " + ShellWord(LOFTWING_BINARY_DIR "/loftwing") + " draw " +
-        ShellWord(Sample("naca2412.dat")) + " --chord 200 -o " + ShellWord(folder.Path("rib.pdf")));
+    const Ran ran = RunShell("env -u XDG_RUNTIME_DIR " + ShellWord(ProgramTried()) + " draw " +
+                             ShellWord(Sample("naca2412.dat")) + " --chord 200 -o " +
+                             ShellWord(folder.Path("rib.pdf")));
     EXPECT_EQ(ran.status, 0);
     EXPECT_EQ(ran.err, "");
 }

@@ -19,8 +19,7 @@ using testing::HasSubstr;
 
 /// Runs the program in a folder, so that names stand for themselves.
 Ran RunIn(const TempFolder &folder, const std::vector<std::string> &words) {
-    std::string line =
-        "cd " + ShellWord(folder.Path()) + " && " + ShellWord(LOFTWING_BINARY_DIR "/loftwing");
+    std::string line = "cd " + ShellWord(folder.Path()) + " && " + ShellWord(ProgramTried());
     for (const std::string &word : words) {
         line += " " + ShellWord(word);
     }
@@ -35,7 +34,13 @@ void ExpectLines(const std::string &err, std::ptrdiff_t count) {
 
 class FileNames : public testing::TestWithParam<std::string> {
   protected:
-    void SetUp() override { folder.File(Name("dat"), ReadWholeFile(Sample("naca2412.dat"))); }
+    void SetUp() override {
+        if (IsForeign() &&
+            (!IsUtf8(GetParam()) || GetParam().find_first_of("\r\n\\\"*?") != std::string::npos)) {
+            GTEST_SKIP() << "no file is named so there";
+        }
+        folder.File(Name("dat"), ReadWholeFile(Sample("naca2412.dat")));
+    }
     static std::string Name(const std::string &extension) { return GetParam() + "." + extension; }
     /// A verb with options in front, and behind them its FILEs, whatever they begin with.
     Ran Run(std::vector<std::string> words, const std::vector<std::string> &files) const {

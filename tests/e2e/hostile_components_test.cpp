@@ -38,7 +38,7 @@ class HostileComponents : public testing::Test {
     /// Draws the file `name` of the folder in one of the forms that take another way.
     Answer Draw(const std::string &name, const std::string &form, const std::string &unit = "mm") {
         const auto start = std::chrono::steady_clock::now();
-        const Ran ran = RunShell("timeout 60 " LOFTWING_BINARY_DIR "/loftwing draw " +
+        const Ran ran = RunShell("timeout 60 " + ShellWord(ProgramTried()) + " draw " +
                                  ShellWord(folder.Path(name)) + " --unit " + unit + " -o " +
                                  ShellWord(folder.Path("out/rib." + form)));
         const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - start;

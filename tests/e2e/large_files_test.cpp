@@ -60,7 +60,7 @@ struct Cost {
 
 Cost CostOf(const std::vector<std::string> &words) {
     std::vector<char *> arguments;
-    const std::string program = LOFTWING_BINARY_DIR "/loftwing";
+    const std::string program = ProgramTried();
     arguments.push_back(const_cast<char *>(program.c_str()));
     for (const std::string &word : words) {
         arguments.push_back(const_cast<char *>(word.c_str()));

@@ -166,7 +166,7 @@ TEST_F(ManyFilesOnTheCommandLine, AreToldOfInReadableLinesInTheirOrder) {
 }
 
 TEST_F(ManyFilesOnTheCommandLine, TellWhatTheyDoOnBothStreamsInOneOrder) {
-    std::string line = ShellWord(LOFTWING_BINARY_DIR "/loftwing") + " info --json";
+    std::string line = ShellWord(ProgramTried()) + " info --json";
     std::string one_by_one;
     for (const std::string &file : files_) {
         one_by_one += RunShell(line + " " + ShellWord(file) + " 2>&1").out;
@@ -227,14 +227,16 @@ TEST_F(ManyFilesOnTheCommandLine, AreNotBegunWhereTheWordsAreWrong) {
 }
 
 TEST_F(ManyFilesOnTheCommandLine, LeaveWholeFilesWhereNobodyListens) {
-    std::string line = ShellWord(LOFTWING_BINARY_DIR "/loftwing") + " cut --json --to svg -o " +
-                       ShellWord(folder.Path("out/"));
+    std::string line =
+        ShellWord(ProgramTried()) + " cut --json --to svg -o " + ShellWord(folder.Path("out/"));
     for (int i = 0; i < 40; ++i) {
         line += " " + ShellWord(Sample("naca2412.dat"));
     }
     const Ran ran = RunShell("{ " + line + " 2>&1; echo $? > " + ShellWord(folder.Path("status")) +
                              "; } | true");
-    EXPECT_EQ(folder.Bytes("status"), "141\n") << "ended by the pipe";
+    if (!IsForeign()) { // this system ends whom nobody listens to
+        EXPECT_EQ(folder.Bytes("status"), "141\n") << "ended by the pipe";
+    }
     for (const auto &[name, bytes] : FilesOf(folder.Path("out"))) {
         EXPECT_EQ(name, "naca2412.svg");
         EXPECT_THAT(bytes, HasSubstr("</svg>"));

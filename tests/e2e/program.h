@@ -15,6 +15,12 @@ struct Ran {
 /// Runs a shell line and waits for its end.
 Ran RunShell(const std::string &line);
 
+/// The program that is tried: the built one, or what LOFTWING_PROGRAM names, such as the one for
+/// another system with what runs it here.
+std::string ProgramTried();
+/// Whether that is another one, which isn't asked for what only this system has.
+bool IsForeign();
+
 /// Runs the program with these words.
 Ran RunLoftwing(const std::vector<std::string> &words);
 
