@@ -174,7 +174,7 @@ char *WriteExponent(char *to, const DigitRun &run) {
     return std::to_chars(to, to + kMostDigits, std::abs(power)).ptr;
 }
 
-std::string TextOf(double value, int significant, ZeroBeforePoint zero) {
+std::string DigitsOf(double value, int significant, ZeroBeforePoint zero) {
     const DigitRun run = RunOf(ToDecimal(value, significant), significant);
     if (run.count == 0) {
         return "0";
@@ -366,11 +366,11 @@ double LeadingNumber(std::string_view text) {
 }
 
 std::string NumberText(double value, ZeroBeforePoint zero) {
-    return TextOf(value, kDoubleDigits, zero);
+    return DigitsOf(value, kDoubleDigits, zero);
 }
 
 std::string NumberText(float value, ZeroBeforePoint zero) {
-    return TextOf(Wide(value), kSingleDigits, zero);
+    return DigitsOf(Wide(value), kSingleDigits, zero);
 }
 
 std::string ShortestText(float value) {

@@ -2,6 +2,7 @@
 
 #include "base/disk.h"
 #include "base/failure.h"
+#include "base/file_name.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -26,12 +27,8 @@ struct CloseFile {
 using FileHandle = std::unique_ptr<std::FILE, CloseFile>;
 
 /// The handle is null where the file doesn't open; errno then says why.
-FileHandle Open(const fs::path &path, const char *mode) {
-#ifdef _WIN32
-    return FileHandle(_wfopen(path.c_str(), fs::path(mode).c_str())); // paths are wide there
-#else
-    return FileHandle(std::fopen(path.c_str(), mode));
-#endif
+FileHandle Open(const fs::path &path, Opening opening) {
+    return FileHandle(OpenFile(path, opening));
 }
 
 Failure OpenFailure(const std::string &path, int error) {
@@ -41,9 +38,8 @@ Failure OpenFailure(const std::string &path, int error) {
     if (error != ENOENT && error != ENOTDIR) {
         return MakeFailure(kPathFileAccess, path);
     }
-    std::error_code ignored;
-    const fs::path folder = fs::path(path).parent_path();
-    const bool folder_there = folder.empty() || fs::is_directory(folder, ignored);
+    const std::string folder = FolderOf(path);
+    const bool folder_there = folder.empty() || IsFolder(folder);
     return MakeFailure(folder_there ? kFileNotFound : kPathNotFound, path);
 }
 
@@ -74,10 +70,6 @@ FailureNumber NumberOfRefusal(int error) {
     default:
         return kPathFileAccess;
     }
-}
-
-int ReasonOf(const std::error_code &error) {
-    return error.default_error_condition().value();
 }
 
 /// Takes the name away that a file has for a moment only.
@@ -113,7 +105,7 @@ void RemoveIfAbandoned(const fs::path &path) {
     if (!fs::is_regular_file(fs::symlink_status(path, error))) {
         return;
     }
-    const FileHandle file = Open(path, "r+b");
+    const FileHandle file = Open(path, Opening::change);
     if (!file) {
         return; // not ours, then
     }
@@ -130,7 +122,7 @@ void RemoveAbandonedOnce(const fs::path &folder) {
     thread_local fs::path last;
     if (folder != last) {
         last = folder;
-        RemoveAbandonedParts(folder.string());
+        RemoveAbandonedParts(TextOf(folder));
     }
 }
 
@@ -155,7 +147,7 @@ class NewFile {
     void Write(std::string_view bytes, Flush flush) {
         CheckReplaceable();
         if (flush == Flush::yes) {
-            RemoveAbandonedParts(Folder().string());
+            RemoveAbandonedParts(TextOf(Folder()));
         } else {
             RemoveAbandonedOnce(Folder());
         }
@@ -172,7 +164,7 @@ class NewFile {
     }
     void Rename(Flush flush) {
         std::error_code error;
-        fs::rename(beside_, target_, error);
+        RenameOver(beside_, target_, flush == Flush::yes, error);
         if (error) {
             throw Refusal(ReasonOf(error));
         }
@@ -202,7 +194,7 @@ class NewFile {
     /// to replace, although the folder would allow both.
     void CheckReplaceable() const {
         std::error_code error;
-        const fs::file_status status = fs::status(target_, error);
+        const fs::file_status status = StateOf(target_, error);
         if (status.type() == fs::file_type::not_found && !path_.empty()) {
             return;
         }
@@ -212,7 +204,7 @@ class NewFile {
         if (!fs::is_regular_file(status)) {
             throw MakeFailure(kPathFileAccess, path_);
         }
-        if (Open(target_, "r+b") == nullptr) {
+        if (Open(target_, Opening::change) == nullptr) {
             throw Refusal(errno);
         }
     }
@@ -222,7 +214,7 @@ class NewFile {
         for (int left = kTries; true; --left) {
             const fs::path beside = NameBeside(target_);
             // Exclusively: a file that already bears the name is somebody else's.
-            FileHandle file = Open(beside, "wbx");
+            FileHandle file = Open(beside, Opening::make);
             if (!file) {
                 throw Refusal(errno);
             }
@@ -247,8 +239,9 @@ class NewFile {
     /// A link keeps pointing where it points: the file behind it is the one that is replaced.
     static fs::path Target(const std::string &path) {
         std::error_code error;
-        const fs::path target = fs::weakly_canonical(path, error);
-        return error ? fs::path(path) : target;
+        const fs::path named = PathOf(path);
+        const fs::path target = RealPlace(named, error);
+        return error ? named : target;
     }
 };
 
@@ -257,15 +250,15 @@ class NewFile {
 std::string ReadWholeFile(const std::string &path) {
     errno = 0;
     std::error_code error;
-    const fs::file_status status = fs::status(path, error);
+    const fs::file_status status = StateOf(PathOf(path), error);
     if (!fs::exists(status)) {
-        throw OpenFailure(path, error ? error.default_error_condition().value() : ENOENT);
+        throw OpenFailure(path, error ? ReasonOf(error) : ENOENT);
     }
     // A pipe or a device could go on for ever; a folder holds no text.
     if (!fs::is_regular_file(status)) {
         throw MakeFailure(kPathFileAccess, path);
     }
-    const FileHandle file = Open(path, "rb");
+    const FileHandle file = Open(PathOf(path), Opening::read);
     if (!file) {
         throw OpenFailure(path, errno);
     }
@@ -341,9 +334,9 @@ void RemoveAbandonedParts(const std::string &folder) {
     std::vector<fs::path> parts;
     std::error_code error;
     int left = kMostEntries;
-    for (fs::directory_iterator each(folder, error), end; !error && each != end && left > 0;
+    for (fs::directory_iterator each(PathOf(folder), error), end; !error && each != end && left > 0;
          each.increment(error), --left) {
-        if (IsNameBeside(each->path().filename().string())) {
+        if (IsNameBeside(TextOf(each->path().filename()))) {
             parts.push_back(each->path());
         }
     }

@@ -1,5 +1,6 @@
 #include "core/airfoil_picker.h"
 
+#include "base/file_name.h"
 #include "base/text_encoding.h"
 
 #include <algorithm>
@@ -45,7 +46,7 @@ Failure EchecDossier(const std::error_code &error, const std::string &folder) {
 }
 
 void Classe(const fs::directory_entry &entry, std::string_view motif, ContenuDossier &contenu) {
-    const std::string name = entry.path().filename().string();
+    const std::string name = TextOf(entry.path().filename());
     if (name.starts_with('.')) {
         return;
     }
@@ -59,7 +60,7 @@ void Classe(const fs::directory_entry &entry, std::string_view motif, ContenuDos
 
 bool PeutEtreListe(const std::string &folder) {
     std::error_code error;
-    const fs::directory_iterator first(folder, error);
+    const fs::directory_iterator first(PathOf(folder), error);
     return !error;
 }
 
@@ -97,18 +98,17 @@ bool SuitMotif(std::string_view name, std::string_view motif) {
 }
 
 std::string CheminDans(const std::string &folder, const std::string &name) {
-    return folder.ends_with('/') ? folder + name : folder + "/" + name;
+    return WithSeparator(folder) + name;
 }
 
 std::string DossierParent(const std::string &folder) {
-    const std::string parent = fs::path(folder).parent_path().string();
-    return parent == folder ? std::string() : parent;
+    return Above(folder);
 }
 
 ContenuDossier LitDossier(const std::string &folder, std::string_view motif) {
     ContenuDossier contenu;
     std::error_code error;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+    for (fs::directory_iterator entry(PathOf(folder), error), end; !error && entry != end;
          entry.increment(error)) {
         Classe(*entry, motif, contenu);
     }
@@ -121,9 +121,8 @@ ContenuDossier LitDossier(const std::string &folder, std::string_view motif) {
 }
 
 std::string ProfilVoisin(const std::string &chemin, int pas) {
-    const fs::path path(chemin);
-    const std::string folder = path.parent_path().string();
-    const std::string name = path.filename().string();
+    const std::string folder = FolderOf(chemin);
+    const std::string name = NameIn(chemin);
     std::vector<std::string> names = LitDossier(folder, "*").fichiers;
     std::erase_if(names, [](const std::string &each) {
         return !SuitMotif(each, "*.dat") && !SuitMotif(each, "*.cor");
@@ -142,14 +141,13 @@ std::string DossierDepart(const std::string &last) {
     std::error_code error;
     const fs::path current = fs::current_path(error);
     if (!last.empty()) {
-        const std::string folder = (current / last).lexically_normal().string();
-        std::string plain =
-            fs::path(folder).has_filename() ? folder : fs::path(folder).parent_path().string();
+        const fs::path folder = Plain(SeenFrom(current, PathOf(last)));
+        std::string plain = TextOf(folder.has_filename() ? folder : folder.parent_path());
         if (PeutEtreListe(plain)) {
             return plain;
         }
     }
-    return !error && PeutEtreListe(current.string()) ? current.string() : "/";
+    return !error && PeutEtreListe(TextOf(current)) ? TextOf(current) : "/";
 }
 
 std::string TitreApercu(const RibModel &rib) {

@@ -1,11 +1,11 @@
 #include "core/airfoil_reader.h"
 
+#include "base/file_name.h"
 #include "base/number_text.h"
 #include "base/text_encoding.h"
 #include "base/whole_file.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <functional>
 #include <optional>
 #include <string_view>
@@ -140,9 +140,8 @@ void LecteurProfil::LitEntete() {
 
 /// Says of a failure at which point of which file it was, with the beginning of its line.
 void LecteurProfil::Situe(Failure &failure, std::string_view line) const {
-    failure.Precise(std::filesystem::path(rib_.CheminProfil).filename().string() + ", " +
-                    Point(rib_.ProfilX.Count()) + (line.empty() ? "" : ", ") +
-                    FirstCharacters(std::string(line), kDebutDeLigne));
+    failure.Precise(NameIn(rib_.CheminProfil) + ", " + Point(rib_.ProfilX.Count()) +
+                    (line.empty() ? "" : ", ") + FirstCharacters(std::string(line), kDebutDeLigne));
 }
 
 std::optional<RefusLecture> LecteurProfil::LitPoint(std::string_view line, bool &last) {

@@ -1,10 +1,10 @@
 #include "core/contour_fault.h"
 
+#include "base/file_name.h"
 #include "base/number_text.h"
 
 #include <algorithm>
 #include <cmath>
-#include <filesystem>
 #include <limits>
 
 namespace loftwing {
@@ -121,7 +121,7 @@ std::string Enumere(std::initializer_list<std::string> texts) {
 }
 
 std::string Fichier(const RibModel &rib) {
-    return std::filesystem::path(rib.CheminProfil).filename().string();
+    return NameIn(rib.CheminProfil);
 }
 
 } // namespace

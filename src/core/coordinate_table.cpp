@@ -34,7 +34,7 @@ std::string_view Stripped(std::string_view text) {
 }
 
 /// A file's text, every line ended by a line feed, CR alone too.
-std::string TextOf(std::string_view bytes) {
+std::string TextOfBytes(std::string_view bytes) {
     std::string text = AnyToUtf8(bytes);
     for (std::size_t i = 0; i < text.size(); ++i) {
         if (text[i] == '\r' && (i + 1 == text.size() || text[i + 1] != '\n')) {
@@ -204,7 +204,7 @@ bool IsProse(const TableRow &row, std::string_view line) {
 } // namespace
 
 CoordinateTable ReadCoordinateTable(std::string_view bytes) {
-    const std::string text = TextOf(bytes);
+    const std::string text = TextOfBytes(bytes);
     const Comma comma = CommaOf(text);
     CoordinateTable table;
     int number = 0;

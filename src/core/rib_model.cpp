@@ -1,5 +1,6 @@
 #include "core/rib_model.h"
 
+#include "base/file_name.h"
 #include "base/text_encoding.h"
 
 namespace loftwing {
@@ -50,8 +51,7 @@ void ReprendProfil(RibModel &rib) {
 }
 
 void NommeProfil(RibModel &rib, const std::string &path) {
-    const std::size_t slash = path.rfind('/');
-    const std::string name = slash == std::string::npos ? path : path.substr(slash + 1);
+    const std::string name = NameIn(path);
     const std::size_t length = CharacterCount(name);
     rib.CheminProfil = path;
     rib.NomProfil =

@@ -1,6 +1,7 @@
 #include "lang/LngIni.h"
 
 #include "base/failure.h"
+#include "base/file_name.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -38,17 +39,17 @@ std::string LngIni::LngText(LngKey key) const {
 }
 
 std::string LngIni::Fichier(const std::string &folder, const std::string &name) {
-    return (fs::path(folder) / (name + ".lng")).string();
+    return TextOf(PathOf(folder) / PathOf(name + ".lng"));
 }
 
 std::vector<std::string> LngIni::Languages(const std::string &folder) {
     std::vector<std::string> names;
     std::error_code error;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+    for (fs::directory_iterator entry(PathOf(folder), error), end; !error && entry != end;
          entry.increment(error)) {
         std::error_code ignored;
         if (entry->path().extension() == ".lng" && entry->is_regular_file(ignored)) {
-            names.push_back(entry->path().stem().string());
+            names.push_back(TextOf(entry->path().stem()));
         }
     }
     std::sort(names.begin(), names.end());

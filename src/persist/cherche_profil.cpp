@@ -2,6 +2,8 @@
 
 #include "persist/LireEcrire.h"
 
+#include "base/disk.h"
+#include "base/file_name.h"
 #include "base/text_encoding.h"
 #include "persist/lignes_composants.h"
 
@@ -55,9 +57,9 @@ class Recherche {
                 continue;
             }
             pause_();
-            std::error_code error;
-            if (fs::is_regular_file(here / nom_, error)) {
-                found_ = (here / nom_).string();
+            const std::string path = TextOf(here / PathOf(nom_));
+            if (IsPlainFile(path)) {
+                found_ = path;
             }
             std::vector<fs::path> below = DossiersDe(here);
             std::sort(below.rbegin(), below.rend()); // the first one is taken first
@@ -67,7 +69,7 @@ class Recherche {
 
     bool Neuf(const fs::path &folder) {
         std::error_code error;
-        const fs::path real = fs::canonical(folder, error);
+        const fs::path real = RealPath(folder, error);
         return !error && seen_.insert(real).second;
     }
 
@@ -79,9 +81,9 @@ class Recherche {
             std::error_code unknown;
             if (entry->is_directory(unknown)) {
                 folders.push_back(entry->path());
-            } else if (SEcritComme(entry->path().filename().string(), nom_) &&
+            } else if (SEcritComme(TextOf(entry->path().filename()), nom_) &&
                        entry->is_regular_file(unknown)) {
-                alike_ = entry->path().string();
+                alike_ = TextOf(entry->path());
             }
             entry.increment(error);
         }
@@ -96,9 +98,8 @@ std::string SemblableDans(const fs::path &folder, const std::string &nom) {
     fs::directory_iterator entry(folder.empty() ? fs::path(".") : folder, error);
     while (!error && entry != fs::directory_iterator()) {
         std::error_code unknown;
-        if (SEcritComme(entry->path().filename().string(), nom) &&
-            entry->is_regular_file(unknown)) {
-            alike.push_back(entry->path().string());
+        if (SEcritComme(TextOf(entry->path().filename()), nom) && entry->is_regular_file(unknown)) {
+            alike.push_back(TextOf(entry->path()));
         }
         entry.increment(error);
     }
@@ -108,7 +109,7 @@ std::string SemblableDans(const fs::path &folder, const std::string &nom) {
 /// Whether a name is one of a file and no path.
 bool EstNomNu(const std::string &nom) {
     return !nom.empty() && nom != "." && nom != ".." && nom.find('\0') == std::string::npos &&
-           fs::path(nom).filename().string() == nom;
+           NameIn(nom) == nom;
 }
 
 } // namespace
@@ -120,7 +121,7 @@ std::string ChercheProfil(const std::vector<std::string> &dossiers, const std::s
     }
     Recherche search(nom, pause);
     for (const std::string &folder : dossiers) {
-        std::string path = search.Dans(folder);
+        std::string path = search.Dans(PathOf(folder));
         if (!path.empty()) {
             return path;
         }
@@ -129,15 +130,12 @@ std::string ChercheProfil(const std::vector<std::string> &dossiers, const std::s
 }
 
 std::string ProfilACote(const std::string &chemin_rib, const std::string &nom) {
-    const fs::path beside = fs::path(chemin_rib).parent_path() / nom;
-    std::error_code error;
+    const fs::path folder = PathOf(chemin_rib).parent_path();
+    std::string beside = TextOf(folder / PathOf(nom));
     if (!EstNomNu(nom)) {
         return {};
     }
-    if (fs::is_regular_file(beside, error)) {
-        return beside.string();
-    }
-    return SemblableDans(fs::path(chemin_rib).parent_path(), nom);
+    return IsPlainFile(beside) ? beside : SemblableDans(folder, nom);
 }
 
 } // namespace loftwing

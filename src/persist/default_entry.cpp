@@ -1,10 +1,9 @@
 #include "persist/default_entry.h"
 
+#include "base/file_name.h"
 #include "base/number_text.h"
 #include "features/inserted_text.h"
 #include "lang/ini_file.h"
-
-#include <filesystem>
 
 namespace loftwing {
 
@@ -196,8 +195,7 @@ void RangeDossierJeux(Repertoires &folders, const std::string &jeux, const std::
 }
 
 std::string ChoisitDossier(std::string shown, const Messages &messages) {
-    std::error_code error;
-    if (!std::filesystem::is_directory(shown, error)) {
+    if (!IsFolder(shown)) {
         shown.clear();
     }
     return messages.platform.ChooseFolder(messages.Text({"FrmDefaut", "16"}) + " :", shown);

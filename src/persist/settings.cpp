@@ -1,5 +1,7 @@
 #include "persist/settings.h"
 
+#include "base/disk.h"
+#include "base/file_name.h"
 #include "base/number_text.h"
 #include "core/units.h"
 #include "output/page_setup.h"
@@ -200,8 +202,7 @@ bool Lit(const Reglages &reglages, const std::vector<Table> &tables) {
 }
 
 bool FichierManque(const Reglages &reglages) {
-    std::error_code error;
-    return reglages.settings.fichier.perdu || !std::filesystem::exists(reglages.fichier, error);
+    return reglages.settings.fichier.perdu || !IsThere(reglages.fichier);
 }
 
 /// Chord, sheeting and the rest of a new program. They are in mm; in inches, which the file can
@@ -213,11 +214,6 @@ void DefautsInternes(const Reglages &reglages) {
     }
 }
 
-bool SameFolder(const std::string &one, const std::string &other) {
-    std::error_code error;
-    return std::filesystem::equivalent(one, other, error) && !error;
-}
-
 void Alerte(const Reglages &reglages, const std::string &folder) {
     const Messages &messages = reglages.messages;
     messages.Tell(" " + messages.Text({"FrmMainMessage", "2"}) + folder +
@@ -227,15 +223,14 @@ void Alerte(const Reglages &reglages, const std::string &folder) {
 
 void ControleDossiers(const Reglages &reglages, const std::string &programme) {
     const Repertoires &folders = reglages.settings.repertoires;
-    std::error_code error;
     for (const std::string &folder : {folders.RepProfil, folders.RepProfilevol}) {
-        if (!std::filesystem::exists(folder, error)) {
+        if (!IsThere(folder)) {
             Alerte(reglages, folder);
             return;
         }
     }
     for (const std::string &folder : {folders.RepProfil, folders.RepProfilevol}) {
-        if (SameFolder(folder, programme)) {
+        if (SamePlace(PathOf(folder), PathOf(programme))) {
             Alerte(reglages, "\\airfoils  \\...  ");
             return;
         }

@@ -1,18 +1,18 @@
 #include "platform/save_form.h"
 
 #include "base/failure.h"
+#include "base/file_name.h"
 #include "base/text_encoding.h"
 
 #include <algorithm>
-#include <filesystem>
 
 namespace loftwing {
 
 namespace {
 
 /// Without its point.
-std::string ExtensionOf(const std::string &path) {
-    const std::string extension = std::filesystem::path(path).extension().string();
+std::string TypedExtension(const std::string &path) {
+    const std::string extension = ExtensionOf(path);
     return extension.empty() ? extension : LowerAscii(extension.substr(1));
 }
 
@@ -20,7 +20,7 @@ std::string ExtensionOf(const std::string &path) {
 
 FormAnswer FormeVoulue(const std::string &path, int started, int chosen,
                        const std::vector<std::string> &extensions) {
-    const std::string typed = ExtensionOf(path);
+    const std::string typed = TypedExtension(path);
     const auto known = std::find(extensions.begin(), extensions.end(), typed);
     const std::string &wanted = At(extensions, chosen);
     if (path.empty() || typed == wanted) {

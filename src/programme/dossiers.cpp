@@ -1,5 +1,7 @@
 #include "programme/dossiers.h"
 
+#include "base/disk.h"
+#include "base/file_name.h"
 #include "lang/ini_file.h"
 #include "programme/reglage_retenu.h"
 
@@ -24,27 +26,27 @@ bool EstSous(const fs::path &place, const fs::path &folder) {
 
 std::string CheminEntier(const std::string &path) {
     std::error_code error;
-    const fs::path whole = fs::absolute(path, error);
-    return error ? path : whole.lexically_normal().string();
+    const fs::path whole = WholePath(PathOf(path), error);
+    return error ? path : TextOf(whole);
 }
 
 std::string DossierDe(const std::string &path) {
-    return fs::path(CheminEntier(path)).parent_path().string();
+    return FolderOf(CheminEntier(path));
 }
 
 std::string CheminVu(const std::string &fichier, const std::string &autre) {
-    const fs::path whole = CheminEntier(autre);
-    const fs::path near = whole.lexically_relative(DossierDe(fichier));
+    const fs::path whole = PathOf(CheminEntier(autre));
+    const fs::path near = whole.lexically_relative(PathOf(DossierDe(fichier)));
     const bool below = !near.empty() && *near.begin() != "..";
-    return (below ? near : whole).string();
+    return WithSlashes(TextOf(below ? near : whole));
 }
 
 bool EstDans(const std::string &path, const std::vector<std::string> &dossiers) {
     std::error_code error;
-    const fs::path place = fs::weakly_canonical(path, error);
+    const fs::path place = RealPlace(PathOf(path), error);
     return std::any_of(dossiers.begin(), dossiers.end(), [&](const std::string &folder) {
         std::error_code unknown;
-        const fs::path real = fs::canonical(folder, unknown);
+        const fs::path real = RealPath(PathOf(folder), unknown);
         return !unknown && EstSous(place, real);
     });
 }
@@ -56,7 +58,7 @@ std::string DossierRetenu(const Programme &programme, const char *key,
 }
 
 void RetientDossier(const Programme &programme, const char *key, const std::string &path) {
-    const std::string folder = fs::path(path).parent_path().string();
+    const std::string folder = FolderOf(path);
     if (IniFile::Keeps(folder)) {
         WriteINIFile(kSection, key, folder, programme.paths.fichier);
     }

@@ -1,5 +1,7 @@
 #include "programme/fichiers_ecrits_ici.h"
 
+#include "base/file_name.h"
+
 #include <system_error>
 
 namespace loftwing {
@@ -8,7 +10,7 @@ namespace {
 
 std::filesystem::file_time_type MomentDe(const std::string &path) {
     std::error_code unknown;
-    return std::filesystem::last_write_time(path, unknown);
+    return std::filesystem::last_write_time(PathOf(path), unknown);
 }
 
 } // namespace

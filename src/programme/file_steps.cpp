@@ -1,5 +1,6 @@
 #include "programme/file_steps.h"
 
+#include "base/file_name.h"
 #include "base/version.h"
 #include "base/whole_file.h"
 #include "core/airfoil_picker.h"
@@ -15,14 +16,11 @@
 #include "programme/rib_file.h"
 #include "programme/rib_steps.h"
 
-#include <filesystem>
 #include <sstream>
 
 namespace loftwing {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 /// What the choosers of rib components files have in common.
 FileQuestion QuestionComposants(const Programme &programme, const std::string &titre) {
@@ -189,8 +187,7 @@ void OuvreAutreUnite(Programme &programme, CommandView &view) {
 }
 
 void OuvreRibRecent(Programme &programme, CommandView &view, const std::string &path) {
-    std::error_code error;
-    if (fs::exists(path, error)) {
+    if (IsThere(path)) {
         OuvreFichier(programme, view, path);
     } else {
         programme.messages.Inform(programme.Text({"FrmMainMessage", "216"}) + "\n" + path,
@@ -229,7 +226,7 @@ void EnregistreRib(Programme &programme, CommandView &view) {
     }
     RetientDossier(programme, "LastOpenLfw", path);
     WriteWholeFile(path, EcritComposants(rib, programme.settings.Unite), Flush::yes);
-    rib.NomFichierRib = fs::path(path).filename().string();
+    rib.NomFichierRib = NameIn(path);
     rib.Modifie = false;
     rib.CheminRib = CheminEntier(path);
     NoteRib(programme, rib.CheminRib);

@@ -1,5 +1,6 @@
 #include "programme/import_steps.h"
 
+#include "base/file_name.h"
 #include "base/whole_file.h"
 #include "core/contour.h"
 #include "platform/busy_pointer.h"
@@ -7,13 +8,9 @@
 #include "programme/import_words.h"
 #include "programme/rib_steps.h"
 
-#include <filesystem>
-
 namespace loftwing {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 /// The folder of the airfoils: the one in which an airfoil was opened last, or the library's.
 std::string DossierProfils(const Programme &programme) {
@@ -106,12 +103,12 @@ std::string EnregistreImport(const Programme &programme, const std::string &path
     FileQuestion question;
     question.title = programme.Text({"Import", "41"});
     question.folder = DossierProfils(programme);
-    question.name = fs::path(path).stem().string() + ".dat";
+    question.name = StemOf(path) + ".dat";
     question.filter_text = programme.Text({"MainTolbar", "26"}) + " (*.dat)";
     question.default_extension = "dat";
     std::string saved = programme.platform.ChooseSaveFile(question);
     if (!saved.empty()) {
-        WriteWholeFile(saved, AirfoilFile(airfoil, fs::path(saved).stem().string()), Flush::yes);
+        WriteWholeFile(saved, AirfoilFile(airfoil, StemOf(saved)), Flush::yes);
     }
     return saved;
 }

@@ -1,5 +1,6 @@
 #include "programme/library_setup.h"
 
+#include "base/file_name.h"
 #include "base/number_text.h"
 #include "base/text_encoding.h"
 #include "base/version.h"
@@ -20,23 +21,19 @@ constexpr const char *kMotsQuestion = " \"Open Pack Sections\" Foilpack.exe ";
 constexpr int kAssezCherche = 20000; // files that are looked at for an airfoil
 
 std::string CheminArchive(const std::string &dossier) {
-    std::string path(Trim(dossier));
-    if (!path.ends_with('/')) {
-        path += '/';
-    }
-    return path + kArchive;
+    return WithSeparator(std::string(Trim(dossier))) + kArchive;
 }
 
 /// The archive at `path`, in whatever letters its name is written; empty when it isn't there.
 std::string ArchiveLa(const std::string &path) {
     std::error_code error;
-    const fs::path folder = fs::path(path).parent_path();
+    const fs::path folder = PathOf(path).parent_path();
     for (fs::directory_iterator each(folder, error), end; !error && each != end;
          each.increment(error)) {
         std::error_code unknown;
-        if (LowerAscii(each->path().filename().string()) == kArchive &&
+        if (LowerAscii(TextOf(each->path().filename())) == kArchive &&
             each->is_regular_file(unknown)) {
-            return each->path().string();
+            return TextOf(each->path());
         }
     }
     return {};
@@ -103,10 +100,10 @@ bool SansProfil(const std::string &dossier) {
     std::error_code error;
     int seen = 0;
     for (fs::recursive_directory_iterator
-             each(dossier, fs::directory_options::skip_permission_denied, error),
+             each(PathOf(dossier), fs::directory_options::skip_permission_denied, error),
          end;
          !error && each != end && seen < kAssezCherche; each.increment(error), ++seen) {
-        const std::string extension = LowerAscii(each->path().extension().string());
+        const std::string extension = LowerAscii(TextOf(each->path().extension()));
         if (std::find(kProfils.begin(), kProfils.end(), extension) != kProfils.end()) {
             return false;
         }

@@ -1,11 +1,10 @@
 #include "programme/panel_ends.h"
 
+#include "base/file_name.h"
 #include "base/version.h"
 #include "platform/busy_pointer.h"
 #include "programme/dossiers.h"
 #include "programme/rib_file.h"
-
-#include <filesystem>
 
 namespace loftwing {
 
@@ -43,8 +42,7 @@ bool RibDeFenetre(const RibModel &rib) {
 }
 
 std::string NomDuBout(const PartiesRib &bout) {
-    return bout.CheminRib.empty() ? bout.NomProfil
-                                  : std::filesystem::path(bout.CheminRib).filename().string();
+    return bout.CheminRib.empty() ? bout.NomProfil : NameIn(bout.CheminRib);
 }
 
 } // namespace loftwing

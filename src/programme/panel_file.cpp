@@ -1,18 +1,16 @@
 #include "programme/panel_file.h"
 
+#include "base/file_name.h"
 #include "base/number_text.h"
 #include "base/text_encoding.h"
 #include "lang/ini_file.h"
 #include "programme/dossiers.h"
 
 #include <charconv>
-#include <filesystem>
 
 namespace loftwing {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 constexpr const char *kSectionPanneau = "Panel";
 constexpr const char *kSectionPortees = "Ranges";
@@ -70,7 +68,7 @@ void LitPortees(const IniFile &file, const std::string &path, PorteesPanneau &ra
 } // namespace
 
 bool EstPanneau(const std::string &path) {
-    return LowerAscii(fs::path(path).extension().string()) == ".lfp";
+    return LowerAscii(ExtensionOf(path)) == ".lfp";
 }
 
 std::string TextePortee(const PorteePanneau &portee) {
@@ -88,8 +86,7 @@ std::optional<PorteePanneau> PorteeLue(const std::string &texte) {
 }
 
 FichierPanneau LitPanneau(const std::string &path) {
-    std::error_code unknown;
-    if (!fs::exists(path, unknown)) {
+    if (!IsThere(path)) {
         throw MakeFailure(kFileNotFound, path);
     }
     const IniFile file = IniFile::Read(path);
@@ -101,7 +98,7 @@ FichierPanneau LitPanneau(const std::string &path) {
         if (rib.empty()) {
             Refuse(path, ends[end]);
         }
-        read.bouts[end] = (fs::path(path).parent_path() / rib).string();
+        read.bouts[end] = TextOf(SeenFrom(PathOf(path).parent_path(), PathOf(rib)));
     }
     read.unite = value("Unit");
     if (read.unite != "mm" && read.unite != "in") {

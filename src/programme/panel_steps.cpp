@@ -1,5 +1,6 @@
 #include "programme/panel_steps.h"
 
+#include "base/file_name.h"
 #include "core/airfoil_reader.h"
 #include "core/contour.h"
 #include "core/stations.h"
@@ -12,7 +13,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <filesystem>
 #include <numeric>
 
 namespace loftwing {
@@ -336,8 +336,7 @@ FichiersEcrits FichiersDejaLa(const std::vector<std::string> &paths,
                               const FichiersEcritsIci &ecrits) {
     FichiersEcrits there;
     for (const std::string &path : paths) {
-        std::error_code unknown;
-        if (!ecrits.Intact(path) && std::filesystem::exists(path, unknown)) {
+        if (!ecrits.Intact(path) && IsThere(path)) {
             there.insert(path);
         }
     }

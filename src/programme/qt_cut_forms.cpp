@@ -1,17 +1,15 @@
 #include "programme/qt_cut_forms.h"
 
+#include "base/file_name.h"
 #include "base/text_encoding.h"
 #include "output/qt_cut_pdf.h"
 #include "output/view_screen.h"
 
 #include <algorithm>
-#include <filesystem>
 
 namespace loftwing {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 ReglageDecoupe ReglageDe(const Programme &programme, AnneauxDxf anneaux) {
     return {CouleursDe(programme.settings), programme.settings.Unite, anneaux};
@@ -19,13 +17,11 @@ ReglageDecoupe ReglageDe(const Programme &programme, AnneauxDxf anneaux) {
 
 /// "rib" of the first sheet is "rib-1"; sheet 0 is all of them.
 std::string TitreDe(const std::string &path, std::size_t sheet) {
-    return fs::path(path).stem().string() + (sheet == 0 ? "" : "-" + std::to_string(sheet));
+    return StemOf(path) + (sheet == 0 ? "" : "-" + std::to_string(sheet));
 }
 
 std::string Numerote(const std::string &path, std::size_t sheet) {
-    return (fs::path(path).parent_path() /
-            (TitreDe(path, sheet) + fs::path(path).extension().string()))
-        .string();
+    return TextOf(PathOf(path).parent_path() / PathOf(TitreDe(path, sheet) + ExtensionOf(path)));
 }
 
 DessinDecoupe DessinDe(const Planche &planche, const std::string &titre) {

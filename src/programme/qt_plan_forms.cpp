@@ -1,5 +1,6 @@
 #include "programme/qt_plan_forms.h"
 
+#include "base/file_name.h"
 #include "base/text_encoding.h"
 #include "output/plan_feuilles.h"
 #include "output/plan_formes.h"
@@ -9,14 +10,13 @@
 #include "programme/plan_papier.h"
 
 #include <algorithm>
-#include <filesystem>
 
 namespace loftwing {
 
 namespace {
 
 std::string Extension(const std::string &path) {
-    const std::string extension = std::filesystem::path(path).extension().string();
+    const std::string extension = ExtensionOf(path);
     return LowerAscii(extension.substr(std::min<std::size_t>(extension.size(), 1)));
 }
 

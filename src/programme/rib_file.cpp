@@ -1,5 +1,6 @@
 #include "programme/rib_file.h"
 
+#include "base/file_name.h"
 #include "base/text_encoding.h"
 #include "base/version.h"
 #include "base/whole_file.h"
@@ -9,13 +10,10 @@
 #include "programme/dossiers.h"
 
 #include <algorithm>
-#include <filesystem>
 
 namespace loftwing {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 void Rapporte(const Programme &programme, const Failure &failure) {
     const Messages &messages = programme.messages;
@@ -88,7 +86,7 @@ std::string CheminDuProfil(const Programme &programme, const DemandeComposants &
 }
 
 void NoteFichier(RibModel &rib, const std::string &path) {
-    rib.NomFichierRib = fs::path(path).filename().string();
+    rib.NomFichierRib = NameIn(path);
     rib.FichierRibOuvert = true;
     rib.Modifie = false;
     rib.CheminRib = CheminEntier(path);
@@ -125,7 +123,7 @@ OuvertureComposants LitProfil(Programme &programme, const DemandeComposants &dem
         return OuvertureComposants::sans_profil;
     }
     NoteOuvert(rib, demande.path, programme.messages);
-    if (fs::path(rib.CheminProfil).filename() != name) {
+    if (NameIn(rib.CheminProfil) != name) {
         PrendNom(rib, programme.messages);
     }
     return OuvertureComposants::ouverte;
@@ -134,7 +132,7 @@ OuvertureComposants LitProfil(Programme &programme, const DemandeComposants &dem
 } // namespace
 
 bool EstComposants(const std::string &path) {
-    return LowerAscii(fs::path(path).extension().string()) == ".lfw";
+    return LowerAscii(ExtensionOf(path)) == ".lfw";
 }
 
 OuvertureComposants OuvreComposants(Programme &programme, const DemandeComposants &demande) {

@@ -1,6 +1,7 @@
 #include "programme/secours.h"
 
 #include "base/failure.h"
+#include "base/file_name.h"
 #include "base/whole_file.h"
 
 #include <algorithm>
@@ -38,26 +39,21 @@ std::string NomUnique() {
 /// The folder is the user's alone: nobody else is to read what isn't finished.
 bool FaitDossier(const std::string &dossier) {
     std::error_code error;
-    if (fs::create_directories(dossier, error)) {
-        fs::permissions(dossier, fs::perms::owner_all, error);
+    if (fs::create_directories(PathOf(dossier), error)) {
+        fs::permissions(PathOf(dossier), fs::perms::owner_all, error);
     }
-    return !error && fs::is_directory(dossier, error);
-}
-
-bool Existe(const fs::path &path) {
-    std::error_code error;
-    return fs::exists(path, error);
+    return !error && IsFolder(dossier);
 }
 
 void Enleve(const std::string &path) {
     std::error_code ignored;
-    fs::remove(path, ignored);
+    fs::remove(PathOf(path), ignored);
 }
 
 std::vector<fs::path> Fichiers(const std::string &dossier) {
     std::vector<fs::path> files;
     std::error_code error;
-    for (fs::directory_iterator each(dossier, error), end; !error && each != end;
+    for (fs::directory_iterator each(PathOf(dossier), error), end; !error && each != end;
          each.increment(error)) {
         files.push_back(each->path());
     }
@@ -96,7 +92,7 @@ Lecture LitOrphelin(Orphelin &orphelin) {
 
 /// Makes name, lock and folder where they aren't there, or not any more.
 bool Secours::Tient() {
-    if (verrou_ && Existe(VerrouDe(chemin_))) {
+    if (verrou_ && IsThere(VerrouDe(chemin_))) {
         return true;
     }
     verrou_.reset();
@@ -104,7 +100,7 @@ bool Secours::Tient() {
     if (!FaitDossier(dossier_)) {
         return false;
     }
-    chemin_ = (fs::path(dossier_) / (NomUnique() + kInstantane)).string();
+    chemin_ = TextOf(PathOf(dossier_) / (NomUnique() + kInstantane));
     verrou_ = platform_.LockFile(VerrouDe(chemin_));
     return verrou_ != nullptr;
 }
@@ -114,7 +110,7 @@ void Secours::Ecrit(const PartiesRib &parties, const std::string &Unite) {
         return;
     }
     std::string bytes = EcritInstantane(parties, Unite);
-    if (Tient() && bytes == ecrit_ && Existe(chemin_)) {
+    if (Tient() && bytes == ecrit_ && IsThere(chemin_)) {
         echoue_ = false;
         return;
     }
@@ -139,17 +135,17 @@ SecoursTrouves Secours::Cherche() {
         return found;
     }
     for (const fs::path &path : Fichiers(dossier_)) {
-        if (path.extension() == kVerrou && !Existe(fs::path(path).replace_extension())) {
-            platform_.LockFile(path.string()); // one that nobody holds goes with this
+        if (path.extension() == kVerrou && !IsThere(TextOf(fs::path(path).replace_extension()))) {
+            platform_.LockFile(TextOf(path)); // one that nobody holds goes with this
         }
         if (MoitieAbandonnee(path)) {
-            Enleve(path.string());
+            Enleve(TextOf(path));
         }
         if (path.extension() != kInstantane) {
             continue;
         }
-        Orphelin orphelin{path.string(), platform_.LockFile(VerrouDe(path.string())), {}};
-        if (!orphelin.verrou || !Existe(path)) {
+        Orphelin orphelin{TextOf(path), platform_.LockFile(VerrouDe(TextOf(path))), {}};
+        if (!orphelin.verrou || !IsThere(TextOf(path))) {
             continue; // its window lives, or has just taken it away
         }
         const Lecture read = LitOrphelin(orphelin);
@@ -160,7 +156,7 @@ SecoursTrouves Secours::Cherche() {
         }
     }
     std::sort(found.ribs.begin(), found.ribs.end(), [](const Orphelin &a, const Orphelin &b) {
-        return Ecriture(a.chemin) > Ecriture(b.chemin);
+        return Ecriture(PathOf(a.chemin)) > Ecriture(PathOf(b.chemin));
     });
     return found;
 }
@@ -178,7 +174,7 @@ void Supprime(Orphelin orphelin) {
 std::string MetDeCote(Orphelin orphelin) {
     const std::string aside = orphelin.chemin + kAbime;
     std::error_code error;
-    fs::rename(orphelin.chemin, aside, error);
+    fs::rename(PathOf(orphelin.chemin), PathOf(aside), error);
     return error ? orphelin.chemin : aside;
 }
 

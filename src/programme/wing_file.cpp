@@ -1,6 +1,7 @@
 #include "programme/wing_file.h"
 
 #include "base/failure.h"
+#include "base/file_name.h"
 #include "base/number_text.h"
 #include "base/text_encoding.h"
 #include "lang/ini_file.h"
@@ -8,15 +9,12 @@
 #include "programme/longueur_lue.h"
 #include "programme/wing_steps.h"
 
-#include <filesystem>
 #include <map>
 #include <optional>
 
 namespace loftwing {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 constexpr const char *kSection = "Wing";
 constexpr const char *kPremiere = "First";
@@ -55,12 +53,11 @@ std::map<int, std::string> PanneauxDe(const IniFile &file) {
 } // namespace
 
 bool EstAile(const std::string &path) {
-    return LowerAscii(fs::path(path).extension().string()) == ".lfa";
+    return LowerAscii(ExtensionOf(path)) == ".lfa";
 }
 
 FichierAile LitAile(const std::string &path) {
-    std::error_code unknown;
-    if (!fs::exists(path, unknown)) {
+    if (!IsThere(path)) {
         throw MakeFailure(kFileNotFound, path);
     }
     const IniFile file = IniFile::Read(path);
@@ -78,7 +75,7 @@ FichierAile LitAile(const std::string &path) {
         if (number != expected || read.panneaux.size() == kPanneauxMaxi) {
             Refuse(path, Cle(expected)); // one is missing, or there are too many
         }
-        read.panneaux.push_back((fs::path(path).parent_path() / panel).string());
+        read.panneaux.push_back(TextOf(SeenFrom(PathOf(path).parent_path(), PathOf(panel))));
         ++expected;
     }
     if (read.panneaux.empty()) {

@@ -1,5 +1,6 @@
 #include "programme/wing_steps.h"
 
+#include "base/file_name.h"
 #include "base/number_text.h"
 #include "base/text_encoding.h"
 #include "programme/panel_typed.h"
@@ -7,13 +8,10 @@
 #include "programme/plan_cotes.h"
 
 #include <cmath>
-#include <filesystem>
 
 namespace loftwing {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 class Assemblage {
   public:
@@ -30,7 +28,7 @@ class Assemblage {
     std::string Mot(LngKey key) const { return programme_.Text(key); }
     /// Notes why a file is no panel of the wing.
     void Refuse(const std::string &path, const std::string &why) {
-        fait.refus.push_back(ToUtf8(fs::path(path).filename().string()) + ": " + why);
+        fait.refus.push_back(ToUtf8(NameIn(path)) + ": " + why);
     }
     bool Lit(PanneauDeFichier &panel);
     bool LitBouts(PanneauDeFichier &panel);
@@ -79,12 +77,12 @@ bool Assemblage::LitBouts(PanneauDeFichier &panel) {
 void Assemblage::Fait(PanneauDeFichier &panel, const ReglageAile &reglage, int premier) {
     const Messages &messages = programme_.messages;
     panel.panneau.portees = panel.fichier.portees;
-    panel.panneau.jeu = JeuDe(panel.fichier, fs::path(panel.chemin).parent_path().string());
+    panel.panneau.jeu = JeuDe(panel.fichier, FolderOf(panel.chemin));
     panel.panneau.jeu.cordes = CordesDesBouts(panel.panneau, programme_.settings.Unite);
     DemandePanneau demande;
     demande.premier = premier;
     panel.fait = FaitPanneau(programme_, panel.panneau, demande);
-    const std::string name = ToUtf8(fs::path(panel.chemin).filename().string()) + ": ";
+    const std::string name = ToUtf8(NameIn(panel.chemin)) + ": ";
     for (const AvisPanneau &each : panel.fait.refus) {
         fait.refus.push_back(name + LigneEnMots(messages, panel.panneau, each));
     }
@@ -94,10 +92,9 @@ void Assemblage::Fait(PanneauDeFichier &panel, const ReglageAile &reglage, int p
     if (!panel.fait.refus.empty()) {
         return;
     }
-    const auto refused = AjoutePanneau(fait.aile,
-                                       {ToUtf8(fs::path(panel.chemin).stem().string()),
-                                        panel.panneau, panel.fait, premier, reglage},
-                                       programme_.SaisieEnCours());
+    const auto refused = AjoutePanneau(
+        fait.aile, {ToUtf8(StemOf(panel.chemin)), panel.panneau, panel.fait, premier, reglage},
+        programme_.SaisieEnCours());
     if (refused) {
         Refuse(panel.chemin, TexteRefusAile(messages, *refused));
         return;

@@ -1,13 +1,13 @@
 #include "utilities/coord.h"
 
 #include "base/failure.h"
+#include "base/file_name.h"
 #include "base/number_text.h"
 #include "base/text_encoding.h"
 #include "base/whole_file.h"
 #include "utilities/tool_files.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <limits>
 
 namespace loftwing {
@@ -48,11 +48,11 @@ std::int16_t CompteLignes(std::size_t count) {
 }
 
 std::string NomPropose(const std::string &nom) {
-    return nom + ".dat";
+    return AsFileName(nom + ".dat");
 }
 
 std::string NomDuFichier(const std::string &path) {
-    return std::filesystem::path(path).stem().string();
+    return StemOf(path);
 }
 
 std::string QuestionInsertion(const Messages &messages) {

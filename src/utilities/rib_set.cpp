@@ -1,5 +1,6 @@
 #include "utilities/rib_set.h"
 
+#include "base/file_name.h"
 #include "base/text_encoding.h"
 #include "utilities/tool_files.h"
 
@@ -184,13 +185,13 @@ CourbesJeu CalculProfils(const ProfilJeu &major, const ProfilJeu &minor) {
 }
 
 std::string NomNervure(const JeuDeNervures &jeu, int number, const Messages &messages) {
-    return Noms(jeu) + FirstCharacters(MotNervure(messages), 1) + Numero(number) +
-           (EnPouces(jeu) ? "in.dat" : ".dat");
+    return AsFileName(Noms(jeu) + FirstCharacters(MotNervure(messages), 1) + Numero(number) +
+                      (EnPouces(jeu) ? "in.dat" : ".dat"));
 }
 
 std::string NomResume(const JeuDeNervures &jeu) {
-    return Noms(jeu) + "_" + NumberText(jeu.CordeMax) + "_" + NumberText(jeu.CordeMin) + "_" +
-           std::to_string(Nombre(jeu)) + ".txt";
+    return AsFileName(Noms(jeu) + "_" + NumberText(jeu.CordeMax) + "_" + NumberText(jeu.CordeMin) +
+                      "_" + std::to_string(Nombre(jeu)) + ".txt");
 }
 
 std::vector<std::string> TextesNervures(const JeuDeNervures &jeu, const Messages &messages) {

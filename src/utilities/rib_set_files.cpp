@@ -1,6 +1,6 @@
 #include "utilities/rib_set_files.h"
 
-#include <filesystem>
+#include "base/file_name.h"
 
 namespace loftwing {
 
@@ -23,23 +23,21 @@ FichiersEcrits FichiersRemplaces(const JeuDeNervures &jeu, const FichiersEcrits 
                                  const Messages &messages) {
     FichiersEcrits replaced = FichiersDuJeu(jeu, messages);
     std::erase_if(replaced, [&ecrits](const std::string &path) {
-        std::error_code error;
-        return ecrits.contains(path) || !std::filesystem::is_regular_file(path, error);
+        return ecrits.contains(path) || !IsPlainFile(path);
     });
     return replaced;
 }
 
 std::string TexteRemplacement(const FichiersEcrits &files, const Messages &messages) {
-    namespace fs = std::filesystem;
-    std::string text = messages.Text({"FrmRibevol", "140"}) + "\n" +
-                       fs::path(*files.begin()).parent_path().string() + "\n\n";
+    std::string text =
+        messages.Text({"FrmRibevol", "140"}) + "\n" + FolderOf(*files.begin()) + "\n\n";
     int named = 0;
     for (const std::string &path : files) {
         if (named == kNommes) {
             text += "... (" + std::to_string(files.size()) + ")\n";
             break;
         }
-        text += fs::path(path).filename().string() + "\n";
+        text += NameIn(path) + "\n";
         ++named;
     }
     return text + "\n" + messages.Text({"FrmRibevol", "141"});

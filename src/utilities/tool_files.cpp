@@ -1,5 +1,6 @@
 #include "utilities/tool_files.h"
 
+#include "base/file_name.h"
 #include "base/number_text.h"
 #include "base/version.h"
 
@@ -8,8 +9,8 @@
 namespace loftwing {
 
 void TermineDossier(std::string &RepProfilevol) {
-    if (!Trim(RepProfilevol).ends_with('/')) {
-        RepProfilevol += '/';
+    if (!EndsInSeparator(Trim(RepProfilevol))) {
+        RepProfilevol = WithSeparator(RepProfilevol);
     }
 }
 
@@ -31,7 +32,7 @@ std::string TexteDeLignes(const std::vector<std::string> &lignes) {
 
 std::string NomDeFichier(std::string text) {
     std::replace(text.begin(), text.end(), '/', '-');
-    return text;
+    return AsFileName(std::move(text));
 }
 
 void EcritFichier(const std::string &path, const std::string &text, Flush flush) {

@@ -1,10 +1,9 @@
 #include "core/airfoil_picker.h"
 
+#include "support/special_files.h"
 #include "support/words.h"
 
 #include <gtest/gtest.h>
-
-#include <unistd.h>
 
 namespace loftwing {
 namespace {
@@ -76,9 +75,11 @@ TEST(AirfoilPicker, ListsFoldersAndFilesOfThePatternSorted) {
 TEST(AirfoilPicker, LinksCountAsWhatTheyLeadTo) {
     const TempFolder folder;
     fs::create_directory(folder.Path("real"));
-    fs::create_symlink(folder.File("a.dat", ""), folder.Path("link.dat"));
-    fs::create_symlink(folder.Path("real"), folder.Path("link"));
-    fs::create_symlink(folder.Path("gone"), folder.Path("broken.dat"));
+    if (!MakeLink(folder.File("a.dat", ""), folder.Path("link.dat"))) {
+        GTEST_SKIP() << "this system has no links for everybody";
+    }
+    ASSERT_TRUE(MakeLink(folder.Path("real"), folder.Path("link")));
+    ASSERT_TRUE(MakeLink(folder.Path("gone"), folder.Path("broken.dat")));
     const ContenuDossier contenu = LitDossier(folder.Path(), "*.dat");
     EXPECT_EQ(contenu.dossiers, (Names{"link", "real"}));
     EXPECT_EQ(contenu.fichiers, (Names{"a.dat", "link.dat"}));
@@ -101,8 +102,8 @@ TEST(AirfoilPicker, WhatIsNoFolderCannotBeListed) {
 }
 
 TEST(AirfoilPicker, FolderWithoutPermissionCannotBeListed) {
-    if (geteuid() == 0) {
-        GTEST_SKIP() << "nothing is forbidden to the superuser";
+    if (!FoldersCanBeClosed()) {
+        GTEST_SKIP() << "no folder can be closed to this user";
     }
     const TempFolder folder;
     fs::create_directory(folder.Path("closed"));
@@ -117,7 +118,7 @@ TEST(AirfoilPicker, OpensOnTheLastFolderElseOnTheCurrentOne) {
     EXPECT_EQ(DossierDepart(folder.Path()), folder.Path());
     EXPECT_EQ(DossierDepart(folder.Path() + "/"), folder.Path());
     EXPECT_EQ(DossierDepart(folder.Path("x/..")), folder.Path());
-    EXPECT_EQ(DossierDepart("/"), "/");
+    EXPECT_EQ(DossierDepart("/"), FromRoot(""));
     const std::string current = fs::current_path().string();
     EXPECT_EQ(DossierDepart(folder.Path("gone")), current);
     EXPECT_EQ(DossierDepart(""), current);

@@ -1,10 +1,9 @@
 #include "core/airfoil_reader.h"
 
+#include "support/special_files.h"
 #include "support/words.h"
 
 #include <gmock/gmock.h>
-
-#include <sys/stat.h>
 
 namespace loftwing {
 namespace {
@@ -383,7 +382,9 @@ TEST_F(Reader, ReportsAFolderInPlaceOfAFile) {
 
 TEST_F(Reader, ReportsAPipeAndDoesNotWaitForIt) {
     rib.CheminProfil = words.folder.Path("pipe");
-    ASSERT_EQ(mkfifo(rib.CheminProfil.c_str(), 0600), 0);
+    if (!MakePipe(rib.CheminProfil)) {
+        GTEST_SKIP() << "no pipes among the files of this system";
+    }
     words.platform.Expect(BoxAnswer::ok);
     Failed(ReadPath(), "Error # 75 in Loftwing\nPath/file access error: ");
 }

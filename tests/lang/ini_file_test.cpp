@@ -271,7 +271,9 @@ TEST(WriteINIFile, ReplacesTheFileAsAWhole) {
 TEST(WriteINIFile, LeavesAFileAloneThatSaysSoAlready) {
     const TempFolder folder;
     const std::string path = folder.File("x.ini", "[s]\r\na=1\r\n");
-    const auto long_ago = fs::file_time_type::clock::now() - std::chrono::hours(1);
+    // Not every library tells parts of a second.
+    const auto long_ago = std::chrono::floor<std::chrono::seconds>(
+        fs::file_time_type::clock::now() - std::chrono::hours(1));
     fs::last_write_time(path, long_ago);
     EXPECT_TRUE(WriteINIFile("s", "a", "1", path));
     EXPECT_EQ(fs::last_write_time(path), long_ago);

@@ -132,7 +132,7 @@ class StackOfRibs : public testing::Test {
         return lines;
     }
     /// How many lines of the sheet are the long or the short arm of a check line of that length.
-    static long Arms(const StackOps &sheet, double length) {
+    static std::ptrdiff_t Arms(const StackOps &sheet, double length) {
         const auto lines = StackLinesOf(sheet);
         return std::count_if(lines.begin(), lines.end(), [&](const StackLine &line) {
             const bool straight =

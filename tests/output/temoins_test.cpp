@@ -114,12 +114,12 @@ class CheckLines : public testing::Test {
         }
     }
     /// How many lines a sheet has behind the first `from` operations.
-    static long Lines(const std::vector<Operation> &operations, std::size_t from = 0) {
+    static std::ptrdiff_t Lines(const std::vector<Operation> &operations, std::size_t from = 0) {
         return std::count_if(
             operations.begin() + static_cast<std::ptrdiff_t>(from), operations.end(),
             [](const Operation &each) { return std::holds_alternative<DrawnSegment>(each); });
     }
-    static long Added(const Sheets &with, const Sheets &without, std::size_t sheet) {
+    static std::ptrdiff_t Added(const Sheets &with, const Sheets &without, std::size_t sheet) {
         return Lines(with.at(sheet), without.at(sheet).size());
     }
     static constexpr long kLines = 22; ///< two arms with ten ticks each

@@ -2,6 +2,8 @@
 
 #include "persist/LireEcrire.h"
 
+#include "base/file_name.h"
+#include "support/special_files.h"
 #include "support/temp_folder.h"
 
 #include <gtest/gtest.h>
@@ -63,6 +65,9 @@ TEST_F(AirfoilSearch, NothingIsFoundWhereNothingIs) {
 }
 
 TEST_F(AirfoilSearch, AFileIsFoundUnderTheNameThatARibFileCanHold) {
+    if (RulesHere() == NameRules::letters) {
+        GTEST_SKIP() << "no name has a line end here";
+    }
     const std::string broken = Put("one/a/line\nend.dat");
     EXPECT_EQ(Search({"one"}, "line end.dat"), broken);
     EXPECT_EQ(ProfilACote(folder.Path("one/a/rib.lfw"), "line end.dat"), broken);
@@ -88,8 +93,10 @@ TEST_F(AirfoilSearch, NameIsNeverAPath) {
 
 TEST_F(AirfoilSearch, LinksDoNotLeadInACircle) {
     const std::string file = Put("one/a/e205.dat");
-    std::filesystem::create_directory_symlink(folder.Path("one"), folder.Path("one/a/back"));
-    std::filesystem::create_directory_symlink(folder.Path("one/a"), folder.Path("one/b"));
+    if (!MakeLink(folder.Path("one"), folder.Path("one/a/back"))) {
+        GTEST_SKIP() << "this system has no links for everybody";
+    }
+    ASSERT_TRUE(MakeLink(folder.Path("one/a"), folder.Path("one/b")));
     EXPECT_EQ(Search({"one"}, "e205.dat"), file);
     EXPECT_EQ(pauses, 2);
 }

@@ -196,7 +196,7 @@ TEST_F(Settings, WritersLeaveWhatOthersWrote) {
     EXPECT_EQ(GetINIFile("Repertoires", "Install", fichier), "1");
     EXPECT_EQ(GetINIFile("Repertoires", "RepDxf", fichier), "/dxf");
     EXPECT_EQ(GetINIFile("Language", "Langue", fichier), "French");
-    std::ifstream file(fichier);
+    std::ifstream file(fichier, std::ios::binary);
     std::string first;
     std::getline(file, first);
     EXPECT_EQ(first, "; mine\r");

@@ -1,5 +1,6 @@
 #include "programme/library_setup.h"
 
+#include "support/special_files.h"
 #include "support/steps_world.h"
 
 namespace loftwing {
@@ -117,7 +118,9 @@ TEST_F(LibrarySetup, AFolderWithoutAnAirfoilInAnyFolderBelowHasNone) {
 
 TEST_F(LibrarySetup, AFolderThatLeadsBackToItselfIsNoHang) {
     std::filesystem::create_directories(folder.Path("loop"));
-    std::filesystem::create_directory_symlink(folder.Path("loop"), folder.Path("loop/again"));
+    if (!MakeLink(folder.Path("loop"), folder.Path("loop/again"))) {
+        GTEST_SKIP() << "this system has no links for everybody";
+    }
     EXPECT_TRUE(SansProfil(folder.Path("loop")));
 }
 

@@ -1,5 +1,6 @@
 #include "programme/notices.h"
 
+#include "support/special_files.h"
 #include "support/steps_world.h"
 
 namespace loftwing {
@@ -93,13 +94,14 @@ TEST_F(NoticesTest, MarginsThatAreNotInForceAreOfferedToBeConfirmed) {
 TEST_F(NoticesTest, ARibThatWasSavedApartFromItsAirfoilSaysWhereThatWillBeSearched) {
     Rib().NomProfil = "mine";
     Rib().ExtProfil = "dat";
-    Rib().CheminRib = "/ribs/root.lfw";
+    Rib().CheminRib = FromRoot("ribs/root.lfw");
     Rib().ProfilAilleurs = true;
     ASSERT_THAT(Subjects(), ElementsAre(NoticeSubject::airfoil_elsewhere));
     EXPECT_EQ(Standing().front().text,
               "mine.dat lies in neither airfoil folder. When this rib is opened, it is looked for "
               "below " +
-                  folder.Path("airfoils") + " and " + folder.Path("sets") + ", then in /ribs.");
+                  folder.Path("airfoils") + " and " + folder.Path("sets") + ", then in " +
+                  FromRoot("ribs") + ".");
     EXPECT_THAT(Standing().front().buttons, IsEmpty());
     HaveHeel(); // and several stand side by side
     EXPECT_THAT(Subjects(),

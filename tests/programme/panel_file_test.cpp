@@ -1,6 +1,8 @@
 #include "programme/panel_file.h"
 
 #include "base/failure.h"
+#include "base/file_name.h"
+#include "support/special_files.h"
 #include "support/temp_folder.h"
 
 #include <gmock/gmock.h>
@@ -51,7 +53,7 @@ TEST_F(PanelFile, WhatIsWrittenIsRead) {
 
 TEST_F(PanelFile, RibsMayHaveNamesOfEveryKind) {
     FichierPanneau wing = Wing();
-    wing.bouts = {folder.Path(" lead, =[x];.lfw"), "/" + std::string(240, 'd') + "/\"tip.lfw"};
+    wing.bouts = {folder.Path(" lead, =[x];.lfw"), FromRoot(std::string(240, 'd') + "/\"tip.lfw")};
     EnregistrePanneau(folder.Path("wing.lfp"), wing);
     FichierPanneau read = LitPanneau(folder.Path("wing.lfp"));
     EXPECT_TRUE(std::filesystem::path(read.bouts[0]).lexically_normal() == wing.bouts[0])
@@ -76,10 +78,10 @@ TEST_F(PanelFile, IsNotWrittenWhereARibCannotBeNamedInIt) {
 
 TEST_F(PanelFile, RibsBelowItsFolderMoveWithIt) {
     FichierPanneau wing = Wing();
-    wing.bouts[0] = "/elsewhere/root.lfw";
+    wing.bouts[0] = FromRoot("elsewhere/root.lfw");
     EnregistrePanneau(folder.Path("wing.lfp"), wing);
     EXPECT_THAT(folder.Bytes("wing.lfp"), HasSubstr("Tip=ribs/tip.lfw\r\n"));
-    EXPECT_THAT(folder.Bytes("wing.lfp"), HasSubstr("Root=/elsewhere/root.lfw\r\n"));
+    EXPECT_THAT(folder.Bytes("wing.lfp"), HasSubstr("Root=" + WithSlashes(wing.bouts[0]) + "\r\n"));
     folder.File("moved.lfp", folder.Bytes("wing.lfp"));
     EXPECT_EQ(LitPanneau(folder.Path("moved.lfp")).bouts, wing.bouts);
 }
@@ -88,7 +90,7 @@ TEST_F(PanelFile, AFileInTheCurrentFolderNamesRibsBesideIt) {
     const std::filesystem::path before = std::filesystem::current_path();
     std::filesystem::current_path(folder.Path(""));
     FichierPanneau wing = Wing();
-    wing.bouts = {"root.lfw", "ribs/tip.lfw"};
+    wing.bouts = {"root.lfw", std::filesystem::path("ribs/tip.lfw").make_preferred().string()};
     EnregistrePanneau("here.lfp", wing);
     EXPECT_EQ(LitPanneau("here.lfp"), wing);
     std::filesystem::current_path(before);

@@ -23,7 +23,7 @@ class PanelNaive : public PanelOfChance {
         const Saisie typing = programme.SaisieEnCours();
         const std::array<std::string, 2> names = {"a", "b"};
         const std::array<std::string, 2> &chords = panel.jeu.cordes;
-        const std::string tools = folder.Path("tools") + "/";
+        const std::string tools = folder.Path("tools/");
         if (asked.gaps.empty()) {
             Ribevol set;
             EXPECT_FALSE(VerifieRibevol({names, chords, asked.count}, typing, set));

@@ -1,5 +1,6 @@
 #include "programme/panel_typed.h"
 
+#include "base/file_name.h"
 #include "support/words.h"
 
 #include <gtest/gtest.h>
@@ -103,7 +104,7 @@ TEST_F(PlaceInWing, GapsAndThicknessesGoTogether) {
     EXPECT_FALSE(EcartsComplets(file));
     file.epaisseurs = {"2", "2", "2"};
     EXPECT_TRUE(EcartsComplets(file));
-    EXPECT_EQ(JeuDe(file, "sets").dossier, "sets/");
+    EXPECT_EQ(JeuDe(file, "sets").dossier, WithSeparator("sets"));
     EXPECT_EQ(JeuDe(file, "sets").ecarts, file.ecarts);
 }
 

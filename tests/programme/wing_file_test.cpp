@@ -1,6 +1,8 @@
 #include "programme/wing_file.h"
 
 #include "base/failure.h"
+#include "base/file_name.h"
+#include "support/special_files.h"
 #include "support/temp_folder.h"
 
 #include <gmock/gmock.h>
@@ -42,7 +44,7 @@ class WingFile : public testing::Test {
 };
 
 TEST_F(WingFile, PanelsMayHaveLongNamesButNoLineEndInThem) {
-    FichierAile wing{1, {"/" + std::string(240, 'd') + "/inner.lfp"}};
+    FichierAile wing{1, {FromRoot(std::string(240, 'd') + "/inner.lfp")}};
     EnregistreAile(folder.Path("wing.lfa"), wing);
     EXPECT_EQ(LitAile(folder.Path("wing.lfa")), wing);
     const std::string before = folder.Bytes("wing.lfa");
@@ -66,10 +68,12 @@ TEST_F(WingFile, WhatIsWrittenIsRead) {
 
 TEST_F(WingFile, PanelsBelowItsFolderMoveWithIt) {
     FichierAile wing = Wing();
-    wing.panneaux.push_back("/elsewhere/last.lfp");
+    const std::string elsewhere = FromRoot("elsewhere/last.lfp");
+    wing.panneaux.push_back(elsewhere);
     EnregistreAile(folder.Path("wing.lfa"), wing);
     EXPECT_EQ(folder.Bytes("wing.lfa"), "[Wing]\r\nFirst=7\r\nPanel1=inner.lfp\r\n"
-                                        "Panel2=tips/outer.lfp\r\nPanel3=/elsewhere/last.lfp\r\n");
+                                        "Panel2=tips/outer.lfp\r\nPanel3=" +
+                                            WithSlashes(elsewhere) + "\r\n");
     folder.File("moved.lfa", folder.Bytes("wing.lfa"));
     EXPECT_EQ(LitAile(folder.Path("moved.lfa")), wing);
 }

@@ -81,8 +81,8 @@ bool OfToolkit(const std::string &header) {
 
 /// The units that ask the system itself, and what they may include for that.
 const std::map<std::string, std::vector<std::string>> kSystemUnits = {
-    {"platform/system.cpp", {"fcntl.h", "io.h", "mach-o/dyld.h", "windows.h"}},
-    {"base/disk.cpp", {"fcntl.h", "io.h", "sys/file.h", "sys/stat.h", "unistd.h"}}};
+    {"platform/system.cpp", {"fcntl.h", "io.h", "mach-o/dyld.h", "shellapi.h", "windows.h"}},
+    {"base/disk.cpp", {"fcntl.h", "io.h", "sys/file.h", "sys/stat.h", "unistd.h", "windows.h"}}};
 
 bool OfSystem(const std::string &file, const std::string &header) {
     const auto unit = kSystemUnits.find(file);
@@ -173,7 +173,8 @@ TEST(Floors, EveryFileIncludesItsOwnFloorOrOnesBelow) {
             continue;
         }
         const std::string source = ReadWholeFile(entry.path().string());
-        EXPECT_THAT(WrongIn(fs::relative(entry.path(), sources).string(), source), IsEmpty());
+        EXPECT_THAT(WrongIn(fs::relative(entry.path(), sources).generic_string(), source),
+                    IsEmpty());
         includes += IncludesOf(source).size();
         ++files;
     }
@@ -247,7 +248,7 @@ TEST(Floors, TwoUnitsAskTheSystem) {
     EXPECT_THAT(WrongIn("platform/system.cpp", "#include <unistd.h>\n"), testing::SizeIs(1));
     EXPECT_THAT(WrongIn("base/disk.cpp", "#include <unistd.h>\n#include <sys/file.h>\n"),
                 IsEmpty());
-    EXPECT_THAT(WrongIn("base/disk.cpp", source), testing::SizeIs(2));
+    EXPECT_THAT(WrongIn("base/disk.cpp", source), testing::SizeIs(1));
     EXPECT_THAT(WrongIn("base/disk.h", "#include <unistd.h>\n"), testing::SizeIs(1));
 }
 

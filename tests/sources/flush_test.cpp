@@ -40,7 +40,8 @@ std::vector<std::string> Undecided(const std::string &source) {
 TEST(Flushed, IsWhatWindowsSave) {
     std::vector<std::string> files;
     for (const auto &entry : fs::recursive_directory_iterator(LOFTWING_SOURCE_DIR "/src")) {
-        const std::string file = fs::relative(entry.path(), LOFTWING_SOURCE_DIR "/src").string();
+        const std::string file =
+            fs::relative(entry.path(), LOFTWING_SOURCE_DIR "/src").generic_string();
         // The command line writes for speed; whoever wants to be sure of its files can wait.
         if (entry.path().extension() == ".cpp" && !file.starts_with("app/") &&
             !Undecided(ReadWholeFile(entry.path().string())).empty()) {

@@ -109,7 +109,7 @@ TEST(Portable, SystemsAreAskedInTwoFoldersOnly) {
         if (!entry.is_regular_file()) {
             continue;
         }
-        const std::string file = fs::relative(entry.path(), sources).string();
+        const std::string file = fs::relative(entry.path(), sources).generic_string();
         const auto found = SystemsIn(ReadWholeFile(entry.path().string()));
         if (file.starts_with("platform/") || file.starts_with("base/")) {
             seen_there = seen_there || !found.empty();
@@ -120,6 +120,30 @@ TEST(Portable, SystemsAreAskedInTwoFoldersOnly) {
     }
     EXPECT_GT(files, 200U);
     EXPECT_TRUE(seen_there); // so they would be seen elsewhere
+}
+
+/// Whether a file may make texts of paths by the library, which throws where a path's wide letters
+/// are no text.
+bool MayThrowForNames(const std::string &file) {
+    const std::string name = fs::path(file).filename().string();
+    return file.starts_with("app/") || file.starts_with("mainwindow/") || name.starts_with("frm") ||
+           name.starts_with("qt_");
+}
+
+TEST(Portable, BelowTheToolkitPathsBecomeTextsInOneUnit) {
+    const fs::path sources = LOFTWING_SOURCE_DIR "/src";
+    std::size_t files = 0;
+    for (const auto &entry : fs::recursive_directory_iterator(sources)) {
+        const std::string file = fs::relative(entry.path(), sources).generic_string();
+        if (!entry.is_regular_file() || MayThrowForNames(file)) {
+            continue;
+        }
+        const std::string source = ReadWholeFile(entry.path().string());
+        EXPECT_EQ(source.find(".string()"), std::string::npos) << file;
+        EXPECT_EQ(source.find(".u8string()"), std::string::npos) << file;
+        ++files;
+    }
+    EXPECT_GT(files, 200U);
 }
 
 TEST(Portable, WhatOneSystemHasIsFound) {

@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 constexpr const char *kSettings = "Loftwing.ini";
 
-std::string ExtensionOf(const std::string &name) {
+std::string ExtensionIn(const std::string &name) {
     const std::size_t point = name.rfind('.');
     return point == std::string::npos ? std::string() : name.substr(point + 1);
 }
@@ -127,7 +127,7 @@ std::string MonkeyFiles::Damaged(std::string bytes) {
 const MonkeyFiles::Known &MonkeyFiles::OfKind(const std::string &extension) {
     std::vector<const Known *> fitting;
     for (const Known &file : files_) {
-        if (ExtensionOf(file.name) == extension) {
+        if (ExtensionIn(file.name) == extension) {
             fitting.push_back(&file);
         }
     }

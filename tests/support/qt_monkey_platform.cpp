@@ -29,7 +29,7 @@ std::vector<BoxAnswer> AnswersTo(BoxButtons buttons) {
 }
 
 /// "PDF (*.pdf)" is for "pdf".
-std::string ExtensionOf(const std::string &filter) {
+std::string ExtensionIn(const std::string &filter) {
     const std::size_t star = filter.find("*.");
     if (star == std::string::npos) {
         return {};
@@ -87,7 +87,7 @@ std::string ChancePlatform::Chosen(const std::string &what, const std::string &p
 }
 
 std::string ChancePlatform::ChooseOpenFile(const FileQuestion &question) {
-    return Chosen("opens", files_.ToOpen(ExtensionOf(question.filter_text)));
+    return Chosen("opens", files_.ToOpen(ExtensionIn(question.filter_text)));
 }
 
 std::string ChancePlatform::ChooseSaveFile(const FileQuestion &question) {
@@ -100,7 +100,7 @@ FormAnswer ChancePlatform::ChooseSaveForm(const FileQuestion &question,
     filters.insert(filters.begin(), question.filter_text);
     const int form = dice_.Below(static_cast<int>(filters.size()));
     const std::string &filter = filters[static_cast<std::size_t>(form)];
-    return {Chosen("saves", files_.ToSave(ExtensionOf(filter))), form};
+    return {Chosen("saves", files_.ToSave(ExtensionIn(filter))), form};
 }
 
 std::string ChancePlatform::ChooseFolder(const std::string & /*title*/,

@@ -17,20 +17,11 @@
 #include <sys/syscall.h>
 #include <sys/uio.h>
 #include <sys/user.h>
-#endif
-
 #include <sys/wait.h>
 #include <unistd.h>
+#endif
 
 namespace loftwing {
-
-bool WatchedRun::Exited(int code) const {
-    return WIFEXITED(status) && WEXITSTATUS(status) == code;
-}
-
-bool WatchedRun::Killed() const {
-    return WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
-}
 
 long WatchedRun::Place(const std::vector<long> &numbers, long from) const {
     for (std::size_t i = static_cast<std::size_t>(from); i < calls.size(); ++i) {
@@ -42,6 +33,14 @@ long WatchedRun::Place(const std::vector<long> &numbers, long from) const {
 }
 
 #ifdef LOFTWING_WATCHES_CALLS
+
+bool WatchedRun::Exited(int code) const {
+    return WIFEXITED(status) && WEXITSTATUS(status) == code;
+}
+
+bool WatchedRun::Killed() const {
+    return WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
+}
 
 namespace {
 
@@ -224,6 +223,14 @@ std::vector<long> RenameCalls() {
 }
 
 #else
+
+bool WatchedRun::Exited(int) const {
+    return false;
+}
+
+bool WatchedRun::Killed() const {
+    return false;
+}
 
 bool CanWatchCalls() {
     return false;

@@ -1,5 +1,7 @@
 #include "support/temp_folder.h"
 
+#include "base/file_name.h"
+
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -23,15 +25,23 @@ TempFolder::~TempFolder() {
     fs::remove_all(folder_, ignored);
 }
 
+std::string TempFolder::Path(std::string_view name) const {
+    return TextOf((folder_ / PathOf(name)).make_preferred());
+}
+
+std::string TempFolder::Path() const {
+    return TextOf(folder_);
+}
+
 std::string TempFolder::File(std::string_view name, std::string_view bytes) const {
-    std::ofstream file(folder_ / name, std::ios::binary);
+    std::ofstream file(folder_ / PathOf(name), std::ios::binary);
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     EXPECT_TRUE(file.good()) << name;
     return Path(name);
 }
 
 std::string TempFolder::Bytes(std::string_view name) const {
-    std::ifstream file(folder_ / name, std::ios::binary);
+    std::ifstream file(folder_ / PathOf(name), std::ios::binary);
     EXPECT_TRUE(file.good()) << name;
     std::ostringstream bytes;
     bytes << file.rdbuf();

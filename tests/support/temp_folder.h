@@ -15,8 +15,8 @@ class TempFolder {
     TempFolder &operator=(const TempFolder &) = delete;
 
     /// Path of `name` in the folder, whether there is such a file or not.
-    std::string Path(std::string_view name) const { return (folder_ / name).string(); }
-    std::string Path() const { return folder_.string(); }
+    std::string Path(std::string_view name) const;
+    std::string Path() const;
     /// Writes a file and gives its path.
     std::string File(std::string_view name, std::string_view bytes) const;
     /// Bytes of a file of the folder; fails the test when there is none.

@@ -19,7 +19,7 @@ namespace {
 const std::filesystem::path kFolder =
     std::filesystem::path(LOFTWING_SOURCE_DIR) / "resources" / "airfoils";
 
-std::string TextOf(const std::filesystem::path &path) {
+std::string ReadFile(const std::filesystem::path &path) {
     std::ifstream file(path, std::ios::binary);
     std::ostringstream text;
     text << file.rdbuf();
@@ -42,7 +42,7 @@ std::vector<naca::Point> PointsIn(const std::string &text) {
 class BundledAirfoil : public testing::TestWithParam<naca::Section> {
   protected:
     std::filesystem::path Path() const { return kFolder / naca::FileName(GetParam()); }
-    std::string Text() const { return TextOf(Path()); }
+    std::string Text() const { return ReadFile(Path()); }
 };
 
 INSTANTIATE_TEST_SUITE_P(Library, BundledAirfoil, testing::ValuesIn(naca::kLibrary),
@@ -151,7 +151,7 @@ const naca::Section &SectionNamed(std::string_view digits) {
 std::array<naca::Point, 2> AtAQuarter(std::string_view digits) {
     const naca::Section &section = SectionNamed(digits);
     EXPECT_EQ(section.intervals % 3, 0);
-    const auto points = PointsIn(TextOf(kFolder / naca::FileName(section)));
+    const auto points = PointsIn(ReadFile(kFolder / naca::FileName(section)));
     const auto middle = static_cast<std::size_t>(section.intervals);
     return {points.at(middle - middle / 3), points.at(middle + middle / 3)};
 }
