@@ -2,6 +2,7 @@
 
 #include "app/error_line.h"
 #include "app/resource_paths.h"
+#include "base/file_name.h"
 #include "output/page_setup.h"
 #include "output/screen_plot.h"
 #include "programme/import_words.h"
@@ -155,7 +156,7 @@ bool ConsoleProgram::Ouvre(const std::string &path, const std::vector<std::strin
     DemandeComposants demande{path, dossiers, false};
     demande.lecture = lecture_;
     if (dossiers.empty()) {
-        const std::string folder = std::filesystem::path(path).parent_path().string();
+        const std::string folder = FolderOf(path);
         demande.dossiers = {folder.empty() ? "." : folder};
     }
     return OuvreComposants(programme_, demande) == OuvertureComposants::ouverte;

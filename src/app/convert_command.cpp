@@ -4,6 +4,7 @@
 #include "app/console_program.h"
 #include "app/many_files.h"
 #include "app/typed_value.h"
+#include "base/file_name.h"
 #include "base/number_text.h"
 #include "programme/import_words.h"
 
@@ -32,13 +33,13 @@ ImportWishes WishesOf(const Arguments &arguments) {
 }
 
 /// Whether OUT is a folder: it ends like one, or is one.
-bool IsFolder(const std::string &out) {
-    return out.ends_with('/') || (out != "-" && fs::is_directory(out));
+bool MeansFolder(const std::string &out) {
+    return EndsInSeparator(out) || (out != "-" && IsFolder(out));
 }
 
 /// Where OUT wants the airfoil of a file.
 std::string NameOf(const std::string &out, bool folder, const std::string &file) {
-    return folder ? (fs::path(out) / (fs::path(file).stem().string() + ".dat")).string() : out;
+    return folder ? TextOf(PathOf(out) / PathOf(StemOf(file) + ".dat")) : out;
 }
 
 /// What became of a file.
@@ -52,8 +53,7 @@ Converted Convert(const FileRun &run, const ImportWishes &wishes, const std::str
     const Messages &messages = program.Owner().messages;
     try {
         const ImportedAirfoil airfoil = ImportFile(file, wishes);
-        return {AirfoilFile(airfoil, fs::path(file).stem().string()),
-                ImportStory(messages, airfoil)};
+        return {AirfoilFile(airfoil, StemOf(file)), ImportStory(messages, airfoil)};
     } catch (const ImportRefusal &refusal) {
         return {std::nullopt, ImportRefusalText(messages, refusal)};
     } catch (const Failure &failure) {
@@ -95,7 +95,7 @@ int RunConvert(const Arguments &arguments) {
     if (files.empty() || out.empty()) {
         throw UsageError("convert wants a FILE and -o OUT.dat");
     }
-    const bool folder = IsFolder(out);
+    const bool folder = MeansFolder(out);
     if (files.size() > 1 && !folder) {
         throw UsageError("several FILEs want -o DIR/");
     }

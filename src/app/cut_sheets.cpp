@@ -6,6 +6,7 @@
 #include "app/json_line.h"
 #include "app/sheet_options.h"
 #include "app/toolkit.h"
+#include "base/file_name.h"
 #include "base/number_text.h"
 #include "programme/piece_words.h"
 #include "programme/sheet_words.h"
@@ -39,9 +40,9 @@ SheetTarget TargetOfSheets(const Arguments &arguments) {
     if (!extension.empty()) {
         const std::string name = "sheet." + CutFormOf(extension).extension;
         return out == "-" ? SheetTarget{extension, name, {}, true}
-                          : SheetTarget{extension, (fs::path(out) / name).string(), out};
+                          : SheetTarget{extension, TextOf(PathOf(out) / PathOf(name)), out};
     }
-    const std::string ending = fs::path(out).extension().string();
+    const std::string ending = ExtensionOf(out);
     return {ending.empty() ? ending : ending.substr(1), out, {}};
 }
 

@@ -5,6 +5,7 @@
 #include "app/error_line.h"
 #include "app/toolkit.h"
 #include "base/failure.h"
+#include "base/file_name.h"
 #include "base/whole_file.h"
 #include "output/sheeting.h"
 
@@ -78,9 +79,8 @@ bool HasOverlap(const Programme &programme) {
 
 /// The file that is made of `file`, in the folder for several ones.
 std::string NameOf(const Destination &destination, const std::string &file) {
-    return destination.several ? (fs::path(destination.folder) /
-                                  (fs::path(file).stem().string() + "." + destination.extension))
-                                     .string()
+    return destination.several ? TextOf(PathOf(destination.folder) /
+                                        PathOf(StemOf(file) + "." + destination.extension))
                                : destination.file;
 }
 
@@ -199,7 +199,7 @@ Destination DestinationOf(const Arguments &arguments, const DrawingVerb &verb,
     if (!one) {
         throw UsageError("several FILEs want --to EXT -o DIR/");
     }
-    const std::string extension = fs::path(out).extension().string();
+    const std::string extension = ExtensionOf(out);
     return {extension.empty() ? extension : extension.substr(1), out, {}};
 }
 

@@ -6,10 +6,11 @@
 #include <vector>
 
 int main(int argc, char **argv) {
-    const std::vector<std::string> words(argv + 1, argv + argc);
+    const std::vector<std::string> all = loftwing::ProgramWords(argc, argv);
+    const std::vector<std::string> words(all.begin() + (all.empty() ? 0 : 1), all.end());
     loftwing::PrepareConsole();
     if (loftwing::IsCommandLine(words)) {
         return loftwing::RunCommandLine(words);
     }
-    return loftwing::RunWindow(argc, argv);
+    return loftwing::RunWindow(all);
 }

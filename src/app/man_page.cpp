@@ -14,7 +14,7 @@ namespace loftwing {
 namespace {
 
 /// Text as the formatter leaves it alone: a minus is a minus, no hyphen.
-std::string Plain(std::string_view text) {
+std::string WithoutMarkup(std::string_view text) {
     std::string plain;
     for (const char letter : text) {
         plain += letter == '\\' ? "\\e" : letter == '-' ? "\\-" : std::string(1, letter);
@@ -24,11 +24,11 @@ std::string Plain(std::string_view text) {
 }
 
 std::string Bold(std::string_view text) {
-    return "\\fB" + Plain(text) + "\\fR";
+    return "\\fB" + WithoutMarkup(text) + "\\fR";
 }
 
 std::string Italic(std::string_view text) {
-    return "\\fI" + Plain(text) + "\\fR";
+    return "\\fI" + WithoutMarkup(text) + "\\fR";
 }
 
 /// The words of a usage: what is typed as it stands is bold, what stands for something else italic.
@@ -40,7 +40,7 @@ std::string Usage(const std::string &usage) {
         const bool typed = word.front() == '-' || std::islower(word.front()) != 0;
         styled += (styled.empty() ? "" : " ") + (stands_for ? Italic(word)
                                                  : typed    ? Bold(word)
-                                                            : Plain(word));
+                                                            : WithoutMarkup(word));
     }
     return styled;
 }
@@ -51,7 +51,7 @@ std::string Option(const OptionRule &rule) {
     if (rule.value != nullptr) {
         text += " " + Italic(rule.value);
     }
-    return text + "\n" + Plain(rule.help) + "\n";
+    return text + "\n" + WithoutMarkup(rule.help) + "\n";
 }
 
 bool IsCommon(const OptionRule &rule) {
@@ -72,10 +72,10 @@ std::string Synopsis() {
 }
 
 std::string Command(const Verb &verb) {
-    std::string text =
-        ".SS " + Plain(verb.name) + "\n" + Usage(verb.usage) + "\n.br\n" + Plain(verb.summary);
+    std::string text = ".SS " + WithoutMarkup(verb.name) + "\n" + Usage(verb.usage) + "\n.br\n" +
+                       WithoutMarkup(verb.summary);
     if (verb.other_usage != nullptr) {
-        text += "\n.PP\n" + Usage(verb.other_usage) + "\n.br\n" + Plain(verb.other_summary);
+        text += "\n.PP\n" + Usage(verb.other_usage) + "\n.br\n" + WithoutMarkup(verb.other_summary);
     }
     text += "\n";
     for (const OptionRule &rule : verb.options()) {
@@ -137,8 +137,8 @@ loftwing convert lednicer.txt \-o lednicer.dat
 std::string ManPage() {
     const std::string version(kVersion);
     std::string text = ".TH LOFTWING 1 " + std::string(kReleaseDate) + " \"loftwing " + version +
-                       "\" \"User Commands\"\n.SH NAME\nloftwing \\- " + Plain(kWhatItIs) + "\n" +
-                       Synopsis() + std::string(kDescription) + ".SH COMMANDS\n";
+                       "\" \"User Commands\"\n.SH NAME\nloftwing \\- " + WithoutMarkup(kWhatItIs) +
+                       "\n" + Synopsis() + std::string(kDescription) + ".SH COMMANDS\n";
     for (const Verb &verb : Verbs()) {
         text += Command(verb);
     }

@@ -1,6 +1,8 @@
 #include "app/many_files.h"
 
 #include "app/side_by_side.h"
+#include "base/disk.h"
+#include "base/file_name.h"
 
 #include <exception>
 #include <filesystem>
@@ -46,19 +48,19 @@ class RealPaths {
     std::string Of(const fs::path &path) {
         std::error_code error;
         if (fs::is_symlink(fs::symlink_status(path, error))) {
-            return fs::weakly_canonical(path, error).string();
+            return TextOf(RealPlace(path, error));
         }
-        return (FolderOf(path.parent_path()) / path.filename()).string();
+        return TextOf(RealFolder(path.parent_path()) / path.filename());
     }
 
   private:
     std::unordered_map<std::string, fs::path> folders_;
 
-    const fs::path &FolderOf(const fs::path &folder) {
-        const auto [known, is_new] = folders_.try_emplace(folder.string());
+    const fs::path &RealFolder(const fs::path &folder) {
+        const auto [known, is_new] = folders_.try_emplace(TextOf(folder));
         if (is_new) {
             std::error_code error;
-            known->second = fs::weakly_canonical(folder.empty() ? "." : folder, error);
+            known->second = RealPlace(folder.empty() ? "." : folder, error);
         }
         return known->second;
     }

@@ -5,18 +5,15 @@
 #include "app/sheet_options.h"
 #include "app/toolkit.h"
 #include "app/typed_value.h"
+#include "base/file_name.h"
 #include "base/text_encoding.h"
 #include "programme/panel_drawings.h"
 #include "programme/panel_sheets.h"
 #include "programme/qt_stack_pdf.h"
 
-#include <filesystem>
-
 namespace loftwing {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 constexpr const char *kDrawings = "--drawings";
 
@@ -83,8 +80,7 @@ std::optional<PanelFiles> PanelDrawings(const Arguments &arguments, Programme &p
     }
     const std::string path = arguments.Value(kDrawings);
     const Toolkit toolkit(true);
-    DessinsPanneau drawings(programme, made, premier, PageAsTyped(programme),
-                            ToUtf8(fs::path(path).stem().string()));
+    DessinsPanneau drawings(programme, made, premier, PageAsTyped(programme), ToUtf8(StemOf(path)));
     const auto bytes = PdfDePile(drawings.EnPile());
     if (!bytes) {
         return std::nullopt;

@@ -4,6 +4,8 @@
 #include "app/rib_options.h"
 #include "app/toolkit.h"
 #include "app/typed_value.h"
+#include "base/disk.h"
+#include "base/file_name.h"
 #include "base/number_text.h"
 #include "base/text_encoding.h"
 #include "programme/panel_typed.h"
@@ -12,13 +14,10 @@
 #include "programme/rib_file.h"
 
 #include <algorithm>
-#include <filesystem>
 
 namespace loftwing {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 constexpr const char *kPlan = "--plan";
 constexpr const char *kParts = "--parts";
@@ -45,12 +44,12 @@ std::optional<std::string> PlanBytes(const Arguments &arguments, const std::stri
 }
 
 bool NeedsToolkit(const std::string &path) {
-    return LowerAscii(fs::path(path).extension().string()) == ".pdf";
+    return LowerAscii(ExtensionOf(path)) == ".pdf";
 }
 
-bool SamePlace(const std::string &one, const std::string &other) {
+bool WillBeOneFile(const std::string &one, const std::string &other) {
     std::error_code unknown;
-    return fs::weakly_canonical(one, unknown) == fs::weakly_canonical(other, unknown);
+    return RealPlace(PathOf(one), unknown) == RealPlace(PathOf(other), unknown);
 }
 
 /// Tells of weights that were asked for and can't be.
@@ -123,12 +122,12 @@ void VerifyPlanFiles(const Arguments &arguments, const std::optional<std::string
         }
         outputs.push_back(parts);
     }
-    if (outputs.size() > 1 && SamePlace(outputs[0], outputs[1])) {
+    if (outputs.size() > 1 && WillBeOneFile(outputs[0], outputs[1])) {
         throw UsageError("plan and list can't both be " + outputs[0]);
     }
     for (const std::string &file : arguments.Files()) {
         for (const std::string &out : outputs) {
-            if (SamePlace(out, file)) {
+            if (WillBeOneFile(out, file)) {
                 throw UsageError(out + " would take the place of a file that is read");
             }
         }
@@ -201,7 +200,7 @@ std::optional<PanelFiles> PlanOfPanel(const Arguments &arguments, const Programm
     Aile wing;
     const std::string title =
         arguments.Files().size() == 1 ? arguments.Files().front() : panel.panel.bouts[0].NomProfil;
-    wing.nom = ToUtf8(fs::path(title).stem().string());
+    wing.nom = ToUtf8(StemOf(title));
     const auto refused = AjoutePanneau(
         wing, {"", panel.panel, panel.made, panel.wanted.premier, PlaceOf(panel.wanted, programme)},
         programme.SaisieEnCours());

@@ -3,20 +3,18 @@
 #include "app/command_line.h"
 #include "app/panel_plan.h"
 #include "app/rib_options.h"
+#include "base/file_name.h"
 #include "base/text_encoding.h"
 #include "base/whole_file.h"
 #include "programme/wing_file.h"
 #include "programme/wing_steps.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <iostream>
 
 namespace loftwing {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 void VerifyUsage(const Arguments &arguments) {
     const std::vector<std::string> &files = arguments.Files();
@@ -55,8 +53,7 @@ WingAsked AskedOf(const Arguments &arguments) {
 /// As of `panel`, where a file is in the other unit.
 void VerifyUnits(const WingAsked &asked, const Programme &programme) {
     for (const std::string &file : asked.panels) {
-        std::error_code unknown;
-        const std::string unit = fs::exists(file, unknown) ? LitPanneau(file).unite : "";
+        const std::string unit = IsThere(file) ? LitPanneau(file).unite : "";
         if (!unit.empty() && " " + unit != programme.settings.Unite) {
             std::string why = file;
             throw UsageError(why.append(" is in ").append(unit).append(": add --unit ") += unit);
@@ -83,7 +80,7 @@ Aile WingOf(const Arguments &arguments, ConsoleProgram &program) {
         throw Refused{};
     }
     const std::string name = arguments.Value("--output", arguments.Files().front());
-    made.aile.nom = ToUtf8(fs::path(name).stem().string());
+    made.aile.nom = ToUtf8(StemOf(name));
     return std::move(made.aile);
 }
 

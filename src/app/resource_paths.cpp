@@ -1,5 +1,6 @@
 #include "app/resource_paths.h"
 
+#include "base/file_name.h"
 #include "platform/system.h"
 
 #include <filesystem>
@@ -13,13 +14,12 @@ namespace fs = std::filesystem;
 /// Where snapshots of unsaved work stand; empty where the user has no folder of his own.
 std::string RecoveryFolder() {
     const fs::path data = DataFolder();
-    return data.is_absolute() ? (data / "loftwing" / "recovery").string() : std::string();
+    return data.is_absolute() ? TextOf(data / "loftwing" / "recovery") : std::string();
 }
 
 Paths PathsWith(const std::string &settings) {
     const std::string folder = ResourceFolder();
-    return {folder, (fs::path(folder) / "lng").string(), settings,
-            (fs::path(folder) / "help").string()};
+    return {folder, TextOf(PathOf(folder) / "lng"), settings, TextOf(PathOf(folder) / "help")};
 }
 
 } // namespace
@@ -31,10 +31,10 @@ std::string ResourceFolder() {
     for (const fs::path &folder : {program, of_bundle}) {
         std::error_code error;
         if (fs::is_directory(folder / "lng", error)) {
-            return folder.string();
+            return TextOf(folder);
         }
     }
-    return installed.string();
+    return TextOf(installed);
 }
 
 Paths WindowPaths(const std::string &settings) {
@@ -44,14 +44,14 @@ Paths WindowPaths(const std::string &settings) {
         return paths;
     }
     std::error_code error;
-    const fs::path portable = fs::path(paths.programme) / "Loftwing.ini";
+    const fs::path portable = PathOf(paths.programme) / "Loftwing.ini";
     if (fs::exists(portable, error)) {
-        paths.fichier = portable.string();
+        paths.fichier = TextOf(portable);
         return paths;
     }
     const fs::path folder = ConfigFolder() / "loftwing";
     fs::create_directories(folder, error);
-    paths.fichier = (folder / "Loftwing.ini").string();
+    paths.fichier = TextOf(folder / "Loftwing.ini");
     return paths;
 }
 

@@ -4,19 +4,17 @@
 #include "app/error_line.h"
 #include "app/toolkit.h"
 #include "base/failure.h"
+#include "base/file_name.h"
 #include "base/text_encoding.h"
 #include "output/sheeting.h"
 #include "programme/export.h"
 #include "programme/qt_stack_pdf.h"
 
-#include <filesystem>
 #include <memory>
 
 namespace loftwing {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 constexpr const char *kForm = "pdf";
 
@@ -100,7 +98,7 @@ int DrawStacked(const Arguments &arguments, const DrawingVerb &verb,
     const Toolkit toolkit(target.form->needs_toolkit);
     DrawingVerb of_all = verb;
     of_all.files_each = files.size();
-    const fs::path named = target.IsStandardOutput() ? files.front() : target.file;
+    const std::string named = target.IsStandardOutput() ? files.front() : target.file;
     return DeliverAll(arguments, of_all, files, target,
                       [&](const FileRun &run, const std::vector<std::string> &all,
                           bool &complete) -> std::optional<std::string> {
@@ -108,7 +106,7 @@ int DrawStacked(const Arguments &arguments, const DrawingVerb &verb,
                           if (programs.empty()) {
                               return std::nullopt;
                           }
-                          Pile pile(StackOf(programs, ToUtf8(named.stem().string())));
+                          Pile pile(StackOf(programs, ToUtf8(StemOf(named))));
                           return PdfDePile(pile);
                       });
 }

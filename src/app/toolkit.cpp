@@ -1,5 +1,7 @@
 #include "app/toolkit.h"
 
+#include "platform/system.h"
+
 #include <QGuiApplication>
 #include <QString>
 
@@ -10,9 +12,14 @@ namespace loftwing {
 namespace {
 
 /// A drawing needs no runtime folder, so its absence, as in a cron job, is no word on standard
-/// error.
+/// error, and neither is what the toolkit has to say of screens.
+bool OfDrawings(QtMsgType type, const QMessageLogContext &context, const QString &message) {
+    const bool of_screens = QByteArrayView(context.category).startsWith("qt.qpa.");
+    return !message.startsWith("QStandardPaths:") && (type == QtFatalMsg || !of_screens);
+}
+
 void PassMessage(QtMsgType type, const QMessageLogContext &context, const QString &message) {
-    if (!message.startsWith("QStandardPaths:")) {
+    if (OfDrawings(type, context, message)) {
         std::cerr << qFormatLogMessage(type, context, message).toStdString() << '\n';
     }
 }
@@ -24,7 +31,7 @@ Toolkit::Toolkit(bool needed) {
         return;
     }
     // Files come out the same on a machine with a display and on one without.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", WindowlessPlatform());
     qInstallMessageHandler(PassMessage);
     static int count = 1;
     static char name[] = "loftwing";

@@ -4,6 +4,7 @@
 #include "app/command_line.h"
 #include "app/error_line.h"
 #include "app/resource_paths.h"
+#include "base/file_name.h"
 #include "base/version.h"
 #include "lang/frmlang.h"
 #include "mainwindow/frmSplash.h"
@@ -21,9 +22,9 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <filesystem>
 #include <functional>
 #include <iostream>
+#include <iterator>
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -32,9 +33,28 @@ namespace loftwing {
 
 namespace {
 
-std::vector<std::string> WordsLeft(int argc, char **argv) {
-    return {argv + 1, argv + argc};
-}
+/// Words as the toolkit wants them, which takes its own ones out and looks at the rest later on.
+class StartWords {
+  public:
+    explicit StartWords(std::vector<std::string> words)
+        : words_(std::move(words)), count(static_cast<int>(words_.size())) {
+        std::transform(words_.begin(), words_.end(), std::back_inserter(pointers_),
+                       [](std::string &word) { return word.data(); });
+        pointers_.push_back(nullptr);
+    }
+    char **Pointers() { return pointers_.data(); }
+    /// Without the program's name and what the toolkit has taken.
+    std::vector<std::string> Left() const {
+        return {pointers_.begin() + 1, pointers_.begin() + count};
+    }
+
+  private:
+    std::vector<std::string> words_;
+    std::vector<char *> pointers_;
+
+  public:
+    int count; ///< changed by the toolkit
+};
 
 /// Does once what can wait until the window stands before the user, or at the latest after a
 /// moment: a window that starts as an icon is not painted.
@@ -96,7 +116,9 @@ int Show(Programme &programme, const std::vector<std::string> &files) {
     // Among the recent files it must be found from everywhere.
     std::error_code error;
     const std::string path =
-        files.empty() ? "" : std::filesystem::absolute(files.front(), error).string();
+        files.empty()
+            ? ""
+            : TextOf(SeenFrom(std::filesystem::current_path(error), PathOf(files.front())));
     // NOLINTNEXTLINE(cppcoreguidelines-owning-memory): the window owns it
     new AfterFirstPaint(*window, [&, path] {
         QGuiApplication::setWindowIcon(ProgramIcon());
@@ -119,27 +141,28 @@ int Show(Programme &programme, const std::vector<std::string> &files) {
 }
 
 /// Whether the toolkit has anywhere to show a window; without, it would end the process.
-bool CanShow(int argc, char **argv) {
+bool CanShow(const std::vector<std::string> &words) {
     const auto chooses = [](std::string_view word) {
         return word.ends_with("-platform") || word.ends_with("-display");
     };
-    return std::any_of(argv + 1, argv + argc, chooses) || HasDisplay();
+    return std::any_of(words.begin(), words.end(), chooses) || HasDisplay();
 }
 
 } // namespace
 
-int RunWindow(int argc, char **argv) {
-    if (!CanShow(argc, argv)) {
+int RunWindow(const std::vector<std::string> &all) {
+    if (!CanShow(all)) {
         std::cerr << "loftwing: no display for the window (see loftwing --help for what goes "
                      "without)\n";
         return kRefused;
     }
-    const QApplication application(argc, argv);
+    StartWords words(all);
+    const QApplication application(words.count, words.Pointers());
     QCoreApplication::setApplicationName("loftwing");
     QCoreApplication::setApplicationVersion(kVersion);
     QGuiApplication::setDesktopFileName("loftwing");
     try {
-        const Arguments arguments(WordsLeft(argc, argv), {{"--settings", "FILE", "settings file"}});
+        const Arguments arguments(words.Left(), {{"--settings", "FILE", "settings file"}});
         if (arguments.Files().size() > 1) {
             throw UsageError("the window opens one FILE");
         }

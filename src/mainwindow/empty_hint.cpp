@@ -1,5 +1,6 @@
 #include "mainwindow/empty_hint.h"
 
+#include "base/file_name.h"
 #include "platform/qt_focus_mark.h"
 #include "platform/qt_form.h"
 #include "platform/qt_text.h"
@@ -7,7 +8,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <filesystem>
 
 namespace loftwing {
 
@@ -96,7 +96,7 @@ void EmptyHint::MontreRecents(const FichiersRecents &ribs, const FichiersRecents
     std::copy(profils.begin(), profils.end(),
               std::copy(ribs.begin(), ribs.end(), chemins_.begin()));
     for (std::size_t i = 0; i < kFichiers; ++i) {
-        QString name = Q(std::filesystem::path(chemins_[i]).filename().string());
+        QString name = Q(NameIn(chemins_[i]));
         fichiers_[i].setText(name.replace('&', "&&"));
         SetTip(fichiers_[i], chemins_[i]);
         fichiers_[i].setVisible(!chemins_[i].empty());

@@ -1,5 +1,6 @@
 #include "mainwindow/frmaile.h"
 
+#include "base/file_name.h"
 #include "base/number_text.h"
 #include "base/text_encoding.h"
 #include "lang/aide.h"
@@ -14,7 +15,6 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
-#include <filesystem>
 
 namespace loftwing {
 
@@ -29,7 +29,7 @@ std::string Longueur(double mm, const std::string &Unite) {
 
 /// The name of a file without folder and extension.
 std::string Tige(const std::string &path) {
-    return ToUtf8(std::filesystem::path(path).stem().string());
+    return ToUtf8(StemOf(path));
 }
 
 } // namespace
@@ -52,7 +52,7 @@ void frmaile::cmdannuler_Click() {
 }
 
 std::string frmaile::PanneauPose::Nom() const {
-    return ToUtf8(std::filesystem::path(lu.chemin).filename().string());
+    return ToUtf8(NameIn(lu.chemin));
 }
 
 /// A panel with its ribs, or with why there are none. `dit`: that was told already.

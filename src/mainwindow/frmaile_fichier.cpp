@@ -2,12 +2,11 @@
 
 #include "mainwindow/frmaile.h"
 
+#include "base/file_name.h"
 #include "base/text_encoding.h"
 #include "programme/dossiers.h"
 #include "programme/load.h"
 #include "programme/wing_file.h"
-
-#include <filesystem>
 
 namespace loftwing {
 
@@ -79,7 +78,7 @@ bool frmaile::Ouvre(const std::string &path) {
 void frmaile::Retient(const std::string &path) {
     chemin_ = path;
     etat_ = Etat();
-    txtfichier.setText(Q(ToUtf8(std::filesystem::path(path).filename().string())));
+    txtfichier.setText(Q(ToUtf8(NameIn(path))));
     RetientDossier(programme_, kDossier, path);
     NoteRib(programme_, CheminEntier(path));
     Refait(); // plan and list have the file's name
@@ -89,7 +88,7 @@ void frmaile::Retient(const std::string &path) {
 std::string frmaile::NomDesSorties() const {
     const std::string &path =
         chemin_.empty() && !panneaux_.empty() ? panneaux_.front().lu.chemin : chemin_;
-    return ToUtf8(std::filesystem::path(path).stem().string());
+    return ToUtf8(StemOf(path));
 }
 
 void frmaile::cmdouvrir_Click() {

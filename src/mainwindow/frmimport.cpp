@@ -1,11 +1,10 @@
 #include "mainwindow/frmimport.h"
 
+#include "base/file_name.h"
 #include "base/text_encoding.h"
 #include "lang/aide.h"
 #include "platform/qt_title.h"
 #include "programme/import_words.h"
-
-#include <filesystem>
 
 namespace loftwing {
 
@@ -24,7 +23,7 @@ frmimport::frmimport(Programme &programme, QWidget *parent, std::string path,
 }
 
 void frmimport::PoseTextes() {
-    const std::string name = std::filesystem::path(path_).filename().string();
+    const std::string name = NameIn(path_);
     setWindowTitle(TitreDeFenetre(programme_.Text({"Import", "41"}) + " : " + name));
     Picture1.Nomme(Mot({"Import", "44"}), Mot({"Import", "45"}));
     lblrecit.setText(Q(ImportStory(programme_.messages, airfoil_)));

@@ -3,7 +3,7 @@
 #include "base/version.h"
 #include "mainwindow/beside.h"
 #include "mainwindow/window_place.h"
-#include "platform/qt_text.h"
+#include "platform/qt_path.h"
 #include "programme/load.h"
 #include "programme/reglage_retenu.h"
 #include "programme/rib_steps.h"
@@ -29,7 +29,7 @@ std::optional<std::string> FileOf(const QMimeData &data) {
     return name.contains(QChar::ReplacementCharacter)
                ? QByteArray::fromPercentEncoding(urls.front().path(QUrl::FullyEncoded).toLatin1())
                      .toStdString()
-               : S(name);
+               : Path(name);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // The lists of folders and files of the airfoil picker, and the way from one folder to another.
 
+#include "base/file_name.h"
 #include "base/text_encoding.h"
 #include "mainwindow/frmopen.h"
 #include "platform/system.h"
@@ -47,7 +48,7 @@ std::string DernierOuvert(Programme &programme, const std::string &folder) {
     }
     for (const std::string &path : paths) {
         if (!path.empty() && DossierDe(path) == folder) {
-            return std::filesystem::path(path).filename().string();
+            return NameIn(path);
         }
     }
     return {};
@@ -55,10 +56,11 @@ std::string DernierOuvert(Programme &programme, const std::string &folder) {
 
 /// A path as typed: "~" is the home folder, and it may start from the folder that is shown.
 std::filesystem::path CheminTape(const std::string &typed, const std::string &folder) {
-    const std::string home = HomeFolder().string();
-    const bool at_home = !home.empty() && (typed == "~" || typed.starts_with("~/"));
+    const std::string home = TextOf(HomeFolder());
+    const bool at_home =
+        !home.empty() && typed.starts_with('~') && (typed.size() == 1 || Separates(typed[1]));
     const std::string text = at_home ? home + typed.substr(1) : typed;
-    const std::filesystem::path path = (std::filesystem::path(folder) / text).lexically_normal();
+    const std::filesystem::path path = Plain(SeenFrom(PathOf(folder), PathOf(text)));
     return path.has_filename() ? path : path.parent_path();
 }
 
@@ -167,7 +169,7 @@ void frmopen::Dir1_Change(const std::string &came_from) {
 void frmopen::Monte() {
     const std::string above = DossierParent(dossier_);
     if (!above.empty()) {
-        Ouvre(above, std::filesystem::path(dossier_).filename().string());
+        Ouvre(above, NameIn(dossier_));
     }
 }
 
@@ -192,14 +194,14 @@ bool frmopen::txtchemin_Return() {
     const std::filesystem::path path = CheminTape(S(txtchemin.text().trimmed()), dossier_);
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error)) {
-        Ouvre(path.string());
+        Ouvre(TextOf(path));
         return false;
     }
-    if (!Ouvre(path.parent_path().string())) {
+    if (!Ouvre(TextOf(path.parent_path()))) {
         return false;
     }
     // Who names a file means it, whatever files the list shows.
-    const std::string name = path.filename().string();
+    const std::string name = TextOf(path.filename());
     if (!Selectionne(File1, name)) {
         Ajoute(File1, name);
         Selectionne(File1, name);

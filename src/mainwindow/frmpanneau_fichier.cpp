@@ -2,6 +2,7 @@
 
 #include "mainwindow/frmpanneau.h"
 
+#include "base/file_name.h"
 #include "base/number_text.h"
 #include "base/text_encoding.h"
 #include "programme/dossiers.h"
@@ -10,8 +11,6 @@
 #include "programme/panel_ends.h"
 #include "programme/panel_sheets.h"
 #include "programme/panel_words.h"
-
-#include <filesystem>
 
 namespace loftwing {
 
@@ -141,7 +140,7 @@ void frmpanneau::Prend(const FichierPanneau &fichier) {
 void frmpanneau::Retient(const std::string &path) {
     chemin_ = path;
     etat_ = Etat();
-    txtfichier.setText(Q(ToUtf8(std::filesystem::path(path).filename().string())));
+    txtfichier.setText(Q(ToUtf8(NameIn(path))));
     RetientDossier(programme_, kDossier, path);
     NoteRib(programme_, CheminEntier(path));
     MontreAile(); // which has the file's name

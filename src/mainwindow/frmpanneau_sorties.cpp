@@ -2,6 +2,7 @@
 
 #include "mainwindow/frmpanneau.h"
 
+#include "base/file_name.h"
 #include "base/text_encoding.h"
 #include "base/whole_file.h"
 #include "mainwindow/frmplanches.h"
@@ -13,8 +14,6 @@
 #include "utilities/tool_files.h"
 
 #include <QProgressDialog>
-
-#include <filesystem>
 
 namespace loftwing {
 
@@ -105,8 +104,7 @@ void frmpanneau::cmdnervures_Click() {
 
 /// What files of the panel are proposed to be called, without extension.
 std::string frmpanneau::NomDesSorties() const {
-    return chemin_.empty() ? panneau_.bouts[0].NomProfil
-                           : std::filesystem::path(chemin_).stem().string();
+    return chemin_.empty() ? panneau_.bouts[0].NomProfil : StemOf(chemin_);
 }
 
 void frmpanneau::cmdplanches_Click() {
@@ -144,7 +142,7 @@ void frmpanneau::cmddessins_Click() {
         return;
     }
     const Sablier sablier(programme_.platform);
-    DessinsPanneau drawings = Dessins(ToUtf8(std::filesystem::path(path).stem().string()));
+    DessinsPanneau drawings = Dessins(ToUtf8(StemOf(path)));
     if (const auto bytes = PdfDePile(drawings.EnPile())) {
         WriteWholeFile(path, *bytes, Flush::yes);
         MontreEnregistre({"Panel", "153"}, path);

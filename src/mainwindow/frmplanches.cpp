@@ -1,12 +1,11 @@
 #include "mainwindow/frmplanches.h"
 
+#include "base/file_name.h"
 #include "base/text_encoding.h"
 #include "lang/aide.h"
 #include "programme/panel_words.h"
 #include "programme/qt_cut_command.h"
 #include "programme/sheet_words.h"
-
-#include <filesystem>
 
 namespace loftwing {
 
@@ -225,7 +224,7 @@ void frmplanches::cmdenregistrer_Click() {
     const std::vector<std::string> paths =
         EnregistrePlanches(programme_, planches_, question, choix_, ecrits_);
     if (!paths.empty()) {
-        const std::string last = std::filesystem::path(paths.back()).filename().string();
+        const std::string last = NameIn(paths.back());
         lblenregistre.setText(Mot({"Panel", "177"}) + " " + Q(ToUtf8(paths.front())) +
                               (paths.size() > 1 ? " ... " + Q(ToUtf8(last)) : QString()));
         lblenregistre.show();

@@ -1,6 +1,7 @@
 #include "mainwindow/help_pages.h"
 
 #include "base/failure.h"
+#include "base/file_name.h"
 #include "base/whole_file.h"
 #include "lang/aide.h"
 #include "platform/qt_text.h"
@@ -41,9 +42,9 @@ bool Contient(const QString &texte, const QStringList &mots) {
 
 std::string FichierAide(const std::string &dossier, const std::string &langue, int contexte) {
     const std::string name = std::to_string(contexte) + ".html";
-    const fs::path own = fs::path(dossier) / langue / name;
+    const fs::path own = PathOf(dossier) / langue / name;
     std::error_code error;
-    return (fs::exists(own, error) ? own : fs::path(dossier) / kLangueDeSecours / name).string();
+    return TextOf(fs::exists(own, error) ? own : PathOf(dossier) / kLangueDeSecours / name);
 }
 
 std::vector<PageAide> LitPagesAide(const std::string &dossier, const std::string &langue) {

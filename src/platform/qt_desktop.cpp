@@ -10,6 +10,10 @@ namespace loftwing {
 
 namespace {
 
+#ifdef Q_OS_WIN
+constexpr DesktopProgram kCalculators[] = {{"calc"}};
+constexpr DesktopProgram kPrinterSettings[] = {{"control", "printers"}};
+#else
 constexpr DesktopProgram kCalculators[] = {
     {"gnome-calculator"},  {"kcalc"},         {"mate-calc"},   {"galculator"},
     {"qalculate-qt"},      {"qalculate-gtk"}, {"speedcrunch"}, {"io.elementary.calculator"},
@@ -20,6 +24,7 @@ constexpr DesktopProgram kPrinterSettings[] = {{"system-config-printer"},
                                                {"kcmshell6", "kcm_printer_manager"},
                                                {"kcmshell5", "kcm_printer_manager"},
                                                {"cinnamon-settings", "printers"}};
+#endif
 
 bool Start(const QString &path, const QStringList &arguments) {
     return QProcess::startDetached(path, arguments, QDir::homePath());

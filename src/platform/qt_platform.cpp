@@ -3,6 +3,7 @@
 #include "platform/qt_access_letters.h"
 #include "platform/qt_desktop.h"
 #include "platform/qt_lock.h"
+#include "platform/qt_path.h"
 #include "platform/qt_pointer.h"
 #include "platform/qt_text.h"
 #include "platform/save_form.h"
@@ -125,7 +126,7 @@ std::string Chosen(QFileDialog &dialog) {
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         return {};
     }
-    return S(dialog.selectedFiles().front());
+    return Path(dialog.selectedFiles().front());
 }
 
 std::string WithExtension(const std::string &path, const std::string &extension) {
@@ -260,7 +261,7 @@ FormAnswer QtPlatform::ChooseSaveForm(const FileQuestion &question,
         if (answer.path.empty() || !file.exists() || MayReplace(answer.path, question.title)) {
             return answer;
         }
-        next.folder = S(file.path());
+        next.folder = Path(file.path());
         next.name = S(file.fileName());
     }
 }

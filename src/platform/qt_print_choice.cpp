@@ -3,6 +3,7 @@
 #include "base/failure.h"
 #include "output/printer.h"
 #include "platform/qt_desktop.h"
+#include "platform/qt_path.h"
 #include "platform/qt_platform.h"
 #include "platform/qt_pointer.h"
 #include "platform/qt_printer.h"
@@ -16,6 +17,8 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+
+#include <filesystem>
 
 namespace loftwing {
 
@@ -79,7 +82,7 @@ std::unique_ptr<Printer> QtPlatform::OpenPrinter(const PrintQuestion &question) 
     }
     printer->setDocName(Q(question.document));
     if (printer->outputFormat() == QPrinter::PdfFormat) {
-        return MakePdfFilePrinter(S(printer->outputFileName()), question.document,
+        return MakePdfFilePrinter(Path(printer->outputFileName()), question.document,
                                   printer->pageLayout().pageSize());
     }
     if (!printer->isValid()) {
@@ -90,10 +93,10 @@ std::unique_ptr<Printer> QtPlatform::OpenPrinter(const PrintQuestion &question) 
 
 std::unique_ptr<Printer> QtPlatform::OpenPdf(const PrintQuestion &question) {
     const QFileInfo proposed(Q(question.proposed_pdf));
-    const bool placed = question.proposed_pdf.find('/') != std::string::npos;
+    const bool placed = std::filesystem::path(question.proposed_pdf).has_parent_path();
     const std::string path =
         ChooseSaveFile({question.pdf_title.empty() ? question.document : question.pdf_title,
-                        placed ? S(proposed.path()) : std::string(), S(proposed.fileName()),
+                        placed ? Path(proposed.path()) : std::string(), S(proposed.fileName()),
                         "PDF (*.pdf)", "pdf"});
     if (path.empty()) {
         return nullptr;

@@ -3,6 +3,7 @@
 #include "base/failure.h"
 #include "base/version.h"
 #include "base/whole_file.h"
+#include "platform/qt_path.h"
 #include "platform/qt_sheet.h"
 #include "platform/qt_text.h"
 
@@ -180,7 +181,7 @@ class FilePdf : public PdfPrinter {
     FilePdf(const std::string &path, const std::string &title, const QPageSize &paper)
         : PdfPrinter(title, paper), path_(path) {}
 
-    std::string Fichier() const override { return S(QFileInfo(Q(path_)).absoluteFilePath()); }
+    std::string Fichier() const override { return Path(QFileInfo(Q(path_)).absoluteFilePath()); }
 
   protected:
     void Deliver(std::string bytes) override { WriteWholeFile(path_, bytes, Flush::yes); }

@@ -1,7 +1,7 @@
 #include "platform/qt_user_store.h"
 
 #include "base/failure.h"
-#include "platform/qt_text.h"
+#include "platform/qt_path.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -100,9 +100,9 @@ std::string UserStore::Value(const std::string &section, const std::string &key)
         return S(stored);
     }
     if (key == "RepAirfoil") {
-        return S(AirfoilFolder(QDir(Q(bundled_))));
+        return Path(AirfoilFolder(QDir(Q(bundled_))));
     }
-    return key == "RepEvol" ? S(RibSetFolder()) : std::string();
+    return key == "RepEvol" ? Path(RibSetFolder()) : std::string();
 }
 
 void UserStore::SetValue(const std::string &section, const std::string &key,
@@ -111,7 +111,7 @@ void UserStore::SetValue(const std::string &section, const std::string &key,
     store.setValue(KeyOf(section, key), Q(value));
     store.sync();
     if (store.status() != QSettings::NoError) {
-        throw MakeFailure(kPathFileAccess, S(StoreFile()));
+        throw MakeFailure(kPathFileAccess, Path(StoreFile()));
     }
 }
 

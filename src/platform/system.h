@@ -4,8 +4,16 @@
 
 #include <ctime>
 #include <filesystem>
+#include <string>
+#include <vector>
 
 namespace loftwing {
+
+/// The words that the program was started with, its own name first, as UTF-8. Where the shell
+/// leaves
+/// "*.dat" to its programs, the files that it means stand in its place, by name; without one it
+/// stays.
+std::vector<std::string> ProgramWords(int argc, char **argv);
 
 /// The running program's own file; empty where the system doesn't tell.
 std::filesystem::path ProgramFile();
@@ -22,6 +30,9 @@ std::filesystem::path DataFolder();
 /// A moment by the user's clock. Unlike the library's own routine it may be asked in several
 /// threads.
 std::tm LocalTime(std::time_t moment);
+
+/// The toolkit's platform for drawings without a window: what knows the fonts and wants no display.
+const char *WindowlessPlatform();
 
 /// Whether a window can be shown as far as the surroundings tell.
 bool HasDisplay();
