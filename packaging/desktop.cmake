@@ -12,6 +12,7 @@ install(FILES loftwing-mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packag
 set(made ${CMAKE_CURRENT_BINARY_DIR}/made)
 find_program(LOFTWING_GZIP gzip REQUIRED)
 add_custom_command(OUTPUT ${made}/loftwing.1 ${made}/loftwing.1.gz ${made}/loftwing.bash
+    ${made}/loftwing.ico
   COMMAND ${CMAKE_COMMAND} -E rm -rf ${made}
   # What the toolkit keeps at its end would count as a leak.
   COMMAND ${CMAKE_COMMAND} -E env ASAN_OPTIONS=detect_leaks=0 $<TARGET_FILE:install_files> ${made}

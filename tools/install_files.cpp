@@ -1,5 +1,5 @@
 // Writes what an installation makes of the program's own tables and picture into a folder: manual
-// page, completion of the shell and icons.
+// page, completion of the shell and icons, those of Windows in one file.
 //
 //     install_files FOLDER
 
@@ -7,6 +7,7 @@
 #include "app/shell_completion.h"
 #include "base/failure.h"
 #include "base/whole_file.h"
+#include "icon_file.h"
 #include "mainwindow/program_icon.h"
 
 #include <QBuffer>
@@ -14,6 +15,7 @@
 #include <filesystem>
 #include <iostream>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -44,10 +46,13 @@ int main(int argc, char **argv) {
         Write(folder / "loftwing.1", loftwing::ManPage());
         Write(folder / "loftwing.bash", loftwing::BashCompletion());
         Write(icons / "scalable" / "apps" / "loftwing.svg", loftwing::ProgramSvg());
+        std::vector<QImage> pictures;
         for (const int size : loftwing::kIconSizes) {
             const std::string side = std::to_string(size);
+            pictures.push_back(loftwing::ProgramImage(size));
             Write(icons / (side + "x" + side) / "apps" / "loftwing.png", Png(size));
         }
+        Write(folder / "loftwing.ico", loftwing::IconFile(pictures));
     } catch (const loftwing::Failure &failure) {
         std::cerr << "install_files: " << failure.detail << " can't be written\n";
         return 1;

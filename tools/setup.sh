@@ -4,7 +4,7 @@
 #     tools/setup.sh GROUP...
 #
 # Groups: build (compile the program), run (use it), package (make a Debian package), test, format,
-# bench, fuzz.
+# bench, fuzz, cross (compile for Windows), installer (pack that), wine (try it).
 # With LOFTWING_NO_INSTALL set it does nothing: for machines where the same things come from
 # elsewhere.
 set -euo pipefail
@@ -18,6 +18,9 @@ declare -A packages=(
     [format]="clang-format clang-tidy"
     [bench]="libbenchmark-dev"
     [fuzz]="clang"
+    [cross]="cmake dpkg-dev g++-mingw-w64-x86-64-posix googletest ninja-build qt6-base-dev"
+    [installer]="nsis"
+    [wine]="fonts-wine imagemagick openbox poppler-utils wine wine64 xauth xdotool xvfb"
 )
 
 wanted_by() {
