@@ -3,6 +3,11 @@
 
 root=$(dirname "$(dirname "$(readlink -f "${BASH_SOURCE[0]}")")")
 
+# say WORDS: a heading for what comes now.
+say() {
+    printf '\n== %s (after %d s)\n' "$1" "$SECONDS"
+}
+
 # configure PRESET [CMAKE OPTION...]: uses ccache where it is installed.
 configure() {
     local preset=$1 launcher=
