@@ -18,6 +18,16 @@ configure() {
     (cd "$root" && cmake --preset "$preset" "-DCMAKE_CXX_COMPILER_LAUNCHER=$launcher" "$@")
 }
 
+# The program alone is built without GoogleTest, unless ./test has brought it in before: taking the
+# tests out of such a build would throw away what is compiled of them.
+configure_program() {
+    local tests=OFF
+    if grep -qs '^GTest_DIR:PATH=/' "$root/build/CMakeCache.txt"; then
+        tests=ON
+    fi
+    configure default "-DLOFTWING_TESTS=$tests"
+}
+
 # build PRESET [TARGET...]
 build() {
     local preset=$1
