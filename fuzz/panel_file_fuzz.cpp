@@ -1,15 +1,17 @@
 // Any bytes as a panel file and as a wing file: read or refused with the file's name. What was read
 // and written reads back the same, unless a value can't be written as it was read: each reading
-// takes a pair of quotes off, and a value ends at its first line break.
+// takes a pair of quotes off, and a value ends at its first line break or where it is cut off.
 
 #include "base/whole_file.h"
 #include "fuzz_world.h"
+#include "lang/ini_file.h"
 #include "programme/panel_file.h"
 #include "programme/panel_sheets.h"
 #include "programme/panel_typed.h"
 #include "programme/wing_file.h"
 #include "programme/wing_steps.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace loftwing {
@@ -44,13 +46,23 @@ void CheckTyped(const FichierPanneau &panel) {
     }
 }
 
+/// A value that is cut off may end with a blank, which is gone once it has been written and read.
+bool EndsWithBlank(const std::string &bytes) {
+    const IniFile file = IniFile::Parse(bytes);
+    const auto keys = file.Keys();
+    return std::any_of(keys.begin(), keys.end(), [&file](const auto &key) {
+        const std::string value = file.Value(key.first, key.second);
+        return value.ends_with(' ') || value.ends_with('\t');
+    });
+}
+
 bool CanBeWritten(const std::string &bytes) {
     for (std::size_t at = 0; (at = bytes.find('\r', at)) != std::string::npos; ++at) {
         if (bytes.compare(at, 2, "\r\n") != 0) {
             return false;
         }
     }
-    return bytes.find_first_of("\"'") == std::string::npos;
+    return bytes.find_first_of("\"'") == std::string::npos && !EndsWithBlank(bytes);
 }
 
 void AsPanel(const std::string &bytes) {
