@@ -70,6 +70,24 @@ void Normalise(ImportedAirfoil &airfoil) {
     }
 }
 
+/// Drops points between the ends that lie where a point beside them does, by what a file tells apart:
+/// no direction leads from one to the other, and a curve through both could take any.
+int DropAtSamePlace(Points &points) {
+    constexpr double kSamePlace = 1e-9; // of the chord
+    const auto same = [](const ImportPoint &a, const ImportPoint &b) {
+        return Distance(a.at, b.at) <= kSamePlace;
+    };
+    const ImportPoint end = points.back();
+    const std::size_t before = points.size();
+    points.pop_back();
+    points.erase(std::unique(points.begin(), points.end(), same), points.end());
+    while (points.size() > 1 && same(points.back(), end)) {
+        points.pop_back();
+    }
+    points.push_back(end);
+    return static_cast<int>(before - points.size());
+}
+
 /// Ends at 1, and nothing that reaches it between them: a list of points ends at the first such x.
 void EndAtOne(ImportedAirfoil &airfoil) {
     Points &points = airfoil.points;
@@ -84,6 +102,7 @@ void EndAtOne(ImportedAirfoil &airfoil) {
                                        [](const ImportPoint &point) { return point.at.x >= 1; });
     airfoil.dropped += static_cast<int>(points.end() - 1 - inside);
     points.erase(inside, points.end() - 1);
+    airfoil.dropped += DropAtSamePlace(points);
     if (points.size() < 5) {
         throw ImportRefusal{ImportReason::too_few_points, 0};
     }

@@ -1,5 +1,6 @@
 #include "core/airfoil_import.h"
 
+#include "base/text_encoding.h"
 #include "base/whole_file.h"
 #include "core/airfoil_reader.h"
 #include "core/contour.h"
@@ -147,6 +148,38 @@ TEST_F(AirfoilImport, WhatReachesTheEndBetweenTheEndsIsDropped) {
     points.insert(points.begin() + 1, {1.0002, 0.0001});
     const ImportedAirfoil airfoil = ImportAirfoil(TextOfCurve(points));
     EXPECT_EQ(airfoil.dropped, 1);
+    Open(airfoil);
+    EXPECT_EQ(rib.NbPoints, 81);
+}
+
+TEST_F(AirfoilImport, PointsThatMeetWhereOneBetweenThemIsDroppedAreOne) {
+    Curve points = Section({0.12, 0.02, 0.4, 40, 40});
+    const CurvePoint second = points[1];
+    points.insert(points.begin() + 2, {{1.0002, 0.0001}, second});
+    const ImportedAirfoil airfoil = ImportAirfoil(TextOfCurve(points));
+    EXPECT_EQ(airfoil.dropped, 2);
+    Open(airfoil);
+    EXPECT_EQ(rib.NbPoints, 81);
+}
+
+// Two points that only a thirteenth decimal tells apart have no direction between them.
+TEST_F(AirfoilImport, PointsThatAFileCantTellApartAreOne) {
+    std::vector<std::string> lines = SplitLines(TextOfCurve(Section({0.12, 0.02, 0.4, 40, 40})));
+    constexpr std::size_t kEnd = 81; // behind the title
+    for (const std::size_t at : {kEnd, std::size_t{60}, std::size_t{20}, std::size_t{1}}) {
+        const std::string &line = lines[at];
+        const std::string beside = at == 1 || at == kEnd
+                                       ? "0.9999999999999" + line.substr(8)
+                                       : line.substr(0, 8) + "0000001" + line.substr(8);
+        lines.insert(lines.begin() + static_cast<long>(at == 1 ? 2 : at), beside);
+    }
+    std::string text;
+    for (const std::string &line : lines) {
+        text += line + "\n";
+    }
+    const ImportedAirfoil airfoil = ImportAirfoil(text);
+    EXPECT_EQ(airfoil.dropped, 4);
+    EXPECT_EQ(airfoil.laid, 0);
     Open(airfoil);
     EXPECT_EQ(rib.NbPoints, 81);
 }
