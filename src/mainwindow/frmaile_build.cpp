@@ -2,10 +2,9 @@
 
 #include "mainwindow/frmaile.h"
 
-#include "platform/qt_focus_mark.h"
+#include "platform/qt_table.h"
 
 #include <QGridLayout>
-#include <QHeaderView>
 #include <QVBoxLayout>
 
 namespace loftwing {
@@ -46,7 +45,7 @@ void frmaile::PoseTextes() {
     txtpremier.setText("1");
     Panneaux.setAccessibleName(Mot({"Plan", "143"}));
     const QString unit = " (" + Q(programme_.settings.Unite).trimmed() + ")";
-    Panneaux.setColumnCount(kColumns);
+    PrepareChoice(Panneaux, {kColumns, 0, kTableLetters, kTableLines});
     Panneaux.setHorizontalHeaderLabels({Mot({"Panel", "133"}), Mot({"Plan", "153"}) + unit,
                                         Mot({"Plan", "131"}), Mot({"Plan", "129"}) + unit,
                                         Mot({"Plan", "154"})});
@@ -61,22 +60,6 @@ void frmaile::PoseTextes() {
 }
 
 QLayout *frmaile::LayOutList() {
-    Panneaux.verticalHeader()->hide();
-    Panneaux.verticalHeader()->setDefaultSectionSize(Panneaux.fontMetrics().lineSpacing() * 3 / 2);
-    Panneaux.setCornerButtonEnabled(false);
-    Panneaux.setTabKeyNavigation(false);
-    Panneaux.setWordWrap(false);
-    Panneaux.setSelectionBehavior(QAbstractItemView::SelectRows);
-    Panneaux.setSelectionMode(QAbstractItemView::SingleSelection);
-    Panneaux.setEditTriggers(QAbstractItemView::NoEditTriggers);
-    QHeaderView &header = *Panneaux.horizontalHeader();
-    header.setSectionsClickable(false);
-    header.setHighlightSections(false);
-    header.setSectionResizeMode(QHeaderView::ResizeToContents);
-    header.setSectionResizeMode(0, QHeaderView::Stretch);
-    Panneaux.setMinimumSize(Panneaux.fontMetrics().averageCharWidth() * kTableLetters,
-                            Panneaux.fontMetrics().lineSpacing() * kTableLines);
-    FocusMark::On(Panneaux); // an empty one has no line that could show it
     auto *buttons = new QVBoxLayout;
     for (QPushButton &button : cmdliste) {
         buttons->addWidget(&button);

@@ -2,10 +2,9 @@
 
 #include "mainwindow/frmpanneau.h"
 
-#include "platform/qt_focus_mark.h"
+#include "platform/qt_table.h"
 
 #include <QGridLayout>
-#include <QHeaderView>
 #include <QVBoxLayout>
 
 namespace loftwing {
@@ -19,23 +18,6 @@ constexpr int kTableLines = 6;
 constexpr int kTableLetters = 30;
 constexpr int kRibColumns = 4;
 constexpr int kRangeColumns = 3;
-
-void PrepareTable(QTableWidget &table, int columns, int stretched) {
-    table.setColumnCount(columns);
-    table.verticalHeader()->hide();
-    table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().lineSpacing() * 3 / 2);
-    table.setCornerButtonEnabled(false);
-    table.setTabKeyNavigation(false);
-    table.setWordWrap(false);
-    QHeaderView &header = *table.horizontalHeader();
-    header.setSectionsClickable(false);
-    header.setHighlightSections(false);
-    header.setSectionResizeMode(QHeaderView::ResizeToContents);
-    header.setSectionResizeMode(stretched, QHeaderView::Stretch);
-    table.setMinimumSize(table.fontMetrics().averageCharWidth() * kTableLetters,
-                         table.fontMetrics().lineSpacing() * kTableLines);
-    FocusMark::On(table); // an empty one has no line that could show it
-}
 
 } // namespace
 
@@ -72,11 +54,11 @@ void frmpanneau::NameAll() {
 }
 
 void frmpanneau::PrepareTables() {
-    PrepareTable(Nervures, kRibColumns, kRibColumns - 1);
+    PrepareTable(Nervures, {kRibColumns, kRibColumns - 1, kTableLetters, kTableLines});
     Nervures.setSelectionBehavior(QAbstractItemView::SelectRows);
     Nervures.setSelectionMode(QAbstractItemView::SingleSelection);
     Nervures.setEditTriggers(QAbstractItemView::NoEditTriggers);
-    PrepareTable(Portees, kRangeColumns, 0);
+    PrepareTable(Portees, {kRangeColumns, 0, kTableLetters, kTableLines});
     Portees.setSelectionMode(QAbstractItemView::SingleSelection);
     Portees.setEditTriggers(QAbstractItemView::AllEditTriggers &
                             ~QAbstractItemView::EditTriggers(QAbstractItemView::CurrentChanged));

@@ -31,7 +31,7 @@ frmsecours::frmsecours(Programme &programme, QWidget *parent, std::vector<Orphel
       lblrecit(this), Ribs(this), Picture1(this), cmdsupprimer(this), cmdrestaurer(this),
       cmdplustard(this) {
     NameAll();
-    PrepareTable();
+    PrepareRibs();
     PoseTextes();
     MontreRibs();
     LayOut();

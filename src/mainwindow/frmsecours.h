@@ -38,7 +38,7 @@ class frmsecours : public Dialogue {
 
     // frmsecours_build.cpp
     void NameAll();
-    void PrepareTable();
+    void PrepareRibs();
     void LayOut();
 
     // frmsecours.cpp

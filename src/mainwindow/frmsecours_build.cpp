@@ -2,9 +2,8 @@
 
 #include "mainwindow/frmsecours.h"
 
-#include "platform/qt_focus_mark.h"
+#include "platform/qt_table.h"
 
-#include <QHeaderView>
 #include <QVBoxLayout>
 
 namespace loftwing {
@@ -12,7 +11,7 @@ namespace loftwing {
 namespace {
 
 constexpr int kColumns = 3;
-constexpr int kLines = 5;
+constexpr int kLines = 8;
 constexpr int kLetters = 72;
 
 } // namespace
@@ -26,25 +25,9 @@ void frmsecours::NameAll() {
                   {&cmdplustard, "cmdplustard"}});
 }
 
-void frmsecours::PrepareTable() {
-    Ribs.setColumnCount(kColumns);
-    Ribs.verticalHeader()->hide();
-    Ribs.verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() * 3 / 2);
-    Ribs.setCornerButtonEnabled(false);
-    Ribs.setTabKeyNavigation(false);
-    Ribs.setWordWrap(false);
+void frmsecours::PrepareRibs() {
+    PrepareChoice(Ribs, {kColumns, 0, kLetters, kLines}); // names may be long
     Ribs.setShowGrid(false);
-    Ribs.setSelectionBehavior(QAbstractItemView::SelectRows);
-    Ribs.setSelectionMode(QAbstractItemView::SingleSelection);
-    Ribs.setEditTriggers(QAbstractItemView::NoEditTriggers);
-    QHeaderView &header = *Ribs.horizontalHeader();
-    header.setSectionsClickable(false);
-    header.setHighlightSections(false);
-    header.setSectionResizeMode(QHeaderView::ResizeToContents);
-    header.setSectionResizeMode(0, QHeaderView::Stretch); // names may be long
-    Ribs.setMinimumSize(fontMetrics().averageCharWidth() * kLetters,
-                        fontMetrics().lineSpacing() * kLines * 3 / 2);
-    FocusMark::On(Ribs);
 }
 
 void frmsecours::LayOut() {
