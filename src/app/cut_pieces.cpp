@@ -15,15 +15,10 @@ namespace loftwing {
 
 namespace {
 
-double LengthOf(const Arguments &arguments, const char *option, const Programme &programme) {
-    const std::string typed = TypedLength(arguments, option, programme);
-    return typed.empty() ? 0.0 : NombreMm(typed, programme.SaisieEnCours());
-}
-
 DemandePiece DemandOf(const Arguments &arguments, const Programme &programme) {
     DemandePiece demand;
-    demand.saignee = LengthOf(arguments, "--kerf", programme);
-    demand.fil = LengthOf(arguments, "--wire", programme);
+    demand.saignee = ToolWidthMm(arguments, "--kerf", programme);
+    demand.fil = ToolWidthMm(arguments, "--wire", programme);
     demand.texte = ToUtf8(arguments.Value("--label"));
     const bool marks = !arguments.Has("--no-marks");
     demand.reference = marks && programme.rib.AffLignRef;

@@ -41,9 +41,7 @@ std::vector<OptionRule> PanelOutputOptions() {
 
 DemandePanneau PanelDemandOf(const Arguments &arguments, const Programme &programme) {
     DemandePanneau demand;
-    if (arguments.Has("--kerf")) {
-        demand.piece.saignee = LengthMm(arguments.Value("--kerf"), "--kerf", programme);
-    }
+    demand.piece.saignee = ToolWidthMm(arguments, "--kerf", programme);
     const bool marks = !arguments.Has("--no-marks");
     demand.piece.reference = demand.piece.stations = demand.piece.axes = marks;
     demand.piece.etiquette = demand.piece.talon = marks;

@@ -34,6 +34,18 @@ double LengthMm(const std::string &value, const char *option, const Programme &p
     return NombreMm(value, programme.SaisieEnCours());
 }
 
+double ToolWidthMm(const Arguments &arguments, const char *option, const Programme &programme) {
+    constexpr int kWidest = 100;
+    if (!arguments.Has(option)) {
+        return 0;
+    }
+    const double mm = LengthMm(arguments.Value(option), option, programme);
+    if (!(mm <= kWidest)) {
+        throw UsageError(std::string(option) + " takes at most " + std::to_string(kWidest) + " mm");
+    }
+    return mm;
+}
+
 std::vector<std::string> TypedLengths(const Arguments &arguments, const char *option,
                                       const Programme &programme) {
     std::vector<std::string> values = arguments.Values(option);

@@ -23,6 +23,11 @@ std::string_view LengthKeys(const Programme &programme);
 /// thrown; UsageError for other characters.
 double LengthMm(const std::string &value, const char *option, const Programme &programme);
 
+/// The width that a tool takes away, in mm, 0 where the option isn't there. Throws as LengthMm, and
+/// UsageError for a width that no tool has: outlines shifted as far would cross themselves without
+/// end.
+double ToolWidthMm(const Arguments &arguments, const char *option, const Programme &programme);
+
 /// All values of an option, each a length. One that is no length in inches is told, and Refused
 /// thrown.
 std::vector<std::string> TypedLengths(const Arguments &arguments, const char *option,

@@ -435,6 +435,8 @@ TEST_F(CutReport, WrongUsageIsStatusTwo) {
         {"cut", file, "-o", out, "--kerf", "wide"},
         {"cut", file, "-o", out, "--kerf", "-0.2"},
         {"cut", file, "-o", out, "--wire", ""},
+        {"cut", file, "-o", out, "--kerf", "100.5"},
+        {"cut", file, "-o", out, "--wire", "4", "--unit", "in"}, // 101.6 mm
         {"cut", file, "-o", out, "--paper", "A4"}};
     for (const auto &words : wrong) {
         const Ran ran = RunLoftwing(words);
@@ -442,6 +444,7 @@ TEST_F(CutReport, WrongUsageIsStatusTwo) {
         EXPECT_EQ(ran.out, "");
     }
     EXPECT_FALSE(fs::exists(out));
+    EXPECT_EQ(RunLoftwing({"cut", file, "-o", out, "--kerf", "100"}).status, 0);
     const Ran help = RunLoftwing({"cut", "--help"});
     EXPECT_EQ(help.status, 0);
     EXPECT_THAT(help.out, AllOf(HasSubstr("--kerf LENGTH"), HasSubstr("svg, dxf, pdf")));
