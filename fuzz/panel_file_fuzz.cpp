@@ -62,7 +62,9 @@ bool CanBeWritten(const std::string &bytes) {
             return false;
         }
     }
-    return bytes.find_first_of("\"'") == std::string::npos && !EndsWithBlank(bytes);
+    // Zeros may be those of an encoding in pairs of bytes.
+    constexpr std::string_view kNeverBack("\"'\0", 3);
+    return bytes.find_first_of(kNeverBack) == std::string::npos && !EndsWithBlank(bytes);
 }
 
 void AsPanel(const std::string &bytes) {
