@@ -61,7 +61,7 @@ std::string Searched(const std::vector<std::string> &lines, const std::string &s
 
 void ReadAll(const IniFile &file, std::string_view bytes) {
     constexpr std::size_t kSearches = 50; // each of them reads the whole file
-    const std::vector<std::string> lines = SplitLines(ToUtf8(bytes));
+    const std::vector<std::string> lines = SplitLines(AnyToUtf8(bytes));
     std::size_t searched = 0;
     for (const auto &[section, key] : file.Keys()) {
         const std::string value = file.Value(section, key);
