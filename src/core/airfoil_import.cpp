@@ -70,8 +70,8 @@ void Normalise(ImportedAirfoil &airfoil) {
     }
 }
 
-/// Drops points between the ends that lie where a point beside them does, by what a file tells apart:
-/// no direction leads from one to the other, and a curve through both could take any.
+/// Drops points between the ends that lie where a point beside them does, by what a file tells
+/// apart: no direction leads from one to the other, and a curve through both could take any.
 int DropAtSamePlace(Points &points) {
     constexpr double kSamePlace = 1e-9; // of the chord
     const auto same = [](const ImportPoint &a, const ImportPoint &b) {
