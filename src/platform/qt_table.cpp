@@ -18,7 +18,7 @@ void PrepareTable(QTableWidget &table, const TableShape &shape) {
     QHeaderView &header = *table.horizontalHeader();
     header.setSectionsClickable(false);
     header.setHighlightSections(false);
-    header.setTextElideMode(Qt::ElideRight);
+    header.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     header.setSectionResizeMode(QHeaderView::ResizeToContents);
     header.setSectionResizeMode(shape.stretched, QHeaderView::Stretch);
     table.setMinimumSize(font.averageCharWidth() * shape.letters, font.lineSpacing() * shape.lines);

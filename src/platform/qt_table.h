@@ -13,8 +13,9 @@ struct TableShape {
     int lines;   ///< in height, those of a text
 };
 
-/// Gives a table its columns, each as wide as what it holds. Rows have one line; a column's name
-/// that is longer than the column ends with dots. Tab leaves the table.
+/// Gives a table its columns, each as wide as what it holds. Rows have one line. Names of columns
+/// stand at their left, so that where one has little room it is cut off at its end. Tab leaves the
+/// table.
 void PrepareTable(QTableWidget &table, const TableShape &shape);
 
 /// The same for one that is only to be chosen from, a row at a time.
